@@ -1,0 +1,30 @@
+#include "platform/environment.h"
+
+#include "platform/encoding.h"
+
+#include <cstdlib>
+#include <utility>
+
+namespace {
+
+EnvironmentReader& CurrentReader()
+{
+    static EnvironmentReader reader;
+    return reader;
+}
+
+} // namespace
+
+std::optional<CString> GetEnvironment(const CString& name)
+{
+    if (const EnvironmentReader reader = CurrentReader()) {
+        return reader(name);
+    }
+    const char* const value = std::getenv(Utf8FromWide(name).c_str());
+    return value != nullptr ? std::optional<CString>(WideFromUtf8(value)) : std::nullopt;
+}
+
+EnvironmentReader SetEnvironmentReader(EnvironmentReader reader)
+{
+    return std::exchange(CurrentReader(), std::move(reader));
+}

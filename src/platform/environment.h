@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <functional>
+#include <optional>
+
+using EnvironmentReader = std::function<std::optional<CString>(const CString& name)>;
+
+/// Value of an environment variable; nothing if it does not exist.
+std::optional<CString> GetEnvironment(const CString& name);
+
+/// Makes `reader` answer GetEnvironment(); an empty one stands for the system's environment.
+/// Returns the reader that was in force.
+EnvironmentReader SetEnvironmentReader(EnvironmentReader reader);

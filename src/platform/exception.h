@@ -1,0 +1,80 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <exception>
+#include <string>
+
+/// Base of the framework's exceptions: those that a dialog's message loop reports to the user
+/// instead of letting them end the program.
+class CException : public std::exception
+{
+public:
+    explicit CException(CString message);
+
+    const char* what() const noexcept override { return m_what.c_str(); }
+
+    /// Text for the user.
+    const CString& GetErrorMessage() const { return m_message; }
+
+private:
+    CString m_message;
+    std::string m_what;
+};
+
+/// An argument that an operation cannot take: above all an index outside an array.
+class CInvalidArgException : public CException
+{
+public:
+    CInvalidArgException();
+};
+
+/// A file operation that failed.
+class CFileException : public CException
+{
+public:
+    enum class Cause
+    {
+        generic,
+        fileNotFound,
+        badPath,
+        accessDenied,
+        diskFull,
+        hardIO
+    };
+
+    /// `osError` is the system's errno, 0 if none applies.
+    CFileException(Cause cause, int osError, const CString& fileName);
+
+    /// The exception for a failed system call, its cause derived from errno.
+    static CFileException FromErrno(int osError, const CString& fileName);
+
+    Cause GetCause() const { return m_cause; }
+    int GetOsError() const { return m_osError; }
+    const CString& GetFileName() const { return m_fileName; }
+
+private:
+    Cause m_cause;
+    int m_osError;
+    CString m_fileName;
+};
+
+/// An archive that cannot be read: cut short, damaged, of another class or of a later version.
+class CArchiveException : public CException
+{
+public:
+    enum class Cause
+    {
+        endOfFile,
+        badClass,
+        badSchema,
+        damaged
+    };
+
+    explicit CArchiveException(Cause cause);
+
+    Cause GetCause() const { return m_cause; }
+
+private:
+    Cause m_cause;
+};

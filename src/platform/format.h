@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/text.h"
+
+/// The number with exactly `decimals` places behind a point, as "%.<decimals>f" writes it in the
+/// "C" locale, right-aligned with blanks to at least `width` characters. `decimals` is 0 to 9.
+/// Not-a-number and infinity come out as "nan" and "inf", with a sign if it is set.
+CString FormatFixed(double value, int decimals, int width = 0);
+
+/// The number in decimal digits, as "%d" writes it.
+CString FormatInt(long long value);
+
+/// The shortest text that reads back as exactly the same double.
+CString FormatExact(double value);

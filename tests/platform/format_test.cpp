@@ -1,0 +1,44 @@
+#include "platform/format.h"
+
+#include "platform/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+TEST(Format, FixedNumbersAreWrittenAsTheCLocaleDoes)
+{
+    EXPECT_EQ(FormatFixed(2.5, 2), L"2.50");
+    EXPECT_EQ(FormatFixed(-0.004, 2), L"-0.00");
+    EXPECT_EQ(FormatFixed(0.5, 0), L"0") << "an exact half goes to the even digit";
+    EXPECT_EQ(FormatFixed(1.005, 2), L"1.00") << "the double lies below 1.005";
+    EXPECT_EQ(FormatFixed(3.14159, 1, 6), L"   3.1");
+    EXPECT_EQ(FormatFixed(1234567.0, 1, 4), L"1234567.0");
+    EXPECT_EQ(FormatFixed(std::nan(""), 1), L"nan");
+    EXPECT_EQ(FormatFixed(-std::numeric_limits<double>::infinity(), 1), L"-inf");
+    EXPECT_EQ(FormatFixed(-std::numeric_limits<double>::max(), 9).size(), 1U + 309U + 1U + 9U);
+}
+
+TEST(Format, NothingDependsOnTheLocale)
+{
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    for (const char* name : {"it_IT.UTF-8", "de_DE.UTF-8", "C.UTF-8"}) {
+        std::setlocale(LC_ALL, name);
+        EXPECT_EQ(FormatFixed(1234.5, 1), L"1234.5") << name;
+        EXPECT_EQ(_wtof(L"1234.5"), 1234.5) << name;
+    }
+    std::setlocale(LC_ALL, before.c_str());
+}
+
+TEST(Format, ExactNumbersReadBackBitForBit)
+{
+    for (const double value : {0.1, 1.0 / 3.0, -1e-300, 5e-324, 123456789.123456789, 0.0}) {
+        EXPECT_EQ(_wtof(FormatExact(value)), value);
+    }
+}
+
+} // namespace
