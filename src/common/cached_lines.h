@@ -1,0 +1,9 @@
+#pragma once
+
+#include "platform/array.h"
+#include "platform/text.h"
+
+/// Replaces `lines` by the lines of a text file, which is read once in the life of the process:
+/// afterwards the host's settings cache answers, even if the file has changed. False if the file is
+/// not in the cache and cannot be opened; `lines` is then empty.
+bool ReadCachedLines(const CString& path, CStringArray& lines);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "frame/handover.h"
+#include "host/api.h"
+#include "platform/text.h"
+
+/// HostCatalog: the host's reader of radiator catalogues. The tree belongs to this library and
+/// outlives every call of the module, which reads it and never frees any of it.
+
+/// Head of the list of manufacturers, null if there is none. A manufacturer whose file has not been
+/// read has a null pArt.
+HOST_API HK_VDI3805_HERSTELLER* ReadHKDaten();
+
+/// The manufacturer of that name, null if there is none.
+HOST_API HK_VDI3805_HERSTELLER* FindHersteller(const CString& name);
+
+/// The kind of that name below a manufacturer, null if there is none or the manufacturer is null.
+HOST_API HK_VDI3805_ART* FindArt(HK_VDI3805_HERSTELLER* hersteller, const CString& name);
+
+/// The product of that name below a kind, null if there is none or the kind is null.
+HOST_API HK_VDI3805_PRODUKT* FindProdukt(HK_VDI3805_ART* art, const CString& name);
+
+/// Reads the manufacturer's file and hangs its kinds, products and rows below `*art`, which is the
+/// manufacturer's own pArt. `leistungEN442` is the required output at standard conditions in watts:
+/// rows of radiators that are built to measure are made around it. What hung there before is
+/// replaced; pointers to former kinds and products stay valid, pointers to former rows do not.
+/// Returns the count of rows, or -1 if the file cannot be read, and then `*art` is null.
+HOST_API int ReadVdiFile(const CString& hersteller, HK_VDI3805_ART** art, double leistungEN442);

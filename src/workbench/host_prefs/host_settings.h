@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/api.h"
+#include "platform/text.h"
+
+/// The settings of the reference host as texts by key, behind the getters of host/host_prefs.h.
+/// They are kept in "settings.txt" in the user's configuration folder ($XDG_CONFIG_HOME/radsel, or
+/// ~/.config/radsel), a versioned file that is replaced atomically. A missing or damaged file reads
+/// as one without entries, and so does one of a later version, which is never written to. A damaged
+/// file is kept as "settings.txt.damaged" when it is replaced.
+
+/// Value of a key: the override of this process if there is one, else the stored value, else
+/// `fallback`.
+HOST_API CString GetHostSetting(const CString& key, const CString& fallback);
+
+/// Sets a value for this process only; it wins over the stored one and is never written.
+HOST_API void OverrideHostSetting(const CString& key, const CString& value);
+
+/// Gives up the override of a key.
+HOST_API void ClearHostSettingOverride(const CString& key);
+
+/// Stores a value; all other entries stay, known or not. False if the file cannot be written; the
+/// old file is then still whole. Neither key nor value may hold a line end, and the key no "=":
+/// such a call stores nothing and gives false.
+HOST_API bool StoreHostSetting(const CString& key, const CString& value);
+
+/// Keys that the getters ask for.
+inline constexpr wchar_t kSettingHKDir[] = L"HKDir";
+inline constexpr wchar_t kSettingVEDir[] = L"VEDir";
+inline constexpr wchar_t kSettingDrawingUnit[] = L"ZeichnungsEinheit";
+inline constexpr wchar_t kSettingUserUnit[] = L"BenutzerEinheit";

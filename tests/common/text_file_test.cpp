@@ -1,0 +1,375 @@
+#include "common/text_file.h"
+#include "platform/encoding.h"
+#include "platform/exception.h"
+#include "support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <filesystem>
+#include <initializer_list>
+#include <random>
+#include <string>
+
+#include <sys/resource.h>
+
+namespace {
+
+using namespace std::string_literals;
+
+constexpr unsigned kCreateAndWrite = CFile::modeCreate | CFile::modeWrite;
+const std::string kMark = "\xFF\xFE";
+
+CStringArray Lines(std::initializer_list<CString> lines)
+{
+    CStringArray array;
+    for (const CString& line : lines) {
+        array.Add(line);
+    }
+    return array;
+}
+
+/// UTF-16 code units as the bytes of a wide file behind its mark.
+std::string Units(std::u16string_view units)
+{
+    return {reinterpret_cast<const char*>(units.data()), units.size() * sizeof(char16_t)};
+}
+
+/// An 8-bit ASCII text as a wide file.
+std::string Widened(const std::string& text)
+{
+    return kMark + Units(std::u16string(text.begin(), text.end()));
+}
+
+CString Xs(std::size_t count)
+{
+    return CString(count, L'x');
+}
+
+class TextFile : public ::testing::Test
+{
+protected:
+    CStringArray ReadBack(const std::string& bytes, int limit = -1, CStringArray lines = {}) const
+    {
+        m_folder.WriteBytes("file.txt", bytes);
+        const int count = ReadTextFile(m_folder.Path("file.txt"), lines, CFile::modeRead, limit);
+        EXPECT_EQ(count, lines.GetSize());
+        return lines;
+    }
+
+    CTempFolder m_folder;
+};
+
+TEST_F(TextFile, APairOfLineEndCharactersCountsOnceInEitherEncoding)
+{
+    struct Case
+    {
+        std::string text;
+        CStringArray lines;
+    };
+    for (const Case& c : {
+             Case{"", Lines({})},
+             Case{"a", Lines({})},
+             Case{"a\r\nb", Lines({L"a"})},
+             Case{"a\nb\n", Lines({L"a", L"b"})},
+             Case{"a\rb\r", Lines({L"a", L"b"})},
+             Case{"a\r\nb\r\n", Lines({L"a", L"b"})},
+             Case{"a\n\rb\n\r", Lines({L"a", L"b"})},
+             Case{"a\n\nb\n\n", Lines({L"a", L"b"})},
+             Case{"a\r\rb\r\r", Lines({L"a", L"b"})},
+             Case{"a\r\n\r\nb\r\n", Lines({L"a", L"", L"b"})},
+             Case{"a\n\n\nb\n", Lines({L"a", L"", L"b"})},
+             Case{"\r\n", Lines({L""})},
+             Case{"\n\n\n", Lines({L"", L""})},
+             Case{"a\0b\tc\n"s, Lines({L"a\0b\tc"s})},
+         }) {
+        EXPECT_EQ(ReadBack(c.text), c.lines) << ::testing::PrintToString(c.text);
+        EXPECT_EQ(ReadBack(Widened(c.text)), c.lines) << ::testing::PrintToString(c.text);
+    }
+}
+
+TEST_F(TextFile, ALineEndCutByAChunkBorderCountsTwice)
+{
+    struct Case
+    {
+        std::size_t count;
+        CStringArray lines;
+    };
+    for (const Case& c : {
+             Case{65533, Lines({Xs(65533), L"b"})},
+             Case{65534, Lines({Xs(65534), L"b"})},
+             Case{65535, Lines({Xs(65535), L"", L"b"})},
+             Case{65536, Lines({Xs(65536), L"b"})},
+             Case{131070, Lines({Xs(131070), L"b"})},
+             Case{131071, Lines({Xs(131071), L"", L"b"})},
+         }) {
+        const std::string text = std::string(c.count, 'x') + "\r\nb\r\n";
+        // No printing of arrays this long.
+        EXPECT_TRUE(ReadBack(text) == c.lines) << c.count << " bytes";
+        EXPECT_TRUE(ReadBack(Widened(text)) == c.lines) << c.count << " units";
+    }
+}
+
+TEST_F(TextFile, AFinalBlankEndsTheLastLineOfAnEightBitFileInAShortChunk)
+{
+    struct Case
+    {
+        std::size_t size;
+        bool rescued;
+    };
+    for (const Case& c : {Case{2, true}, Case{65535, true}, Case{65536, false}, Case{65537, true},
+                          Case{131071, true}, Case{131072, false}}) {
+        const std::string text = std::string(c.size - 1, 'x') + " ";
+        EXPECT_TRUE(ReadBack(text) == (c.rescued ? Lines({Xs(c.size - 1)}) : Lines({}))) << c.size;
+        EXPECT_TRUE(ReadBack(Widened(text)).IsEmpty()) << c.size;
+    }
+    EXPECT_EQ(ReadBack("a\r\nb "), Lines({L"a", L"b"}));
+    EXPECT_EQ(ReadBack("a  "), Lines({L"a "}));
+    EXPECT_EQ(ReadBack("a\r\n "), Lines({L"a", L""}));
+    EXPECT_EQ(ReadBack("a\r "), Lines({L"a"}));
+    EXPECT_EQ(ReadBack(" "), Lines({L""}));
+}
+
+TEST_F(TextFile, OnlyTheLittleEndianMarkMakesAWideFile)
+{
+    struct Case
+    {
+        std::string bytes;
+        CStringArray lines;
+    };
+    for (const Case& c : {
+             Case{kMark, Lines({})},
+             Case{"\xFF", Lines({})},
+             Case{"\xFF ", Lines({L"\u00FF"})},
+             Case{"\xFE\xFF\0a\0\n"s, Lines({L"\u00FE\u00FF\0a\0"s})},
+             Case{"\xEF\xBB\xBF"
+                  "a\n",
+                  Lines({L"\u00EF\u00BB\u00BFa"})},
+             Case{"a\n" + kMark + "\n", Lines({L"a", L"\u00FF\u00FE"})},
+             Case{kMark + Units(u"\xFEFFz\n"), Lines({L"\xFEFFz"})},
+             Case{kMark + Units(u"a\nb\n") + "\n", Lines({L"a", L"b"})},
+             Case{kMark + "\n", Lines({})},
+         }) {
+        EXPECT_EQ(ReadBack(c.bytes), c.lines) << ::testing::PrintToString(c.bytes);
+    }
+}
+
+TEST_F(TextFile, EightBitTextIsCodePage1252)
+{
+    EXPECT_EQ(ReadBack("\x80\x8A\x9F\xA0\xB2\xC4\xFF\x81\x8D\x8F\x90\x9D\n"),
+              Lines({L"\u20AC\u0160\u0178\u00A0\u00B2\u00C4\u00FF\x81\x8D\x8F\x90\x9D"}));
+}
+
+TEST_F(TextFile, SurrogatePairsOfAWideFileSurviveAlsoOverAChunkBorder)
+{
+    EXPECT_EQ(ReadBack(kMark + Units(u"a\U0001F525b\n")), Lines({L"a\U0001F525b"}));
+    for (const std::size_t count : {65534U, 65535U, 65536U}) {
+        const std::u16string text = std::u16string(count, u'x') + u"\U0001F525\r\n";
+        EXPECT_TRUE(ReadBack(kMark + Units(text)) == Lines({Xs(count) + L"\U0001F525"})) << count;
+    }
+    // Halves without a partner, the first of them at a line's end.
+    const std::u16string halves = {0xD83D, u'\n', 0xDD25, 0xD83D, u'a', u'\n'};
+    const CString first = {wchar_t{0xD83D}};
+    const CString second = {wchar_t{0xDD25}, wchar_t{0xD83D}, L'a'};
+    EXPECT_EQ(ReadBack(kMark + Units(halves)), Lines({first, second}));
+}
+
+TEST_F(TextFile, TheLimitStopsAWideFileOnlyAndOnlyWhenHitExactly)
+{
+    struct Case
+    {
+        int held;
+        int limit;
+        int wide;
+        int narrow;
+    };
+    for (const Case& c : {
+             Case{0, -1, 3, 3},
+             Case{0, 1, 1, 3},
+             Case{0, 2, 2, 3},
+             Case{0, 3, 3, 3},
+             Case{0, 4, 3, 3},
+             Case{0, 0, 3, 3},
+             Case{0, -2, 3, 3},
+             Case{1, 2, 2, 4},
+             Case{1, 1, 4, 4},
+         }) {
+        CStringArray held;
+        held.SetSize(c.held);
+        const std::string text = "a\r\nb\r\nc\r\n";
+        EXPECT_EQ(ReadBack(Widened(text), c.limit, held).GetSize(), c.wide) << c.limit;
+        EXPECT_EQ(ReadBack(text, c.limit, held).GetSize(), c.narrow) << c.limit;
+    }
+}
+
+TEST_F(TextFile, WhatCannotBeOpenedReadsAsNothingAndLeavesTheLinesAlone)
+{
+    CStringArray lines = Lines({L"held"});
+    EXPECT_EQ(ReadTextFile(m_folder.Path("missing.txt"), lines, CFile::modeRead, -1), 0);
+    EXPECT_EQ(ReadTextFile(m_folder.Path(), lines, CFile::modeRead, -1), 0);
+    EXPECT_EQ(lines, Lines({L"held"}));
+}
+
+TEST_F(TextFile, AnErrorWhileReadingReachesTheCaller)
+{
+    m_folder.WriteBytes("file.txt", "a\r\n");
+    CStringArray lines;
+    EXPECT_THROW(ReadTextFile(m_folder.Path("file.txt"), lines, CFile::modeWrite, -1),
+                 CFileException);
+}
+
+TEST_F(TextFile, WritingStartsWithTheMarkOnlyAtTheStartOfTheFile)
+{
+    const CStringArray lines = Lines({L"\u00E4", L"", L"\U0001F525"});
+    const std::string written = Units(u"\u00E4\r\n\r\n\U0001F525\r\n");
+    struct Case
+    {
+        const char* name;
+        const char* before;
+        bool cut;
+        bool append;
+        unsigned flags;
+        std::string after;
+    };
+    for (const Case& c : {
+             Case{"new", nullptr, false, false, kCreateAndWrite, kMark + written},
+             Case{"replaced", "a much longer text than the new one", false, false, kCreateAndWrite,
+                  kMark + written},
+             Case{"cut", "a much longer text than the new one", true, false, CFile::modeWrite,
+                  kMark + written},
+             Case{"cut and append", "old", true, true, CFile::modeWrite, kMark + written},
+             Case{"append", "old", false, true, CFile::modeWrite, "old" + written},
+             Case{"append to nothing", "", false, true, CFile::modeWrite, kMark + written},
+             Case{"append kept", "old", false, true, kCreateAndWrite | CFile::modeNoTruncate,
+                  "old" + written},
+         }) {
+        SCOPED_TRACE(c.name);
+        if (c.before != nullptr) {
+            m_folder.WriteBytes(c.name, c.before);
+        }
+        EXPECT_TRUE(WriteTextFile(m_folder.Path(c.name), lines, c.cut, c.append, c.flags));
+        EXPECT_EQ(m_folder.ReadBytes(c.name), c.after);
+    }
+}
+
+TEST_F(TextFile, WhatCannotBeOpenedForWritingGivesFalseAndIsLeftAlone)
+{
+    const CStringArray lines = Lines({L"new"});
+    EXPECT_FALSE(WriteTextFile(m_folder.Path("no/folder"), lines, false, false, kCreateAndWrite));
+    EXPECT_FALSE(WriteTextFile(m_folder.Path("missing"), lines, false, false, CFile::modeWrite));
+    EXPECT_FALSE(WriteTextFile(m_folder.Path(), lines, false, false, kCreateAndWrite));
+
+    m_folder.WriteBytes("locked", "old");
+    std::filesystem::permissions(m_folder.Root() / "locked", std::filesystem::perms::owner_read);
+    EXPECT_FALSE(WriteTextFile(m_folder.Path("locked"), lines, true, false, kCreateAndWrite));
+    EXPECT_FALSE(WriteTextFile(m_folder.Path("locked"), lines, true, false, CFile::modeWrite));
+    EXPECT_EQ(m_folder.ReadBytes("locked"), "old");
+}
+
+/// Makes writing to a file fail from a position on, as a full disk does.
+class CFileSizeLimit
+{
+public:
+    explicit CFileSizeLimit(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_limit);
+        const rlimit lower = {bytes, m_limit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &lower);
+    }
+    ~CFileSizeLimit()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_limit);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    CFileSizeLimit(const CFileSizeLimit&) = delete;
+    CFileSizeLimit& operator=(const CFileSizeLimit&) = delete;
+
+private:
+    void (*m_handler)(int);
+    rlimit m_limit = {};
+};
+
+TEST_F(TextFile, AnErrorWhileWritingReachesTheCallerAndLeavesTheOldFileWhole)
+{
+    m_folder.WriteBytes("file.txt", "old");
+    {
+        const CFileSizeLimit limit(4096);
+        EXPECT_THROW(WriteTextFile(m_folder.Path("file.txt"), Lines({Xs(5000)}), false, false,
+                                   kCreateAndWrite),
+                     CFileException);
+    }
+    EXPECT_EQ(m_folder.ReadBytes("file.txt"), "old");
+}
+
+TEST_F(TextFile, WrittenLinesReadBackTheSame)
+{
+    const auto seed = std::random_device()();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    const auto below = [&random](std::size_t end) { return random() % end; };
+    const CString alphabet = L" a;\t=\u00E4\u20AC\u3042\uFEFF\uFFFF\U0001F525\U0010FFFF";
+    for (int round = 0; round < 50; ++round) {
+        // Short enough for one chunk: a border may cut a line end in two.
+        CStringArray lines;
+        lines.SetSize(static_cast<int>(below(200)));
+        for (CString& line : lines) {
+            for (std::size_t count = below(80); count > 0; --count) {
+                line += alphabet[below(alphabet.size())];
+            }
+        }
+        const CString path = m_folder.Path("file.txt");
+        CStringArray first;
+        ASSERT_TRUE(WriteTextFile(path, lines, false, false, kCreateAndWrite));
+        ReadTextFile(path, first, CFile::modeRead, -1);
+        ASSERT_EQ(first, lines);
+    }
+}
+
+TEST(SplitString, CutsATextIntoFields)
+{
+    struct Case
+    {
+        CString text;
+        wchar_t separator;
+        CStringArray fields;
+    };
+    for (const Case& c : {
+             Case{L"", L';', Lines({})},
+             Case{L"a", L';', Lines({L"a"})},
+             Case{L";", L';', Lines({L""})},
+             Case{L"a;b;", L';', Lines({L"a", L"b"})},
+             Case{L"a;;b", L';', Lines({L"a", L"", L"b"})},
+             Case{L"a;;", L';', Lines({L"a", L""})},
+             Case{L";a", L';', Lines({L"", L"a"})},
+             Case{L"x;y;;z", L';', Lines({L"x", L"y", L"", L"z"})},
+             Case{L"x y  z", L' ', Lines({L"x", L"y", L"z"})},
+             Case{L"  x  ", L' ', Lines({L"", L"x"})},
+             Case{L"x\t\t\ty\t", L'\t', Lines({L"x", L"y"})},
+             Case{L"x \ty", L' ', Lines({L"x", L"\ty"})},
+             Case{L"a;b\nc;d", L';', Lines({L"a", L"b"})},
+             Case{L"a;\nb", L';', Lines({L"a"})},
+             Case{L"a  \n b", L' ', Lines({L"a"})},
+             Case{L"\na", L';', Lines({})},
+             Case{L"a;b\r\n", L';', Lines({L"a", L"b\r"})},
+             Case{L"a;b\nc\n\nd\n", L'\n', Lines({L"a;b", L"c", L"", L"d"})},
+             Case{L"\n", L'\n', Lines({L""})},
+         }) {
+        CStringArray fields;
+        EXPECT_EQ(SplitString(fields, c.text, c.separator), c.fields.GetSize());
+        EXPECT_EQ(fields, c.fields) << ::testing::PrintToString(c.text);
+    }
+}
+
+TEST(SplitString, AppendsAlsoTheFieldsOfAnElementOfTheSameArray)
+{
+    CStringArray fields = Lines({L"a;b;c;d;e;f;g;h"});
+    EXPECT_EQ(SplitString(fields, fields[0], L';'), 9);
+    EXPECT_EQ(fields[1], L"a");
+    EXPECT_EQ(fields[8], L"h");
+
+    CStringArray shortText = Lines({L"a;b"});
+    EXPECT_EQ(SplitString(shortText, shortText[0], L';'), 3);
+    EXPECT_EQ(shortText, Lines({L"a;b", L"a", L"b"}));
+}
+
+} // namespace

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "workbench/host_prefs/host_settings.h"
+
+/// Overrides a setting of the host for the life of the object.
+class CSettingOverride
+{
+public:
+    CSettingOverride(const CString& key, const CString& value) : m_key(key)
+    {
+        OverrideHostSetting(m_key, value);
+    }
+
+    ~CSettingOverride() { ClearHostSettingOverride(m_key); }
+
+    CSettingOverride(const CSettingOverride&) = delete;
+    CSettingOverride& operator=(const CSettingOverride&) = delete;
+
+private:
+    CString m_key;
+};
