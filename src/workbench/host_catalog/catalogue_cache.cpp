@@ -1,0 +1,58 @@
+#include "workbench/host_catalog/catalogue_cache.h"
+
+#include "platform/exception.h"
+#include "platform/file.h"
+#include "platform/path.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace {
+std::optional<struct stat> StatusOf(const std::filesystem::path& path)
+{
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0) {
+        return std::nullopt;
+    }
+    return status;
+}
+
+bool IsSameState(const struct stat& a, const struct stat& b)
+{
+    return a.st_dev == b.st_dev && a.st_ino == b.st_ino && a.st_size == b.st_size &&
+           a.st_mtim.tv_sec == b.st_mtim.tv_sec && a.st_mtim.tv_nsec == b.st_mtim.tv_nsec;
+}
+
+std::vector<std::uint8_t> ReadAll(CFile& file)
+{
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(file.GetLength()));
+    bytes.resize(file.Read(bytes.data(), bytes.size()));
+    return bytes;
+}
+
+CCatalogueCache::CResult ReadCatalogue(const std::filesystem::path& path)
+{
+    try {
+        CFile file(TextFromPath(path), CFile::modeRead | CFile::shareDenyWrite);
+        if (file.GetLength() > kMaxCatalogueBytes) {
+            return CCatalogueFault{0, L"Il file è troppo grande per un catalogo."};
+        }
+        return ParseCatalogue(ReadAll(file));
+    } catch (const CFileException& error) {
+        return CCatalogueFault{0, L"Il catalogo non si può leggere: " + error.GetErrorMessage()};
+    }
+}
+} // namespace
+
+const CCatalogueCache::CResult& CCatalogueCache::Get(const std::filesystem::path& path)
+{
+    CEntry& entry = m_entries[path];
+    // Taken before the reading, so that a change during it shows next time.
+    const std::optional<struct stat> status = StatusOf(path);
+    if (!status || !entry.status || !IsSameState(*status, *entry.status)) {
+        entry.result = ReadCatalogue(path);
+        entry.status = status;
+    }
+    return entry.result;
+}
