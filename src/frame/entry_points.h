@@ -1,0 +1,78 @@
+#pragma once
+
+#include "frame/api.h"
+#include "frame/handover.h"
+#include "frame/lumo_error.h"
+
+/// What a host calls. One caller at a time, on the thread of the host's user interface. Unknown
+/// catalogue names are no error: they read as "nothing fits". Exceptions of the framework, and
+/// those of the host's own libraries, pass through.
+
+class CDrawer;
+class ConnValues;
+class VDI3805_VENTIL_KV;
+struct TGA_LIST;
+
+/// Finds a radiator for the hand-over's position, size range and required output.
+///
+/// Without the dialog: 0 or above is the index of the chosen row within the result list, and the
+/// hand-over's Daten and TypName hold that row; -1 means that no row fits, and both stay untouched.
+/// Layer and colour are left alone. A required Leistung of 0.0 works with 1000.0, which stays in
+/// the hand-over.
+///
+/// With the dialog: 0 on OK, -1 if nothing was chosen, -2 on cancel. Tell the two forms apart by
+/// the flag passed. `drawer` may be null; `warnAndWiden` concerns the dialog only.
+RADSEL_API int HeizkoerperauswahlVDI3805(CDrawer* drawer, HK_DATEN_VDI3805_UEBERGABE* uebergabe,
+                                         CString& layer, int& layerColor, bool showDialog,
+                                         bool warnAndWiden);
+
+/// Lets the user choose a product in the catalogue tree: 0 on OK, with Hersteller, Art and Produkt
+/// of the hand-over naming it; -1 on cancel.
+RADSEL_API int HeizkoerperauswahlVDI3805Tree(HK_DATEN_VDI3805_UEBERGABE* uebergabe);
+
+/// Appends the heights and the depths in which the product exists, in mm, ascending. The arrays are
+/// not emptied first; without a product they stay as they were.
+RADSEL_API void Read_HK_Masse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, OCArray<double>& hoehen,
+                              OCArray<double>& tiefen);
+
+/// Sizes of the product's rows as whole millimetres, ascending and without duplicates, and the
+/// water contents of the rows in the rows' own order (litres). Each array holds `capacity` results;
+/// places left empty are -1 and -1.0. The three short arrays must have room for `capacity` + 1
+/// elements: an insertion shifts one element beyond the capacity. The first row is copied to the
+/// hand-over's Typ.
+RADSEL_API void Read_HK_Masse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tiefen,
+                              short* laengen, double* inhalte, int capacity);
+
+/// The product's smallest and largest depth in mm, -1.0 if there is none.
+RADSEL_API double HKGetMinTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe);
+RADSEL_API double HKGetMaxTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe);
+
+/// Water content in litres of the product's row with these measures, given in metres; 0.0 if no row
+/// has them.
+RADSEL_API double GetHK_Inhalt(HK_DATEN_VDI3805_UEBERGABE& uebergabe, double hoehe, double tiefe,
+                               double laenge);
+
+/// Edits the connection of a radiator and its two valves. True on OK, and then the records and
+/// flags are updated.
+RADSEL_API bool ShowVentDlg(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilVorlauf,
+                            VDI3805_VENTIL_KV& ventilRuecklauf, bool& flag1, bool& flag2,
+                            bool& flag3, bool& flag4, TGA_LIST* heizkoerper, CDrawer* drawer);
+
+/// Lets the user pick a valve. True on OK, and then `ventil` holds it. With both texts non-empty
+/// the dialog opens on that valve. Mind the order: number first, manufacturer second.
+RADSEL_API bool ShowVentVDI3805Dlg(const CString& ventilNr, const CString& hersteller,
+                                   VDI3805_VENTIL_KV& ventil);
+
+/// Puts the two keys into the two records and fetches both as VDI3805GetVentilDaten does. Mind the
+/// order: manufacturer first, number second.
+RADSEL_API void VDI3805GetVentil(const CString& hersteller1, const CString& ventilNr1,
+                                 const CString& hersteller2, const CString& ventilNr2,
+                                 VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2);
+
+/// Fills two records by the keys that they hold. False if the first key is not well-formed: fewer
+/// than 30 characters of number, or no manufacturer. True says no more than that it was; a record
+/// whose valve was not found stays as it came.
+RADSEL_API bool VDI3805GetVentilDaten(VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2);
+
+/// Does nothing; hosts call it to have the library loaded.
+RADSEL_API void DummyCall();

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "frame/api.h"
+
+#include <cstdint>
+
+/// An error of the host's libraries in three numbers. The module only carries its assignment.
+class CLumoError
+{
+public:
+    CLumoError() = default;
+    CLumoError(const CLumoError&) = default;
+    ~CLumoError() = default;
+
+    RADSEL_API CLumoError& operator=(const CLumoError& other);
+
+    std::int32_t m_nKlasse = 0;
+    std::int32_t m_nCode = 0;
+    std::int32_t m_nZeile = 0;
+};

@@ -1,0 +1,39 @@
+#include "frame/entry_points.h"
+
+#include "frame/ventil_kv.h"
+
+namespace {
+
+/// Shorter numbers are no article idents.
+constexpr std::size_t kShortestVentilNr = 30;
+
+} // namespace
+
+bool ShowVentDlg(ConnValues& /*anschluss*/, VDI3805_VENTIL_KV& /*ventilVorlauf*/,
+                 VDI3805_VENTIL_KV& /*ventilRuecklauf*/, bool& /*flag1*/, bool& /*flag2*/,
+                 bool& /*flag3*/, bool& /*flag4*/, TGA_LIST* /*heizkoerper*/, CDrawer* /*drawer*/)
+{
+    return false;
+}
+
+bool ShowVentVDI3805Dlg(const CString& /*ventilNr*/, const CString& /*hersteller*/,
+                        VDI3805_VENTIL_KV& /*ventil*/)
+{
+    return false;
+}
+
+bool VDI3805GetVentilDaten(VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& /*ventil2*/)
+{
+    return ventil1.VentilNr.size() >= kShortestVentilNr && !ventil1.Hersteller.empty();
+}
+
+void VDI3805GetVentil(const CString& hersteller1, const CString& ventilNr1,
+                      const CString& hersteller2, const CString& ventilNr2,
+                      VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2)
+{
+    ventil1.Hersteller = hersteller1;
+    ventil1.VentilNr = ventilNr1;
+    ventil2.Hersteller = hersteller2;
+    ventil2.VentilNr = ventilNr2;
+    VDI3805GetVentilDaten(ventil1, ventil2);
+}

@@ -1,0 +1,285 @@
+#include "radiator/hk_vdi3805.h"
+
+#include "common/numbers.h"
+#include "host/host_catalog.h"
+#include "radiator/output_conversion.h"
+
+#include <cmath>
+#include <memory>
+
+namespace {
+
+/// Keeps the filling of the grid bounded; the list is cut in catalogue order.
+constexpr int kMaxRows = 2000;
+
+/// The band that follows the required output once the dialog has refreshed.
+constexpr double kDialogToleranz = 0.1;
+
+constexpr double kDefaultLeistung = 1000.0;
+constexpr double kDeriveBound = -1.0;
+constexpr double kMillimetresPerMetre = 1000.0;
+
+/// Rows this far from the requirement, or farther, are never chosen.
+constexpr double kFarthestDistance = 100000.0;
+constexpr double kHitDistance = 0.1;
+
+double WholeWatts(double output)
+{
+    return RoundTo(output, 1.0);
+}
+
+bool IsPerMetre(wchar_t bauart)
+{
+    return bauart == L'M' || bauart == L'm';
+}
+bool IsPerSection(wchar_t bauart)
+{
+    return bauart == L'S' || bauart == L's';
+}
+
+bool Within(double low, double value, double high)
+{
+    return low <= value && value <= high;
+}
+
+double BoundOrDerived(double bound, double derived)
+{
+    return bound == kDeriveBound ? derived : bound;
+}
+
+void CopyInto(CArray<double, double>& target, const OCArray<double>& source)
+{
+    target.RemoveAll();
+    target.Append(source);
+}
+
+/// The search for the row nearest to a required output.
+class CBestRow
+{
+public:
+    explicit CBestRow(HK_DATEN_VDI3805_UEBERGABE& daten) : m_daten(daten) {}
+
+    /// Takes the row into the hand-over if it is nearer than the best one so far; true if it was.
+    bool Offer(const HK_VDI3805_TYP& row, int index)
+    {
+        const double distance = std::fabs(row.Daten.Leistung - m_daten.Leistung);
+        if (!(distance < m_distance)) {
+            return false;
+        }
+        m_distance = distance;
+        m_index = index;
+        m_daten.Daten = row.Daten;
+        m_daten.TypName = row.Name;
+        return true;
+    }
+
+    /// Lets any later row replace the chosen one.
+    void GiveUpPlace() { m_distance = kFarthestDistance; }
+
+    bool IsHit() const { return m_distance < kHitDistance; }
+    int Index() const { return m_index; }
+
+private:
+    HK_DATEN_VDI3805_UEBERGABE& m_daten;
+    double m_distance = kFarthestDistance;
+    int m_index = -1;
+};
+
+} // namespace
+
+CHKVdi3805::CHKVdi3805(HK_DATEN_VDI3805_UEBERGABE* daten)
+    : m_pDaten(daten),
+      m_LeistungMin(BoundOrDerived(daten->LeistungMin, (1 - daten->Toleranz) * daten->Leistung)),
+      m_LeistungMax(BoundOrDerived(daten->LeistungMax, (1 + daten->Toleranz) * daten->Leistung))
+{
+}
+
+CHKVdi3805::~CHKVdi3805()
+{
+    FreeErgebnis();
+}
+
+void CHKVdi3805::SetLeistungFilter(int filter)
+{
+    m_bLeistungFilter = filter;
+    if (m_pDaten->Leistung == 0.0) {
+        m_pDaten->Leistung = kDefaultLeistung;
+    }
+}
+
+void CHKVdi3805::SetAlleAnzeigen(int alle)
+{
+    m_bAlle = alle;
+}
+
+void CHKVdi3805::Filtern()
+{
+    const bool hasTemperatures = m_pDaten->Vorlauf > 0.0 && m_pDaten->Ruecklauf > 0.0;
+    m_pDaten->Umrechnungsfaktor =
+        hasTemperatures
+            ? GetLeistungsFaktor(m_pDaten->Vorlauf, m_pDaten->Ruecklauf, m_pDaten->Raumtemperatur)
+            : 1.0;
+    const double standardLeistung = m_pDaten->Leistung / m_pDaten->Umrechnungsfaktor;
+
+    m_Tiefen.RemoveAll();
+    m_Hoehen.RemoveAll();
+    UpdateLeistungsBand();
+    FreeErgebnis();
+    FindPosition(standardLeistung);
+    if (m_pProdukt == nullptr) {
+        return;
+    }
+    CollectRows();
+    CopyInto(m_Tiefen, m_pProdukt->Tiefen);
+    CopyInto(m_Hoehen, m_pProdukt->Hoehen);
+}
+
+void CHKVdi3805::UpdateLeistungsBand()
+{
+    if (m_bErsterLauf != 0) {
+        return;
+    }
+    m_pDaten->Toleranz = kDialogToleranz;
+    m_LeistungMin = (1 - kDialogToleranz) * m_pDaten->Leistung;
+    m_LeistungMax = (1 + kDialogToleranz) * m_pDaten->Leistung;
+    m_pDaten->LeistungMin = m_LeistungMin;
+    m_pDaten->LeistungMax = m_LeistungMax;
+}
+
+void CHKVdi3805::FreeErgebnis()
+{
+    while (m_pErgebnis != nullptr) {
+        const std::unique_ptr<HK_VDI3805_TYP> row(m_pErgebnis);
+        m_pErgebnis = row->pNext;
+    }
+}
+
+void CHKVdi3805::FindPosition(double standardLeistung)
+{
+    if (m_pKatalog == nullptr) {
+        m_pKatalog = ReadHKDaten();
+    }
+    m_pHersteller = FindHersteller(m_pDaten->Hersteller);
+    if (m_pHersteller != nullptr && (m_pHersteller->pArt == nullptr || m_pDaten->NeuLesen != 0)) {
+        m_pDaten->NeuLesen = 0;
+        // A file that cannot be read shows as a product that is not found below.
+        ReadVdiFile(m_pHersteller->Name, &m_pHersteller->pArt, standardLeistung);
+    }
+    m_pArt = FindArt(m_pHersteller, m_pDaten->Art);
+    m_pProdukt = FindProdukt(m_pArt, m_pDaten->Produkt);
+}
+
+void CHKVdi3805::CollectRows()
+{
+    int count = 0;
+    HK_VDI3805_TYP* last = nullptr;
+    for (const HK_VDI3805_TYP* row = m_pProdukt->pTyp; row != nullptr; row = row->pNext) {
+        const Outputs outputs = ComputeOutputs(row->Daten);
+        if (m_bAlle == 0 && !PassesTests(*row, outputs.design)) {
+            continue;
+        }
+        if (++count > kMaxRows) {
+            return;
+        }
+        auto* const result = new HK_VDI3805_TYP(*row);
+        result->pPrev = last;
+        (last != nullptr ? last->pNext : m_pErgebnis) = result;
+        last = result;
+        result->Daten.Leistung = outputs.design;
+        result->Daten.LeistungEN442 = outputs.standard;
+        result->Daten.Elemente = outputs.sections;
+    }
+}
+
+CHKVdi3805::Outputs CHKVdi3805::ComputeOutputs(const HK_DATEN_VDI3805& row) const
+{
+    Outputs outputs{0.0, row.LeistungEN442, 0.0};
+    if (IsPerMetre(row.Bauart)) {
+        outputs.standard = row.LeistungEN442 * row.Laenge / kMillimetresPerMetre;
+    } else if (IsPerSection(row.Bauart)) {
+        outputs.sections = row.Elemente;
+        outputs.standard = row.LeistungEN442 * row.Elemente;
+    }
+    outputs.standard = WholeWatts(outputs.standard);
+    // From the rounded standard output, so that the two columns of a row agree with each other.
+    outputs.design = WholeWatts(outputs.standard * m_pDaten->Umrechnungsfaktor);
+    return outputs;
+}
+
+bool CHKVdi3805::PassesTests(const HK_VDI3805_TYP& row, double designOutput) const
+{
+    const HK_DATEN_VDI3805& size = row.Daten;
+    return Within(m_pDaten->HoeheMin - m_Toleranz, size.Hoehe, m_pDaten->HoeheMax + m_Toleranz) &&
+           Within(m_pDaten->TiefeMin, size.Tiefe, m_pDaten->TiefeMax) && PassesLength(row) &&
+           PassesOutput(size, designOutput);
+}
+
+bool CHKVdi3805::PassesLength(const HK_VDI3805_TYP& row) const
+{
+    const double length = row.Daten.Laenge;
+    if (Within(m_pDaten->LaengeMin, length, m_pDaten->LaengeMax)) {
+        return true;
+    }
+    // A series that ends below the range keeps its longest row, so that the user sees the nearest
+    // thing to a fit. The product's last row is not followed by a shorter one and gets no such
+    // chance.
+    const double nextLength = row.pNext != nullptr ? row.pNext->Daten.Laenge : length;
+    return length > nextLength && length < m_pDaten->LaengeMax;
+}
+
+bool CHKVdi3805::PassesOutput(const HK_DATEN_VDI3805& row, double designOutput) const
+{
+    if (m_bLeistungFilter != 0) {
+        return Within(m_LeistungMin, designOutput, m_LeistungMax);
+    }
+    // A single section is no radiator as long as output is left open.
+    return !IsPerSection(row.Bauart) || row.Elemente > 1.0;
+}
+
+int CHKVdi3805::BesteAuswahl()
+{
+    CBestRow best(*m_pDaten);
+    int index = 0;
+    for (const HK_VDI3805_TYP* row = m_pErgebnis; row != nullptr; row = row->pNext, ++index) {
+        if (best.Offer(*row, index) && best.IsHit()) {
+            break;
+        }
+    }
+    return best.Index();
+}
+
+int CHKVdi3805::BesteAuswahlMinLeistung(HK_DATEN_VDI3805_UEBERGABE* daten)
+{
+    CBestRow best(*daten);
+    int index = 0;
+    for (const HK_VDI3805_TYP* row = m_pErgebnis; row != nullptr; row = row->pNext, ++index) {
+        const bool chosen = best.Offer(*row, index);
+        if (chosen && row->Daten.Leistung < daten->LeistungMin && daten->LeistungMin > 0.0) {
+            best.GiveUpPlace();
+        }
+    }
+    return best.Index();
+}
+
+void CHKVdi3805::SelectRow(const CString& name, double hoehe, double tiefe, double laenge)
+{
+    for (const HK_VDI3805_TYP* row = m_pErgebnis; row != nullptr; row = row->pNext) {
+        const HK_DATEN_VDI3805& size = row->Daten;
+        if (row->Name == name && size.Hoehe == hoehe && size.Tiefe == tiefe &&
+            size.Laenge == laenge) {
+            m_pDaten->Daten = size;
+            m_pDaten->TypName = name;
+        }
+    }
+}
+
+int CHKVdi3805::GetHerstellerListe(CPtrArray& liste)
+{
+    if (m_Hersteller.IsEmpty()) {
+        for (HK_VDI3805_HERSTELLER* maker = m_pKatalog; maker != nullptr; maker = maker->pNext) {
+            m_Hersteller.Add(maker);
+        }
+    }
+    liste = m_Hersteller;
+    return liste.GetSize();
+}

@@ -1,0 +1,53 @@
+#include "radiator/output_conversion.h"
+
+#include "common/numbers.h"
+
+#include <cmath>
+
+namespace {
+
+constexpr double kNormVorlauf = 75.0;
+constexpr double kNormRuecklauf = 65.0;
+constexpr double kNormRaum = 20.0;
+
+constexpr double kHeizkoerperexponent = 1.33;
+constexpr double kSpreizungsteiler = 1.25;
+constexpr double kSmallestGivenValue = 0.1;
+
+constexpr double kFactorStep = 0.001;
+
+double OrDefault(double value, double standard)
+{
+    return value < kSmallestGivenValue ? standard : value;
+}
+
+} // namespace
+
+double GetLeistungsFaktor(double vorlauf, double ruecklauf, double raum)
+{
+    return GetLeistungsFaktorEx(vorlauf, ruecklauf, raum, 0.0, 0.0);
+}
+
+double GetLeistungsFaktorEx(double vorlauf, double ruecklauf, double raum, double spreizungsteiler,
+                            double exponent)
+{
+    if (!(vorlauf > 0.0) || !(ruecklauf > 0.0)) {
+        return 1.0;
+    }
+    const double n = OrDefault(exponent, kHeizkoerperexponent);
+    const double a = OrDefault(spreizungsteiler, kSpreizungsteiler);
+    const double design = GetTemperaturDifferenz(vorlauf, ruecklauf, raum, a);
+    const double standard = GetTemperaturDifferenz(kNormVorlauf, kNormRuecklauf, kNormRaum, a);
+    return RoundTo(std::pow(design / standard, n), kFactorStep);
+}
+
+double GetTemperaturDifferenz(double vorlauf, double ruecklauf, double raum,
+                              double spreizungsteiler)
+{
+    if (!(vorlauf > 0.0) || !(ruecklauf > 0.0) || !(ruecklauf - raum > 0.0)) {
+        return 1.0;
+    }
+    const double a = OrDefault(spreizungsteiler, kSpreizungsteiler);
+    const double supply = ((a - 1.0) * ruecklauf + vorlauf) / a;
+    return (supply - ruecklauf) / std::log((supply - raum) / (ruecklauf - raum));
+}

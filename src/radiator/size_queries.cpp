@@ -1,0 +1,125 @@
+#include "radiator/size_queries.h"
+
+#include "radiator/hk_vdi3805.h"
+
+#include <cmath>
+#include <cstdint>
+
+namespace {
+
+/// A measure as whole millimetres held in 16 bits, the form in which hosts take it. What no integer
+/// can hold counts as 0.
+short ToShort(double millimetres)
+{
+    constexpr double kBeyondInteger = 9.0e18;
+    const bool fits = std::fabs(millimetres) < kBeyondInteger;
+    return fits ? static_cast<short>(static_cast<std::int64_t>(millimetres)) : short{0};
+}
+
+/// Whole millimetres of a length in metres. The addend heals binary fractions such as 0.6 m coming
+/// out just under 600 mm; it is no rounding, so that 0.5996 m stays 599 mm.
+double ToWholeMillimetres(double metres)
+{
+    constexpr double kHeal = 0.005;
+    const double millimetres = metres * 1000.0;
+    return std::trunc(metres >= 0.0 ? millimetres + kHeal : millimetres - kHeal);
+}
+
+/// A size array of the plain form, filled until its capacity is reached.
+class CSizeList
+{
+public:
+    CSizeList(short* places, int capacity) : m_places(places), m_capacity(capacity)
+    {
+        std::fill_n(m_places, std::max(capacity, 0), short{-1});
+    }
+
+    void Add(double millimetres)
+    {
+        if (m_count < m_capacity) {
+            m_count = SortiertEinfuegen(m_places, ToShort(millimetres), m_capacity);
+        }
+    }
+
+private:
+    short* m_places;
+    int m_capacity;
+    int m_count = 0;
+};
+
+/// The object with all rows of the product in its result.
+class CAllRows : public CHKVdi3805
+{
+public:
+    explicit CAllRows(HK_DATEN_VDI3805_UEBERGABE& uebergabe) : CHKVdi3805(&uebergabe)
+    {
+        SetAlleAnzeigen(1);
+        Filtern();
+    }
+};
+
+} // namespace
+
+void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, OCArray<double>& hoehen,
+               OCArray<double>& tiefen)
+{
+    const CAllRows katalog(uebergabe);
+    if (katalog.GetErgebnis() == nullptr) {
+        return;
+    }
+    hoehen.Append(katalog.GetProdukt()->Hoehen);
+    tiefen.Append(katalog.GetProdukt()->Tiefen);
+}
+
+void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tiefen, short* laengen,
+               double* inhalte, int capacity)
+{
+    CSizeList heightList(hoehen, capacity);
+    CSizeList depthList(tiefen, capacity);
+    CSizeList lengthList(laengen, capacity);
+    std::fill_n(inhalte, std::max(capacity, 0), -1.0);
+
+    const CAllRows katalog(uebergabe);
+    if (katalog.GetErgebnis() != nullptr) {
+        uebergabe.Typ = *katalog.GetErgebnis();
+    }
+    int contents = 0;
+    for (const HK_VDI3805_TYP* row = katalog.GetErgebnis(); row != nullptr; row = row->pNext) {
+        heightList.Add(row->Daten.Hoehe);
+        depthList.Add(row->Daten.Tiefe);
+        lengthList.Add(row->Daten.Laenge);
+        if (contents < capacity) {
+            inhalte[contents++] = row->Daten.Inhalt;
+        }
+    }
+}
+
+double MinTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
+{
+    const CAllRows katalog(uebergabe);
+    const auto& tiefen = katalog.GetTiefen();
+    return katalog.GetErgebnis() != nullptr && !tiefen.IsEmpty() ? tiefen[0] : -1.0;
+}
+
+double MaxTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
+{
+    const CAllRows katalog(uebergabe);
+    const auto& tiefen = katalog.GetTiefen();
+    return katalog.GetErgebnis() != nullptr && !tiefen.IsEmpty() ? tiefen[tiefen.GetSize() - 1]
+                                                                 : -1.0;
+}
+
+double Inhalt(HK_DATEN_VDI3805_UEBERGABE& uebergabe, double hoehe, double tiefe, double laenge)
+{
+    const CAllRows katalog(uebergabe);
+    const double height = ToWholeMillimetres(hoehe);
+    const double depth = ToWholeMillimetres(tiefe);
+    const double length = ToWholeMillimetres(laenge);
+    for (const HK_VDI3805_TYP* row = katalog.GetErgebnis(); row != nullptr; row = row->pNext) {
+        const HK_DATEN_VDI3805& size = row->Daten;
+        if (size.Hoehe == height && size.Laenge == length && size.Tiefe == depth) {
+            return size.Inhalt;
+        }
+    }
+    return 0.0;
+}

@@ -1,0 +1,279 @@
+#include "radiator/hk_vdi3805.h"
+
+#include "support/memory_catalogue.h"
+#include "workbench/host_prefs/host_settings.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace {
+
+class FilterTest : public ::testing::Test
+{
+protected:
+    /// Names of the rows that a pass with these modes takes, one character each.
+    CString Taken(HK_DATEN_VDI3805_UEBERGABE& uebergabe, int leistungFilter = 0, int alle = 0)
+    {
+        CHKVdi3805 katalog(&uebergabe);
+        katalog.SetLeistungFilter(leistungFilter);
+        katalog.SetAlleAnzeigen(alle);
+        katalog.Filtern();
+        CString names;
+        for (const auto* row = katalog.GetErgebnis(); row != nullptr; row = row->pNext) {
+            names += row->Name;
+        }
+        return names;
+    }
+
+    static int Count(const CHKVdi3805& katalog)
+    {
+        int count = 0;
+        for (const auto* row = katalog.GetErgebnis(); row != nullptr; row = row->pNext) {
+            ++count;
+        }
+        return count;
+    }
+
+    CTempFolder m_folder;
+    CMemoryCatalogue m_catalogue;
+};
+
+TEST_F(FilterTest, OutputsAreRoundedAtStandardConditionsFirst)
+{
+    m_catalogue.Add(L'M', 600, 100, 1200, 1500.4, 7.0); // 1800.48 -> 1800; 1411.2 -> 1411
+    m_catalogue.Add(L'm', 600, 100, 1200, 1500.4);
+    m_catalogue.Add(L'S', 600, 100, 540, 84.5, 12.0); // 1014; 794.976 -> 795
+    m_catalogue.Add(L's', 600, 100, 540, 84.5, 12.0);
+    m_catalogue.Add(L'X', 600, 100, 500, 100.5, 5.0); // 101; 79.184 -> 79
+    m_catalogue.Add(L'\0', 600, 100, 500, 637.6);     // 638; 500.192 -> 500 (unrounded 499.9)
+    auto uebergabe = m_catalogue.Uebergabe(1000);
+    uebergabe.Vorlauf = 70;
+    uebergabe.Ruecklauf = 55;
+    CHKVdi3805 katalog(&uebergabe);
+    katalog.SetAlleAnzeigen(1);
+    katalog.Filtern();
+
+    EXPECT_NEAR(uebergabe.Umrechnungsfaktor, 0.784, 1e-9);
+    struct Expected
+    {
+        double standard, design, sections;
+    };
+    const Expected expected[] = {{1800, 1411, 0}, {1800, 1411, 0}, {1014, 795, 12},
+                                 {1014, 795, 12}, {101, 79, 0},    {638, 500, 0}};
+    const HK_VDI3805_TYP* row = katalog.GetErgebnis();
+    const HK_VDI3805_TYP* previous = nullptr;
+    for (const Expected& e : expected) {
+        ASSERT_NE(row, nullptr);
+        EXPECT_EQ(row->Daten.LeistungEN442, e.standard);
+        EXPECT_EQ(row->Daten.Leistung, e.design);
+        EXPECT_EQ(row->Daten.Elemente, e.sections);
+        EXPECT_EQ(row->pPrev, previous);
+        previous = row;
+        row = row->pNext;
+    }
+    EXPECT_EQ(row, nullptr);
+    EXPECT_EQ(m_catalogue.Produkt().pTyp->Daten.LeistungEN442, 1500.4) << "the catalogue stays";
+    EXPECT_EQ(m_catalogue.Produkt().pTyp->Daten.Elemente, 7.0);
+}
+
+TEST_F(FilterTest, TemperaturesThatAreMissingGiveTheStandardOutput)
+{
+    m_catalogue.AddUnit(1000);
+    for (const auto& [vorlauf, ruecklauf] : {std::pair{0.0, 50.0}, {50.0, 0.0}, {-5.0, -5.0}}) {
+        auto uebergabe = m_catalogue.Uebergabe(1000);
+        uebergabe.Vorlauf = vorlauf;
+        uebergabe.Ruecklauf = ruecklauf;
+        Taken(uebergabe);
+        EXPECT_EQ(uebergabe.Umrechnungsfaktor, 1.0);
+    }
+}
+
+TEST_F(FilterTest, AFactorThatIsNoNumberPassesNoBounds)
+{
+    m_catalogue.AddUnit(1000, L"a");
+    auto uebergabe = m_catalogue.Uebergabe(1000);
+    uebergabe.Vorlauf = uebergabe.Ruecklauf = 50.0;
+    EXPECT_EQ(Taken(uebergabe, 1), L"");
+    EXPECT_EQ(Taken(uebergabe, 0), L"a") << "output plays no part here";
+}
+
+TEST_F(FilterTest, HeightHasATenMillimetreTolerance)
+{
+    for (const auto& [name, height] :
+         {std::pair{L"a", 589.5}, {L"b", 590.0}, {L"c", 610.0}, {L"d", 610.5}}) {
+        m_catalogue.Add(L'E', height, 100, 1000, 1000, 0, 0, name);
+    }
+    auto uebergabe = m_catalogue.Uebergabe(1000);
+    uebergabe.HoeheMin = uebergabe.HoeheMax = 600.0;
+    EXPECT_EQ(Taken(uebergabe), L"bc");
+    EXPECT_EQ(Taken(uebergabe, 0, 1), L"abcd") << "without any test";
+}
+
+TEST_F(FilterTest, DepthHasNoTolerance)
+{
+    for (const auto& [name, depth] :
+         {std::pair{L"a", 60.9}, {L"b", 61.0}, {L"c", 102.0}, {L"d", 102.1}}) {
+        m_catalogue.Add(L'E', 600, depth, 1000, 1000, 0, 0, name);
+    }
+    auto uebergabe = m_catalogue.Uebergabe(1000);
+    uebergabe.TiefeMin = 61.0;
+    uebergabe.TiefeMax = 102.0;
+    EXPECT_EQ(Taken(uebergabe), L"bc");
+}
+
+TEST_F(FilterTest, TheLongestRowOfASeriesThatEndsTooShortStays)
+{
+    // Series of 400-600, 400-1000-1600, 900-900 and 500-700.
+    for (const auto& [name, length] : {std::pair{L"a", 400.0},
+                                       {L"b", 600.0},
+                                       {L"c", 400.0},
+                                       {L"d", 1000.0},
+                                       {L"e", 1600.0},
+                                       {L"f", 900.0},
+                                       {L"g", 900.0},
+                                       {L"h", 500.0},
+                                       {L"i", 700.0}}) {
+        m_catalogue.Add(L'E', 600, 100, length, 1000, 0, 0, name);
+    }
+    auto uebergabe = m_catalogue.Uebergabe(1000);
+    uebergabe.LaengeMin = 1000.0;
+    uebergabe.LaengeMax = 1200.0;
+    // b and g end their series below the range; f is followed by an equal length, e is too long
+    // whatever follows, and i as the product's last row gets no second chance.
+    EXPECT_EQ(Taken(uebergabe), L"bdg");
+    uebergabe.LaengeMin = 500.0;
+    uebergabe.LaengeMax = 600.0;
+    EXPECT_EQ(Taken(uebergabe), L"bh") << "both ends of the range belong to it";
+    uebergabe.LaengeMin = 2000.0;
+    uebergabe.LaengeMax = 600.0;
+    EXPECT_EQ(Taken(uebergabe), L"") << "a length equal to the upper end is not below it";
+}
+
+TEST_F(FilterTest, OutputBoundsAreInclusiveAndTakenFromTheRecord)
+{
+    for (const auto& [name, output] :
+         {std::pair{L"a", 899.0}, {L"b", 900.0}, {L"c", 1100.0}, {L"d", 1101.0}}) {
+        m_catalogue.AddUnit(output, name);
+    }
+    auto derived = m_catalogue.Uebergabe(1000);
+    EXPECT_EQ(Taken(derived, 1), L"bc") << "both bounds derived at ten per cent";
+    auto given = m_catalogue.Uebergabe(1000);
+    given.LeistungMin = 0.0;
+    EXPECT_EQ(Taken(given, 1), L"abc") << "0.0 is a real bound";
+    EXPECT_EQ(given.LeistungMin, 0.0);
+    EXPECT_EQ(Taken(given, 0), L"abcd");
+}
+
+TEST_F(FilterTest, ASingleSectionIsARadiatorOnlyByItsOutput)
+{
+    m_catalogue.Add(L'S', 600, 100, 50, 1000, 1.0, 0, L"a");
+    m_catalogue.Add(L's', 600, 100, 100, 500, 2.0, 0, L"b");
+    auto uebergabe = m_catalogue.Uebergabe(1000);
+    EXPECT_EQ(Taken(uebergabe, 0), L"b");
+    EXPECT_EQ(Taken(uebergabe, 1), L"ab");
+}
+
+TEST_F(FilterTest, ARequirementOfZeroBecomesAThousandWatts)
+{
+    m_catalogue.AddUnit(1000, L"a");
+    for (const int filter : {0, 1}) {
+        auto uebergabe = m_catalogue.Uebergabe(0.0);
+        CHKVdi3805 katalog(&uebergabe);
+        katalog.SetLeistungFilter(filter);
+        EXPECT_EQ(uebergabe.Leistung, 1000.0);
+        // The bounds were derived from the 0 that the host gave, and stay there.
+        katalog.Filtern();
+        EXPECT_EQ(Count(katalog), filter == 0 ? 1 : 0);
+    }
+    auto untouched = m_catalogue.Uebergabe(0.0);
+    CHKVdi3805 katalog(&untouched);
+    katalog.Filtern();
+    EXPECT_EQ(untouched.Leistung, 0.0);
+}
+
+TEST_F(FilterTest, AfterTheFirstRefreshTheBandFollowsTheRequirement)
+{
+    m_catalogue.AddUnit(950, L"a");
+    m_catalogue.AddUnit(1950, L"b");
+    auto uebergabe = m_catalogue.Uebergabe(1000);
+    uebergabe.LeistungMin = 0.0;
+    uebergabe.Toleranz = 0.5;
+    CHKVdi3805 katalog(&uebergabe);
+    katalog.SetErsterLauf(false);
+    katalog.Filtern();
+    EXPECT_EQ(Count(katalog), 1);
+    uebergabe.Leistung = 2000;
+    katalog.Filtern();
+    ASSERT_EQ(Count(katalog), 1) << "no row of the earlier pass survives";
+    EXPECT_EQ(katalog.GetErgebnis()->Name, L"b");
+    EXPECT_EQ(uebergabe.Toleranz, 0.1);
+    EXPECT_DOUBLE_EQ(uebergabe.LeistungMin, 1800.0);
+    EXPECT_DOUBLE_EQ(uebergabe.LeistungMax, 2200.0);
+}
+
+TEST_F(FilterTest, TheListEndsAtTwoThousandRowsAndTheSizesDoNot)
+{
+    for (int i = 0; i < 2001; ++i) {
+        m_catalogue.AddUnit(1000 + i);
+    }
+    m_catalogue.Produkt().Hoehen.Add(300.0);
+    m_catalogue.Produkt().Tiefen.Add(61.0);
+    m_catalogue.Produkt().Tiefen.Add(102.0);
+    auto uebergabe = m_catalogue.Uebergabe(1000);
+    CHKVdi3805 katalog(&uebergabe);
+    for (const int alle : {0, 1}) {
+        katalog.SetLeistungFilter(0);
+        katalog.SetAlleAnzeigen(alle);
+        katalog.Filtern();
+        EXPECT_EQ(Count(katalog), 2000);
+        EXPECT_EQ(katalog.GetHoehen().GetSize(), 1);
+        EXPECT_EQ(katalog.GetTiefen().GetSize(), 2) << "replaced, not appended to";
+    }
+    uebergabe.Produkt = L"un altro";
+    katalog.Filtern();
+    EXPECT_EQ(katalog.GetErgebnis(), nullptr);
+    EXPECT_TRUE(katalog.GetHoehen().IsEmpty());
+}
+
+TEST_F(FilterTest, UnknownPositionsGiveAnEmptyResultInSilence)
+{
+    m_catalogue.AddUnit(1000);
+    for (CString HK_DATEN_VDI3805_UEBERGABE::*level :
+         {&HK_DATEN_VDI3805_UEBERGABE::Hersteller, &HK_DATEN_VDI3805_UEBERGABE::Art,
+          &HK_DATEN_VDI3805_UEBERGABE::Produkt}) {
+        auto uebergabe = m_catalogue.Uebergabe(1000);
+        uebergabe.*level = L"nessuno";
+        EXPECT_EQ(Taken(uebergabe), L"");
+    }
+}
+
+TEST_F(FilterTest, TheFileIsReadWhenUnreadOrWhenAskedForAndOnlyThen)
+{
+    const auto write = [this](const char* output) {
+        m_folder.WriteBytes("Marca/hk.tga", std::string("010;2020-01-01;Marca;2026-01-01;\n"
+                                                        "100;1;Genere;\n110;1;Prodotto;\n"
+                                                        "700;1;Tipo;E;600;100;") +
+                                                output + ";1.3;5;\n710.01;1;1000;\n");
+    };
+    const CSettingOverride setting(kSettingHKDir, m_folder.Path());
+    write("900");
+    auto uebergabe = m_catalogue.Uebergabe(1000);
+    uebergabe.Hersteller = L"Marca";
+    CHKVdi3805 katalog(&uebergabe);
+    katalog.SetLeistungFilter(0);
+    const auto output = [&] {
+        katalog.Filtern();
+        return katalog.GetErgebnis() != nullptr ? katalog.GetErgebnis()->Daten.LeistungEN442 : -1.0;
+    };
+    EXPECT_EQ(output(), 900.0);
+    write("1200");
+    EXPECT_EQ(output(), 900.0) << "read once";
+    uebergabe.NeuLesen = 1;
+    EXPECT_EQ(output(), 1200.0);
+    EXPECT_EQ(uebergabe.NeuLesen, 0);
+}
+
+} // namespace
