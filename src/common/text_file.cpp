@@ -105,16 +105,25 @@ void ReadWideLines(CFile& file, CLineCutter& cutter)
 void ReadNarrowLines(CFile& file, CLineCutter& cutter)
 {
     std::vector<std::uint8_t> buffer(kNarrowChunk);
-    for (;;) {
+    bool more = true;
+    while (more) {
         const std::size_t count = file.Read(buffer.data(), kNarrowChunk);
-        if (count == 0) {
-            return;
-        }
         // Old files close with a blank in place of the last line end.
-        if (count < kNarrowChunk && buffer[count - 1] == ' ') {
+        if (count > 0 && count < kNarrowChunk && buffer[count - 1] == ' ') {
             buffer[count - 1] = '\n';
         }
-        cutter.Take(std::span<const std::uint8_t>(buffer.data(), count));
+        more = count > 0 && cutter.Take(std::span<const std::uint8_t>(buffer.data(), count));
+    }
+}
+
+void ReadLines(CFile& file, CStringArray& lines, int wideLimit, int narrowLimit)
+{
+    if (ReadByteOrderMark(file)) {
+        CLineCutter cutter(lines, wideLimit);
+        ReadWideLines(file, cutter);
+    } else {
+        CLineCutter cutter(lines, narrowLimit);
+        ReadNarrowLines(file, cutter);
     }
 }
 
@@ -170,13 +179,7 @@ bool IsElementOf(const CStringArray& array, const CString& text)
 
 int ReadTextLines(CFile& file, CStringArray& lines, int limit)
 {
-    if (ReadByteOrderMark(file)) {
-        CLineCutter cutter(lines, limit);
-        ReadWideLines(file, cutter);
-    } else {
-        CLineCutter cutter(lines, -1);
-        ReadNarrowLines(file, cutter);
-    }
+    ReadLines(file, lines, limit, -1);
     return lines.GetSize();
 }
 
@@ -189,6 +192,21 @@ int ReadTextFile(const CString& path, CStringArray& lines, unsigned flags, int l
     const int count = ReadTextLines(file, lines, limit);
     file.Close();
     return count;
+}
+
+bool ReadFirstLine(const CString& path, CString& line)
+{
+    CFile file;
+    if (!file.Open(path, CFile::modeRead)) {
+        return false;
+    }
+    CStringArray lines;
+    ReadLines(file, lines, 1, 1);
+    if (lines.IsEmpty()) {
+        return false;
+    }
+    line = lines[0];
+    return true;
 }
 
 bool WriteTextFile(const CString& path, const CStringArray& lines, bool cut, bool append,

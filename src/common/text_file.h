@@ -20,6 +20,10 @@ int ReadTextLines(CFile& file, CStringArray& lines, int limit);
 /// Opens the file with `flags` and does the same. 0 if it cannot be opened.
 int ReadTextFile(const CString& path, CStringArray& lines, unsigned flags, int limit);
 
+/// The first line that ReadTextFile() would give, without reading further than to its end. False if
+/// the file cannot be opened or has no line.
+bool ReadFirstLine(const CString& path, CString& line);
+
 /// Writes the lines as UTF-16 with CR LF behind each, and the byte order mark where the writing
 /// starts at position 0. `cut` empties the file first, `append` goes to its end. False if the file
 /// cannot be opened with `flags`.

@@ -31,19 +31,20 @@ RADSEL_API int HeizkoerperauswahlVDI3805(CDrawer* drawer, HK_DATEN_VDI3805_UEBER
 RADSEL_API int HeizkoerperauswahlVDI3805Tree(HK_DATEN_VDI3805_UEBERGABE* uebergabe);
 
 /// Appends the heights and the depths in which the product exists, in mm, ascending. The arrays are
-/// not emptied first; without a product they stay as they were.
+/// not emptied first; if there is no such product, or it has no rows, they stay as they were.
 RADSEL_API void Read_HK_Masse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, OCArray<double>& hoehen,
                               OCArray<double>& tiefen);
 
 /// Sizes of the product's rows as whole millimetres, ascending and without duplicates, and the
 /// water contents of the rows in the rows' own order (litres). Each array holds `capacity` results;
 /// places left empty are -1 and -1.0. The three short arrays must have room for `capacity` + 1
-/// elements: an insertion shifts one element beyond the capacity. The first row is copied to the
-/// hand-over's Typ.
+/// elements: an insertion shifts one element beyond the capacity. Of more sizes than places those
+/// of the first rows stay. The first row is copied to the hand-over's Typ, which without a row is
+/// left alone.
 RADSEL_API void Read_HK_Masse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tiefen,
                               short* laengen, double* inhalte, int capacity);
 
-/// The product's smallest and largest depth in mm, -1.0 if there is none.
+/// The product's smallest and largest depth in mm, -1.0 if it has no depths or no rows.
 RADSEL_API double HKGetMinTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe);
 RADSEL_API double HKGetMaxTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe);
 
@@ -70,9 +71,10 @@ RADSEL_API void VDI3805GetVentil(const CString& hersteller1, const CString& vent
                                  VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2);
 
 /// Fills two records by the keys that they hold. False if the first key is not well-formed: fewer
-/// than 30 characters of number, or no manufacturer. True says no more than that it was; a record
-/// whose valve was not found stays as it came.
+/// than 30 characters of number, or no manufacturer. True says no more than that it was: a record
+/// whose valve is not found stays as it came, and is what the next call with the same first key
+/// gets. Whether a valve was found shows in the tables.
 RADSEL_API bool VDI3805GetVentilDaten(VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2);
 
-/// Does nothing; hosts call it to have the library loaded.
+/// Does nothing.
 RADSEL_API void DummyCall();

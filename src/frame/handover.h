@@ -10,14 +10,14 @@
 /// archive form live in the host library HostPrefs; the catalogue tree is built and owned by the
 /// host library HostCatalog.
 
-/// Size and output data of one row. As a catalogue row and as a result row the fields of output and
-/// sections mean different things:
+/// Size and output data of one row. The output and the number of sections mean different things in
+/// the two kinds of row.
 ///
-/// - catalogue row: LeistungEN442 is per metre, per section or of the unit, as Bauart says;
-/// Leistung
-///   is not used; Elemente is the number of sections of a per-section row;
-/// - result row: LeistungEN442 and Leistung are outputs of the whole radiator in whole watts;
-///   Elemente is the number of sections of a per-section row and 0.0 for every other.
+/// A catalogue row has LeistungEN442 per metre, per section or of the unit, as Bauart says, no
+/// Leistung, and in Elemente the number of sections of a per-section row.
+///
+/// A result row has in LeistungEN442 and Leistung the outputs of the whole radiator in whole watts,
+/// and in Elemente the number of sections of a per-section row, 0.0 for every other.
 class HOST_API HK_DATEN_VDI3805
 {
 public:
@@ -102,9 +102,8 @@ struct HK_VDI3805_HERSTELLER
     HK_VDI3805_HERSTELLER* pNext = nullptr;
 };
 
-/// What the host wants and what it gets: wishes go in, the chosen radiator comes back in Daten,
-/// TypName and the factor. The host owns the record; the module keeps no pointer to it after a
-/// call.
+/// What the host wants and what it gets: wishes go in, the chosen radiator comes back in Daten and
+/// TypName. The host owns the record; the module keeps no pointer to it after a call.
 class HOST_API HK_DATEN_VDI3805_UEBERGABE
 {
 public:
@@ -127,12 +126,14 @@ public:
     /// First row of a filter result; written by the plain form of Read_HK_Masse only.
     HK_VDI3805_TYP Typ;
     /// Bounds of the output at design temperatures; exactly -1.0 asks for one to be derived from
-    /// Leistung and Toleranz, any other value is taken as it stands.
+    /// Leistung and Toleranz, any other value is taken as it stands. Once the selection dialog has
+    /// refreshed, both follow Leistung at ten per cent.
     double LeistungMin;
     double LeistungMax;
-    /// Required output at design temperatures.
+    /// Required output at design temperatures; after OK of the selection dialog that of the chosen
+    /// row. Both selections but the one by tree turn 0.0 into 1000.0.
     double Leistung;
-    /// Tolerance as a fraction of Leistung.
+    /// Tolerance as a fraction of Leistung; 0.1 once the selection dialog has refreshed.
     double Toleranz;
     double LaengeMin;
     double LaengeMax;
@@ -151,7 +152,8 @@ public:
     /// Heat demand of the room, and the part of it that other radiators cover already.
     double RaumBedarf;
     double RaumGedeckt;
-    /// Non-zero makes the next filter pass read the manufacturer's file again and is cleared by it.
+    /// Non-zero makes the next filter pass that finds the manufacturer read its file again. Any
+    /// pass that reads the file clears it.
     int NeuLesen;
     /// Product data of the chosen row.
     HK_DATEN_VDI3805 Daten;

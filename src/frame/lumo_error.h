@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-/// An error of the host's libraries in three numbers. The module only carries its assignment.
+/// Three numbers of the host's libraries. The module offers their assignment and uses it nowhere.
 class CLumoError
 {
 public:

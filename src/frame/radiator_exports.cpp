@@ -20,6 +20,7 @@ int HeizkoerperauswahlVDI3805(CDrawer* /*drawer*/, HK_DATEN_VDI3805_UEBERGABE* u
     katalog.SetLeistungFilter(0);
     katalog.Filtern();
     if (showDialog) {
+        katalog.BesteAuswahl();
         return kCancelled;
     }
     return katalog.BesteAuswahlMinLeistung(uebergabe);

@@ -11,7 +11,7 @@
 /// read has a null pArt.
 HOST_API HK_VDI3805_HERSTELLER* ReadHKDaten();
 
-/// The manufacturer of that name, null if there is none.
+/// The manufacturer of that name in the list of the last ReadHKDaten(), null if there is none.
 HOST_API HK_VDI3805_HERSTELLER* FindHersteller(const CString& name);
 
 /// The kind of that name below a manufacturer, null if there is none or the manufacturer is null.

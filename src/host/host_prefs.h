@@ -5,7 +5,7 @@
 #include "platform/text.h"
 
 /// HostPrefs: the host's settings, and the constructors, assignments and archive forms of the
-/// records in frame/handover.h.
+/// records in frame/handover.h and frame/ventil_kv.h.
 
 /// Folder of the radiator catalogues, one sub-folder a manufacturer.
 HOST_API CString GetHKDir();

@@ -140,8 +140,9 @@ double _wtof(std::wstring_view text)
 {
     std::size_t position = SkipBlanks(text, 0);
     const bool negative = TakeSign(text, position);
-    const double value = ToDouble(TakeDecimal(text, position));
-    return negative ? -value : value;
+    const Decimal number = TakeDecimal(text, position);
+    const double value = ToDouble(number);
+    return negative && number.hasDigits ? -value : value;
 }
 
 bool ScanShort(std::wstring_view text, std::size_t position, int width, short& value)

@@ -1,5 +1,6 @@
 #include "platform/object.h"
 
+#include <cstring>
 #include <ostream>
 
 std::unique_ptr<CObject> CRuntimeClass::CreateObject() const
@@ -10,7 +11,9 @@ std::unique_ptr<CObject> CRuntimeClass::CreateObject() const
 bool CRuntimeClass::IsDerivedFrom(const CRuntimeClass& base) const
 {
     for (const CRuntimeClass* current = this; current != nullptr; current = current->m_pBaseClass) {
-        if (current == &base) {
+        // By name: every library that links this code statically has a description of CObject of
+        // its own.
+        if (std::strcmp(current->m_lpszClassName, base.m_lpszClassName) == 0) {
             return true;
         }
     }

@@ -7,7 +7,7 @@ class CArchive;
 class CObject;
 
 /// Description of a class at run time: its name, the version of its archive form, its base, and
-/// how to make an empty object of it. One constant instance per class, compared by address.
+/// how to make an empty object of it. Class names are unique in the system.
 struct CRuntimeClass
 {
     const char* m_lpszClassName;

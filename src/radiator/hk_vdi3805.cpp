@@ -73,7 +73,7 @@ public:
         return true;
     }
 
-    /// Lets any later row replace the chosen one.
+    /// Lets the next row nearer than the farthest distance replace the chosen one.
     void GiveUpPlace() { m_distance = kFarthestDistance; }
 
     bool IsHit() const { return m_distance < kHitDistance; }
@@ -181,7 +181,9 @@ void CHKVdi3805::CollectRows()
         if (++count > kMaxRows) {
             return;
         }
-        auto* const result = new HK_VDI3805_TYP(*row);
+        auto* const result = new HK_VDI3805_TYP;
+        *result = *row;
+        result->pNext = nullptr;
         result->pPrev = last;
         (last != nullptr ? last->pNext : m_pErgebnis) = result;
         last = result;

@@ -29,20 +29,20 @@ public:
     void SetAlleAnzeigen(int alle);
 
     /// The filter pass. Writes the factor to the hand-over, reads the manufacturer's catalogue
-    /// where it is unread or NeuLesen asks for it, and replaces the whole result: rows in catalogue
-    /// order, at most 2000, each with its outputs in whole watts. Rows of an earlier pass are gone
-    /// afterwards.
+    /// where it is unread or NeuLesen asks for it (which clears NeuLesen), and replaces the whole
+    /// result: rows in catalogue order, at most 2000, each with its outputs in whole watts. Rows of
+    /// an earlier pass are gone afterwards.
     void Filtern();
 
     /// Puts the row whose output at design temperatures is nearest to the required one into the
     /// hand-over (Daten and TypName) and returns its index in the result. Of equally near rows the
-    /// first one; stops at a row less than 0.1 W off. -1 if no row is within 100000 W, and then the
-    /// hand-over stays untouched.
+    /// first one; stops at a row less than 0.1 W off. -1 if no row is nearer than 100000 W, and
+    /// then the hand-over stays untouched.
     int BesteAuswahl();
 
     /// The same for use without a user: never stops early, and a row below the record's LeistungMin
-    /// (if that is above 0) does not keep its place against a later row, however far that is off.
-    /// `daten` is the record that this object is bound to.
+    /// (if that is above 0) loses its place to the next row nearer than 100000 W. `daten` is the
+    /// record that this object is bound to.
     int BesteAuswahlMinLeistung(HK_DATEN_VDI3805_UEBERGABE* daten);
 
     /// Copies Daten and name of the result row with exactly this type text (case counts) and these
@@ -66,8 +66,8 @@ public:
     const HK_VDI3805_PRODUKT* GetProdukt() const { return m_pProdukt; }
 
     /// The selection dialog clears the flag at its first refresh. While it is set, the output
-    /// bounds that the host gave are left alone; afterwards they follow the required output at ten
-    /// per cent.
+    /// bounds that the host gave are left alone; afterwards each pass writes Toleranz 0.1 and the
+    /// bounds that follow from it into the hand-over, and the host's band is gone.
     void SetErsterLauf(bool ersterLauf) { m_bErsterLauf = ersterLauf ? 1 : 0; }
 
 private:

@@ -48,6 +48,7 @@ double GetTemperaturDifferenz(double vorlauf, double ruecklauf, double raum,
         return 1.0;
     }
     const double a = OrDefault(spreizungsteiler, kSpreizungsteiler);
-    const double supply = ((a - 1.0) * ruecklauf + vorlauf) / a;
+    // In this form a supply equal to the return leaves exactly no spread.
+    const double supply = ruecklauf + (vorlauf - ruecklauf) / a;
     return (supply - ruecklauf) / std::log((supply - raum) / (ruecklauf - raum));
 }

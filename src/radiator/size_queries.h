@@ -6,14 +6,15 @@
 
 /// The host's questions about the sizes in which a product exists. Hersteller, Art and Produkt of
 /// the hand-over name the product; each call makes a filter pass over all of its rows, of which the
-/// first 2000 are looked at.
+/// first 2000 are looked at, and writes Umrechnungsfaktor as every pass does.
 
 /// Appends the product's heights and depths in mm; both arrays stay as they were if it has no rows.
 void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, OCArray<double>& hoehen,
                OCArray<double>& tiefen);
 
 /// Sizes of the rows in whole millimetres, ascending, without duplicates; water contents in the
-/// order of the rows. Unused places are -1 and -1.0. The short arrays need room for `capacity` + 1.
+/// order of the rows. Of more sizes than places those of the first rows stay. Unused places are -1
+/// and -1.0. The short arrays need room for `capacity` + 1.
 void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tiefen, short* laengen,
                double* inhalte, int capacity);
 
@@ -22,7 +23,7 @@ double MinTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe);
 double MaxTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe);
 
 /// Water content in litres of the first row with exactly these measures, given in metres and cut to
-/// whole millimetres; 0.0 if there is none.
+/// whole millimetres (what lies less than 0.005 mm below one counts as that); 0.0 if there is none.
 double Inhalt(HK_DATEN_VDI3805_UEBERGABE& uebergabe, double hoehe, double tiefe, double laenge);
 
 /// Inserts `value` into the ascending array `a`, whose unused places hold -1, unless it is in there

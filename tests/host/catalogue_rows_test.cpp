@@ -20,6 +20,18 @@ std::vector<double> Steps(int first, int last, int step)
     return values;
 }
 
+/// The sizes around a requirement with the smallest and the largest one of their series.
+std::vector<double> WithEnds(double smallest, std::vector<double> values, double largest)
+{
+    if (values.front() != smallest) {
+        values.insert(values.begin(), smallest);
+    }
+    if (values.back() != largest) {
+        values.push_back(largest);
+    }
+    return values;
+}
+
 // 1000 W/m from 400 to 3000 mm in steps of 100: a watt a millimetre.
 constexpr char kCut[] = "700;1;Z;M;600;100;1000;1.3;5\n710.02;400;3000;100\n";
 // 65 W a section of 45 mm, 30 mm on top.
@@ -47,7 +59,8 @@ TEST_F(CCatalogueRowsTest, LengthsCutToMeasureLieAroundTheRequirement)
         {std::numeric_limits<double>::infinity(), 400, 1600},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(Lengths(kCut, c.required), Steps(c.shortest, c.longest, 100)) << c.required;
+        EXPECT_EQ(Lengths(kCut, c.required), WithEnds(400, Steps(c.shortest, c.longest, 100), 3000))
+            << c.required;
     }
 }
 
@@ -65,7 +78,8 @@ TEST_F(CCatalogueRowsTest, NumbersOfSectionsLieAroundTheRequirement)
         {20000, 38, 50}, // more than fifty give: the thirteen largest
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(Lengths(kSections, c.required), Steps(30 + 45 * c.fewest, 30 + 45 * c.most, 45))
+        EXPECT_EQ(Lengths(kSections, c.required),
+                  WithEnds(75, Steps(30 + 45 * c.fewest, 30 + 45 * c.most, 45), 2280))
             << c.required;
     }
 }
@@ -85,10 +99,11 @@ TEST_F(CCatalogueRowsTest, StandardLengthsStayWhateverTheRequirement)
     EXPECT_EQ(Lengths(standard, 1000), (std::vector<double>{450, 1000, 2900}));
     EXPECT_EQ(Lengths(standard, 20000), (std::vector<double>{450, 1000, 2900}));
 
-    // With cuts of 400 to 1600 mm between them: rising, and 1000 mm only once.
+    // With cuts of 400 to 1600 mm and of 3000 mm: rising, and 1000 mm only once.
     std::vector<double> both = Steps(400, 1600, 100);
     both.insert(both.begin() + 1, 450);
     both.push_back(2900);
+    both.push_back(3000);
     EXPECT_EQ(Lengths(standard + "710.02;400;3000;100\n", 1000), both);
 }
 
@@ -170,7 +185,7 @@ TEST_F(CCatalogueRowsTest, AnArticleNamesItsOwnRowOnly)
 
     Lengths(std::string(kSections) + "800;1;8;ORD-8;Otto elementi\n", 1000);
     rows = Rows(*Produkt(L"Prova"));
-    ASSERT_GE(rows.size(), 2u);
-    EXPECT_EQ(rows[0]->Name, L"G");
-    EXPECT_EQ(rows[1]->Name, L"Otto elementi");
+    ASSERT_GE(rows.size(), 3u);
+    EXPECT_EQ(rows[1]->Name, L"G");
+    EXPECT_EQ(rows[2]->Name, L"Otto elementi");
 }

@@ -120,14 +120,15 @@ TEST_F(CHostCatalogTest, AnotherFolderHasMakersOfItsOwn)
 TEST_F(CHostCatalogTest, AChangedRequirementGivesOtherRowsBelowTheSameNodes)
 {
     WriteCatalogue("Alfa", OneProduct("700;1;T;S;600;101;65;1.28;0.9\n710.03;45;50\n"));
-    ASSERT_EQ(Read(L"Alfa", 1000), 18);
+    // 7 to 24 sections, and the ends of the series, 1 and 50.
+    ASSERT_EQ(Read(L"Alfa", 1000), 20);
     HK_VDI3805_ART* const art = FindHersteller(L"Alfa")->pArt;
     HK_VDI3805_PRODUKT* const produkt = Produkt(L"Alfa");
-    EXPECT_EQ(produkt->pTyp->Daten.Elemente, 7);
-    ASSERT_EQ(Read(L"Alfa", 3250), 31);
+    EXPECT_EQ(produkt->pTyp->pNext->Daten.Elemente, 7);
+    ASSERT_EQ(Read(L"Alfa", 3250), 32);
     EXPECT_EQ(FindHersteller(L"Alfa")->pArt, art);
     EXPECT_EQ(Produkt(L"Alfa"), produkt);
-    EXPECT_EQ(produkt->pTyp->Daten.Elemente, 20);
+    EXPECT_EQ(produkt->pTyp->pNext->Daten.Elemente, 20);
     EXPECT_EQ(produkt->Hoehen.GetSize(), 1);
 }
 

@@ -46,10 +46,20 @@ void ChooseRadiator(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
 
     auto nothing = uebergabe;
     nothing.Produkt = L"nessuno";
+    nothing.Daten.Leistung = 4711.0;
     Expect(HeizkoerperauswahlVDI3805(nullptr, &nothing, layer, color, false, false) == -1,
            "an unknown product finds nothing");
-    Expect(nothing.TypName == uebergabe.TypName, "and leaves the hand-over untouched");
+    Expect(nothing.TypName == uebergabe.TypName && nothing.Daten.Leistung == 4711.0,
+           "and leaves the hand-over untouched");
     Expect(HKGetMinTiefe(nothing) == -1.0, "nor has it a depth");
+
+    auto dialog = uebergabe;
+    dialog.Leistung = 0.0;
+    Expect(HeizkoerperauswahlVDI3805Tree(&dialog) == -1 && dialog.Leistung == 0.0,
+           "the tree form is cancelled and supplies no default output");
+    Expect(HeizkoerperauswahlVDI3805(nullptr, &dialog, layer, color, true, false) == -2,
+           "the form with the dialog is cancelled");
+    Expect(dialog.Leistung == 1000.0, "a requirement of 0 becomes 1000 W and stays");
 }
 
 void AskSizes(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
@@ -70,6 +80,8 @@ void AskSizes(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
     Read_HK_Masse(uebergabe, sizes[0].data(), sizes[1].data(), sizes[2].data(), contents.data(),
                   capacity);
     Expect(sizes[0][0] == static_cast<short>(heights[0]), "both forms agree on the heights");
+    Expect(sizes[1][0] == static_cast<short>(depths[0]), "and on the depths");
+    Expect(sizes[1][static_cast<std::size_t>(depths.GetSize())] == -1, "no length is among them");
     Expect(contents[0] == uebergabe.Typ.Daten.Inhalt, "the first content is that of Typ");
     Expect(GetHK_Inhalt(uebergabe, chosen.Hoehe / 1000.0, chosen.Tiefe / 1000.0,
                         chosen.Laenge / 1000.0) == chosen.Inhalt,

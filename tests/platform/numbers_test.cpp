@@ -69,6 +69,9 @@ TEST(Numbers, RealNumberIsWhatStandsAtTheStart)
         EXPECT_EQ(_wtof(text), expected) << text;
     }
     EXPECT_TRUE(std::signbit(_wtof(L"-0")));
+    for (const wchar_t* text : {L"-", L"-abc", L"- 5", L"-."}) {
+        EXPECT_FALSE(std::signbit(_wtof(text))) << "no digit, no sign: " << text;
+    }
 }
 
 TEST(Numbers, LongDigitRunsKeepTheirMagnitude)

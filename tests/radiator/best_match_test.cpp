@@ -18,6 +18,11 @@ struct Search
     int bestMin;
 };
 
+CString NameOf(double output)
+{
+    return L"Tipo " + std::to_wstring(static_cast<int>(output));
+}
+
 TEST(BestMatch, TheNearestRowWinsAndTheFirstOfEquals)
 {
     const Search cases[] = {
@@ -36,12 +41,17 @@ TEST(BestMatch, TheNearestRowWinsAndTheFirstOfEquals)
         {{1000, 890, 1500, 1400, 1450}, 900, 900.0, 1, 3},
         // A minimum that is not above 0 asks nothing.
         {{890, 1500}, 900, 0.0, 0, 0},
-        {{890, 1500}, 900, -1.0, 0, 0},
+        {{800, 1500}, 900, -1.0, 0, 0},
+        // A row exactly on the minimum keeps its place, and a hit below it ends nothing.
+        {{900, 1500}, 1000, 900.0, 0, 0},
+        {{900, 1500}, 900, 950.0, 0, 1},
+        // A place that was given up still goes to a row nearer than 100000 W only.
+        {{890, 101000}, 900, 900.0, 0, 0},
     };
     for (const Search& c : cases) {
         CMemoryCatalogue catalogue;
         for (const double output : c.outputs) {
-            catalogue.AddUnit(output, L"Tipo " + std::to_wstring(static_cast<int>(output)));
+            catalogue.AddUnit(output, NameOf(output));
         }
         for (const bool minimum : {false, true}) {
             auto uebergabe = catalogue.Uebergabe(c.required);
@@ -58,24 +68,10 @@ TEST(BestMatch, TheNearestRowWinsAndTheFirstOfEquals)
             const double chosen =
                 expected < 0 ? 4711 : c.outputs[static_cast<std::size_t>(expected)];
             EXPECT_EQ(uebergabe.Daten.Leistung, chosen);
-            EXPECT_EQ(uebergabe.TypName == L"prima", expected < 0);
+            EXPECT_EQ(uebergabe.Daten.Hoehe, expected < 0 ? 0.0 : 600.0);
+            EXPECT_EQ(uebergabe.TypName, expected < 0 ? L"prima" : NameOf(chosen));
         }
     }
-}
-
-TEST(BestMatch, AHitEndsTheSearchOnlyWhereAUserDecides)
-{
-    // The rows differ from the requirement by less than a tenth of a watt; the second is nearer.
-    CMemoryCatalogue catalogue;
-    catalogue.AddUnit(1000, L"a");
-    catalogue.AddUnit(1000, L"b");
-    auto uebergabe = catalogue.Uebergabe(1000.05);
-    CHKVdi3805 katalog(&uebergabe);
-    katalog.SetLeistungFilter(0);
-    katalog.Filtern();
-    EXPECT_EQ(katalog.BesteAuswahl(), 0);
-    EXPECT_EQ(katalog.BesteAuswahlMinLeistung(&uebergabe), 0);
-    EXPECT_EQ(uebergabe.TypName, L"a");
 }
 
 TEST(BestMatch, ARowIsSelectedByNameAndExactMeasures)
@@ -94,6 +90,7 @@ TEST(BestMatch, ARowIsSelectedByNameAndExactMeasures)
     EXPECT_EQ(uebergabe.TypName, L"Tipo 22");
 
     katalog.SelectRow(L"tipo 22", 600, 100, 1000);
+    EXPECT_EQ(uebergabe.TypName, L"Tipo 22");
     katalog.SelectRow(L"Tipo 22", 600.001, 100, 1000);
     katalog.SelectRow(L"Tipo 22", 600, 99, 1000);
     katalog.SelectRow(L"Tipo 22", 600, 100, 1001);
@@ -109,9 +106,10 @@ TEST(BestMatch, ManufacturersAreListedOnceAPassHasMetTheCatalogue)
     liste.Add(nullptr);
     EXPECT_EQ(katalog.GetHerstellerListe(liste), 0);
     katalog.Filtern();
-    ASSERT_EQ(katalog.GetHerstellerListe(liste), 1);
+    ASSERT_EQ(katalog.GetHerstellerListe(liste), 2);
     EXPECT_EQ(static_cast<HK_VDI3805_HERSTELLER*>(liste[0])->Name, L"Prova");
-    EXPECT_EQ(katalog.GetHerstellerListe(liste), 1) << "replaced, not appended to";
+    EXPECT_EQ(static_cast<HK_VDI3805_HERSTELLER*>(liste[1])->Name, L"Prova seconda");
+    EXPECT_EQ(katalog.GetHerstellerListe(liste), 2) << "replaced, not appended to";
 }
 
 } // namespace

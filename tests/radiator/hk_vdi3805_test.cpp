@@ -48,7 +48,11 @@ TEST_F(FilterTest, OutputsAreRoundedAtStandardConditionsFirst)
     m_catalogue.Add(L'S', 600, 100, 540, 84.5, 12.0); // 1014; 794.976 -> 795
     m_catalogue.Add(L's', 600, 100, 540, 84.5, 12.0);
     m_catalogue.Add(L'X', 600, 100, 500, 100.5, 5.0); // 101; 79.184 -> 79
-    m_catalogue.Add(L'\0', 600, 100, 500, 637.6);     // 638; 500.192 -> 500 (unrounded 499.9)
+    for (HK_VDI3805_TYP* row = m_catalogue.Produkt().pTyp; row != nullptr; row = row->pNext) {
+        row->Daten.Exponent = 1.3;
+    }
+    m_catalogue.Add(L'\0', 600, 100, 500, 637.6).Daten.Exponent =
+        1.3; // 638; 500.192 -> 500 (unrounded 499.9)
     auto uebergabe = m_catalogue.Uebergabe(1000);
     uebergabe.Vorlauf = 70;
     uebergabe.Ruecklauf = 55;
@@ -70,6 +74,7 @@ TEST_F(FilterTest, OutputsAreRoundedAtStandardConditionsFirst)
         EXPECT_EQ(row->Daten.LeistungEN442, e.standard);
         EXPECT_EQ(row->Daten.Leistung, e.design);
         EXPECT_EQ(row->Daten.Elemente, e.sections);
+        EXPECT_EQ(row->Daten.Exponent, 1.3);
         EXPECT_EQ(row->pPrev, previous);
         previous = row;
         row = row->pNext;
@@ -86,6 +91,7 @@ TEST_F(FilterTest, TemperaturesThatAreMissingGiveTheStandardOutput)
         auto uebergabe = m_catalogue.Uebergabe(1000);
         uebergabe.Vorlauf = vorlauf;
         uebergabe.Ruecklauf = ruecklauf;
+        uebergabe.Umrechnungsfaktor = 0.5;
         Taken(uebergabe);
         EXPECT_EQ(uebergabe.Umrechnungsfaktor, 1.0);
     }
@@ -165,6 +171,13 @@ TEST_F(FilterTest, OutputBoundsAreInclusiveAndTakenFromTheRecord)
     EXPECT_EQ(Taken(given, 1), L"abc") << "0.0 is a real bound";
     EXPECT_EQ(given.LeistungMin, 0.0);
     EXPECT_EQ(Taken(given, 0), L"abcd");
+    // Only exactly -1.0 asks for a derived bound.
+    given.LeistungMin = -5.0;
+    EXPECT_EQ(Taken(given, 1), L"abc");
+    for (const double upper : {0.0, -0.5}) {
+        given.LeistungMax = upper;
+        EXPECT_EQ(Taken(given, 1), L"");
+    }
 }
 
 TEST_F(FilterTest, ASingleSectionIsARadiatorOnlyByItsOutput)
@@ -236,6 +249,22 @@ TEST_F(FilterTest, TheListEndsAtTwoThousandRowsAndTheSizesDoNot)
     katalog.Filtern();
     EXPECT_EQ(katalog.GetErgebnis(), nullptr);
     EXPECT_TRUE(katalog.GetHoehen().IsEmpty());
+    EXPECT_TRUE(katalog.GetTiefen().IsEmpty());
+}
+
+TEST_F(FilterTest, SizesAreThoseOfTheProductEvenIfNoRowPasses)
+{
+    m_catalogue.AddUnit(1000);
+    for (const double depth : {61.0, 102.0, 155.0}) {
+        m_catalogue.Produkt().Tiefen.Add(depth);
+    }
+    auto uebergabe = m_catalogue.Uebergabe(1000);
+    uebergabe.HoeheMax = 1.0;
+    CHKVdi3805 katalog(&uebergabe);
+    katalog.Filtern();
+    EXPECT_EQ(katalog.GetErgebnis(), nullptr);
+    ASSERT_EQ(katalog.GetTiefen().GetSize(), 3);
+    EXPECT_EQ(katalog.GetTiefen()[2], 155.0);
 }
 
 TEST_F(FilterTest, UnknownPositionsGiveAnEmptyResultInSilence)
@@ -271,9 +300,35 @@ TEST_F(FilterTest, TheFileIsReadWhenUnreadOrWhenAskedForAndOnlyThen)
     EXPECT_EQ(output(), 900.0);
     write("1200");
     EXPECT_EQ(output(), 900.0) << "read once";
-    uebergabe.NeuLesen = 1;
+    uebergabe.NeuLesen = 2;
+    uebergabe.Hersteller = L"nessuno";
+    EXPECT_EQ(output(), -1.0);
+    EXPECT_EQ(uebergabe.NeuLesen, 2) << "still to be done";
+    uebergabe.Hersteller = L"Marca";
     EXPECT_EQ(output(), 1200.0);
     EXPECT_EQ(uebergabe.NeuLesen, 0);
+}
+
+TEST_F(FilterTest, RowsBuiltToMeasureAreMadeForTheStandardOutput)
+{
+    const CSettingOverride setting(kSettingHKDir, m_folder.Path());
+    m_folder.WriteBytes("Marca/hk.tga", "010;2020-01-01;Marca;2026-01-01;\n100;1;Genere;\n"
+                                        "110;1;Prodotto;\n700;1;G;S;600;100;65;1.3;0.9;\n"
+                                        "710.03;45;200;\n");
+    auto uebergabe = m_catalogue.Uebergabe(1000);
+    uebergabe.Hersteller = L"Marca";
+    uebergabe.NeuLesen = 1;
+    uebergabe.Vorlauf = 55.0;
+    uebergabe.Ruecklauf = 45.0;
+    CHKVdi3805 katalog(&uebergabe);
+    katalog.SetLeistungFilter(0);
+    katalog.Filtern();
+    EXPECT_EQ(uebergabe.NeuLesen, 0) << "cleared by the first reading too";
+    // 1000 W / 0.495 are 2020 W at standard conditions: 31 sections of 65 W, which give
+    // 2015 * 0.495 = 997 W. Made for 1000 W the rows would end at 24 sections.
+    EXPECT_EQ(katalog.BesteAuswahlMinLeistung(&uebergabe) >= 0, true);
+    EXPECT_EQ(uebergabe.Daten.Elemente, 31.0);
+    EXPECT_EQ(uebergabe.Daten.Bauart, L'S');
 }
 
 } // namespace

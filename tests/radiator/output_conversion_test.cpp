@@ -25,6 +25,7 @@ TEST(OutputConversion, FactorsOfUsualSystems)
         {0, 65, 20, 1.0},
         {75, -1, 20, 1.0},
         // No difference left to the room: it counts as 1 K, (1 / 48.891)^1.33 = 0.0057.
+        {75, 0, 20, 1.0},
         {75, 20, 20, 0.006},
         {75, 15, 20, 0.006},
     };
@@ -32,7 +33,9 @@ TEST(OutputConversion, FactorsOfUsualSystems)
         EXPECT_NEAR(GetLeistungsFaktor(c.vorlauf, c.ruecklauf, c.raum), c.factor, kTolerance)
             << c.vorlauf << '/' << c.ruecklauf << '/' << c.raum;
     }
-    EXPECT_TRUE(std::isnan(GetLeistungsFaktor(50, 50, 20))) << "no spread, no logarithm";
+    for (const double equal : {50.0, 25.61, 54.447687645684283}) {
+        EXPECT_TRUE(std::isnan(GetLeistungsFaktor(equal, equal, 20))) << "no spread, no logarithm";
+    }
 }
 
 TEST(OutputConversion, StandardTemperaturesGiveOneWithAnyParameters)
@@ -55,6 +58,16 @@ TEST(OutputConversion, TheDifferenceIsALogarithmicMeanOfADrawnSpread)
     EXPECT_NEAR(GetTemperaturDifferenz(75, 65, 20, 0.1), 85.465, 0.0005);
     EXPECT_EQ(GetTemperaturDifferenz(75, 20, 20, 0.0), 1.0);
     EXPECT_EQ(GetTemperaturDifferenz(0, 65, 20, 0.0), 1.0);
+    EXPECT_EQ(GetTemperaturDifferenz(75, -1, -20, 0.0), 1.0);
+}
+
+TEST(OutputConversion, DivisorAndExponentAreUsedOnBothDifferences)
+{
+    // Plain logarithmic means: 55/45/20 has 10 / ln(35 / 25) = 29.720, 75/65/20 has 49.833.
+    EXPECT_NEAR(GetLeistungsFaktorEx(55, 45, 20, 1.0, 1.0), 0.596, kTolerance);
+    // 0.596386^1.5 = 0.460568; an exponent of 0.1 is used as it stands, 0.596386^0.1 = 0.949627.
+    EXPECT_NEAR(GetLeistungsFaktorEx(55, 45, 20, 1.0, 1.5), 0.461, kTolerance);
+    EXPECT_NEAR(GetLeistungsFaktorEx(55, 45, 20, 1.0, 0.1), 0.950, kTolerance);
 }
 
 } // namespace

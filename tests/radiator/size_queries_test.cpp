@@ -109,6 +109,7 @@ TEST(SizeQueries, ArrayFormAndDepthsComeFromTheProductNotFromItsRows)
 
     catalogue.Produkt().Tiefen.RemoveAll();
     EXPECT_EQ(MinTiefe(uebergabe), -1.0);
+    EXPECT_EQ(MaxTiefe(uebergabe), -1.0);
 }
 
 TEST(SizeQueries, WaterContentIsFoundByWholeMillimetres)
@@ -118,7 +119,10 @@ TEST(SizeQueries, WaterContentIsFoundByWholeMillimetres)
     catalogue.Add(L'M', 600, 100, 1200, 1000, 0, 9.9);
     catalogue.Add(L'M', 599, 100, 1200, 1000, 0, 5.9);
     catalogue.Add(L'M', 700.5, 100, 1200, 1000, 0, 7.0);
-    auto uebergabe = catalogue.Uebergabe(1000);
+    catalogue.Add(L'S', 600, 150, 1200, 65, 10, 8.1);
+    // Ranges and requirement play no part: every row of the product is looked at.
+    auto uebergabe = catalogue.Uebergabe(0.0);
+    uebergabe.HoeheMax = uebergabe.TiefeMax = uebergabe.LaengeMax = 1.0;
     struct Case
     {
         double hoehe, tiefe, laenge, inhalt;
@@ -128,11 +132,13 @@ TEST(SizeQueries, WaterContentIsFoundByWholeMillimetres)
         {0.6 - 1e-12, 0.1, 1.2, 6.3}, // just under 600 mm
         {0.5996, 0.1, 1.2, 5.9},      // no rounding
         {0.7005, 0.1, 1.2, 0.0},      // becomes 700
+        {0.6, 0.15, 1.2, 8.1},        // as the catalogue states it, not times ten sections
         {0.6, 0.1, 1.201, 0.0},       {-0.6, 0.1, 1.2, 0.0},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(Inhalt(uebergabe, c.hoehe, c.tiefe, c.laenge), c.inhalt) << c.hoehe;
     }
+    EXPECT_EQ(uebergabe.Leistung, 0.0);
     uebergabe.Produkt = L"nessuno";
     EXPECT_EQ(Inhalt(uebergabe, 0.6, 0.1, 1.2), 0.0);
 }

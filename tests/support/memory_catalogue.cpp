@@ -11,6 +11,7 @@ constexpr wchar_t kMaker[] = L"Prova";
 CMemoryCatalogue::CMemoryCatalogue() : m_setting(kSettingHKDir, m_folder.Path())
 {
     m_folder.WriteBytes("Prova/hk.tga", "");
+    m_folder.WriteBytes("Prova seconda/hk.tga", "");
     m_art.Name = L"Genere";
     m_art.pProdukt = &m_produkt;
     m_produkt.Name = L"Prodotto";

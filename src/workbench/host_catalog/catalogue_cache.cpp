@@ -18,10 +18,16 @@ std::optional<struct stat> StatusOf(const std::filesystem::path& path)
     return status;
 }
 
+bool IsSameTime(const timespec& a, const timespec& b)
+{
+    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+}
+
+/// The time of the last change of state counts as well: copying tools set the other one back.
 bool IsSameState(const struct stat& a, const struct stat& b)
 {
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino && a.st_size == b.st_size &&
-           a.st_mtim.tv_sec == b.st_mtim.tv_sec && a.st_mtim.tv_nsec == b.st_mtim.tv_nsec;
+           IsSameTime(a.st_mtim, b.st_mtim) && IsSameTime(a.st_ctim, b.st_ctim);
 }
 
 std::vector<std::uint8_t> ReadAll(CFile& file)

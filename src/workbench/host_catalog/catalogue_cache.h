@@ -10,7 +10,8 @@
 #include <optional>
 #include <variant>
 
-/// Catalogue files in parsed form. A file is read again only if it has changed on disk.
+/// Catalogue files in parsed form. A file is read again only if its size, its identity or
+/// one of its times has changed.
 class CCatalogueCache
 {
 public:

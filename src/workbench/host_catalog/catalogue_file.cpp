@@ -230,7 +230,7 @@ void CCatalogueParser::TakeZuschnitt(const CRecordLine& line)
     if (to < from) {
         line.Refuse(L"La lunghezza massima è inferiore alla minima.");
     }
-    // A step of 0.1 kept in binary must not lose the last length.
+    // A step of 1.1 kept in binary must not lose the last length.
     constexpr double binarySlack = 1e-6;
     const int count = static_cast<int>(std::floor((to - from) / step + binarySlack)) + 1;
     CountSizes(line, count);

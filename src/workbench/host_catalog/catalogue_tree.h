@@ -7,10 +7,11 @@
 #include <utility>
 #include <vector>
 
-/// Owner of all nodes of the catalogue tree. A node, once made, lives as long as the tree: one that
-/// is not needed is taken off its list and comes back when its name does, so that pointers held by
-/// others never dangle. The lists may meanwhile have been bent by a host; the tree follows none of
-/// them and frees nothing through them.
+/// Owner of all nodes of the catalogue tree. Rows live until their product is filled again. The
+/// node of a manufacturer, kind or product, once made, lives as long as the tree: one that is not
+/// needed is taken off its list and comes back when its name does, so that pointers held by others
+/// never dangle. The lists may meanwhile have been bent by a host; the tree follows none of them
+/// and frees nothing through them.
 class CCatalogueTree
 {
 public:

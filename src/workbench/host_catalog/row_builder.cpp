@@ -21,14 +21,10 @@ struct CSize
     double dInhalt = 0.0;
 };
 
-struct CIndexRange
-{
-    int nFirst;
-    int nLast;
-};
-
-/// Which sizes to offer out of `count` whose outputs rise from `first` by `increment`.
-CIndexRange SizesAround(double requiredOutput, double first, double increment, int count)
+/// Which sizes to offer out of `count` whose outputs rise from `first` by `increment`: those around
+/// the requirement, and the ends of the series. By its ends a reader of the row chain tells where
+/// one series stops and the next begins, and how far this one goes.
+std::vector<int> SizesAround(double requiredOutput, double first, double increment, int count)
 {
     const auto place = [&](double output) { return (output - first) / increment; };
     const double fitting = std::round(place(requiredOutput));
@@ -39,8 +35,20 @@ CIndexRange SizesAround(double requiredOutput, double first, double increment, i
 
     const double last = count - 1;
     const double spread = std::min(2.0 * kNeighbours, last);
-    return {static_cast<int>(std::clamp(from, 0.0, last - spread)),
-            static_cast<int>(std::clamp(to, spread, last))};
+    const int lowest = static_cast<int>(std::clamp(from, 0.0, last - spread));
+    const int highest = static_cast<int>(std::clamp(to, spread, last));
+
+    std::vector<int> sizes;
+    if (lowest > 0) {
+        sizes.push_back(0);
+    }
+    for (int i = lowest; i <= highest; ++i) {
+        sizes.push_back(i);
+    }
+    if (highest < count - 1) {
+        sizes.push_back(count - 1);
+    }
+    return sizes;
 }
 
 double ScaledInhalt(const CCatalogueSeries& serie, double inhalt, double laenge)
@@ -63,10 +71,9 @@ std::vector<CSize> CutSizes(const CCatalogueSeries& serie, double requiredOutput
 {
     const CCutToLength& cut = *serie.zuschnitt;
     const double wattsPerMm = serie.dLeistung / 1000.0;
-    const auto [first, last] =
-        SizesAround(requiredOutput, wattsPerMm * cut.dVon, wattsPerMm * cut.dStufe, cut.nAnzahl);
     std::vector<CSize> sizes;
-    for (int i = first; i <= last; ++i) {
+    for (const int i :
+         SizesAround(requiredOutput, wattsPerMm * cut.dVon, wattsPerMm * cut.dStufe, cut.nAnzahl)) {
         const double laenge = cut.dVon + i * cut.dStufe;
         sizes.push_back({laenge, 0.0, serie.dLeistung, ScaledInhalt(serie, serie.dInhalt, laenge)});
     }
@@ -76,10 +83,10 @@ std::vector<CSize> CutSizes(const CCatalogueSeries& serie, double requiredOutput
 std::vector<CSize> SectionSizes(const CCatalogueSeries& serie, double requiredOutput)
 {
     const CSections& glieder = *serie.glieder;
-    const auto [first, last] =
-        SizesAround(requiredOutput, serie.dLeistung, serie.dLeistung, glieder.nMax);
     std::vector<CSize> sizes;
-    for (int count = first + 1; count <= last + 1; ++count) {
+    for (const int i :
+         SizesAround(requiredOutput, serie.dLeistung, serie.dLeistung, glieder.nMax)) {
+        const int count = i + 1;
         sizes.push_back({count * glieder.dGliedLaenge + glieder.dZugabe, static_cast<double>(count),
                          serie.dLeistung, count * serie.dInhalt});
     }

@@ -21,7 +21,7 @@ void Transfer(CArchive& archive, T& value)
 
 void TransferCharacter(CArchive& archive, wchar_t& character)
 {
-    auto code = static_cast<std::int32_t>(character);
+    auto code = static_cast<char32_t>(character);
     Transfer(archive, code);
     character = static_cast<wchar_t>(code);
 }
