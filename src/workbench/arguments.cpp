@@ -1,0 +1,138 @@
+#include "workbench/arguments.h"
+
+#include "platform/numbers.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace {
+
+struct TextOption
+{
+    const wchar_t* name;
+    CString CArguments::*field;
+};
+
+constexpr TextOption kTextOptions[] = {
+    {L"--building", &CArguments::strBuilding},
+    {L"--catalogues", &CArguments::strCatalogues},
+    {L"--output", &CArguments::strOutput},
+    {L"--room", &CArguments::strRoom},
+};
+
+bool IsDigits(const CString& text)
+{
+    return !text.empty() &&
+           std::all_of(text.begin(), text.end(), [](wchar_t c) { return c >= L'0' && c <= L'9'; });
+}
+
+/// Unlike _wtof(), which takes whatever number stands at the start, this takes a whole text or none
+/// of it.
+std::optional<double> ParseDegrees(CString text)
+{
+    ReplaceAll(text, L',', L'.');
+    const std::size_t point = text.find(L'.');
+    const bool decimal = point != CString::npos;
+    if (!IsDigits(text.substr(0, point)) || (decimal && !IsDigits(text.substr(point + 1)))) {
+        return std::nullopt;
+    }
+    return _wtof(text);
+}
+
+void ApplyOption(CArguments& result, const CString& name, const CString& value)
+{
+    if (value.empty()) {
+        throw CArgumentException(L"l'opzione " + name + L" richiede un valore");
+    }
+    if (name == L"--system") {
+        result.system = ParseHeatingSystem(value);
+        if (!result.system) {
+            throw CArgumentException(L"--system: \"" + value +
+                                     L"\" non è una coppia mandata/ritorno come 75/65, con il "
+                                     L"ritorno sotto la mandata e la mandata non oltre 110 °C");
+        }
+        return;
+    }
+    for (const TextOption& option : kTextOptions) {
+        if (name == option.name) {
+            result.*option.field = value;
+            return;
+        }
+    }
+}
+
+bool TakesValue(const CString& name)
+{
+    return name == L"--system" ||
+           std::any_of(std::begin(kTextOptions), std::end(kTextOptions),
+                       [&](const TextOption& option) { return name == option.name; });
+}
+
+} // namespace
+
+CArguments ParseArguments(const std::vector<CString>& arguments)
+{
+    CArguments result;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const CString& argument = arguments[i];
+        const std::size_t equals = argument.find(L'=');
+        const CString name = argument.substr(0, equals);
+        if (argument == L"--help") {
+            result.bHelp = true;
+        } else if (argument == L"--batch") {
+            continue;
+        } else if (!TakesValue(name)) {
+            throw CArgumentException(L"argomento sconosciuto: " + argument);
+        } else if (equals != CString::npos) {
+            ApplyOption(result, name, argument.substr(equals + 1));
+        } else {
+            ++i;
+            ApplyOption(result, name, i < arguments.size() ? arguments[i] : CString());
+        }
+    }
+    if (result.strBuilding.empty() && !result.bHelp) {
+        throw CArgumentException(L"manca l'edificio: indicarlo con --building FILE");
+    }
+    return result;
+}
+
+std::optional<CHeatingSystem> ParseHeatingSystem(const CString& text)
+{
+    const std::size_t slash = text.find(L'/');
+    if (slash == CString::npos) {
+        return std::nullopt;
+    }
+    const std::optional<double> vorlauf = ParseDegrees(text.substr(0, slash));
+    const std::optional<double> ruecklauf = ParseDegrees(text.substr(slash + 1));
+    if (!vorlauf || !ruecklauf) {
+        return std::nullopt;
+    }
+    const CHeatingSystem system{*vorlauf, *ruecklauf};
+    return system.IsPlausible() ? std::optional(system) : std::nullopt;
+}
+
+CString GetHelpText()
+{
+    return LR"(Sceglie un corpo scaldante per ogni locale di un edificio, dai cataloghi dei produttori.
+
+Opzioni:
+  --building FILE    edificio da calcolare (formato: docs/building-format.md)
+  --catalogues DIR   cartella dei cataloghi, una sottocartella per produttore
+  --system M/R       temperature di mandata e ritorno in °C, per esempio 75/65, 55/45 o 45/35;
+                     senza l'opzione valgono quelle dell'edificio
+  --room NOME        calcola soltanto questo locale
+  --output DIR       cartella dei risultati (corpi-scaldanti.csv e corpi-scaldanti.json)
+  --batch            calcola senza finestre; al momento è l'unico modo
+  --help             mostra questo testo
+
+I percorsi relativi partono dalla cartella corrente. Un'opzione ripetuta vale come scritta per ultima.
+
+Codici di uscita:
+  0  eseguito; i locali senza un corpo scaldante adatto sono segnalati nell'elenco
+  1  errore imprevisto
+  2  argomenti errati
+  3  edificio illeggibile o errato
+  4  catalogo danneggiato o illeggibile; gli altri locali sono calcolati ugualmente
+  5  risultati non scrivibili
+)";
+}

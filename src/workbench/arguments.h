@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/exception.h"
+#include "platform/text.h"
+#include "workbench/building.h"
+
+#include <optional>
+#include <vector>
+
+/// What the user asked for on the command line. Paths are as typed.
+struct CArguments
+{
+    bool bHelp = false;
+    CString strBuilding;
+    /// Empty: the folder of the host's settings.
+    CString strCatalogues;
+    CString strOutput = L"out";
+    /// Empty: every room.
+    CString strRoom;
+    /// Nothing: the building's own.
+    std::optional<CHeatingSystem> system;
+};
+
+/// A command line that asks for something impossible. The message is for the user.
+class CArgumentException : public CException
+{
+public:
+    using CException::CException;
+};
+
+/// Reads the arguments behind the program's name. An option given twice counts as given last, so
+/// that a script can put its defaults in front. Raises CArgumentException.
+CArguments ParseArguments(const std::vector<CString>& arguments);
+
+/// A pair of temperatures such as "75/65" or "55.5/45" (a comma counts as a point); nothing if the
+/// text is no such pair or the temperatures are not plausible.
+std::optional<CHeatingSystem> ParseHeatingSystem(const CString& text);
+
+/// The text that --help shows.
+CString GetHelpText();

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <iosfwd>
+#include <vector>
+
+/// How the program ends; the help text lists the same codes.
+enum class ExitCode
+{
+    ok = 0,
+    unexpected = 1,
+    wrongArguments = 2,
+    badBuilding = 3,
+    badCatalogue = 4,
+    outputNotWritable = 5,
+};
+
+/// The run without windows: chooses a radiator for every room, writes the schedule to the output
+/// folder as CSV and JSON and shows it on `out`; errors go to `err`. `arguments` are those behind
+/// the program's name. Both streams get UTF-8 whatever the locale. The catalogue folder of the
+/// arguments stays in force for the process.
+ExitCode RunBatch(const std::vector<CString>& arguments, std::ostream& out, std::ostream& err);

@@ -1,0 +1,31 @@
+#include "workbench/building.h"
+
+bool CHeatingSystem::IsPlausible() const
+{
+    return ruecklauf > 0.0 && ruecklauf < vorlauf && vorlauf <= 110.0;
+}
+
+const CRoom* FindRoomTooWarm(const CBuilding& building)
+{
+    for (const CFloor& floor : building.floors) {
+        for (const CRoom& room : floor.rooms) {
+            if (room.raumtemperatur >= building.system.ruecklauf) {
+                return &room;
+            }
+        }
+    }
+    return nullptr;
+}
+
+bool KeepRoom(CBuilding& building, const CString& name)
+{
+    for (const CFloor& floor : building.floors) {
+        for (const CRoom& room : floor.rooms) {
+            if (room.strName == name) {
+                building.floors = std::vector<CFloor>{{floor.strName, {room}}};
+                return true;
+            }
+        }
+    }
+    return false;
+}

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/exception.h"
+#include "platform/text.h"
+
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QStringList>
+
+/// Content of a file that is not what its format asks for. The message names file, place and field.
+class CContentException : public CException
+{
+public:
+    using CException::CException;
+};
+
+/// One object of a JSON file, read field by field with checks: a missing field, one of another type
+/// or out of range, and one that nobody knows raise CContentException.
+class CJsonFields
+{
+public:
+    /// `place` says in which part of the file the object stands, as messages show it; may be empty.
+    CJsonFields(const QJsonObject& object, const CString& file, const CString& place);
+
+    /// From here on messages name this place.
+    void SetPlace(const CString& place) { m_strPlace = place; }
+
+    bool Has(const char* name) const { return m_object.contains(QLatin1String(name)); }
+
+    /// A text that is not blank and holds no control characters.
+    CString Text(const char* name);
+
+    /// A number of at least `min` and at most `max`.
+    double Number(const char* name, double min, double max);
+
+    /// The same, or `fallback` where the field is missing.
+    double NumberOr(const char* name, double min, double max, double fallback);
+
+    /// An object; its place is the one of this object.
+    CJsonFields Object(const char* name);
+
+    /// A list of at least one object.
+    QJsonArray Objects(const char* name);
+
+    /// Raises if the object has a field that was not asked for. A "note" may stand in any object.
+    void RefuseUnknown() const;
+
+    [[noreturn]] void Fail(const CString& name, const CString& what) const;
+
+private:
+    QJsonValue Take(const char* name);
+
+    QJsonObject m_object;
+    CString m_strFile;
+    CString m_strPlace;
+    QStringList m_known;
+};
+
+/// The object of a JSON file. A file that cannot be opened or is no JSON object raises
+/// CContentException, the latter with line and column of the place where reading stopped.
+CJsonFields ReadJsonFile(const CString& path);

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "workbench/schedule.h"
+
+/// The schedule as CSV: a heading line, a line a room, then the totals of the floors and of the
+/// building, told apart by the column "Stato". Fields are separated by ";" and quoted where they
+/// need it; numbers have a point; lines end in CR LF.
+CString FormatScheduleCsv(const CSchedule& schedule);
+
+/// A text as one CSV field.
+CString QuoteCsv(const CString& text);

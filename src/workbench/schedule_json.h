@@ -1,0 +1,10 @@
+#pragma once
+
+#include "workbench/schedule.h"
+
+#include <string>
+
+/// The schedule as a JSON text in UTF-8, version 1. A room has its wishes, its status and, where
+/// one was found, its radiator: under "radiator" the chosen one, under "nearest" one that does not
+/// fit.
+std::string FormatScheduleJson(const CSchedule& schedule);

@@ -1,0 +1,77 @@
+#include "workbench/arguments.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::optional<CString> ErrorOf(const std::vector<CString>& arguments)
+{
+    try {
+        ParseArguments(arguments);
+        return std::nullopt;
+    } catch (const CArgumentException& error) {
+        return error.GetErrorMessage();
+    }
+}
+
+} // namespace
+
+TEST(Arguments, EveryOptionIsRead)
+{
+    const CArguments arguments = ParseArguments(
+        {L"--batch", L"--building", L"casa.json", L"--catalogues=listini", L"--system", L"55,5/45",
+         L"--room", L"Città = bagno", L"--output", L"risultati"});
+    EXPECT_EQ(arguments.strBuilding, L"casa.json");
+    EXPECT_EQ(arguments.strCatalogues, L"listini");
+    EXPECT_EQ(arguments.strRoom, L"Città = bagno");
+    EXPECT_EQ(arguments.strOutput, L"risultati");
+    ASSERT_TRUE(arguments.system);
+    EXPECT_EQ(arguments.system->vorlauf, 55.5);
+    EXPECT_EQ(arguments.system->ruecklauf, 45.0);
+    EXPECT_FALSE(arguments.bHelp);
+}
+
+TEST(Arguments, LastOfTwoEqualOptionsCounts)
+{
+    EXPECT_EQ(ParseArguments({L"--building", L"a.json", L"--building", L"b.json"}).strBuilding,
+              L"b.json");
+}
+
+TEST(Arguments, HelpNeedsNoBuilding)
+{
+    EXPECT_TRUE(ParseArguments({L"--help"}).bHelp);
+}
+
+TEST(Arguments, ErrorsNameTheArgument)
+{
+    const struct
+    {
+        std::vector<CString> arguments;
+        CString named;
+    } cases[] = {
+        {{}, L"--building"},
+        {{L"--building"}, L"--building"},
+        {{L"--building="}, L"--building"},
+        {{L"--building", L"a.json", L"--rooms", L"Bagno"}, L"--rooms"},
+        {{L"--building", L"a.json", L"altro.json"}, L"altro.json"},
+        {{L"--building", L"a.json", L"--help=si"}, L"--help=si"},
+        {{L"--building", L"a.json", L"--system", L"45/55"}, L"45/55"},
+    };
+    for (const auto& test : cases) {
+        const std::optional<CString> error = ErrorOf(test.arguments);
+        ASSERT_TRUE(error) << testing::PrintToString(test.arguments);
+        EXPECT_NE(error->find(test.named), CString::npos) << testing::PrintToString(*error);
+    }
+}
+
+TEST(HeatingSystem, OnlyWholePairsOfPlausibleTemperaturesAreTaken)
+{
+    for (const wchar_t* good : {L"75/65", L"45.5/35", L"110/0,5"}) {
+        EXPECT_TRUE(ParseHeatingSystem(good)) << testing::PrintToString(CString(good));
+    }
+    for (const wchar_t* bad :
+         {L"", L"75", L"/", L"75/", L"/65", L"75/65/20", L"75 /65", L"-75/-80", L"75./65", L".5/.4",
+          L"7e1/65", L"inf/65", L"65/65", L"111/65", L"75/0", L"75°/65°"}) {
+        EXPECT_FALSE(ParseHeatingSystem(bad)) << testing::PrintToString(CString(bad));
+    }
+}

@@ -1,0 +1,180 @@
+#include "workbench/batch.h"
+
+#include "platform/encoding.h"
+#include "support/temp_folder.h"
+#include "workbench/host_prefs/host_settings.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace {
+
+const CString kData = WideFromUtf8(RADSEL_DATA_DIR);
+const CString kSampleBuilding = kData + L"/buildings/villa-dei-tigli.json";
+
+std::vector<std::string> Split(const std::string& text, const std::string& separator)
+{
+    std::vector<std::string> parts;
+    std::size_t start = 0;
+    for (std::size_t end = text.find(separator); end != std::string::npos;
+         end = text.find(separator, start)) {
+        parts.push_back(text.substr(start, end - start));
+        start = end + separator.size();
+    }
+    parts.push_back(text.substr(start));
+    return parts;
+}
+
+class BatchTest : public testing::Test
+{
+protected:
+    ~BatchTest() override { ClearHostSettingOverride(kSettingHKDir); }
+
+    /// Runs over the sample data; `more` arguments win over these.
+    ExitCode Run(const std::vector<CString>& more)
+    {
+        std::vector<CString> arguments = {L"--building",   kSampleBuilding,
+                                          L"--catalogues", kData + L"/catalogues",
+                                          L"--output",     m_folder.Path("out")};
+        arguments.insert(arguments.end(), more.begin(), more.end());
+        m_out.str({});
+        m_err.str({});
+        return RunBatch(arguments, m_out, m_err);
+    }
+
+    QJsonValue ReadJson() const
+    {
+        const std::string bytes = m_folder.ReadBytes("out/corpi-scaldanti.json");
+        return QJsonDocument::fromJson(QByteArray::fromStdString(bytes)).object();
+    }
+
+    CTempFolder m_folder;
+    std::ostringstream m_out;
+    std::ostringstream m_err;
+};
+
+} // namespace
+
+TEST_F(BatchTest, SampleBuildingGivesFilesThatAgreeWithTheScreen)
+{
+    ASSERT_EQ(Run({}), ExitCode::ok) << m_err.str();
+    EXPECT_EQ(m_err.str(), "");
+
+    int rooms = 0;
+    int unfitting = 0;
+    double output = 0.0;
+    double demand = 0.0;
+    const QJsonValue json = ReadJson();
+    for (const QJsonValue floor : json["floors"].toArray()) {
+        for (const QJsonValue room : floor["rooms"].toArray()) {
+            ++rooms;
+            unfitting += room["status"] == "unfitting" ? 1 : 0;
+            demand += room["demand"].toDouble();
+            const QJsonValue radiator = room["radiator"];
+            output += radiator["output"].toDouble();
+            if (room["status"] == "chosen") {
+                const double required = room["demand"].toDouble() - room["covered"].toDouble();
+                EXPECT_GE(radiator["output"].toDouble(), 0.9 * required);
+                EXPECT_LE(radiator["height"].toDouble(), room["heightMax"].toDouble());
+                EXPECT_LE(radiator["length"].toDouble(), room["lengthMax"].toDouble());
+            }
+        }
+    }
+    EXPECT_EQ(rooms, 18);
+    EXPECT_EQ(unfitting, 2);
+    EXPECT_EQ(json["totals"]["output"].toDouble(), output);
+    EXPECT_EQ(json["totals"]["demand"].toDouble(), demand);
+
+    const std::vector<std::string> lines =
+        Split(m_folder.ReadBytes("out/corpi-scaldanti.csv"), "\r\n");
+    ASSERT_EQ(lines.size(), std::size_t(1 + 18 + 2 + 1 + 1)); // the last one is behind the last end
+    const std::size_t fields = Split(lines[0], ";").size();
+    const std::vector<std::string> total = Split(lines[21], ";");
+    ASSERT_EQ(total.size(), fields);
+    EXPECT_EQ(std::stod(total[15]), output);
+
+    const std::string screen = m_out.str();
+    const std::size_t totalLine = screen.find("Totale dell'edificio");
+    ASSERT_NE(totalLine, std::string::npos);
+    std::istringstream values(
+        screen.substr(totalLine + std::string("Totale dell'edificio").size()));
+    double shownDemand = 0.0, shownRequired = 0.0, shownStandard = 0.0, shownOutput = 0.0;
+    values >> shownDemand >> shownRequired >> shownStandard >> shownOutput;
+    EXPECT_EQ(shownDemand, demand);
+    EXPECT_EQ(shownOutput, output);
+}
+
+TEST_F(BatchTest, ColderSystemNeedsLargerRadiators)
+{
+    const std::vector<CString> room = {L"--room", L"Camera di Nicolò"};
+    ASSERT_EQ(Run(room), ExitCode::ok) << m_err.str();
+    const QJsonValue own = ReadJson();
+    ASSERT_EQ(Run({room[0], room[1], L"--system", L"55/45"}), ExitCode::ok) << m_err.str();
+    const QJsonValue colder = ReadJson();
+
+    const auto standardOutput = [](const QJsonValue& json) {
+        const QJsonArray rooms = json["floors"][0]["rooms"].toArray();
+        EXPECT_EQ(rooms.size(), 1);
+        const QJsonValue chosen = rooms[0]["radiator"];
+        return (chosen.isObject() ? chosen : rooms[0]["nearest"])["outputEN442"].toDouble();
+    };
+    // Factors 0.784 and 0.495: for the same room at least half as much again.
+    EXPECT_GT(standardOutput(colder), 1.5 * standardOutput(own));
+    EXPECT_EQ(colder["system"]["supply"].toDouble(), 55.0);
+}
+
+TEST_F(BatchTest, EachKindOfErrorHasItsOwnCodeAndMessage)
+{
+    m_folder.WriteBytes("bad.json", "{\n}}");
+    m_folder.WriteBytes("file", "");
+    const struct
+    {
+        std::vector<CString> arguments;
+        ExitCode code;
+        CString told;
+    } cases[] = {
+        {{L"--colour"}, ExitCode::wrongArguments, L"--colour"},
+        {{L"--room", L"Cantina"}, ExitCode::wrongArguments, L"\"Cantina\""},
+        {{L"--system", L"40/22"}, ExitCode::wrongArguments, L"\"Bagno degli ospiti\""},
+        {{L"--catalogues", m_folder.Path("none")}, ExitCode::wrongArguments, L"none"},
+        {{L"--building", m_folder.Path("none.json")}, ExitCode::badBuilding, L"none.json"},
+        {{L"--building", m_folder.Path("bad.json")}, ExitCode::badBuilding, L"bad.json: riga 2"},
+        {{L"--output", m_folder.Path("file")}, ExitCode::outputNotWritable, L"file"},
+    };
+    for (const auto& test : cases) {
+        EXPECT_EQ(Run(test.arguments), test.code) << testing::PrintToString(test.arguments);
+        EXPECT_NE(WideFromUtf8(m_err.str()).find(test.told), CString::npos) << m_err.str();
+    }
+    EXPECT_FALSE(m_folder.Exists("out"));
+    EXPECT_NE(m_out.str().find("Totale dell'edificio"), std::string::npos)
+        << "a schedule that cannot be written is still shown";
+}
+
+TEST_F(BatchTest, DamagedCatalogueLeavesTheOtherRoomsTheirs)
+{
+    for (const wchar_t* maker : {L"Valmorena", L"Thörlinger", L"Lindenbrück"}) {
+        const std::string name = "listini/" + Utf8FromWide(maker) + "/hk.tga";
+        std::filesystem::create_directories((m_folder.Root() / name).parent_path());
+        std::filesystem::copy_file(Utf8FromWide(kData + L"/catalogues/" + maker + L"/hk.tga"),
+                                   m_folder.Root() / name);
+    }
+    m_folder.WriteBytes("listini/Altovico/hk.tga", "010;2010-05;Altovico;2026-01\n110;1;orfano\n");
+
+    EXPECT_EQ(Run({L"--catalogues", m_folder.Path("listini")}), ExitCode::badCatalogue);
+    EXPECT_NE(
+        WideFromUtf8(m_out.str()).find(m_folder.Path("listini/Altovico/hk.tga") + L": riga 2: "),
+        CString::npos);
+    EXPECT_EQ(ReadJson()["totals"]["chosen"].toInt(), 12); // three of the fifteen are Altovico's
+}
+
+TEST_F(BatchTest, ScreenThatCannotBeWrittenIsAnError)
+{
+    m_out.setstate(std::ios::badbit);
+    EXPECT_EQ(Run({}), ExitCode::outputNotWritable);
+    EXPECT_TRUE(m_folder.Exists("out/corpi-scaldanti.csv"));
+}

@@ -1,0 +1,151 @@
+#include "workbench/building_json.h"
+
+#include "support/temp_folder.h"
+#include "workbench/json_fields.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const std::string kBuilding = R"({
+  "version": 1,
+  "name": "Casa",
+  "note": ["per chi legge"],
+  "system": { "supply": 70, "return": 55.5 },
+  "clearance": { "floor": 100, "sill": 80 },
+  "floors": [
+    { "name": "Terra", "rooms": [
+      { "name": "Città", "note": 1, "temperature": 20, "demand": 1000, "covered": 150.5,
+        "window": { "sill": 900, "width": 1200 }, "depthMin": 50, "depthMax": 120,
+        "radiator": { "maker": "M", "kind": "K", "product": "P" } },
+      { "name": "Atrio", "temperature": 18, "demand": 0,
+        "wall": { "height": 2000, "width": 600 },
+        "radiator": { "maker": "M2", "kind": "K2", "product": "P2" } }
+    ] }
+  ]
+}
+)";
+
+std::string Replaced(const std::string& from, const std::string& to)
+{
+    std::string text = kBuilding;
+    const std::size_t at = text.find(from);
+    EXPECT_NE(at, std::string::npos) << from;
+    return text.replace(at, from.size(), to);
+}
+
+/// What ReadBuilding complains about, without the path in front; empty if it does not.
+std::string ErrorOf(const std::string& content)
+{
+    const CTempFolder folder;
+    folder.WriteBytes("casa.json", content);
+    const CString path = folder.Path("casa.json");
+    try {
+        ReadBuilding(path);
+        return {};
+    } catch (const CContentException& error) {
+        EXPECT_EQ(error.GetErrorMessage().find(path + L": "), 0u) << error.what();
+        return std::string(error.what()).substr(path.size() + 2);
+    }
+}
+
+} // namespace
+
+TEST(BuildingJson, LimitsFollowFromWindowOrWall)
+{
+    const CTempFolder folder;
+    folder.WriteBytes("casa.json", kBuilding);
+    const CBuilding building = ReadBuilding(folder.Path("casa.json"));
+
+    EXPECT_EQ(building.strName, L"Casa");
+    EXPECT_EQ(building.system.ruecklauf, 55.5);
+    ASSERT_EQ(building.floors.size(), 1u);
+    ASSERT_EQ(building.floors[0].rooms.size(), 2u);
+
+    const CRoom& window = building.floors[0].rooms[0];
+    EXPECT_EQ(window.strName, L"Città");
+    EXPECT_EQ(window.GetLeistung(), 849.5);
+    EXPECT_EQ(window.grenzen.hoeheMax, 720.0); // 900 - 100 - 80
+    EXPECT_EQ(window.grenzen.laengeMax, 1200.0);
+    EXPECT_EQ(window.grenzen.tiefeMin, 50.0);
+    EXPECT_EQ(window.grenzen.tiefeMax, 120.0);
+    EXPECT_EQ(window.strProdukt, L"P");
+
+    const CRoom& wall = building.floors[0].rooms[1];
+    EXPECT_EQ(wall.grenzen.hoeheMax, 1900.0); // 2000 - 100
+    EXPECT_EQ(wall.gedeckt, 0.0);
+    EXPECT_GE(wall.grenzen.tiefeMax, 10000.0);
+}
+
+TEST(BuildingJson, WrongFieldsAreNamedWithTheirRoom)
+{
+    const struct
+    {
+        std::string from, to, message;
+    } cases[] = {
+        {"\"version\": 1", "\"version\": 2",
+         "campo \"version\": il file è di una versione più recente del programma"},
+        {"\"name\": \"Casa\",", "", "campo \"name\": manca"},
+        {"55.5", "70", "campo \"return\": deve essere maggiore di 0 e minore di \"supply\""},
+        {"\"sill\": 80", "\"sill\": -1", "campo \"sill\": -1 è fuori dall'intervallo da 0 a 20000"},
+        {"\"name\": \"Terra\", \"rooms\"", "\"name\": \"Terra\", \"room\"",
+         "piano \"Terra\": campo \"rooms\": manca"},
+        {"\"name\": \"Città\"", "\"name\": 3",
+         "piano \"Terra\", locale 1: campo \"name\": atteso un testo"},
+        {"Città", " ", "piano \"Terra\", locale 1: campo \"name\": il testo è vuoto"},
+        {"Città", "a\\u001b[2J",
+         "piano \"Terra\", locale 1: campo \"name\": il testo contiene caratteri di controllo"},
+        {"Città", "Atrio", "locale \"Atrio\": campo \"name\": il nome è già di un altro locale"},
+        {"\"temperature\": 20", "\"temperature\": 55.5", // no radiator heats above its return
+         "locale \"Città\": campo \"temperature\": 55.5 è fuori dall'intervallo da 0 a 40"},
+        {"\"demand\": 1000", "\"demand\": \"1000\"",
+         "locale \"Città\": campo \"demand\": atteso un numero"},
+        {"\"demand\": 1000", "\"demand\": 1e300",
+         "locale \"Città\": campo \"demand\": 1e+300 è fuori dall'intervallo da 0 a 50000"},
+        {"\"covered\"", "\"coverd\"", "locale \"Città\": campo \"coverd\": campo sconosciuto"},
+        {"\"sill\": 900", "\"sill\": 180",
+         "locale \"Città\": campo \"sill\": non lascia spazio sopra la distanza da terra"},
+        {"\"wall\"", "\"window\": {}, \"wall\"",
+         "locale \"Atrio\": campo \"window\": serve uno solo tra \"window\" e \"wall\""},
+        {"\"depthMin\": 50", "\"depthMin\": 121",
+         "locale \"Città\": campo \"depthMin\": supera \"depthMax\""},
+        {"\"product\": \"P\"", "\"produkt\": \"P\"", "locale \"Città\": campo \"product\": manca"},
+    };
+    for (const auto& test : cases) {
+        EXPECT_EQ(ErrorOf(Replaced(test.from, test.to)), test.message);
+    }
+}
+
+TEST(BuildingJson, RoomNotBelowTheReturnIsRefused)
+{
+    EXPECT_EQ(
+        ErrorOf(Replaced("\"supply\": 70, \"return\": 55.5", "\"supply\": 30, \"return\": 20")),
+        "locale \"Città\": campo \"temperature\": deve essere minore del ritorno, 20 °C");
+}
+
+TEST(BuildingJson, DamagedFileIsToldByLineAndColumn)
+{
+    EXPECT_EQ(ErrorOf(Replaced("\"version\": 1,", "\"version\": 1")).substr(0, 6), "riga 3");
+    // The accent is two bytes and one column.
+    EXPECT_EQ(ErrorOf("{\n \"città\": tru }").substr(0, 18), "riga 2, colonna 15");
+    EXPECT_EQ(ErrorOf(""), "riga 1, colonna 1: non è JSON valido");
+    EXPECT_EQ(ErrorOf("[1]"), "atteso un oggetto { } al livello più alto");
+    EXPECT_EQ(ErrorOf(Replaced("Città", "Citt\xe0")).substr(0, 6), "riga 9");
+}
+
+TEST(BuildingJson, MissingFileIsAnErrorOfTheFile)
+{
+    const CTempFolder folder;
+    for (const CString& path : {folder.Path("nessuno.json"), folder.Path()}) {
+        EXPECT_THROW(ReadBuilding(path), CContentException);
+    }
+}
+
+TEST(BuildingJson, TruncatedFileIsRefused)
+{
+    const CTempFolder folder;
+    for (std::size_t length = 0; length < kBuilding.rfind('}'); length += 5) {
+        folder.WriteBytes("casa.json", kBuilding.substr(0, length));
+        EXPECT_THROW(ReadBuilding(folder.Path("casa.json")), CContentException) << length;
+    }
+}
