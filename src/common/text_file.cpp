@@ -116,6 +116,16 @@ void ReadNarrowLines(CFile& file, CLineCutter& cutter)
     }
 }
 
+/// Makes room for the lines of a whole file at once. Too much costs nothing, since memory that is
+/// never touched is never there; too little only makes the array grow once more.
+void ReserveFor(const CFile& file, CStringArray& lines)
+{
+    constexpr std::uint64_t kShortLine = 32;
+    constexpr std::uint64_t kMostLines = 1 << 24;
+    const std::uint64_t expected = std::min(file.GetLength() / kShortLine, kMostLines);
+    lines.Reserve(lines.GetSize() + static_cast<int>(expected));
+}
+
 void ReadLines(CFile& file, CStringArray& lines, int wideLimit, int narrowLimit)
 {
     if (ReadByteOrderMark(file)) {
@@ -179,6 +189,9 @@ bool IsElementOf(const CStringArray& array, const CString& text)
 
 int ReadTextLines(CFile& file, CStringArray& lines, int limit)
 {
+    if (limit == -1) {
+        ReserveFor(file, lines);
+    }
     ReadLines(file, lines, limit, -1);
     return lines.GetSize();
 }

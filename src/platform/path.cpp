@@ -53,6 +53,5 @@ CString TextFromPath(const fs::path& path)
 
 CString JoinPath(const CString& folder, const CString& name)
 {
-    const bool ended = !folder.empty() && (folder.back() == L'\\' || folder.back() == L'/');
-    return folder + (ended ? L"" : L"\\") + name;
+    return folder + (folder.ends_with(L'\\') ? L"" : L"\\") + name;
 }

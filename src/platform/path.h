@@ -12,6 +12,5 @@ std::filesystem::path ResolvePath(const CString& path);
 /// The text of a system path, with "/" as the separator.
 CString TextFromPath(const std::filesystem::path& path);
 
-/// `folder` and `name` with exactly one "\" between them; a folder that already ends in "\" or "/"
-/// gets none.
+/// `folder` and `name` with a "\" between them, unless the folder already ends in one.
 CString JoinPath(const CString& folder, const CString& name);
