@@ -1,13 +1,8 @@
 #include "frame/entry_points.h"
 
+#include "frame/resource_context.h"
 #include "frame/ventil_kv.h"
-
-namespace {
-
-/// Shorter numbers are no article idents.
-constexpr std::size_t kShortestVentilNr = 30;
-
-} // namespace
+#include "valve/ventil_abruf.h"
 
 bool ShowVentDlg(ConnValues& /*anschluss*/, VDI3805_VENTIL_KV& /*ventilVorlauf*/,
                  VDI3805_VENTIL_KV& /*ventilRuecklauf*/, bool& /*flag1*/, bool& /*flag2*/,
@@ -22,9 +17,10 @@ bool ShowVentVDI3805Dlg(const CString& /*ventilNr*/, const CString& /*hersteller
     return false;
 }
 
-bool VDI3805GetVentilDaten(VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& /*ventil2*/)
+bool VDI3805GetVentilDaten(VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2)
 {
-    return ventil1.VentilNr.size() >= kShortestVentilNr && !ventil1.Hersteller.empty();
+    const CResourceContext context;
+    return HoleVentilDaten(ventil1, ventil2);
 }
 
 void VDI3805GetVentil(const CString& hersteller1, const CString& ventilNr1,

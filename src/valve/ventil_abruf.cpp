@@ -1,0 +1,48 @@
+#include "valve/ventil_abruf.h"
+
+#include "valve/ventil_katalog.h"
+
+namespace {
+
+VDI3805_VENTIL_KV VentilCache1;
+/// Written and never read: a second valve of another kind than the first is searched at each call.
+VDI3805_VENTIL_KV VentilCache2;
+
+bool HatSchluessel(const VDI3805_VENTIL_KV& ventil)
+{
+    return ventil.VentilNr.size() >= kShortestVentilNr && !ventil.Hersteller.empty();
+}
+
+bool GleicherSchluessel(const VDI3805_VENTIL_KV& a, const VDI3805_VENTIL_KV& b)
+{
+    return a.Hersteller == b.Hersteller && a.VentilNr == b.VentilNr;
+}
+
+/// Leaves the record as it is if the valve is not found; callers see that by its tables.
+void Suche(VDI3805_VENTIL_KV& ventil)
+{
+    CVentVdiKatalog katalog;
+    katalog.SucheVentil(ventil.Hersteller, ventil.VentilNr, ventil);
+}
+
+} // namespace
+
+bool HoleVentilDaten(VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2)
+{
+    if (!HatSchluessel(ventil1)) {
+        return false;
+    }
+    if (GleicherSchluessel(ventil1, VentilCache1)) {
+        ventil1 = VentilCache1;
+    } else {
+        Suche(ventil1);
+        VentilCache1 = ventil1;
+    }
+    if (GleicherSchluessel(ventil2, VentilCache1)) {
+        ventil2 = VentilCache1;
+    } else if (HatSchluessel(ventil2)) {
+        Suche(ventil2);
+        VentilCache2 = ventil2;
+    }
+    return true;
+}

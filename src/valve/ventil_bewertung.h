@@ -1,0 +1,34 @@
+#pragma once
+
+#include "frame/ventil_kv.h"
+#include "platform/array.h"
+#include "valve/ventil_nodes.h"
+
+/// Text of a valve kind code, 1 to 11; empty for any other.
+CString VentilArtText(int ventilArt);
+
+/// Fills `ventil` from an article and its data set: nominal data and the kv table in its final
+/// order. `daten` is the "700" node whose number is the article's ident group 15. Key and names of
+/// `ventil` are left alone. A line that lacks a required field raises CInvalidArgException, with
+/// `ventil` filled as far as it came. More than 50 rows, or exactly 50, show the message "MAXKV".
+void BewerteVentil(const VENT_VDI3805_ARTIKEL& artikel, const VENT_VDI3805_DATEN& daten,
+                   VDI3805_VENTIL_KV& ventil);
+
+/// The data set of a group that an article refers to; null if the group has none of that number.
+const VENT_VDI3805_DATEN* SucheDatensatz(const VENT_VDI3805_GRUPPE& gruppe,
+                                         const VENT_VDI3805_ARTIKEL& artikel);
+
+/// Head line of the kv list of a valve with or without bypass.
+CString KvKopfzeile(bool bypass);
+
+/// The rows of a valve's kv table as texts under that head line.
+CStringArray KvZeilen(const VDI3805_VENTIL_KV& ventil, bool bypass);
+
+/// Actuation, body form and material of an article, each "..." where the group has no such text.
+struct VentilTexte
+{
+    CString Antrieb;
+    CString Bauform;
+    CString Werkstoff;
+};
+VentilTexte SucheTexte(const VENT_VDI3805_GRUPPE& gruppe, const VENT_VDI3805_ARTIKEL& artikel);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+/// What the fuzz targets and their replay in the tests run over arbitrary bytes. Exceptions of the
+/// framework are part of the bargain and stay inside; anything else that leaves is a fault.
+
+/// The bytes as a maker's valve file: loads it and evaluates every article.
+void RunVentilKatalog(std::span<const std::uint8_t> bytes);
+
+/// The bytes as a radiator catalogue: parses it and builds the rows of every product.
+void RunCatalogue(std::span<const std::uint8_t> bytes);
+
+/// The bytes as an archive of a record. The first byte chooses the record, and whether the rest is
+/// the whole archive or the payload of a sound one.
+void RunArchive(std::span<const std::uint8_t> bytes);
+
+/// The bytes as a line file: its lines, written and read again, are the same.
+void RunTextFile(std::span<const std::uint8_t> bytes);
+
+/// Throws std::logic_error with this text unless `holds`.
+void Require(bool holds, const char* what);
