@@ -23,7 +23,8 @@ bool CRatioReporter::PrintTable(const std::vector<RatioLine>& lines) const
                 "reach");
     bool reached = true;
     for (const RatioLine& line : lines) {
-        if (!m_medians.contains(line.key + "/measured")) {
+        if (!m_medians.contains(line.key + "/measured") ||
+            !m_medians.contains(line.key + "/floor")) {
             continue; // left out by a filter on the command line
         }
         const double measured = m_medians.at(line.key + "/measured");
