@@ -41,7 +41,7 @@ public:
     int Einstellbar;
     /// Nominal diameter.
     double DN;
-    /// Valve kind code, 1 to 11.
+    /// Valve kind code as the catalogue states it; 1 to 11 are known.
     int VentilArt;
     /// 1 marks a valve with a bypass.
     int VentilTyp;
@@ -55,7 +55,8 @@ public:
     /// A text of the data set, carried for the host.
     CString Zusatz;
 
-    /// Count of valid rows in the tables, which run in parallel; the places behind are not valid.
+    /// Count of valid rows in the tables, which run in parallel; the places behind are not valid
+    /// and may hold what stood there before.
     int AnzahlKv;
     Table Xp;
     /// Bypass valves only, else 0: kv of the bypass and through the radiator in m³/h, and the share

@@ -5,7 +5,7 @@
 namespace {
 
 VDI3805_VENTIL_KV VentilCache1;
-/// Written and never read: a second valve of another kind than the first is searched at each call.
+/// Written and never read: a second valve with another key than the first is searched at each call.
 VDI3805_VENTIL_KV VentilCache2;
 
 bool HatSchluessel(const VDI3805_VENTIL_KV& ventil)

@@ -5,6 +5,7 @@
 #include "platform/format.h"
 #include "platform/message.h"
 #include "platform/numbers.h"
+#include "valve/ventil_texte.h"
 
 #include <algorithm>
 #include <array>
@@ -143,9 +144,9 @@ private:
         return i > 0 && m_ventil.Einstellung[i] == m_ventil.Einstellung[i - 1];
     }
 
-    /// A row with a name in place of a number gets a number above all others. Only the first half
-    /// of the rows is looked at: makers name the widest position, and tables that begin with it are
-    /// the ones that lack its number.
+    /// A named row without a presetting of its own gets one above all others. Only the first half
+    /// of the rows is looked at, and that limit is meant to stay: catalogues are maintained against
+    /// it.
     void ErsetzeBenannte()
     {
         for (std::size_t i = 0; i < Platz(m_ventil.AnzahlKv / 2); ++i) {
@@ -199,26 +200,6 @@ CString KvBypassZeile(const VDI3805_VENTIL_KV& ventil, std::size_t i)
 
 } // namespace
 
-CString VentilArtText(int ventilArt)
-{
-    // The text of code 1 is that of code 2: makers use both for the same valves.
-    static constexpr std::array<const wchar_t*, kGroessteVentilArt + 1> kTexte = {
-        L"",
-        L"preregolati e non preregolati (p.e. ritorno)",
-        L"preregolati e non preregolati (p.e. ritorno)",
-        L"Attacco monotubo per valvole C.S. a piastra",
-        L"valvola taratura manuale (pdc regolabile)",
-        L"Regolatore di pressione differenziale",
-        L"Controllore di flusso",
-        L"Regolatore di portata",
-        L"Regolatore di portata con differenziale pressione",
-        L"Regolatore pressione differenziale CON Limitatore di portata",
-        L"Regolatore pressione differenziale E Limitatore di portata",
-        L"PdC localizzata(p.e. Saracinesca di chiusura)"};
-    const bool known = ventilArt >= 1 && ventilArt <= kGroessteVentilArt;
-    return known ? kTexte[Platz(ventilArt)] : L"";
-}
-
 void BewerteVentil(const VENT_VDI3805_ARTIKEL& artikel, const VENT_VDI3805_DATEN& daten,
                    VDI3805_VENTIL_KV& ventil)
 {
@@ -251,9 +232,7 @@ const VENT_VDI3805_DATEN* SucheDatensatz(const VENT_VDI3805_GRUPPE& gruppe,
 
 CString KvKopfzeile(bool bypass)
 {
-    // The first text lacks its closing bracket in the texts that designers know.
-    return bypass ? L"xp       Regolazione  kv-Bypass[m³/h]   kv-HK[m³/h]   %"
-                  : L"xp       Regolazione           kv[m³/h]           kvs[m³/h";
+    return VentilString(bypass ? 120 : 119);
 }
 
 CStringArray KvZeilen(const VDI3805_VENTIL_KV& ventil, bool bypass)

@@ -4,13 +4,14 @@
 #include "platform/array.h"
 #include "valve/ventil_nodes.h"
 
-/// Text of a valve kind code, 1 to 11; empty for any other.
-CString VentilArtText(int ventilArt);
-
 /// Fills `ventil` from an article and its data set: nominal data and the kv table in its final
 /// order. `daten` is the "700" node whose number is the article's ident group 15. Key and names of
-/// `ventil` are left alone. A line that lacks a required field raises CInvalidArgException, with
-/// `ventil` filled as far as it came. More than 50 rows, or exactly 50, show the message "MAXKV".
+/// `ventil` are left alone.
+///
+/// A data set that is the last node of its list leaves the tables and VentilTyp as they stand, with
+/// AnzahlKv 0; a kind code above 11 leaves the tables zero. When the table is full at 50 rows,
+/// repeated presettings not counted, the message "MAXKV" is shown. A line that lacks a required
+/// field raises CInvalidArgException, with `ventil` filled as far as it came.
 void BewerteVentil(const VENT_VDI3805_ARTIKEL& artikel, const VENT_VDI3805_DATEN& daten,
                    VDI3805_VENTIL_KV& ventil);
 

@@ -7,6 +7,7 @@
 #include "support/temp_folder.h"
 #include "support/ventil_baum.h"
 #include "valve/ventil_bewertung.h"
+#include "valve/ventil_texte.h"
 
 #include <stdexcept>
 #include <string>

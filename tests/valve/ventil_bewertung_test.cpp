@@ -1,4 +1,5 @@
 #include "valve/ventil_bewertung.h"
+#include "valve/ventil_texte.h"
 
 #include "platform/exception.h"
 #include "support/message_log.h"
