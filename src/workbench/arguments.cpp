@@ -16,6 +16,7 @@ struct TextOption
 constexpr TextOption kTextOptions[] = {
     {L"--building", &CArguments::strBuilding},
     {L"--catalogues", &CArguments::strCatalogues},
+    {L"--valve-catalogues", &CArguments::strValveCatalogues},
     {L"--output", &CArguments::strOutput},
     {L"--room", &CArguments::strRoom},
 };
@@ -79,6 +80,8 @@ CArguments ParseArguments(const std::vector<CString>& arguments)
         const CString name = argument.substr(0, equals);
         if (argument == L"--help") {
             result.bHelp = true;
+        } else if (argument == L"--valves") {
+            result.bValves = true;
         } else if (argument == L"--batch") {
             continue;
         } else if (!TakesValue(name)) {
@@ -113,14 +116,18 @@ std::optional<CHeatingSystem> ParseHeatingSystem(const CString& text)
 
 CString GetHelpText()
 {
-    return LR"(Sceglie un corpo scaldante per ogni locale di un edificio, dai cataloghi dei produttori.
+    return LR"(Sceglie un corpo scaldante per ogni locale di un edificio e le sue valvole di mandata e di ritorno,
+dai cataloghi dei produttori.
 
 Opzioni:
   --building FILE    edificio da calcolare (formato: docs/building-format.md)
   --catalogues DIR   cartella dei cataloghi, una sottocartella per produttore
+  --valve-catalogues DIR
+                     cartella delle valvole, una sottocartella per produttore
   --system M/R       temperature di mandata e ritorno in °C, per esempio 75/65, 55/45 o 45/35;
                      senza l'opzione valgono quelle dell'edificio
   --room NOME        calcola soltanto questo locale
+  --valves           mostra anche le tabelle kv delle valvole
   --output DIR       cartella dei risultati (corpi-scaldanti.csv e corpi-scaldanti.json)
   --batch            calcola senza finestre; al momento è l'unico modo
   --help             mostra questo testo
@@ -128,11 +135,12 @@ Opzioni:
 I percorsi relativi partono dalla cartella corrente. Un'opzione ripetuta vale come scritta per ultima.
 
 Codici di uscita:
-  0  eseguito; i locali senza un corpo scaldante adatto sono segnalati nell'elenco
+  0  eseguito; i locali senza un corpo scaldante adatto e le valvole non trovate sono
+     segnalati nell'elenco
   1  errore imprevisto
   2  argomenti errati
   3  edificio illeggibile o errato
-  4  catalogo danneggiato o illeggibile; gli altri locali sono calcolati ugualmente
+  4  catalogo o file di valvole danneggiato o illeggibile; gli altri locali sono calcolati ugualmente
   5  risultati non scrivibili
 )";
 }

@@ -11,9 +11,13 @@
 struct CArguments
 {
     bool bHelp = false;
+    /// The schedule on the screen shows the kv tables of the valves as well.
+    bool bValves = false;
     CString strBuilding;
     /// Empty: the folder of the host's settings.
     CString strCatalogues;
+    /// The same for the valves.
+    CString strValveCatalogues;
     CString strOutput = L"out";
     /// Empty: every room.
     CString strRoom;

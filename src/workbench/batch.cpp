@@ -32,6 +32,20 @@ void SetCatalogueFolder(const CArguments& arguments)
     }
 }
 
+/// A building without valves needs no folder of them.
+void SetValveFolder(const CArguments& arguments, const CBuilding& building)
+{
+    if (!arguments.strValveCatalogues.empty()) {
+        OverrideHostSetting(kSettingVEDir, arguments.strValveCatalogues);
+    }
+    std::error_code error;
+    if (HasValves(building) &&
+        !std::filesystem::is_directory(ResolvePath(GetVEDir(false)), error)) {
+        throw CArgumentException(L"--valve-catalogues: la cartella delle valvole non esiste: " +
+                                 GetVEDir(false));
+    }
+}
+
 CBuilding LoadBuilding(const CArguments& arguments)
 {
     CBuilding building = ReadBuilding(arguments.strBuilding);
@@ -83,14 +97,15 @@ ExitCode Show(const CString& text, ExitCode code, std::ostream& out, std::ostrea
 }
 
 /// The files come first: a reader of `out` that goes away ends the process.
-ExitCode Deliver(const CSchedule& schedule, const CString& folder, std::ostream& out,
+ExitCode Deliver(const CSchedule& schedule, const CArguments& arguments, std::ostream& out,
                  std::ostream& err)
 {
     ExitCode code = schedule.HasBadCatalogue() ? ExitCode::badCatalogue : ExitCode::ok;
-    CString text = FormatScheduleText(schedule);
+    CString text = FormatScheduleText(schedule, arguments.bValves);
     try {
-        WriteSchedule(schedule, folder);
-        text += L"Scritti " + CString(kCsvName) + L" e " + kJsonName + L" in " + folder + L"\n";
+        WriteSchedule(schedule, arguments.strOutput);
+        text += L"Scritti " + CString(kCsvName) + L" e " + kJsonName + L" in " +
+                arguments.strOutput + L"\n";
     } catch (const CFileException& error) {
         code = Report(err, L"risultati non scrivibili: " + error.GetErrorMessage(),
                       ExitCode::outputNotWritable);
@@ -104,7 +119,9 @@ ExitCode Run(const CArguments& arguments, std::ostream& out, std::ostream& err)
         return Show(GetHelpText(), ExitCode::ok, out, err);
     }
     SetCatalogueFolder(arguments);
-    return Deliver(MakeSchedule(LoadBuilding(arguments)), arguments.strOutput, out, err);
+    const CBuilding building = LoadBuilding(arguments);
+    SetValveFolder(arguments, building);
+    return Deliver(MakeSchedule(building), arguments, out, err);
 }
 
 } // namespace

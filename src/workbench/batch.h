@@ -16,8 +16,9 @@ enum class ExitCode
     outputNotWritable = 5,
 };
 
-/// The run without windows: chooses a radiator for every room, writes the schedule to the output
-/// folder as CSV and JSON and shows it on `out`; errors go to `err`. `arguments` are those behind
-/// the program's name. Both streams get UTF-8 whatever the locale. The catalogue folder of the
-/// arguments stays in force for the process.
+/// The run without windows: chooses a radiator for every room, fetches its valves, writes the
+/// schedule to the output folder as CSV and JSON and shows it on `out`; errors go to `err`.
+/// `arguments` are those behind the program's name. Both streams get UTF-8 whatever the locale. The
+/// catalogue folders of the arguments stay in force for the process, and the lines of valve files
+/// that were read stay as they were.
 ExitCode RunBatch(const std::vector<CString>& arguments, std::ostream& out, std::ostream& err);

@@ -1,5 +1,7 @@
 #include "workbench/building.h"
 
+#include <algorithm>
+
 bool CHeatingSystem::IsPlausible() const
 {
     return ruecklauf > 0.0 && ruecklauf < vorlauf && vorlauf <= 110.0;
@@ -15,6 +17,16 @@ const CRoom* FindRoomTooWarm(const CBuilding& building)
         }
     }
     return nullptr;
+}
+
+bool HasValves(const CBuilding& building)
+{
+    const auto hasValve = [](const CRoom& room) {
+        return room.ventile.vorlauf || room.ventile.ruecklauf;
+    };
+    return std::any_of(building.floors.begin(), building.floors.end(), [&](const CFloor& floor) {
+        return std::any_of(floor.rooms.begin(), floor.rooms.end(), hasValve);
+    });
 }
 
 bool KeepRoom(CBuilding& building, const CString& name)

@@ -2,6 +2,7 @@
 
 #include "platform/text.h"
 
+#include <optional>
 #include <vector>
 
 /// Design temperatures of the heating water in degrees Celsius.
@@ -24,7 +25,21 @@ struct CSizeLimits
     double tiefeMax = 0.0;
 };
 
-/// A room and the product that the designer wishes for it.
+/// A valve in the catalogues: the folder name of its maker and its ident of 36 digits.
+struct CValveKey
+{
+    CString strHersteller;
+    CString strVentilNr;
+};
+
+/// The valves of a radiator, as far as it gets any.
+struct CValveKeys
+{
+    std::optional<CValveKey> vorlauf;
+    std::optional<CValveKey> ruecklauf;
+};
+
+/// A room and the products that the designer wishes for it.
 struct CRoom
 {
     CString strName;
@@ -36,6 +51,7 @@ struct CRoom
     CString strHersteller;
     CString strArt;
     CString strProdukt;
+    CValveKeys ventile;
 
     /// Output that the radiator has to give at design temperatures; 0 or less if none is needed.
     double GetLeistung() const { return bedarf - gedeckt; }
@@ -58,6 +74,9 @@ struct CBuilding
 /// The first room whose air is not colder than the returning water, which no radiator can heat;
 /// null if there is none.
 const CRoom* FindRoomTooWarm(const CBuilding& building);
+
+/// True if any room is to have a valve.
+bool HasValves(const CBuilding& building);
 
 /// Leaves the room of that name and its floor only. False if there is none, and then the building
 /// stays as it was.

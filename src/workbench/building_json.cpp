@@ -13,6 +13,9 @@ constexpr int kFormatVersion = 1;
 constexpr double kLargestLength = 20000.0;
 constexpr double kLargestDemand = 50000.0;
 
+/// The module never searches for shorter valve numbers.
+constexpr std::size_t kShortestVentilNr = 30;
+
 /// Stands for "no limit" on a depth.
 constexpr double kAnyDepth = kLargestLength;
 
@@ -71,25 +74,70 @@ void ReadProduct(CJsonFields fields, CRoom& room)
     fields.RefuseUnknown();
 }
 
-CRoom ReadRoom(CJsonFields fields, const CHeatingSystem& system, const Clearance& clearance)
+CValveKey ReadValve(CJsonFields fields)
+{
+    CValveKey key;
+    key.strHersteller = fields.Text("maker");
+    key.strVentilNr = fields.Text("number");
+    fields.RefuseUnknown();
+    if (key.strVentilNr.size() < kShortestVentilNr) {
+        fields.Fail(L"number", L"ha " + FormatInt(static_cast<long long>(key.strVentilNr.size())) +
+                                   L" caratteri, ne servono almeno " +
+                                   FormatInt(kShortestVentilNr));
+    }
+    return key;
+}
+
+/// Changes `key` if the object says anything about that valve.
+void ReadValveOver(CJsonFields& valves, const char* name, std::optional<CValveKey>& key)
+{
+    if (valves.TakeNull(name)) {
+        key.reset();
+    } else if (valves.Has(name)) {
+        key = ReadValve(valves.Object(name));
+    }
+}
+
+/// The valves that an object asks for, and those of `fallback` where it says nothing.
+CValveKeys ReadValves(CJsonFields& owner, CValveKeys fallback)
+{
+    if (owner.Has("valves")) {
+        CJsonFields valves = owner.Object("valves");
+        ReadValveOver(valves, "supply", fallback.vorlauf);
+        ReadValveOver(valves, "return", fallback.ruecklauf);
+        valves.RefuseUnknown();
+    }
+    return fallback;
+}
+
+/// What all rooms of a building have in common.
+struct Common
+{
+    CHeatingSystem system;
+    Clearance clearance;
+    CValveKeys valves;
+};
+
+CRoom ReadRoom(CJsonFields fields, const Common& common)
 {
     CRoom room;
     room.strName = fields.Text("name");
     fields.SetPlace(L"locale \"" + room.strName + L"\"");
     room.raumtemperatur = fields.Number("temperature", 0.0, 40.0);
-    if (room.raumtemperatur >= system.ruecklauf) {
-        fields.Fail(L"temperature",
-                    L"deve essere minore del ritorno, " + FormatExact(system.ruecklauf) + L" °C");
+    if (room.raumtemperatur >= common.system.ruecklauf) {
+        fields.Fail(L"temperature", L"deve essere minore del ritorno, " +
+                                        FormatExact(common.system.ruecklauf) + L" °C");
     }
     room.bedarf = fields.Number("demand", 0.0, kLargestDemand);
     room.gedeckt = fields.NumberOr("covered", 0.0, kLargestDemand, 0.0);
-    ReadPlace(fields, clearance, room.grenzen);
+    ReadPlace(fields, common.clearance, room.grenzen);
     room.grenzen.tiefeMin = fields.NumberOr("depthMin", 0.0, kLargestLength, 0.0);
     room.grenzen.tiefeMax = fields.NumberOr("depthMax", 0.0, kLargestLength, kAnyDepth);
     if (room.grenzen.tiefeMin > room.grenzen.tiefeMax) {
         fields.Fail(L"depthMin", L"supera \"depthMax\"");
     }
     ReadProduct(fields.Object("radiator"), room);
+    room.ventile = ReadValves(fields, common.valves);
     fields.RefuseUnknown();
     return room;
 }
@@ -100,8 +148,7 @@ CString PlaceInList(const CString& what, qsizetype index)
     return what + L" " + FormatInt(index + 1);
 }
 
-CFloor ReadFloor(CJsonFields fields, const CString& file, const CBuilding& building,
-                 const Clearance& clearance)
+CFloor ReadFloor(CJsonFields fields, const CString& file, const Common& common)
 {
     CFloor floor;
     floor.strName = fields.Text("name");
@@ -109,8 +156,7 @@ CFloor ReadFloor(CJsonFields fields, const CString& file, const CBuilding& build
     const QJsonArray rooms = fields.Objects("rooms");
     for (qsizetype i = 0; i < rooms.size(); ++i) {
         const CString place = L"piano \"" + floor.strName + L"\", " + PlaceInList(L"locale", i);
-        floor.rooms.push_back(
-            ReadRoom(CJsonFields(rooms[i].toObject(), file, place), building.system, clearance));
+        floor.rooms.push_back(ReadRoom(CJsonFields(rooms[i].toObject(), file, place), common));
     }
     fields.RefuseUnknown();
     return floor;
@@ -140,13 +186,13 @@ CBuilding ReadBuilding(const CString& path)
     CBuilding building;
     building.strName = fields.Text("name");
     building.system = ReadSystem(fields.Object("system"));
-    const Clearance clearance = ReadClearance(fields.Object("clearance"));
+    const Common common = {building.system, ReadClearance(fields.Object("clearance")),
+                           ReadValves(fields, {})};
     const QJsonArray floors = fields.Objects("floors");
     fields.RefuseUnknown();
     for (qsizetype i = 0; i < floors.size(); ++i) {
-        building.floors.push_back(
-            ReadFloor(CJsonFields(floors[i].toObject(), path, PlaceInList(L"piano", i)), path,
-                      building, clearance));
+        building.floors.push_back(ReadFloor(
+            CJsonFields(floors[i].toObject(), path, PlaceInList(L"piano", i)), path, common));
     }
     RefuseDuplicates(building, path);
     return building;

@@ -90,6 +90,11 @@ CJsonFields::CJsonFields(const QJsonObject& object, const CString& file, const C
 {
 }
 
+bool CJsonFields::TakeNull(const char* name)
+{
+    return Has(name) && Take(name).isNull();
+}
+
 CString CJsonFields::Text(const char* name)
 {
     const QJsonValue value = Take(name);

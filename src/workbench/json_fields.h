@@ -27,6 +27,9 @@ public:
 
     bool Has(const char* name) const { return m_object.contains(QLatin1String(name)); }
 
+    /// True if the field is there and stands for nothing; it then counts as asked for.
+    bool TakeNull(const char* name);
+
     /// A text that is not blank and holds no control characters.
     CString Text(const char* name);
 

@@ -2,6 +2,19 @@
 
 #include <algorithm>
 
+namespace {
+
+CScheduleRow MakeRow(const CRoom& room, const CHeatingSystem& system)
+{
+    CScheduleRow row{room, SelectRadiator(room, system), {}};
+    if (row.outcome.status == RoomStatus::chosen) {
+        row.ventile = FetchValves(room.ventile);
+    }
+    return row;
+}
+
+} // namespace
+
 void CScheduleTotals::Add(const CScheduleRow& row)
 {
     ++nRooms;
@@ -32,7 +45,9 @@ void CScheduleTotals::Add(const CScheduleTotals& other)
 bool CSchedule::HasBadCatalogue() const
 {
     const auto isBad = [](const CScheduleRow& row) {
-        return row.outcome.status == RoomStatus::badCatalogue;
+        return row.outcome.status == RoomStatus::badCatalogue ||
+               row.ventile.vorlauf.status == ValveStatus::badFile ||
+               row.ventile.ruecklauf.status == ValveStatus::badFile;
     };
     return std::any_of(floors.begin(), floors.end(), [&](const CScheduleFloor& floor) {
         return std::any_of(floor.rows.begin(), floor.rows.end(), isBad);
@@ -48,7 +63,7 @@ CSchedule MakeSchedule(const CBuilding& building)
         CScheduleFloor result;
         result.strName = floor.strName;
         for (const CRoom& room : floor.rooms) {
-            result.rows.push_back({room, SelectRadiator(room, building.system)});
+            result.rows.push_back(MakeRow(room, building.system));
             result.totals.Add(result.rows.back());
         }
         schedule.totals.Add(result.totals);

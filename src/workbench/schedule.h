@@ -2,6 +2,7 @@
 
 #include "workbench/building.h"
 #include "workbench/room_selection.h"
+#include "workbench/valve_selection.h"
 
 #include <vector>
 
@@ -9,6 +10,8 @@ struct CScheduleRow
 {
     CRoom room;
     CRoomOutcome outcome;
+    /// Only a chosen radiator gets valves.
+    CRoomValves ventile;
 };
 
 /// Sums over rooms, in watts and litres. Outputs and water count chosen radiators only, so that an
@@ -44,10 +47,11 @@ struct CSchedule
     std::vector<CScheduleFloor> floors;
     CScheduleTotals totals;
 
+    /// True if the file of any radiator or valve could not be read.
     bool HasBadCatalogue() const;
 };
 
-/// Chooses a radiator for every room of the building.
+/// Chooses a radiator for every room of the building and fetches its valves.
 CSchedule MakeSchedule(const CBuilding& building);
 
 /// Output that the room asks of its radiator: never below 0.

@@ -1,5 +1,7 @@
 #include "workbench/schedule_json.h"
 
+#include "workbench/valve_json.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -64,6 +66,9 @@ QJsonObject MakeRoom(const CScheduleRow& row)
         object.insert(outcome.status == RoomStatus::chosen ? "radiator" : "nearest",
                       MakeRadiator(*outcome.radiator, GetRequired(room)));
     }
+    if (const QJsonObject valves = MakeValvesJson(row.ventile); !valves.isEmpty()) {
+        object.insert("valves", valves);
+    }
     if (!outcome.strNote.empty()) {
         object.insert("note", Text(outcome.strNote));
     }
@@ -106,6 +111,7 @@ std::string FormatScheduleJson(const CSchedule& schedule)
                               {"building", Text(schedule.strBuilding)},
                               {"system", system},
                               {"floors", floors},
-                              {"totals", MakeTotals(schedule.totals)}};
+                              {"totals", MakeTotals(schedule.totals)},
+                              {"valves", MakeValveBillJson(MakeValveBill(schedule))}};
     return QJsonDocument(root).toJson().toStdString();
 }

@@ -2,6 +2,7 @@
 
 #include "platform/format.h"
 #include "workbench/text_columns.h"
+#include "workbench/valve_text.h"
 
 namespace {
 
@@ -71,7 +72,20 @@ std::vector<CString> MakeTotalCells(const CString& name, const CScheduleTotals& 
             FormatFixed(totals.inhalt, 1)};
 }
 
-void AddFloor(CTextColumns& table, const CScheduleFloor& floor)
+void AddValves(CTextColumns& table, const CRoomValves& valves, bool kvTables)
+{
+    for (const CString& line : FormatValves(valves)) {
+        table.AddLine(line);
+    }
+    if (!kvTables) {
+        return;
+    }
+    for (const CString& line : FormatKvTables(valves)) {
+        table.AddLine(line);
+    }
+}
+
+void AddFloor(CTextColumns& table, const CScheduleFloor& floor, bool kvTables)
 {
     table.AddLine(floor.strName);
     for (const CScheduleRow& row : floor.rows) {
@@ -80,6 +94,7 @@ void AddFloor(CTextColumns& table, const CScheduleFloor& floor)
             table.AddLine(L"    " + GetStatusText(row.outcome.status) + L": " +
                           row.outcome.strNote);
         }
+        AddValves(table, row.ventile, kvTables);
     }
     table.AddRow(MakeTotalCells(L"Totale del piano", floor.totals));
     table.AddRule();
@@ -95,15 +110,17 @@ CString FormatSummary(const CScheduleTotals& totals)
 
 } // namespace
 
-CString FormatScheduleText(const CSchedule& schedule)
+CString FormatScheduleText(const CSchedule& schedule, bool kvTables)
 {
     CTextColumns table(MakeColumns());
     for (const CScheduleFloor& floor : schedule.floors) {
-        AddFloor(table, floor);
+        AddFloor(table, floor, kvTables);
     }
     table.AddRow(MakeTotalCells(L"Totale dell'edificio", schedule.totals));
+    const CString bill = FormatValveBill(MakeValveBill(schedule));
     return L"Corpi scaldanti: " + schedule.strBuilding + L", sistema " +
            FormatExact(schedule.system.vorlauf) + L"/" + FormatExact(schedule.system.ruecklauf) +
            L" °C\nFabbisogno, richiesta e resa in W; altezza x profondità x lunghezza in mm\n\n" +
-           table.Format() + L"\n" + FormatSummary(schedule.totals);
+           table.Format() + L"\n" + (bill.empty() ? bill : bill + L"\n") +
+           FormatSummary(schedule.totals);
 }

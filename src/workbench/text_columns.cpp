@@ -45,7 +45,21 @@ CString Printable(CString text)
     return text;
 }
 
-CString Shortened(const CString& text, int width)
+CString WithoutEndBlanks(CString text)
+{
+    text.erase(text.find_last_not_of(L' ') + 1);
+    return text;
+}
+
+} // namespace
+
+int GetDisplayWidth(const CString& text)
+{
+    return std::accumulate(text.begin(), text.end(), 0,
+                           [](int sum, wchar_t c) { return sum + CharWidth(c); });
+}
+
+CString ShortenToWidth(const CString& text, int width)
 {
     if (GetDisplayWidth(text) <= width) {
         return text;
@@ -62,32 +76,18 @@ CString Shortened(const CString& text, int width)
     return result + L'…';
 }
 
-CString Padded(const CString& text, int width, bool right)
+CString PadToWidth(const CString& text, int width, bool right)
 {
     const CString blanks(static_cast<std::size_t>(std::max(0, width - GetDisplayWidth(text))),
                          L' ');
     return right ? blanks + text : text + blanks;
 }
 
-CString WithoutEndBlanks(CString text)
-{
-    text.erase(text.find_last_not_of(L' ') + 1);
-    return text;
-}
-
-} // namespace
-
-int GetDisplayWidth(const CString& text)
-{
-    return std::accumulate(text.begin(), text.end(), 0,
-                           [](int sum, wchar_t c) { return sum + CharWidth(c); });
-}
-
 void CTextColumns::AddRow(const std::vector<CString>& cells)
 {
     Line line{Kind::cells, {}};
     for (std::size_t i = 0; i < m_columns.size(); ++i) {
-        line.cells.push_back(Shortened(Printable(cells.at(i)), m_columns[i].nMaxWidth));
+        line.cells.push_back(ShortenToWidth(Printable(cells.at(i)), m_columns[i].nMaxWidth));
     }
     m_lines.push_back(std::move(line));
 }
@@ -128,7 +128,7 @@ CString CTextColumns::Format() const
     const auto formatCells = [&](const auto& textOf) {
         CString text;
         for (std::size_t i = 0; i < widths.size(); ++i) {
-            text += (i == 0 ? L"" : kGap) + Padded(textOf(i), widths[i], m_columns[i].bRight);
+            text += (i == 0 ? L"" : kGap) + PadToWidth(textOf(i), widths[i], m_columns[i].bRight);
         }
         return WithoutEndBlanks(text) + L'\n';
     };

@@ -8,6 +8,12 @@
 /// two.
 int GetDisplayWidth(const CString& text);
 
+/// The text, cut to end in "…" if it takes more than `width` places.
+CString ShortenToWidth(const CString& text, int width);
+
+/// The text with blanks in front (`right`) or behind, up to `width` places.
+CString PadToWidth(const CString& text, int width, bool right = false);
+
 struct CTextColumn
 {
     CString strHeading;

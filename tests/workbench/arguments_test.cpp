@@ -18,11 +18,14 @@ std::optional<CString> ErrorOf(const std::vector<CString>& arguments)
 
 TEST(Arguments, EveryOptionIsRead)
 {
-    const CArguments arguments = ParseArguments(
-        {L"--batch", L"--building", L"casa.json", L"--catalogues=listini", L"--system", L"55,5/45",
-         L"--room", L"Città = bagno", L"--output", L"risultati"});
+    const CArguments arguments =
+        ParseArguments({L"--batch", L"--building", L"casa.json", L"--catalogues=listini",
+                        L"--system", L"55,5/45", L"--room", L"Città = bagno", L"--output",
+                        L"risultati", L"--valves", L"--valve-catalogues", L"valvole"});
     EXPECT_EQ(arguments.strBuilding, L"casa.json");
     EXPECT_EQ(arguments.strCatalogues, L"listini");
+    EXPECT_EQ(arguments.strValveCatalogues, L"valvole");
+    EXPECT_TRUE(arguments.bValves);
     EXPECT_EQ(arguments.strRoom, L"Città = bagno");
     EXPECT_EQ(arguments.strOutput, L"risultati");
     ASSERT_TRUE(arguments.system);
@@ -55,6 +58,8 @@ TEST(Arguments, ErrorsNameTheArgument)
         {{L"--building", L"a.json", L"--rooms", L"Bagno"}, L"--rooms"},
         {{L"--building", L"a.json", L"altro.json"}, L"altro.json"},
         {{L"--building", L"a.json", L"--help=si"}, L"--help=si"},
+        {{L"--building", L"a.json", L"--valves=si"}, L"--valves=si"},
+        {{L"--building", L"a.json", L"--valve-catalogues"}, L"--valve-catalogues"},
         {{L"--building", L"a.json", L"--system", L"45/55"}, L"45/55"},
     };
     for (const auto& test : cases) {

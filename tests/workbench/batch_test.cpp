@@ -3,6 +3,7 @@
 #include "platform/encoding.h"
 #include "support/temp_folder.h"
 #include "workbench/host_prefs/host_settings.h"
+#include "workbench/text_columns.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -10,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <sstream>
 
 namespace {
@@ -33,14 +36,18 @@ std::vector<std::string> Split(const std::string& text, const std::string& separ
 class BatchTest : public testing::Test
 {
 protected:
-    ~BatchTest() override { ClearHostSettingOverride(kSettingHKDir); }
+    ~BatchTest() override
+    {
+        ClearHostSettingOverride(kSettingHKDir);
+        ClearHostSettingOverride(kSettingVEDir);
+    }
 
     /// Runs over the sample data; `more` arguments win over these.
     ExitCode Run(const std::vector<CString>& more)
     {
-        std::vector<CString> arguments = {L"--building",   kSampleBuilding,
-                                          L"--catalogues", kData + L"/catalogues",
-                                          L"--output",     m_folder.Path("out")};
+        std::vector<CString> arguments = {
+            L"--building",         kSampleBuilding,    L"--catalogues", kData + L"/catalogues",
+            L"--valve-catalogues", kData + L"/valves", L"--output",     m_folder.Path("out")};
         arguments.insert(arguments.end(), more.begin(), more.end());
         m_out.str({});
         m_err.str({});
@@ -67,6 +74,7 @@ TEST_F(BatchTest, SampleBuildingGivesFilesThatAgreeWithTheScreen)
 
     int rooms = 0;
     int unfitting = 0;
+    int valves = 0;
     double output = 0.0;
     double demand = 0.0;
     const QJsonValue json = ReadJson();
@@ -77,6 +85,9 @@ TEST_F(BatchTest, SampleBuildingGivesFilesThatAgreeWithTheScreen)
             demand += room["demand"].toDouble();
             const QJsonValue radiator = room["radiator"];
             output += radiator["output"].toDouble();
+            for (const QJsonValue valve : room["valves"].toObject()) {
+                valves += valve["status"] == "found" ? 1 : 0;
+            }
             if (room["status"] == "chosen") {
                 const double required = room["demand"].toDouble() - room["covered"].toDouble();
                 EXPECT_GE(radiator["output"].toDouble(), 0.9 * required);
@@ -88,6 +99,14 @@ TEST_F(BatchTest, SampleBuildingGivesFilesThatAgreeWithTheScreen)
     EXPECT_EQ(rooms, 18);
     EXPECT_EQ(unfitting, 2);
     EXPECT_EQ(json["totals"]["output"].toDouble(), output);
+    int ordered = 0;
+    for (const QJsonValue item : json["valves"].toArray()) {
+        ordered += item["count"].toInt();
+    }
+    // Fifteen radiators with two valves each, less two with a built-in valve, one with a single
+    // pipe and one whose supply valve no file knows.
+    EXPECT_EQ(valves, 26);
+    EXPECT_EQ(ordered, valves);
     EXPECT_EQ(json["totals"]["demand"].toDouble(), demand);
 
     const std::vector<std::string> lines =
@@ -142,6 +161,7 @@ TEST_F(BatchTest, EachKindOfErrorHasItsOwnCodeAndMessage)
         {{L"--room", L"Cantina"}, ExitCode::wrongArguments, L"\"Cantina\""},
         {{L"--system", L"40/22"}, ExitCode::wrongArguments, L"\"Bagno degli ospiti\""},
         {{L"--catalogues", m_folder.Path("none")}, ExitCode::wrongArguments, L"none"},
+        {{L"--valve-catalogues", m_folder.Path("nope")}, ExitCode::wrongArguments, L"nope"},
         {{L"--building", m_folder.Path("none.json")}, ExitCode::badBuilding, L"none.json"},
         {{L"--building", m_folder.Path("bad.json")}, ExitCode::badBuilding, L"bad.json: riga 2"},
         {{L"--output", m_folder.Path("file")}, ExitCode::outputNotWritable, L"file"},
@@ -170,6 +190,37 @@ TEST_F(BatchTest, DamagedCatalogueLeavesTheOtherRoomsTheirs)
         WideFromUtf8(m_out.str()).find(m_folder.Path("listini/Altovico/hk.tga") + L": riga 2: "),
         CString::npos);
     EXPECT_EQ(ReadJson()["totals"]["chosen"].toInt(), 12); // three of the fifteen are Altovico's
+}
+
+TEST_F(BatchTest, DamagedValveFileLeavesTheOtherRoomsTheirs)
+{
+    // A maker of its own: the module remembers valves of the sample makers.
+    const auto find = [](const std::string& text, const CString& part) {
+        return WideFromUtf8(text).find(part) != CString::npos;
+    };
+    m_folder.WriteBytes("valvole/Guasta/ha.tga", "010;1;Guasta;1\n100;1;Valvole\n110;1\n");
+    std::filesystem::copy(RADSEL_DATA_DIR "/valves", m_folder.Root() / "valvole",
+                          std::filesystem::copy_options::recursive);
+    std::ifstream sample(RADSEL_DATA_DIR "/buildings/villa-dei-tigli.json");
+    std::string building(std::istreambuf_iterator<char>(sample), {});
+    const std::string key = "\"maker\": \"Ostervliet\", \"number\"";
+    for (std::size_t at = 0; (at = building.find(key)) != std::string::npos;) {
+        building.replace(at, key.size(), "\"maker\": \"Guasta\", \"number\"");
+    }
+    m_folder.WriteBytes("casa.json", building);
+
+    EXPECT_EQ(Run({L"--building", m_folder.Path("casa.json"), L"--valve-catalogues",
+                   m_folder.Path("valvole"), L"--valves"}),
+              ExitCode::badCatalogue);
+    EXPECT_TRUE(find(m_out.str(), m_folder.Path("valvole/Guasta/ha.tga") +
+                                      L": riga 3: al record 110 manca il campo 2"));
+    EXPECT_TRUE(find(m_out.str(), L"Valvole: 22; mancanti: 5."));
+    EXPECT_TRUE(find(m_out.str(), L"Preregolazione  xp K  kv bypass m³/h  kv corpo m³/h  quota %"));
+    for (const std::string& line : Split(m_out.str(), "\n")) {
+        if (line.starts_with("    mandata: ") && !line.ends_with("manca il campo 2")) {
+            EXPECT_LE(GetDisplayWidth(WideFromUtf8(line)), 156) << line;
+        }
+    }
 }
 
 TEST_F(BatchTest, ScreenThatCannotBeWrittenIsAnError)

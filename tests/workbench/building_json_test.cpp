@@ -123,6 +123,74 @@ TEST(BuildingJson, RoomNotBelowTheReturnIsRefused)
         "locale \"Città\": campo \"temperature\": deve essere minore del ritorno, 20 °C");
 }
 
+namespace {
+
+const std::string kNumber36(36, '7');
+const std::string kNumber30(30, '3');
+
+std::string Valve(const std::string& maker, const std::string& number)
+{
+    return R"({ "maker": ")" + maker + R"(", "number": ")" + number + "\" }";
+}
+
+/// The building with valves of its own and for its first room; an empty text: none.
+std::string WithValves(const std::string& ofBuilding, const std::string& ofRoom)
+{
+    std::string text =
+        Replaced("\"name\": \"Città\",",
+                 "\"name\": \"Città\"," + (ofRoom.empty() ? "" : "\"valves\": " + ofRoom + ","));
+    return text.insert(1, ofBuilding.empty() ? "" : "\"valves\": " + ofBuilding + ",");
+}
+
+} // namespace
+
+TEST(BuildingJson, ValvesOfARoomWinPieceByPiece)
+{
+    const std::string all =
+        "{\"supply\": " + Valve("A", kNumber36) + ", \"return\": " + Valve("B", kNumber36) + "}";
+    const std::string onlyReturn = "{\"note\": 1, \"return\": " + Valve("C", kNumber30) + "}";
+    const struct
+    {
+        std::string building, room;
+        CString supply, back;
+    } cases[] = {
+        {"", "", L"", L""},          {all, "", L"A", L"B"},
+        {all, "{}", L"A", L"B"},     {all, onlyReturn, L"A", L"C"},
+        {"", onlyReturn, L"", L"C"}, {all, "{\"supply\": null}", L"", L"B"},
+    };
+    for (const auto& test : cases) {
+        const CTempFolder folder;
+        folder.WriteBytes("casa.json", WithValves(test.building, test.room));
+        const CBuilding building = ReadBuilding(folder.Path("casa.json"));
+        const CValveKeys& first = building.floors[0].rooms[0].ventile;
+        const CValveKeys& second = building.floors[0].rooms[1].ventile;
+        EXPECT_EQ(first.vorlauf.value_or(CValveKey()).strHersteller, test.supply) << test.room;
+        EXPECT_EQ(first.ruecklauf.value_or(CValveKey()).strHersteller, test.back) << test.room;
+        EXPECT_EQ(second.ruecklauf.has_value(), !test.building.empty()) << test.room;
+        EXPECT_EQ(HasValves(building), !test.building.empty() || !test.room.empty());
+    }
+}
+
+TEST(BuildingJson, WrongValvesAreNamedWithTheirRoom)
+{
+    const struct
+    {
+        std::string room, message;
+    } cases[] = {
+        {"[]", "campo \"valves\": atteso un oggetto { }"},
+        {"{\"supply\": 1}", "campo \"supply\": atteso un oggetto { }"},
+        {"{\"suply\": null}", "campo \"suply\": campo sconosciuto"},
+        {"{\"supply\": {\"maker\": \"A\"}}", "campo \"number\": manca"},
+        {"{\"return\": " + Valve(" ", kNumber36) + "}", "campo \"maker\": il testo è vuoto"},
+        {"{\"return\": " + Valve("A", kNumber30.substr(1)) + "}",
+         "campo \"number\": ha 29 caratteri, ne servono almeno 30"},
+    };
+    for (const auto& test : cases) {
+        EXPECT_EQ(ErrorOf(WithValves("", test.room)), "locale \"Città\": " + test.message);
+        EXPECT_EQ(ErrorOf(WithValves(test.room, "")), test.message);
+    }
+}
+
 TEST(BuildingJson, DamagedFileIsToldByLineAndColumn)
 {
     EXPECT_EQ(ErrorOf(Replaced("\"version\": 1,", "\"version\": 1")).substr(0, 6), "riga 3");

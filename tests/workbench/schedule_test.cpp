@@ -201,16 +201,17 @@ TEST_F(ScheduleTest, TotalsCountChosenRadiatorsAndEveryDemand)
 
     const CString csv = FormatScheduleCsv(schedule);
     EXPECT_NE(csv.find(L"Terra;\"Sala; \"\"grande\"\"\";scelto;20;1000;0;1000;Prova;Piastre;P10;"
-                       L"P10/600;600;60;1000;1000;1000;0.0;0;2.000;\r\n"),
+                       L"P10/600;600;60;1000;1000;1000;0.0;0;2.000;;;;;;;;;;;;;\r\n"),
               CString::npos)
         << testing::PrintToString(csv);
     EXPECT_NE(
-        csv.find(L"\r\n;;totale dell'edificio;;3550;;3250;;;;;;;;1800;1800;-44.6;;6.000;\r\n"),
+        csv.find(L"\r\n;;totale dell'edificio;;3550;;3250;;;;;;;;1800;1800;-44.6;;6.000;;;;;;;;;;;"
+                 L";;\r\n"),
         CString::npos)
         << testing::PrintToString(csv);
-    EXPECT_NE(FormatScheduleText(schedule).find(
-                  L"Locali: 5; con corpo scaldante: 2; già coperti: 1; senza corpo scaldante "
-                  L"adatto: 2."),
+    EXPECT_NE(FormatScheduleText(schedule, false)
+                  .find(L"Locali: 5; con corpo scaldante: 2; già coperti: 1; senza corpo scaldante "
+                        L"adatto: 2."),
               CString::npos);
 }
 
