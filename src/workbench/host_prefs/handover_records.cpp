@@ -1,6 +1,6 @@
 #include "frame/handover.h"
 
-#include "platform/exception.h"
+#include "workbench/host_prefs/record_transfer.h"
 
 #include <cstdint>
 
@@ -8,31 +8,11 @@ namespace {
 
 constexpr std::uint32_t kUebergabeVersion = 1;
 
-/// One list of fields serves both directions, so that they cannot drift apart.
-template <class T>
-void Transfer(CArchive& archive, T& value)
-{
-    if (archive.IsStoring()) {
-        archive << value;
-    } else {
-        archive >> value;
-    }
-}
-
 void TransferCharacter(CArchive& archive, wchar_t& character)
 {
     auto code = static_cast<char32_t>(character);
     Transfer(archive, code);
     character = static_cast<wchar_t>(code);
-}
-
-void TransferVersion(CArchive& archive)
-{
-    std::uint32_t version = kUebergabeVersion;
-    Transfer(archive, version);
-    if (version != kUebergabeVersion) {
-        throw CArchiveException(CArchiveException::Cause::badSchema);
-    }
 }
 
 void TransferFields(CArchive& archive, HK_DATEN_VDI3805_UEBERGABE& record)
@@ -140,7 +120,7 @@ HK_DATEN_VDI3805_UEBERGABE::~HK_DATEN_VDI3805_UEBERGABE() = default;
 
 void HK_DATEN_VDI3805_UEBERGABE::Serialize(CArchive& archive)
 {
-    TransferVersion(archive);
+    TransferVersion(archive, kUebergabeVersion);
     if (archive.IsStoring()) {
         TransferFields(archive, *this);
         return;

@@ -27,5 +27,6 @@ HOST_API bool StoreHostSetting(const CString& key, const CString& value);
 /// Keys that the getters ask for.
 inline constexpr wchar_t kSettingHKDir[] = L"HKDir";
 inline constexpr wchar_t kSettingVEDir[] = L"VEDir";
+inline constexpr wchar_t kSettingServerPath[] = L"ServerPfad";
 inline constexpr wchar_t kSettingDrawingUnit[] = L"ZeichnungsEinheit";
 inline constexpr wchar_t kSettingUserUnit[] = L"BenutzerEinheit";

@@ -1,31 +1,12 @@
 #include "frame/ventil_kv.h"
 
+#include "workbench/host_prefs/record_transfer.h"
+
 #include <cstdint>
 
 namespace {
 
 constexpr std::uint32_t kVersion = 1;
-
-void SerializeTable(CArchive& archive, VDI3805_VENTIL_KV::Table& table)
-{
-    const std::size_t bytes = table.size() * sizeof(float);
-    if (archive.IsStoring()) {
-        archive.Write(table.data(), bytes);
-    } else {
-        archive.Read(table.data(), bytes);
-    }
-}
-
-/// Writes or reads the values one after the other, so that both directions share one list.
-template <class... Values>
-void SerializeAll(CArchive& archive, Values&... values)
-{
-    if (archive.IsStoring()) {
-        (archive << ... << values);
-    } else {
-        (archive >> ... >> values);
-    }
-}
 
 } // namespace
 
@@ -56,18 +37,14 @@ void VDI3805_VENTIL_KV::Init()
 
 void VDI3805_VENTIL_KV::Serialize(CArchive& archive)
 {
-    std::uint32_t version = kVersion;
-    SerializeAll(archive, version);
-    if (version > kVersion) {
-        throw CArchiveException(CArchiveException::Cause::badSchema);
-    }
-    SerializeAll(archive, Gruppe, Hauptgruppe, Bezeichnung, Hersteller, VentilNr, Einstellbar, DN,
-                 VentilArt, VentilTyp, Kvs, Wert5, Wert6, DruckMax, Zusatz, AnzahlKv);
+    TransferVersion(archive, kVersion);
+    TransferAll(archive, Gruppe, Hauptgruppe, Bezeichnung, Hersteller, VentilNr, Einstellbar, DN,
+                VentilArt, VentilTyp, Kvs, Wert5, Wert6, DruckMax, Zusatz, AnzahlKv);
     if (AnzahlKv < 0 || AnzahlKv > kMaxKv) {
         throw CArchiveException(CArchiveException::Cause::damaged);
     }
     for (Table* table : {&Xp, &KvBypass, &KvHK, &AnteilHK, &Kv, &KvsTab, &Einstellung}) {
-        SerializeTable(archive, *table);
+        Transfer(archive, *table);
     }
-    SerializeAll(archive, Reserve1, Reserve2);
+    TransferAll(archive, Reserve1, Reserve2);
 }

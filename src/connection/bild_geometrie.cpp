@@ -1,0 +1,119 @@
+#include "connection/bild_geometrie.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double kOffsetFaktor = 3.0;
+
+/// Pixels cut towards zero. What no integer holds counts as a place far outside, not-a-number as 0.
+int Pixel(double value)
+{
+    constexpr double kFarOutside = 1.0e9;
+    if (std::isnan(value)) {
+        return 0;
+    }
+    return static_cast<int>(std::clamp(value, -kFarOutside, kFarOutside));
+}
+
+/// An angle turned round for the flow point, within one turn.
+double Gedreht(double winkel, bool istVorlauf)
+{
+    if (!istVorlauf) {
+        return winkel;
+    }
+    const double gedreht = winkel + 180.0;
+    if (gedreht >= 360.0) {
+        return gedreht - 360.0;
+    }
+    return gedreht < 0.0 ? gedreht + 360.0 : gedreht;
+}
+
+} // namespace
+
+double BildAbszisse(const ConnVector& position, const ConnVector& offset)
+{
+    return position[0] + kOffsetFaktor * offset[0];
+}
+
+CBildPunkt PunktAufBild(const CBildRect& bild, const ConnVector& position, const ConnVector& offset)
+{
+    const double u = BildAbszisse(position, offset);
+    const double v = position[2] + kOffsetFaktor * offset[2];
+    return {Pixel((bild.right - bild.left) * u) + (bild.left + bild.right) / 2,
+            (bild.top + bild.bottom) / 2 - Pixel((bild.bottom - bild.top) * v)};
+}
+
+Pfeil Pfeilrichtung(double winkel1, double winkel2, bool istVorlauf)
+{
+    if (winkel2 == 0.0) {
+        // One quarter of a turn only: anything else counts as left.
+        const double t = Gedreht(winkel1, istVorlauf);
+        return t >= 0.0 && t < 90.0 ? Pfeil::rechts : Pfeil::links;
+    }
+    const double t = Gedreht(winkel2, istVorlauf);
+    return t > 90.0 && t <= 270.0 ? Pfeil::unten : Pfeil::oben;
+}
+
+std::vector<CStrich> PfeilStriche(Pfeil richtung, CBildPunkt ort)
+{
+    const auto [x, y] = ort;
+    switch (richtung) {
+    case Pfeil::rechts:
+        return {{{x - 9, y}, {x + 9, y}, {x + 4, y - 4}}, {{x + 9, y}, {x + 4, y + 4}}};
+    case Pfeil::links:
+        return {
+            {{x - 9, y}, {x + 9, y}}, {{x - 9, y}, {x - 4, y - 4}}, {{x - 9, y}, {x - 4, y + 4}}};
+    case Pfeil::unten:
+        return {{{x, y - 9}, {x, y + 9}, {x - 4, y + 4}}, {{x, y + 9}, {x + 4, y + 4}}};
+    case Pfeil::oben:
+        return {{{x, y + 9}, {x, y - 9}, {x - 4, y - 4}}, {{x, y - 9}, {x + 4, y - 4}}};
+    }
+    return {};
+}
+
+CScrollBedarf ScrollbalkenFuer(int breite, int hoehe, int bildBreite, int bildHoehe,
+                               int balkenBreite)
+{
+    CScrollBedarf bedarf{false, false, breite, hoehe};
+    const auto pruefeBreite = [&] {
+        if (!bedarf.horizontal && bildBreite > bedarf.breite) {
+            bedarf.horizontal = true;
+            bedarf.hoehe -= balkenBreite;
+        }
+    };
+    pruefeBreite();
+    if (bildHoehe > bedarf.hoehe) {
+        bedarf.vertikal = true;
+        bedarf.breite -= balkenBreite;
+        pruefeBreite();
+    }
+    return bedarf;
+}
+
+int NeueScrollPosition(int position, ScrollCode code, int daumen, int bildGroesse, int groesse)
+{
+    constexpr int kSeite = 20;
+    int neu = position;
+    switch (code) {
+    case ScrollCode::zeileZurueck:
+    case ScrollCode::zumAnfang:
+        neu = position - 1;
+        break;
+    case ScrollCode::seiteZurueck:
+        neu = position - kSeite;
+        break;
+    case ScrollCode::zeileVor:
+    case ScrollCode::zumEnde:
+        neu = position + 1;
+        break;
+    case ScrollCode::seiteVor:
+        neu = position + kSeite;
+        break;
+    case ScrollCode::daumen:
+        neu = daumen;
+        break;
+    }
+    return std::min(std::max(neu, 0), bildGroesse - groesse);
+}
