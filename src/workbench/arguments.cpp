@@ -129,6 +129,9 @@ Opzioni:
   --room NOME        calcola soltanto questo locale
   --valves           mostra anche le tabelle kv delle valvole
   --output DIR       cartella dei risultati (corpi-scaldanti.csv e corpi-scaldanti.json)
+  --list-connections [FILE]
+                     mostra in parole un elenco di tipi di attacco (Vent.txt) e nient'altro;
+                     senza FILE quello della radice dei dati
   --batch            calcola senza finestre; al momento è l'unico modo
   --help             mostra questo testo
 

@@ -1,7 +1,10 @@
 #include "platform/encoding.h"
 #include "workbench/batch.h"
+#include "workbench/connection_list.h"
 
+#include <algorithm>
 #include <iostream>
+#include <iterator>
 
 int main(int argc, char* argv[])
 {
@@ -9,5 +12,11 @@ int main(int argc, char* argv[])
     for (int i = 1; i < argc; ++i) {
         arguments.push_back(WideFromUtf8(argv[i]));
     }
-    return static_cast<int>(RunBatch(arguments, std::cout, std::cerr));
+    const auto listing = std::ranges::find(arguments, L"--list-connections");
+    if (listing == arguments.end()) {
+        return static_cast<int>(RunBatch(arguments, std::cout, std::cerr));
+    }
+    const auto file = std::next(listing);
+    return static_cast<int>(
+        ListConnections(file == arguments.end() ? CString() : *file, std::cout, std::cerr));
 }

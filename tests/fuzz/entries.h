@@ -20,5 +20,11 @@ void RunArchive(std::span<const std::uint8_t> bytes);
 /// The bytes as a line file: its lines, written and read again, are the same.
 void RunTextFile(std::span<const std::uint8_t> bytes);
 
+/// The bytes as a connection point text: what is built from its numbers reads back the same.
+void RunPunktText(std::span<const std::uint8_t> bytes);
+
+/// The bytes as a short list of connection types: reads it and works on every entry.
+void RunKurzliste(std::span<const std::uint8_t> bytes);
+
 /// Throws std::logic_error with this text unless `holds`.
 void Require(bool holds, const char* what);

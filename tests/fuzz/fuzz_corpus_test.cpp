@@ -127,9 +127,9 @@ TEST_P(CFuzzCorpusTest, KeptInputsAndTheirMutationsDoNoHarm)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Targets, CFuzzCorpusTest,
-                         testing::Values(CTarget{"ventil_katalog", RunVentilKatalog},
-                                         CTarget{"catalogue", RunCatalogue},
-                                         CTarget{"archive", RunArchive},
-                                         CTarget{"text_file", RunTextFile}),
-                         [](const auto& info) { return std::string(info.param.lpszName); });
+INSTANTIATE_TEST_SUITE_P(
+    Targets, CFuzzCorpusTest,
+    testing::Values(CTarget{"ventil_katalog", RunVentilKatalog}, CTarget{"catalogue", RunCatalogue},
+                    CTarget{"archive", RunArchive}, CTarget{"text_file", RunTextFile},
+                    CTarget{"punkt_text", RunPunktText}, CTarget{"kurzliste", RunKurzliste}),
+    [](const auto& info) { return std::string(info.param.lpszName); });

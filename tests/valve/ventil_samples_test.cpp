@@ -2,8 +2,8 @@
 #include "tools/make_valves_samples.h"
 #include "valve/ventil_abruf.h"
 #include "valve/ventil_bewertung.h"
-#include "valve/ventil_texte.h"
 #include "valve/ventil_fixture.h"
+#include "valve/ventil_texte.h"
 
 #include <algorithm>
 #include <filesystem>
