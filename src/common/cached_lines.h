@@ -6,4 +6,5 @@
 /// Replaces `lines` by the lines of a text file, which is read once in the life of the process:
 /// afterwards the host's settings cache answers, even if the file has changed. False if the file is
 /// not in the cache and cannot be opened; `lines` is then empty.
+/// Exceptions of the file pass through, and nothing enters the cache.
 bool ReadCachedLines(const CString& path, CStringArray& lines);

@@ -108,7 +108,7 @@ void ReadNarrowLines(CFile& file, CLineCutter& cutter)
     bool more = true;
     while (more) {
         const std::size_t count = file.Read(buffer.data(), kNarrowChunk);
-        // Old files close with a blank in place of the last line end.
+        // A final blank stands for the line end that would save the last line.
         if (count > 0 && count < kNarrowChunk && buffer[count - 1] == ' ') {
             buffer[count - 1] = '\n';
         }
@@ -116,8 +116,8 @@ void ReadNarrowLines(CFile& file, CLineCutter& cutter)
     }
 }
 
-/// Makes room for the lines of a whole file at once. Too much costs nothing, since memory that is
-/// never touched is never there; too little only makes the array grow once more.
+/// Makes room for the lines of a whole file at once. Too much costs address space only, since
+/// memory that is never touched is never there; too little makes the array grow once more.
 void ReserveFor(const CFile& file, CStringArray& lines)
 {
     constexpr std::uint64_t kShortLine = 32;

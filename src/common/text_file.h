@@ -10,7 +10,8 @@
 /// Line files of the module: 8-bit text in code page 1252, or UTF-16 little-endian behind its byte
 /// order mark. A pair of line-end characters of either kind and in either order counts as one end:
 /// an empty line survives between CR LF pairs and vanishes between bare line feeds. A last line
-/// without a line end is dropped. The formats built on these files depend on both.
+/// without a line end is dropped, unless it is 8-bit text that ends in a blank, which then counts
+/// as the line end. The formats built on these files depend on both.
 
 /// Appends the lines of an open file to `lines` and returns the count then in the array. With a
 /// limit other than -1 reading a wide file stops as soon as the array holds exactly that many; an
@@ -20,8 +21,9 @@ int ReadTextLines(CFile& file, CStringArray& lines, int limit);
 /// Opens the file with `flags` and does the same. 0 if it cannot be opened.
 int ReadTextFile(const CString& path, CStringArray& lines, unsigned flags, int limit);
 
-/// The first line that ReadTextFile() would give, without reading further than to its end. False if
-/// the file cannot be opened or has no line.
+/// The first line that ReadTextFile() would give, reading no chunk beyond the one in which it ends.
+/// False, with `line` left alone, if the file cannot be opened or has no line. Exceptions of the
+/// file pass through.
 bool ReadFirstLine(const CString& path, CString& line);
 
 /// Writes the lines as UTF-16 with CR LF behind each, and the byte order mark where the writing

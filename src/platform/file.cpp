@@ -23,7 +23,8 @@ constexpr unsigned kAccessMask = CFile::modeWrite | CFile::modeReadWrite;
 constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr mode_t kPermissionBits = 07777;
 
-/// Follows links to the file itself, so that replacing it leaves the link in place.
+/// Follows links to the file itself, so that replacing it leaves the link in place. A link to
+/// nothing is replaced by the file.
 fs::path FollowLinks(const fs::path& path)
 {
     std::error_code error;

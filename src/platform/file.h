@@ -17,7 +17,8 @@ class CFile : public CByteStream
 {
 public:
     /// The framework's values, which records and callers hand around as numbers. Only the access
-    /// modes and the two create flags have an effect; sharing is left to the system.
+    /// modes and the two create flags have an effect; modeCreate opens for reading and writing
+    /// whatever the access mode. Sharing is left to the system.
     enum OpenFlags : unsigned
     {
         modeRead = 0x0000,

@@ -35,8 +35,8 @@ public:
 
     /// Builds DateiPfad for the manufacturer and loads the file. True if the tree now stands for
     /// that file. A file with the newer kind of head is refused and leaves the tree as it was; any
-    /// other failure leaves it empty. Never keeps a tree for a path that repeats: the lines come
-    /// from the cache, the parsing is done again.
+    /// other result of false leaves it empty. Never keeps a tree for a path that repeats: the lines
+    /// come from the cache, the parsing is done again.
     bool LadeHersteller(const CString& hersteller);
 
     /// True if the first line of the file on disk begins with the record type "000".
@@ -61,12 +61,13 @@ public:
     CString HerstellerName;
     CString AusfuehrungDatum;
     CString Kopf4;
-    /// First word of the name; grows with each load.
+    /// Name up to its first blank; grows with each file head.
     CString HerstellerKurz;
     CString HerstellerKurzKopie;
 
     /// Path of the last load.
     CString LetzterPfad;
+    /// The file to read; the valve data directory before the first load.
     CString DateiPfad;
 
     /// Root of the tree.

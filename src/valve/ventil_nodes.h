@@ -6,7 +6,8 @@
 #include <string_view>
 
 /// The tree of one valve file: doubly linked lists in file order, the first Prev and the last Next
-/// null. Nodes belong to the CVentVdiKatalog that read them and die with it or with its next load.
+/// null. Nodes belong to the CVentVdiKatalog that read them and die with it or when it reads the
+/// next file.
 
 /// The 17 groups of an article's ident text.
 using VentIdent = std::array<short, 17>;

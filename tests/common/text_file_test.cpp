@@ -372,4 +372,16 @@ TEST(SplitString, AppendsAlsoTheFieldsOfAnElementOfTheSameArray)
     EXPECT_EQ(shortText, Lines({L"a;b", L"a", L"b"}));
 }
 
+TEST_F(TextFile, MoreTextThanOneChunkIsWrittenWholeAndOnce)
+{
+    CStringArray lines;
+    for (int i = 0; i < 40000; ++i) {
+        lines.Add(L"riga " + std::to_wstring(i));
+    }
+    ASSERT_TRUE(WriteTextFile(m_folder.Path("file.txt"), lines, false, false,
+                              CFile::modeCreate | CFile::modeWrite));
+    // The mark, then 5 characters, the digits of 0 to 39999 (188890) and CR LF a line.
+    EXPECT_EQ(m_folder.ReadBytes("file.txt").size(), 2U + 2U * (40000U * 7U + 188890U));
+}
+
 } // namespace
