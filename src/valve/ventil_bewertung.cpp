@@ -145,8 +145,7 @@ private:
     }
 
     /// A named row without a presetting of its own gets one above all others. Only the first half
-    /// of the rows is looked at, and that limit is meant to stay: catalogues are maintained against
-    /// it.
+    /// of the rows is looked at; hosts know the tables that come out of this, so the limit stays.
     void ErsetzeBenannte()
     {
         for (std::size_t i = 0; i < Platz(m_ventil.AnzahlKv / 2); ++i) {

@@ -141,30 +141,6 @@ TEST_F(CVentilSucheTest, ABadLinePassesThrough)
     }
 }
 
-TEST_F(CVentilAbrufTest, ARecordWithoutAKeyIsNotFetched)
-{
-    // What a maker without a name would lead to.
-    m_folder.WriteBytes("ha.tga", Datei("4"));
-    const CString shortNr = kNr.substr(0, 29);
-    const struct
-    {
-        CString hersteller;
-        CString ventilNr;
-    } keys[] = {{a, L""}, {a, shortNr}, {L"", kNr}, {L"", L""}};
-    for (const auto& key : keys) {
-        VDI3805_VENTIL_KV bad = MitSchluessel(key.hersteller, key.ventilNr);
-        VDI3805_VENTIL_KV good = MitSchluessel(b, kNr);
-        EXPECT_FALSE(HoleVentilDaten(bad, good));
-        EXPECT_EQ(bad.Kvs, 77.0F);
-        EXPECT_EQ(good.Kvs, 77.0F) << "the second record is not looked at";
-
-        good = MitSchluessel(a, kNr);
-        EXPECT_TRUE(HoleVentilDaten(good, bad));
-        EXPECT_EQ(good.Kvs, 1.0F);
-        EXPECT_EQ(bad.Kvs, 77.0F);
-    }
-}
-
 TEST_F(CVentilAbrufTest, TwoValvesOfDifferentMakersAreFetched)
 {
     VDI3805_VENTIL_KV first = MitSchluessel(a, kNr);
@@ -173,43 +149,6 @@ TEST_F(CVentilAbrufTest, TwoValvesOfDifferentMakersAreFetched)
     EXPECT_EQ(first.Kvs, 1.0F);
     EXPECT_EQ(second.Kvs, 2.0F);
     EXPECT_EQ(second.Bezeichnung, L"Bestell");
-}
-
-TEST_F(CVentilAbrufTest, TheFirstRecordIsKeptUntilAnotherKeyComes)
-{
-    VDI3805_VENTIL_KV first = MitSchluessel(a, kNr);
-    VDI3805_VENTIL_KV second = MitSchluessel(a, kNr);
-    ASSERT_TRUE(HoleVentilDaten(first, second));
-    EXPECT_EQ(second.Kvs, 1.0F) << "from the kept record";
-
-    // From now on a file of this maker would be refused: whoever still gets the valve has it from
-    // the kept record.
-    Schreibe(Utf8FromWide(a), "000;x\r\n");
-    first = second = MitSchluessel(a, kNr);
-    ASSERT_TRUE(HoleVentilDaten(first, second));
-    EXPECT_EQ(first.Kvs, 1.0F);
-    EXPECT_EQ(second.Kvs, 1.0F);
-
-    first = MitSchluessel(b, kNr);
-    second = MitSchluessel(a, kNr);
-    ASSERT_TRUE(HoleVentilDaten(first, second));
-    EXPECT_EQ(first.Kvs, 2.0F);
-    EXPECT_EQ(second.Kvs, 77.0F) << "the key of the first record replaced it";
-}
-
-TEST_F(CVentilAbrufTest, TheSecondRecordIsNeverKept)
-{
-    VDI3805_VENTIL_KV first = MitSchluessel(a, kNr);
-    VDI3805_VENTIL_KV second = MitSchluessel(b, kNr);
-    ASSERT_TRUE(HoleVentilDaten(first, second));
-    for (const CString& maker : {a, b}) {
-        Schreibe(Utf8FromWide(maker), "000;x\r\n");
-    }
-    first = MitSchluessel(a, kNr);
-    second = MitSchluessel(b, kNr);
-    ASSERT_TRUE(HoleVentilDaten(first, second));
-    EXPECT_EQ(first.Kvs, 1.0F) << "the second record does not take the place of the first";
-    EXPECT_EQ(second.Kvs, 77.0F);
 }
 
 TEST_F(CVentilAbrufTest, AFailedSearchIsKeptToo)
