@@ -2,10 +2,11 @@
 
 #include "frame/handover.h"
 #include "host/api.h"
+#include "host/image_loader.h"
 #include "platform/text.h"
 
-/// HostCatalog: the host's reader of radiator catalogues. The tree belongs to this library and
-/// outlives every call of the module, which reads it and never frees any of it.
+/// HostCatalog: the host's reader of radiator catalogues, its icons and its help. The tree belongs
+/// to this library and outlives every call of the module, which reads it and never frees any of it.
 
 /// Head of the list of manufacturers, null if there is none. A manufacturer whose file has not been
 /// read has a null pArt.
@@ -26,3 +27,8 @@ HOST_API HK_VDI3805_PRODUKT* FindProdukt(HK_VDI3805_ART* art, const CString& nam
 /// replaced; pointers to former kinds and products stay valid, pointers to former rows do not.
 /// Returns the count of rows, or -1 if the file cannot be read, and then `*art` is null.
 HOST_API int ReadVdiFile(const CString& hersteller, HK_VDI3805_ART** art, double leistungEN442);
+
+/// Opens the help page of a dialog in the user's viewer and returns at once. `dialogId` is the
+/// dialog's number. `art` is the kind of page; the module asks for 100, and this host has one page
+/// for every kind. A dialog without a page, or a viewer that cannot be started, changes nothing.
+HOST_API void ShowPDF(unsigned dialogId, int art);

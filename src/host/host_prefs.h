@@ -40,3 +40,34 @@ public:
 
 /// The one cache of the process. Owned by HostPrefs.
 HOST_API CSettingsCache* lmGetCacheObject();
+
+/// What a skin gives a colour to.
+enum LumoSkinType
+{
+    skinHintergrund = 0,
+    skinSchaltflaeche = 1,
+    skinRahmen = 2,
+    skinListe = 3,
+    skinEingabe = 4
+};
+
+/// The preferences below deliver the host's default where the user has chosen nothing. Those that
+/// return a bool return true, unless their own text says when not.
+
+/// Whether dialogs are coloured with the skin instead of the system's colours. Default: no.
+HOST_API bool lmGetAllowLumoSkin(bool& allow);
+
+/// A colour of the skin as 0x00BBGGRR. False, with `color` left alone, if none is set.
+HOST_API bool lmGetLumoSkinColor(LumoSkinType type, unsigned long& color);
+
+/// Whether Enter moves to the next control instead of confirming the dialog. Default: no.
+HOST_API bool lmGetAllowEnterAsTab(bool& allow);
+
+/// Name, without folder, of the file that keeps the placement of windows. Default: "winpos.txt".
+HOST_API bool lmGetCurrentWinposFile(CString& name);
+
+/// Whether dialogs show the themed banner. Default: no.
+HOST_API bool lmGetUseVistaBanner(bool& use);
+
+/// Name of the program, for the banner of its dialogs. Default: "Workbench Termotecnica".
+HOST_API bool lmGetProductLongName(CString& name);

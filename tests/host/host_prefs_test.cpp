@@ -1,3 +1,4 @@
+#include "host/host_base.h"
 #include "host/host_prefs.h"
 #include "support/setting_override.h"
 #include "support/temp_folder.h"
@@ -8,6 +9,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -169,6 +171,65 @@ TEST_F(HostSettings, UnitsAreMetresUntilChosen)
     lmGetDimension2(drawing);
     EXPECT_EQ(drawing, 1000);
     EXPECT_EQ(lmGetDimensionUsr(), 100);
+}
+
+TEST_F(HostSettings, DialogPreferencesHaveDefaultsUntilChosen)
+{
+    using Switch = bool (*)(bool&);
+    const std::pair<Switch, const wchar_t*> switches[] = {
+        {lmGetAllowLumoSkin, kSettingAllowSkin},
+        {lmGetAllowEnterAsTab, kSettingEnterAsTab},
+        {lmGetUseVistaBanner, kSettingVistaBanner}};
+    for (const auto& [get, key] : switches) {
+        bool on = true;
+        EXPECT_TRUE(get(on));
+        EXPECT_FALSE(on);
+        ASSERT_TRUE(StoreHostSetting(key, L"1"));
+        EXPECT_TRUE(get(on));
+        EXPECT_TRUE(on) << "each under a key of its own";
+        ASSERT_TRUE(StoreHostSetting(key, L"0"));
+    }
+
+    CString text;
+    EXPECT_TRUE(lmGetCurrentWinposFile(text));
+    EXPECT_EQ(text, L"winpos.txt");
+    EXPECT_TRUE(lmGetProductLongName(text));
+    EXPECT_EQ(text, L"Workbench Termotecnica");
+    ASSERT_TRUE(StoreHostSetting(kSettingWinposFile, L"finestre.txt"));
+    EXPECT_TRUE(lmGetCurrentWinposFile(text));
+    EXPECT_EQ(text, L"finestre.txt");
+}
+
+TEST_F(HostSettings, ASkinColorIsDeliveredOnlyWhereOneIsSet)
+{
+    const std::pair<LumoSkinType, const wchar_t*> keys[] = {
+        {skinHintergrund, kSettingSkinHintergrund},
+        {skinSchaltflaeche, kSettingSkinSchaltflaeche},
+        {skinRahmen, kSettingSkinRahmen},
+        {skinListe, kSettingSkinListe},
+        {skinEingabe, kSettingSkinEingabe}};
+    for (const auto& [type, key] : keys) {
+        unsigned long color = 77;
+        EXPECT_FALSE(lmGetLumoSkinColor(type, color));
+        for (const wchar_t* const bad : {L"", L"#D6E4F", L"#D6E4F5F", L"D6E4F5", L"#D6E4G5"}) {
+            const CSettingOverride setting(key, bad);
+            EXPECT_FALSE(lmGetLumoSkinColor(type, color)) << bad;
+        }
+        EXPECT_EQ(color, 77U);
+        ASSERT_TRUE(StoreHostSetting(key, L"#D6e4F5"));
+        EXPECT_TRUE(lmGetLumoSkinColor(type, color));
+        EXPECT_EQ(color, 0xF5E4D6U) << "red lies in the lowest byte";
+    }
+}
+
+TEST_F(HostSettings, TheLocalWorkPathLeavesTheTargetAloneUntilItIsSet)
+{
+    CString path = L"before";
+    EXPECT_FALSE(configGetWorkPathLocal(path));
+    EXPECT_EQ(path, L"before");
+    ASSERT_TRUE(StoreHostSetting(kSettingLocalPath, L"C:\\Locale"));
+    EXPECT_TRUE(configGetWorkPathLocal(path));
+    EXPECT_EQ(path, L"C:\\Locale");
 }
 
 } // namespace

@@ -2,12 +2,27 @@
 
 #include "workbench/host_prefs/host_settings.h"
 
-bool configGetWorkPathServer(CString& path)
+namespace {
+
+/// Delivers a folder from the settings; false if it is not set.
+bool GetFolder(const wchar_t* setting, CString& path)
 {
-    const CString stored = GetHostSetting(kSettingServerPath, CString());
+    const CString stored = GetHostSetting(setting, CString());
     if (stored.empty()) {
         return false;
     }
     path = stored;
     return true;
+}
+
+} // namespace
+
+bool configGetWorkPathServer(CString& path)
+{
+    return GetFolder(kSettingServerPath, path);
+}
+
+bool configGetWorkPathLocal(CString& path)
+{
+    return GetFolder(kSettingLocalPath, path);
 }

@@ -24,9 +24,22 @@ HOST_API void ClearHostSettingOverride(const CString& key);
 /// such a call stores nothing and gives false.
 HOST_API bool StoreHostSetting(const CString& key, const CString& value);
 
-/// Keys that the getters ask for.
+/// Keys that the getters ask for. A yes is "1", any other value a no; a colour is "#RRGGBB".
 inline constexpr wchar_t kSettingHKDir[] = L"HKDir";
 inline constexpr wchar_t kSettingVEDir[] = L"VEDir";
 inline constexpr wchar_t kSettingServerPath[] = L"ServerPfad";
 inline constexpr wchar_t kSettingDrawingUnit[] = L"ZeichnungsEinheit";
 inline constexpr wchar_t kSettingUserUnit[] = L"BenutzerEinheit";
+inline constexpr wchar_t kSettingLocalPath[] = L"LokalerPfad";
+inline constexpr wchar_t kSettingAllowSkin[] = L"SkinErlaubt";
+inline constexpr wchar_t kSettingSkinHintergrund[] = L"SkinFarbeHintergrund";
+inline constexpr wchar_t kSettingSkinSchaltflaeche[] = L"SkinFarbeSchaltflaeche";
+inline constexpr wchar_t kSettingSkinRahmen[] = L"SkinFarbeRahmen";
+inline constexpr wchar_t kSettingSkinListe[] = L"SkinFarbeListe";
+inline constexpr wchar_t kSettingSkinEingabe[] = L"SkinFarbeEingabe";
+inline constexpr wchar_t kSettingEnterAsTab[] = L"EnterAlsTab";
+inline constexpr wchar_t kSettingWinposFile[] = L"FensterDatei";
+inline constexpr wchar_t kSettingVistaBanner[] = L"ThemenBanner";
+inline constexpr wchar_t kSettingProductName[] = L"Programmname";
+inline constexpr wchar_t kSettingHelpFolder[] = L"HilfeOrdner";
+inline constexpr wchar_t kSettingHelpProgram[] = L"HilfeProgramm";

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "host/api.h"
+#include "platform/bitmap.h"
+
+/// Numbers of the icons that the modules ask for.
+enum LumoIcons : int
+{
+    iconProdukt = 23,
+    iconHilfe = 24,
+    iconHersteller = 32,
+    iconFirma = 33,
+    iconSpeichern = 35,
+    iconLoeschen = 36,
+    iconArtikel = 39,
+    iconGruppe = 42
+};
+
+/// The host's icons, drawn afresh for each size so that none is ever scaled.
+class HOST_API CImageLoader
+{
+public:
+    /// The icon of that number (one of LumoIcons) in pixels, its outside transparent; colours are
+    /// not multiplied by alpha. It fills the largest square in the middle of the picture. Empty for
+    /// an unknown number or a side outside 8 to 64.
+    CBitmap LoadLumoIcon(int index, int width, int height) const;
+};
