@@ -1,24 +1,11 @@
 #include "connection/heizung_ordner.h"
 
+#include "common/datenwurzel.h"
 #include "host/host_base.h"
 #include "platform/environment.h"
-#include "platform/message.h"
 #include "platform/path.h"
 
-#include <utility>
-
 namespace {
-
-void MeldeFehlendeWurzel()
-{
-    static bool gemeldet = false;
-    if (!std::exchange(gemeldet, true)) {
-        // Installers look for the name of the variable, and the caption is what they see in the
-        // list of windows.
-        ShowMessage({L"Missing Environmental-Variable: TGA_DATA_SINGLE", L"Install-Error",
-                     MessageIcon::stop});
-    }
-}
 
 CString DatenWurzel()
 {
@@ -31,7 +18,8 @@ CString DatenWurzel()
             return *value;
         }
     }
-    MeldeFehlendeWurzel();
+    static bool gemeldet = false;
+    MeldeFehlendeWurzel(gemeldet);
     return {};
 }
 

@@ -2,6 +2,7 @@
 
 #include "frame/resource_context.h"
 #include "frame/ventil_kv.h"
+#include "valve/vent_vdi_dlg.h"
 #include "valve/ventil_abruf.h"
 
 bool ShowVentDlg(ConnValues& /*anschluss*/, VDI3805_VENTIL_KV& /*ventilVorlauf*/,
@@ -11,10 +12,19 @@ bool ShowVentDlg(ConnValues& /*anschluss*/, VDI3805_VENTIL_KV& /*ventilVorlauf*/
     return false;
 }
 
-bool ShowVentVDI3805Dlg(const CString& /*ventilNr*/, const CString& /*hersteller*/,
-                        VDI3805_VENTIL_KV& /*ventil*/)
+bool ShowVentVDI3805Dlg(const CString& ventilNr, const CString& hersteller,
+                        VDI3805_VENTIL_KV& ventil)
 {
-    return false;
+    const CResourceContext context;
+    CVentVdiDlg dialog;
+    if (!ventilNr.empty() && !hersteller.empty()) {
+        dialog.SetzeVorgabe(ventilNr, hersteller);
+    }
+    if (dialog.DoModal() != kIdOk) {
+        return false;
+    }
+    dialog.HoleErgebnis(ventil);
+    return true;
 }
 
 bool VDI3805GetVentilDaten(VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2)

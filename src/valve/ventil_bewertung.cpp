@@ -26,11 +26,6 @@ constexpr int kFeldKvsZeile = 9;
 
 using Table = VDI3805_VENTIL_KV::Table;
 
-bool HatBypass(const VENT_VDI3805_ARTIKEL& artikel)
-{
-    return artikel.Ident[identVentilTyp] == kBypassTyp;
-}
-
 CStringArray Felder(const CString& zeile)
 {
     CStringArray fields;
@@ -199,6 +194,11 @@ CString KvBypassZeile(const VDI3805_VENTIL_KV& ventil, std::size_t i)
 
 } // namespace
 
+bool HatBypass(const VENT_VDI3805_ARTIKEL& artikel)
+{
+    return artikel.Ident[identVentilTyp] == kBypassTyp;
+}
+
 void BewerteVentil(const VENT_VDI3805_ARTIKEL& artikel, const VENT_VDI3805_DATEN& daten,
                    VDI3805_VENTIL_KV& ventil)
 {
@@ -218,11 +218,11 @@ void BewerteVentil(const VENT_VDI3805_ARTIKEL& artikel, const VENT_VDI3805_DATEN
     leser.Ordne();
 }
 
-const VENT_VDI3805_DATEN* SucheDatensatz(const VENT_VDI3805_GRUPPE& gruppe,
-                                         const VENT_VDI3805_ARTIKEL& artikel)
+VENT_VDI3805_DATEN* SucheDatensatz(const VENT_VDI3805_GRUPPE& gruppe,
+                                   const VENT_VDI3805_ARTIKEL& artikel)
 {
     const int nummer = artikel.Ident[identDatensatz];
-    const VENT_VDI3805_DATEN* daten = gruppe.Daten;
+    VENT_VDI3805_DATEN* daten = gruppe.Daten;
     while (daten != nullptr && (daten->Satzart != kDatensatzart || daten->Nummer != nummer)) {
         daten = daten->Next;
     }
@@ -241,6 +241,11 @@ CStringArray KvZeilen(const VDI3805_VENTIL_KV& ventil, bool bypass)
         zeilen.AddMoved(bypass ? KvBypassZeile(ventil, i) : KvZeile(ventil, i));
     }
     return zeilen;
+}
+
+std::vector<int> KvSpaltenEnden(bool bypass)
+{
+    return bypass ? std::vector{4, 11, 20, 29, 34} : std::vector{4, 11, 21, 31};
 }
 
 VentilTexte SucheTexte(const VENT_VDI3805_GRUPPE& gruppe, const VENT_VDI3805_ARTIKEL& artikel)

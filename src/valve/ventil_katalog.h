@@ -74,6 +74,11 @@ public:
     VENT_VDI3805_HAUPTGRUPPE* ErsteHauptgruppe = nullptr;
     int AnzahlHauptgruppen = 0;
 
+protected:
+    /// While a file is read, the last node whose type is "700". Free for use afterwards, until the
+    /// next load.
+    VENT_VDI3805_DATEN* Akt700 = nullptr;
+
 private:
     /// A line on its way into the tree: the fields are views into the text.
     struct Satz;
@@ -99,9 +104,6 @@ private:
     VENT_VDI3805_TEXT* AktAntrieb = nullptr;
     VENT_VDI3805_TEXT* AktBauform = nullptr;
     VENT_VDI3805_TEXT* AktWerkstoff = nullptr;
-    /// The last node whose type is "700".
-    VENT_VDI3805_DATEN* Akt700 = nullptr;
-
     std::vector<std::wstring_view> m_felder;
 };
 

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/color.h"
+#include "uikit/wnd.h"
+
+/// Draws the strip at the left edge of a dialog on its control: a gradient and the host's product
+/// name, reading upward. `schlicht` leaves the themed form of the host's system out. Nothing if
+/// there is no control.
+void BannerZeichnen(const CWnd& control, bool schlicht);
+
+/// Fills a swatch with a colour and frames it.
+void FarbfeldZeichnen(const CWnd& control, COLORREF farbe);

@@ -1,0 +1,321 @@
+#include "uikit/dialog.h"
+
+#include "platform/exception.h"
+#include "platform/message.h"
+#include "uikit/application.h"
+#include "uikit/native/access.h"
+#include "uikit/native/caption_bar.h"
+#include "uikit/native/dialog_window.h"
+#include "uikit/native/observer.h"
+
+#include <QApplication>
+#include <QMetaObject>
+
+#include <utility>
+
+namespace {
+
+/// Counts a write of the exchange for as long as it lasts.
+class CDepth
+{
+public:
+    explicit CDepth(int& depth) : m_depth(depth) { ++m_depth; }
+    ~CDepth() { --m_depth; }
+    CDepth(const CDepth&) = delete;
+    CDepth& operator=(const CDepth&) = delete;
+
+private:
+    int& m_depth;
+};
+
+bool IsCommand(ControlEvent event)
+{
+    return event != ControlEvent::treeSelectionChanged &&
+           event != ControlEvent::treeItemExpanding && event != ControlEvent::step;
+}
+
+} // namespace
+
+CDialog::CDialog(const DialogTemplate& dialogTemplate) : m_template(dialogTemplate) {}
+
+CDialog::~CDialog() = default;
+
+void CDialog::Create()
+{
+    auto* window = new CDialogWindow(*this, QApplication::activeWindow());
+    CNativeAccess::Attach(*this, window);
+    SetWindowText(m_template.caption);
+    window->Caption().SetTitle(ToNative(m_template.caption));
+    for (const ControlTemplate& control : m_template.controls) {
+        window->Add(control, window->MapUnits({control.x, control.y, control.x + control.cx,
+                                               control.y + control.cy}));
+    }
+    window->SetClientSize(window->MapUnits({0, 0, m_template.cx, m_template.cy}).size());
+    window->DefaultPlace();
+}
+
+int CDialog::DoModal()
+{
+    EnsureApplication();
+    m_result = kIdCancel;
+    m_ended = false;
+    m_systemMenu.Clear();
+    Create();
+    bool focusFirst = true;
+    Guard([&] { focusFirst = OnInitDialog(); });
+
+    CDialogWindow* window = CDialogAccess::Window(*this);
+    if (!m_ended) {
+        window->ApplyColors();
+        window->ApplyMinMax();
+        if (focusFirst) {
+            window->FocusFirst();
+        }
+        window->show();
+        window->activateWindow();
+        QMetaObject::invokeMethod(
+            window, [this] { Guard([this] { TellDialogObserver(*this); }); }, Qt::QueuedConnection);
+        window->RunLoop();
+    }
+    Guard([this] { OnDestroy(); });
+    window->hide();
+    delete window;
+    if (m_failure) {
+        std::rethrow_exception(std::exchange(m_failure, nullptr));
+    }
+    return m_result;
+}
+
+void CDialog::EndDialog(int result)
+{
+    m_result = result;
+    m_ended = true;
+    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+        window->Leave();
+    }
+}
+
+CWnd CDialog::GetDlgItem(int id) const
+{
+    CWnd control;
+    const CDialogWindow* window = CDialogAccess::Window(*this);
+    if (QWidget* widget = window != nullptr ? window->Find(id) : nullptr) {
+        CNativeAccess::Attach(control, widget);
+    }
+    return control;
+}
+
+bool CDialog::UpdateData(bool save)
+{
+    CDataExchange exchange(*this, save);
+    bool complete = true;
+    {
+        const CDepth depth(m_exchangeDepth);
+        try {
+            DoDataExchange(&exchange);
+        } catch (const CExchangeFailed&) {
+            complete = false;
+        }
+    }
+    DeliverDeferred();
+    return complete;
+}
+
+void CDialog::DeliverDeferred()
+{
+    if (m_exchangeDepth > 0) {
+        return;
+    }
+    std::vector<CNotify> waiting = std::exchange(m_deferred, {});
+    for (CNotify& notify : waiting) {
+        DispatchNotify(notify);
+    }
+}
+
+bool CDialog::Raise(CNotify& notify)
+{
+    if (m_ended) {
+        return false;
+    }
+    if (m_exchangeDepth > 0 && IsCommand(notify.event)) {
+        if (!m_dropEvents) {
+            m_deferred.push_back(notify);
+        }
+        return false;
+    }
+    Guard([&] { DispatchNotify(notify); });
+    return true;
+}
+
+void CDialog::DispatchNotify(CNotify& notify)
+{
+    if (IsCommand(notify.event)) {
+        OnCommand(notify.id, notify.event);
+    } else if (const MessageEntry* entry = GetMessageMap().Find(notify.id, notify.event)) {
+        entry->handler(*this, notify);
+    }
+}
+
+bool CDialog::OnCommand(int id, ControlEvent event)
+{
+    if (const MessageEntry* entry = GetMessageMap().Find(id, event)) {
+        CNotify notify{id, event};
+        entry->handler(*this, notify);
+        return true;
+    }
+    if (event == ControlEvent::clicked && id == kIdOk) {
+        OnOK();
+        return true;
+    }
+    if (event == ControlEvent::clicked && id == kIdCancel) {
+        OnCancel();
+        return true;
+    }
+    return false;
+}
+
+/// No exception may pass through the toolkit's event loop.
+void CDialog::Guard(const std::function<void()>& work)
+{
+    try {
+        work();
+    } catch (const CException& error) {
+        ShowMessage({L"", error.GetErrorMessage(), MessageIcon::stop});
+    } catch (...) {
+        if (!m_failure) {
+            m_failure = std::current_exception();
+        }
+        EndDialog(kIdCancel);
+    }
+}
+
+void CDialog::SetTimer(int id, int milliseconds)
+{
+    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+        window->StartTimer(id, milliseconds);
+    }
+}
+
+void CDialog::KillTimer(int id)
+{
+    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+        window->StopTimer(id);
+    }
+}
+
+CWnd CDialog::CreateControl(const ControlTemplate& control, const CRect& pixels)
+{
+    CWnd created;
+    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+        CNativeAccess::Attach(created, window->Add(control, ToNative(pixels)));
+    }
+    return created;
+}
+
+void CDialog::MoveControls(const std::vector<Move>& moves)
+{
+    CDialogWindow* window = CDialogAccess::Window(*this);
+    if (window == nullptr) {
+        return;
+    }
+    window->Client().setUpdatesEnabled(false);
+    for (const Move& move : moves) {
+        if (QWidget* widget = window->Find(move.id)) {
+            widget->setGeometry(ToNative(move.rect));
+        }
+    }
+    window->Client().setUpdatesEnabled(true);
+}
+
+void CDialog::PostNextControl()
+{
+    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+        QMetaObject::invokeMethod(
+            window, [window] { window->NextControl(); }, Qt::QueuedConnection);
+    }
+}
+
+int CDialog::GetFocusId() const
+{
+    const CDialogWindow* window = CDialogAccess::Window(*this);
+    const QWidget* focus = window != nullptr ? window->focusWidget() : nullptr;
+    return focus != nullptr ? GetControlId(*focus) : 0;
+}
+
+void CDialog::RedrawFrame()
+{
+    if (const CDialogWindow* window = CDialogAccess::Window(*this)) {
+        window->Caption().update();
+    }
+}
+
+CRect CDialog::MapDialogRect(const CRect& units) const
+{
+    const CDialogWindow* window = CDialogAccess::Window(*this);
+    return window != nullptr ? FromNative(window->MapUnits(units)) : CRect();
+}
+
+void CDialog::DoDataExchange(CDataExchange* /*pDX*/) {}
+
+bool CDialog::OnInitDialog()
+{
+    UpdateData(false);
+    return true;
+}
+
+void CDialog::OnOK()
+{
+    if (UpdateData(true)) {
+        EndDialog(kIdOk);
+    }
+}
+
+void CDialog::OnCancel()
+{
+    EndDialog(kIdCancel);
+}
+
+const CMessageMap& CDialog::GetMessageMap() const
+{
+    static const CMessageMap map(nullptr, {});
+    return map;
+}
+
+void CDialog::OnPaint() {}
+
+void CDialog::OnEraseBackground(CDC& dc)
+{
+    if (const CDialogWindow* window = CDialogAccess::Window(*this)) {
+        const QColor color = window->Client().palette().color(QPalette::Window);
+        const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
+        dc.FillRect(GetClientRect(),
+                    RGB(part(color.red()), part(color.green()), part(color.blue())));
+    }
+}
+
+void CDialog::OnSize(SizeKind /*kind*/) {}
+void CDialog::OnMove() {}
+void CDialog::OnMinMaxInfo(MinMaxInfo& /*info*/) {}
+void CDialog::OnTimer(int /*id*/) {}
+
+void CDialog::OnSysCommand(unsigned id)
+{
+    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+        window->DoSystemCommand(id);
+    }
+}
+
+bool CDialog::OnHelp()
+{
+    return false;
+}
+
+void CDialog::OnNcPaint(CDC& /*dc*/) {}
+void CDialog::OnNcLButtonDown(CPoint /*screen*/) {}
+
+ControlColors CDialog::OnCtlColor(ColorKind /*kind*/)
+{
+    return {};
+}
+
+void CDialog::OnDestroy() {}

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <vector>
+
+/// Kinds of controls that templates name.
+enum class ControlKind
+{
+    label,
+    /// A label in a sunken frame.
+    sunkenLabel,
+    groupBox,
+    button,
+    /// The button that Enter presses.
+    defaultButton,
+    checkBox,
+    radioButton,
+    edit,
+    /// Drop-down list; what is shown is one of its items or nothing.
+    comboList,
+    /// Drop-down list with an edit.
+    comboEdit,
+    tree,
+    /// Two arrows that raise steps and hold no value.
+    spin,
+    /// A surface that the dialog draws on with CClientDC.
+    canvas,
+    /// Marks the place of a control that the dialog attaches when it opens.
+    placeholder,
+    /// Corner that sizes the window.
+    sizeGrip,
+};
+
+/// Properties of a control, joined by |.
+enum ControlStyle : unsigned
+{
+    styleNone = 0,
+    styleDisabled = 1,
+    styleHidden = 2,
+    styleReadOnly = 4,
+    styleRight = 8,
+    styleSorted = 16,
+    styleSunken = 32,
+    /// A label or canvas that raises clicks.
+    styleNotify = 64,
+    /// First radio button of its group; the group ends before the next one that has this.
+    styleGroup = 128,
+    /// A control that has the keyboard's focus only by mouse.
+    styleNoTabStop = 256,
+};
+
+/// Ids of controls that nobody addresses.
+inline constexpr int kNoId = -1;
+
+/// One control: id, kind, caption and rectangle in dialog units, which are a quarter of the dialog
+/// font's average width across and an eighth of its height down.
+struct ControlTemplate
+{
+    int id;
+    ControlKind kind;
+    const wchar_t* caption;
+    int x;
+    int y;
+    int cx;
+    int cy;
+    unsigned style = styleNone;
+    /// Tooltip as small HTML, or null.
+    const wchar_t* toolTip = nullptr;
+};
+
+/// Properties of a dialog's frame, joined by |.
+enum FrameStyle : unsigned
+{
+    frameFixed = 0,
+    frameResizable = 1,
+    frameMinimizeBox = 2,
+    frameMaximizeBox = 4,
+};
+
+/// A dialog as data. Controls stand in the order in which Tab visits them.
+struct DialogTemplate
+{
+    int id;
+    const wchar_t* caption;
+    int cx;
+    int cy;
+    unsigned frame;
+    std::vector<ControlTemplate> controls;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/text.h"
+
+/// A font as dialogs name it. Where the face is missing, the nearest one of its kind stands in.
+struct CFont
+{
+    CString face;
+    /// Height of a line in pixels at the size for which templates are made; it grows with the
+    /// dialogs' font.
+    int height = 0;
+    /// 100 thin to 900 black; 400 is normal, 700 bold.
+    int weight = 400;
+    bool italic = false;
+    /// Asks for columns: every character of one width.
+    bool fixedPitch = false;
+};

@@ -1,0 +1,21 @@
+#include "uikit/grid_cell.h"
+
+#include "platform/format.h"
+#include "platform/numbers.h"
+
+void CUGCell::SetText(const CString& text)
+{
+    m_text = text;
+    m_dataType = GridDataType::text;
+}
+
+void CUGCell::SetNumber(double number)
+{
+    m_text = FormatFixed(number, m_decimals, 1);
+    m_dataType = GridDataType::number;
+}
+
+double CUGCell::GetNumber() const
+{
+    return _wtof(m_text);
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "uikit/grid_cell.h"
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+/// The cells of a grid: one row of headings, addressed as row -1, and any number of rows from 0.
+class CGridRows
+{
+public:
+    /// Cells that rows have beyond the new count are lost.
+    void SetColumnCount(int count);
+    int GetColumnCount() const { return static_cast<int>(m_heading.size()); }
+    int GetRowCount() const { return static_cast<int>(m_rows.size()); }
+
+    /// Adds a row of empty cells at the end.
+    void Append();
+    /// False if there is no such row.
+    bool Delete(int row);
+
+    /// Null outside the grid. The pointer holds until columns change or that row goes.
+    CUGCell* Find(int column, int row);
+    const CUGCell* Find(int column, int row) const;
+
+    /// Above 0 if the first cell belongs behind the second.
+    using Order = std::function<int(const CUGCell&, const CUGCell&)>;
+
+    /// Sorts the rows by a column; rows that compare equal keep their order. An exception of
+    /// `order` leaves the rows as they were. Does nothing if there is no such column.
+    void Sort(int column, const Order& order);
+
+private:
+    using Row = std::vector<CUGCell>;
+
+    Row m_heading;
+    /// Rebuilds delete the first row again and again, which a deque does in no time.
+    std::deque<Row> m_rows;
+};

@@ -1,0 +1,66 @@
+#include "uikit/native/canvas_widget.h"
+
+#include <QEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+CCanvasWidget::CCanvasWidget(QWidget* parent, bool sunken, bool notify)
+    : QFrame(parent), m_notify(notify)
+{
+    if (sunken) {
+        setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    }
+    // The dialog draws on canvases while it paints itself; a transparent child would make it paint
+    // itself again, without end.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+QImage* CCanvasWidget::Image()
+{
+    const QSize wanted = contentsRect().size() * devicePixelRatio();
+    if (m_image.size() != wanted) {
+        m_image = QImage(wanted, QImage::Format_ARGB32_Premultiplied);
+        m_image.setDevicePixelRatio(devicePixelRatio());
+        m_image.fill(palette().color(QPalette::Window));
+    }
+    return &m_image;
+}
+
+void CCanvasWidget::Erase()
+{
+    Image()->fill(palette().color(QPalette::Window));
+    update();
+}
+
+void CCanvasWidget::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().window());
+    if (!isEnabled()) {
+        painter.setOpacity(0.4);
+    }
+    painter.drawImage(contentsRect().topLeft(), *Image());
+    painter.setOpacity(1);
+    drawFrame(&painter);
+}
+
+void CCanvasWidget::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    Erase();
+}
+
+void CCanvasWidget::changeEvent(QEvent* event)
+{
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        Erase();
+    }
+}
+
+void CCanvasWidget::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (m_notify && event->button() == Qt::LeftButton && rect().contains(event->pos())) {
+        emit Clicked();
+    }
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QFrame>
+#include <QImage>
+
+#include <functional>
+
+/// A surface whose picture stays until it is erased: what is drawn on Image() shows at the next
+/// painting, whenever it was drawn.
+class CCanvasWidget : public QFrame
+{
+    Q_OBJECT
+
+public:
+    CCanvasWidget(QWidget* parent, bool sunken, bool notify);
+
+    /// The picture, of the size of the area inside the frame.
+    QImage* Image();
+    void Erase();
+
+signals:
+    void Clicked();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    bool m_notify;
+    QImage m_image;
+};

@@ -1,0 +1,174 @@
+#include "uikit/native/caption_bar.h"
+
+#include "uikit/application.h"
+
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolButton>
+#include <QWindow>
+
+namespace {
+
+constexpr int kHeightAtTemplateSize = 25;
+constexpr int kTitleIndent = 10;
+
+enum Glyph
+{
+    glyphClose,
+    glyphMaximize,
+    glyphMinimize
+};
+
+/// A flat button of the caption bar, red under the mouse if it closes.
+class CCaptionButton : public QToolButton
+{
+public:
+    CCaptionButton(QWidget* parent, int glyph) : QToolButton(parent), m_glyph(glyph)
+    {
+        setFocusPolicy(Qt::NoFocus);
+        setAttribute(Qt::WA_Hover);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        const bool closes = m_glyph == glyphClose;
+        QColor ink = palette().color(QPalette::WindowText);
+        if (underMouse()) {
+            painter.fillRect(rect(), closes ? QColor(0xC4, 0x2B, 0x1C)
+                                            : palette().color(QPalette::Midlight));
+            ink = closes ? QColor(Qt::white) : ink;
+        }
+        constexpr int kHalf = 4;
+        const QPointF c = QRectF(rect()).center();
+        painter.setRenderHint(QPainter::Antialiasing, closes);
+        painter.setPen(QPen(ink, closes ? 1.3 : 1.0));
+        switch (m_glyph) {
+        case glyphClose:
+            painter.drawLine(c - QPointF(kHalf, kHalf), c + QPointF(kHalf, kHalf));
+            painter.drawLine(c + QPointF(-kHalf, kHalf), c + QPointF(kHalf, -kHalf));
+            break;
+        case glyphMaximize:
+            painter.drawRect(QRectF(c.x() - kHalf, c.y() - kHalf, 2 * kHalf, 2 * kHalf).toRect());
+            break;
+        default:
+            painter.drawLine(c - QPointF(kHalf, 0), c + QPointF(kHalf, 0));
+        }
+    }
+
+private:
+    int m_glyph;
+};
+
+} // namespace
+
+CCaptionBar::CCaptionBar(QWidget* window, Buttons buttons)
+    : QWidget(window), m_window(window), m_maximizable(buttons.maximize)
+{
+    AddButton(&CCaptionBar::CloseRequested, "Chiudi", glyphClose);
+    if (buttons.maximize) {
+        AddButton(&CCaptionBar::MaximizeRequested, "Ingrandisci", glyphMaximize);
+    }
+    if (buttons.minimize) {
+        AddButton(&CCaptionBar::MinimizeRequested, "Riduci a icona", glyphMinimize);
+    }
+}
+
+QToolButton* CCaptionBar::AddButton(void (CCaptionBar::*signal)(), const char* name, int glyph)
+{
+    auto* button = new CCaptionButton(this, glyph);
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    connect(button, &QToolButton::clicked, this, signal);
+    m_buttons.append(button);
+    return button;
+}
+
+int CCaptionBar::Height()
+{
+    return qRound(kHeightAtTemplateSize * qMax(1.0, GetDialogScale()));
+}
+
+int CCaptionBar::ButtonWidth()
+{
+    return Height() * 5 / 4;
+}
+
+void CCaptionBar::SetTitle(const QString& title)
+{
+    m_title = title;
+    update();
+}
+
+void CCaptionBar::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    int right = width();
+    for (QToolButton* button : m_buttons) {
+        right -= ButtonWidth();
+        button->setGeometry(right, 0, ButtonWidth(), height());
+    }
+}
+
+void CCaptionBar::paintEvent(QPaintEvent* /*event*/)
+{
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), palette().color(QPalette::Light));
+        painter.setPen(palette().color(QPalette::Mid));
+        painter.drawLine(0, height() - 1, width(), height() - 1);
+        painter.setPen(
+            palette().color(m_window->isActiveWindow() ? QPalette::Active : QPalette::Disabled,
+                            QPalette::WindowText));
+        const int buttons = ButtonWidth() * static_cast<int>(m_buttons.size() + 2);
+        const QRect area = rect().adjusted(kTitleIndent, 0, -buttons, 0);
+        painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter,
+                         fontMetrics().elidedText(m_title, Qt::ElideRight, area.width()));
+    }
+    emit Painting();
+}
+
+void CCaptionBar::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    emit Pressed(event->globalPosition().toPoint());
+    if (!isVisible() || m_window->isMaximized()) {
+        return;
+    }
+    m_dragOffset = event->globalPosition().toPoint() - m_window->pos();
+    m_dragging = true;
+}
+
+/// The window system moves the window where it can, so that its edges snap as everywhere else.
+void CCaptionBar::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_dragging) {
+        return;
+    }
+    if (m_window->windowHandle() != nullptr && m_window->windowHandle()->startSystemMove()) {
+        m_dragging = false;
+        return;
+    }
+    m_window->move(event->globalPosition().toPoint() - m_dragOffset);
+}
+
+void CCaptionBar::mouseReleaseEvent(QMouseEvent* /*event*/)
+{
+    m_dragging = false;
+}
+
+void CCaptionBar::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && m_maximizable) {
+        emit MaximizeRequested();
+    }
+}
+
+void CCaptionBar::contextMenuEvent(QContextMenuEvent* event)
+{
+    emit MenuRequested(event->globalPos());
+}

@@ -1,0 +1,121 @@
+#include "uikit/native/control_factory.h"
+
+#include "uikit/native/access.h"
+#include "uikit/native/canvas_widget.h"
+#include "uikit/native/combo_widget.h"
+#include "uikit/native/size_grip.h"
+#include "uikit/native/small_widgets.h"
+#include "uikit/native/tree_widget.h"
+
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace {
+
+QWidget* MakeLabel(const ControlTemplate& control, QWidget& parent)
+{
+    auto* label = new CLabelWidget(&parent, (control.style & styleNotify) != 0);
+    label->setText(ToNative(control.caption));
+    if (control.kind == ControlKind::sunkenLabel) {
+        label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+        label->setMargin(1);
+        label->setIndent(2);
+    }
+    if ((control.style & styleRight) != 0) {
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    return label;
+}
+
+QWidget* MakeGroup(const ControlTemplate& control, QWidget& parent)
+{
+    auto* group = new CGroupWidget(&parent);
+    group->setTitle(ToNative(control.caption));
+    group->lower();
+    return group;
+}
+
+QWidget* MakePushButton(const ControlTemplate& control, QWidget& parent)
+{
+    auto* button = new QPushButton(ToNative(control.caption), &parent);
+    button->setDefault(control.kind == ControlKind::defaultButton);
+    button->setAutoDefault(false);
+    return button;
+}
+
+/// Check boxes and radio buttons may stand on the line of a frame, which must not show through.
+template <class Button>
+QWidget* MakeCheckButton(const ControlTemplate& control, QWidget& parent)
+{
+    auto* button = new Button(ToNative(control.caption), &parent);
+    button->setAutoFillBackground(true);
+    return button;
+}
+
+QWidget* MakeEdit(const ControlTemplate& control, QWidget& parent)
+{
+    auto* edit = new CEditWidget(&parent);
+    edit->setReadOnly((control.style & styleReadOnly) != 0);
+    if (edit->isReadOnly()) {
+        QPalette colors = edit->palette();
+        colors.setColor(QPalette::Base, colors.color(QPalette::Window));
+        edit->setPalette(colors);
+    }
+    if ((control.style & styleRight) != 0) {
+        edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    return edit;
+}
+
+QWidget* MakeWidget(const ControlTemplate& control, QWidget& parent)
+{
+    const bool sorted = (control.style & styleSorted) != 0;
+    switch (control.kind) {
+    case ControlKind::label:
+    case ControlKind::sunkenLabel:
+        return MakeLabel(control, parent);
+    case ControlKind::groupBox:
+        return MakeGroup(control, parent);
+    case ControlKind::button:
+    case ControlKind::defaultButton:
+        return MakePushButton(control, parent);
+    case ControlKind::checkBox:
+        return MakeCheckButton<QCheckBox>(control, parent);
+    case ControlKind::radioButton:
+        return MakeCheckButton<QRadioButton>(control, parent);
+    case ControlKind::edit:
+        return MakeEdit(control, parent);
+    case ControlKind::comboList:
+        return new CComboWidget(&parent, false, sorted);
+    case ControlKind::comboEdit:
+        return new CComboWidget(&parent, true, sorted);
+    case ControlKind::tree:
+        return new CTreeWidget(&parent);
+    case ControlKind::spin:
+        return new CSpinWidget(&parent);
+    case ControlKind::canvas:
+        return new CCanvasWidget(&parent, (control.style & styleSunken) != 0,
+                                 (control.style & styleNotify) != 0);
+    case ControlKind::sizeGrip:
+        return new CSizeGrip(&parent);
+    case ControlKind::placeholder:
+        break;
+    }
+    return new QWidget(&parent);
+}
+
+} // namespace
+
+QWidget* MakeControl(const ControlTemplate& control, QWidget& parent)
+{
+    QWidget* widget = MakeWidget(control, parent);
+    widget->setEnabled((control.style & styleDisabled) == 0);
+    widget->setVisible((control.style & styleHidden) == 0);
+    if ((control.style & styleNoTabStop) != 0) {
+        widget->setFocusPolicy(Qt::ClickFocus);
+    }
+    if (control.toolTip != nullptr) {
+        widget->setToolTip(ToNative(control.toolTip));
+    }
+    return widget;
+}

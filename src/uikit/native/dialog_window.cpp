@@ -1,0 +1,534 @@
+#include "uikit/native/dialog_window.h"
+
+#include "uikit/application.h"
+#include "uikit/native/access.h"
+#include "uikit/native/canvas_widget.h"
+#include "uikit/native/caption_bar.h"
+#include "uikit/native/colors.h"
+#include "uikit/native/combo_widget.h"
+#include "uikit/native/control_factory.h"
+#include "uikit/native/dialog_font.h"
+#include "uikit/native/size_grip.h"
+#include "uikit/native/small_widgets.h"
+#include "uikit/native/surface.h"
+#include "uikit/native/tree_widget.h"
+
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QWindow>
+
+namespace {
+
+/// Width of the strip at which a window is sized.
+constexpr int kSizingBorder = 5;
+
+/// The system's own entries of the system menu.
+enum SystemCommand : unsigned
+{
+    systemRestore = 0xF120,
+    systemMinimize = 0xF020,
+    systemMaximize = 0xF030,
+    systemClose = 0xF060,
+};
+
+} // namespace
+
+/// The area below the caption bar.
+class CClientArea : public QWidget
+{
+public:
+    explicit CClientArea(CDialogWindow& window) : QWidget(&window), m_window(window) {}
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override { m_window.PaintClient(); }
+
+private:
+    CDialogWindow& m_window;
+};
+
+CDialogWindow* CDialogAccess::Window(const CDialog& dialog)
+{
+    return CNativeAccess::As<CDialogWindow>(dialog);
+}
+
+bool CDialogAccess::Raise(CDialog& dialog, CNotify& notify)
+{
+    return dialog.Raise(notify);
+}
+
+void CDialogAccess::Guard(CDialog& dialog, const std::function<void()>& work)
+{
+    dialog.Guard(work);
+}
+
+CDialogWindow::CDialogWindow(CDialog& dialog, QWidget* owner)
+    : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), m_dialog(dialog)
+{
+    setWindowModality(Qt::ApplicationModal);
+    setFont(GetDialogFont());
+    const unsigned frame = dialog.GetTemplate().frame;
+    m_caption =
+        new CCaptionBar(this, {(frame & frameMinimizeBox) != 0, (frame & frameMaximizeBox) != 0});
+    m_client = new CClientArea(*this);
+    setMouseTracking(dialog.IsResizable());
+
+    connect(m_caption, &CCaptionBar::CloseRequested, this,
+            [this] { Tell(kIdCancel, ControlEvent::clicked); });
+    connect(m_caption, &CCaptionBar::MinimizeRequested, this, [this] { showMinimized(); });
+    connect(m_caption, &CCaptionBar::MaximizeRequested, this,
+            [this] { isMaximized() ? showNormal() : showMaximized(); });
+    connect(m_caption, &CCaptionBar::MenuRequested, this, &CDialogWindow::ShowSystemMenu);
+    connect(m_caption, &CCaptionBar::Painting, this, [this] {
+        CDialogAccess::Guard(m_dialog, [this] {
+            CPaintDC dc(m_caption);
+            m_dialog.OnNcPaint(dc);
+        });
+    });
+    connect(m_caption, &CCaptionBar::Pressed, this, [this](const QPoint& screen) {
+        CDialogAccess::Guard(m_dialog, [&] { m_dialog.OnNcLButtonDown({screen.x(), screen.y()}); });
+    });
+}
+
+CDialogWindow::~CDialogWindow() = default;
+
+int CDialogWindow::Border() const
+{
+    return m_dialog.IsResizable() ? kSizingBorder : 1;
+}
+
+QRect CDialogWindow::MapUnits(const CRect& units) const
+{
+    const QSize base = GetDialogBaseUnits(font());
+    const auto across = [&](int x) { return qRound(x * base.width() / 4.0); };
+    const auto down = [&](int y) { return qRound(y * base.height() / 8.0); };
+    const QPoint corner(across(units.left), down(units.top));
+    return {corner, QSize(across(units.right) - corner.x(), down(units.bottom) - corner.y())};
+}
+
+QWidget* CDialogWindow::Find(int id) const
+{
+    const auto found = m_controls.find(id);
+    return found == m_controls.end() ? nullptr : found->second.data();
+}
+
+QWidget* CDialogWindow::Add(const ControlTemplate& control, const QRect& pixels)
+{
+    QWidget* widget = MakeControl(control, *m_client);
+    widget->setGeometry(pixels);
+    SetControlId(*widget, control.id);
+    if (control.id != kNoId) {
+        m_controls[control.id] = widget;
+    }
+    if (auto* radio = qobject_cast<QRadioButton*>(widget)) {
+        if ((control.style & styleGroup) != 0 || m_lastGroup == nullptr) {
+            m_lastGroup = new QButtonGroup(this);
+        }
+        m_lastGroup->addButton(radio);
+    }
+    Connect(*widget, control);
+    return widget;
+}
+
+void CDialogWindow::Connect(QWidget& widget, const ControlTemplate& control)
+{
+    const int id = control.id;
+    const auto tells = [this, id](ControlEvent event) {
+        return [this, id, event] { Tell(id, event); };
+    };
+    if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+        connect(button, &QAbstractButton::clicked, this, tells(ControlEvent::clicked));
+    } else if (auto* edit = qobject_cast<CEditWidget*>(&widget)) {
+        connect(edit, &QLineEdit::textChanged, this, tells(ControlEvent::textChanged));
+        connect(edit, &CEditWidget::FocusLost, this, tells(ControlEvent::focusLost));
+    } else if (auto* combo = qobject_cast<CComboWidget*>(&widget)) {
+        connect(combo, &QComboBox::activated, this, tells(ControlEvent::selectionEnded));
+        connect(combo, &CComboWidget::FocusLost, this, tells(ControlEvent::focusLost));
+        if (combo->isEditable()) {
+            connect(combo->lineEdit(), &QLineEdit::textEdited, this,
+                    tells(ControlEvent::editChanged));
+        }
+    } else if (auto* label = qobject_cast<CLabelWidget*>(&widget)) {
+        connect(label, &CLabelWidget::Clicked, this, tells(ControlEvent::clicked));
+    } else if (auto* canvas = qobject_cast<CCanvasWidget*>(&widget)) {
+        connect(canvas, &CCanvasWidget::Clicked, this, tells(ControlEvent::clicked));
+    } else if (auto* spin = qobject_cast<CSpinWidget*>(&widget)) {
+        connect(spin, &CSpinWidget::Stepped, this, [this, id](int delta) {
+            CNotify notify{id, ControlEvent::step, delta};
+            m_dialog.Raise(notify);
+        });
+    } else if (auto* tree = qobject_cast<CTreeWidget*>(&widget)) {
+        connect(tree, &CTreeWidget::ChoiceChanged, this, [this, id](QTreeWidgetItem* item) {
+            CNotify notify{id, ControlEvent::treeSelectionChanged};
+            notify.item = reinterpret_cast<HTREEITEM>(item);
+            m_dialog.Raise(notify);
+        });
+        tree->SetMayExpand([this, id](QTreeWidgetItem* item) {
+            CNotify notify{id, ControlEvent::treeItemExpanding};
+            notify.item = reinterpret_cast<HTREEITEM>(item);
+            m_dialog.Raise(notify);
+            return notify.result == 0;
+        });
+    } else if (auto* grip = qobject_cast<CSizeGrip*>(&widget)) {
+        connect(grip, &CSizeGrip::Grabbed, this, [this](const QPoint& screen) {
+            StartSizing(Qt::RightEdge | Qt::BottomEdge, screen);
+        });
+        connect(grip, &CSizeGrip::Dragged, this, &CDialogWindow::SizeTo);
+    }
+}
+
+std::vector<QRadioButton*> CDialogWindow::RadioGroup(int firstId) const
+{
+    std::vector<QRadioButton*> group;
+    const auto* first = qobject_cast<QRadioButton*>(Find(firstId));
+    if (first == nullptr || first->group() == nullptr) {
+        return group;
+    }
+    for (QAbstractButton* button : first->group()->buttons()) {
+        group.push_back(qobject_cast<QRadioButton*>(button));
+    }
+    return group;
+}
+
+void CDialogWindow::Tell(int id, ControlEvent event)
+{
+    CNotify notify{id, event};
+    m_dialog.Raise(notify);
+}
+
+void CDialogWindow::StartTimer(int id, int milliseconds)
+{
+    StopTimer(id);
+    auto* timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this,
+            [this, id] { CDialogAccess::Guard(m_dialog, [&] { m_dialog.OnTimer(id); }); });
+    timer->start(milliseconds);
+    m_timers[id] = timer;
+}
+
+void CDialogWindow::StopTimer(int id)
+{
+    const auto found = m_timers.find(id);
+    if (found != m_timers.end()) {
+        found->second->stop();
+        found->second->deleteLater();
+        m_timers.erase(found);
+    }
+}
+
+void CDialogWindow::ApplyColors()
+{
+    CDialogAccess::Guard(m_dialog, [this] {
+        const ControlColors dialog = m_dialog.OnCtlColor(ColorKind::dialog);
+        if (dialog.brush) {
+            QPalette colors = m_client->palette();
+            colors.setColor(QPalette::Window, ToNative(*dialog.brush));
+            m_client->setPalette(colors);
+        }
+        for (const auto& [id, widget] : m_controls) {
+            if (widget) {
+                ApplyControlColors(*widget,
+                                   [this](ColorKind kind) { return m_dialog.OnCtlColor(kind); });
+            }
+        }
+    });
+}
+
+void CDialogWindow::ApplyMinMax()
+{
+    if (!m_dialog.IsResizable()) {
+        setFixedSize(size());
+        return;
+    }
+    MinMaxInfo info{{0, 0}, {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}, {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}};
+    CDialogAccess::Guard(m_dialog, [&] { m_dialog.OnMinMaxInfo(info); });
+    setMinimumSize(info.minTrackSize.cx, info.minTrackSize.cy);
+    setMaximumSize(qMin(info.maxTrackSize.cx, info.maxSize.cx),
+                   qMin(info.maxTrackSize.cy, info.maxSize.cy));
+}
+
+void CDialogWindow::FocusFirst()
+{
+    for (QWidget* widget = nextInFocusChain(); widget != nullptr && widget != this;
+         widget = widget->nextInFocusChain()) {
+        const bool takesTab = (widget->focusPolicy() & Qt::TabFocus) != 0;
+        if (takesTab && widget->isEnabled() && !widget->isHidden()) {
+            widget->setFocus(Qt::TabFocusReason);
+            return;
+        }
+    }
+}
+
+void CDialogWindow::ShowSystemMenu(const QPoint& screen)
+{
+    QMenu menu(this);
+    const auto add = [&](const QString& text, unsigned id, bool enabled) {
+        QAction* action = menu.addAction(text);
+        action->setEnabled(enabled);
+        action->setData(id);
+    };
+    const unsigned frame = m_dialog.GetTemplate().frame;
+    if ((frame & (frameMinimizeBox | frameMaximizeBox)) != 0) {
+        add("&Ripristina", systemRestore, isMaximized());
+        add("Riduci a &icona", systemMinimize, (frame & frameMinimizeBox) != 0);
+        add("In&grandisci", systemMaximize, (frame & frameMaximizeBox) != 0 && !isMaximized());
+    }
+    add("&Chiudi\tAlt+F4", systemClose, true);
+    for (const CMenu::Entry& entry : m_dialog.GetSystemMenu().GetEntries()) {
+        if (entry.id == 0) {
+            menu.addSeparator();
+        } else {
+            add(ToNative(entry.text), entry.id, true);
+        }
+    }
+    if (const QAction* chosen = menu.exec(screen)) {
+        const unsigned id = chosen->data().toUInt();
+        CDialogAccess::Guard(m_dialog, [&] { m_dialog.OnSysCommand(id); });
+    }
+}
+
+void CDialogWindow::DefaultPlace()
+{
+    const QWidget* owner = parentWidget() != nullptr ? parentWidget()->window() : nullptr;
+    const QRect around = owner != nullptr && owner->isVisible()
+                             ? owner->frameGeometry()
+                             : QGuiApplication::primaryScreen()->availableGeometry();
+    move(around.center() - rect().center());
+}
+
+void CDialogWindow::SetClientSize(const QSize& size)
+{
+    resize(size.width() + 2 * Border(), size.height() + CCaptionBar::Height() + Border());
+    LayOut();
+}
+
+bool CDialogWindow::IsSizedByUser() const
+{
+    return m_dialog.IsResizable();
+}
+
+void CDialogWindow::NextControl()
+{
+    focusNextPrevChild(true);
+}
+
+void CDialogWindow::DoSystemCommand(unsigned id)
+{
+    switch (id) {
+    case systemRestore:
+        showNormal();
+        break;
+    case systemMinimize:
+        showMinimized();
+        break;
+    case systemMaximize:
+        showMaximized();
+        break;
+    case systemClose:
+        Tell(kIdCancel, ControlEvent::clicked);
+        break;
+    default:
+        break;
+    }
+}
+
+void CDialogWindow::RunLoop()
+{
+    QEventLoop loop;
+    m_loop = &loop;
+    loop.exec();
+    m_loop = nullptr;
+}
+
+void CDialogWindow::Leave()
+{
+    if (m_loop != nullptr) {
+        m_loop->quit();
+    }
+}
+
+void CDialogWindow::LayOut()
+{
+    const int border = Border();
+    m_caption->setGeometry(0, 0, width(), CCaptionBar::Height());
+    m_client->setGeometry(border, CCaptionBar::Height(), width() - 2 * border,
+                          height() - CCaptionBar::Height() - border);
+}
+
+void CDialogWindow::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    LayOut();
+    const SizeKind kind = isMinimized()   ? SizeKind::minimized
+                          : isMaximized() ? SizeKind::maximized
+                                          : SizeKind::normal;
+    CDialogAccess::Guard(m_dialog, [&] { m_dialog.OnSize(kind); });
+}
+
+void CDialogWindow::moveEvent(QMoveEvent* event)
+{
+    QWidget::moveEvent(event);
+    if (!isMinimized()) {
+        CDialogAccess::Guard(m_dialog, [this] { m_dialog.OnMove(); });
+    }
+}
+
+void CDialogWindow::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), m_client->palette().window());
+    painter.setPen(palette().color(QPalette::Dark));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void CDialogWindow::PaintClient()
+{
+    CDialogAccess::Guard(m_dialog, [this] {
+        CPaintDC dc(m_client);
+        m_dialog.OnEraseBackground(dc);
+    });
+    CDialogAccess::Guard(m_dialog, [this] { m_dialog.OnPaint(); });
+}
+
+void CDialogWindow::closeEvent(QCloseEvent* event)
+{
+    event->ignore();
+    Tell(kIdCancel, ControlEvent::clicked);
+}
+
+/// Enter presses the button that has the focus, or else the default one if it may be pressed.
+void CDialogWindow::PressDefault()
+{
+    if (auto* focused = qobject_cast<QPushButton*>(focusWidget())) {
+        focused->click();
+        return;
+    }
+    const auto* standard = qobject_cast<QAbstractButton*>(Find(kIdOk));
+    if (standard == nullptr || standard->isEnabled()) {
+        Tell(kIdOk, ControlEvent::clicked);
+    }
+}
+
+void CDialogWindow::keyPressEvent(QKeyEvent* event)
+{
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+        PressDefault();
+    } else if (plain && event->key() == Qt::Key_Escape) {
+        Tell(kIdCancel, ControlEvent::clicked);
+    } else if (plain && event->key() == Qt::Key_F1) {
+        CDialogAccess::Guard(m_dialog, [this] { m_dialog.OnHelp(); });
+    } else if (event->modifiers() == Qt::AltModifier && event->key() == Qt::Key_Space) {
+        ShowSystemMenu(mapToGlobal(QPoint(0, CCaptionBar::Height())));
+    } else if (event->modifiers() == Qt::AltModifier && event->key() == Qt::Key_F4) {
+        Tell(kIdCancel, ControlEvent::clicked);
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+Qt::Edges CDialogWindow::EdgesAt(const QPoint& place) const
+{
+    Qt::Edges edges;
+    if (!m_dialog.IsResizable() || isMaximized()) {
+        return edges;
+    }
+    constexpr int kCorner = 3 * kSizingBorder;
+    const bool nearTop = place.y() < kCorner;
+    const bool nearBottom = place.y() >= height() - kCorner;
+    const bool onSide = place.x() < kSizingBorder || place.x() >= width() - kSizingBorder;
+    const bool onBottom = place.y() >= height() - kSizingBorder;
+    edges.setFlag(Qt::LeftEdge, place.x() < (onBottom ? kCorner : kSizingBorder));
+    edges.setFlag(Qt::RightEdge, place.x() >= width() - (onBottom ? kCorner : kSizingBorder));
+    edges.setFlag(Qt::BottomEdge, onBottom || (onSide && nearBottom));
+    edges.setFlag(Qt::TopEdge, onSide && nearTop);
+    return edges;
+}
+
+void CDialogWindow::StartSizing(Qt::Edges edges, const QPoint& screen)
+{
+    ApplyMinMax();
+    if (windowHandle() != nullptr && windowHandle()->startSystemResize(edges)) {
+        return;
+    }
+    m_sizing = edges;
+    m_sizingStart = geometry();
+    m_sizingFrom = screen;
+}
+
+/// Stands in where no window manager sizes windows.
+void CDialogWindow::SizeTo(const QPoint& screen)
+{
+    if (!m_sizing) {
+        return;
+    }
+    const QPoint by = screen - m_sizingFrom;
+    QRect wanted = m_sizingStart;
+    if (m_sizing & Qt::LeftEdge) {
+        wanted.setLeft(qMin(wanted.left() + by.x(), wanted.right() + 1 - minimumWidth()));
+    }
+    if (m_sizing & Qt::TopEdge) {
+        wanted.setTop(qMin(wanted.top() + by.y(), wanted.bottom() + 1 - minimumHeight()));
+    }
+    if (m_sizing & Qt::RightEdge) {
+        wanted.setRight(wanted.right() + by.x());
+    }
+    if (m_sizing & Qt::BottomEdge) {
+        wanted.setBottom(wanted.bottom() + by.y());
+    }
+    setGeometry(
+        QRect(wanted.topLeft(), wanted.size().expandedTo(minimumSize()).boundedTo(maximumSize())));
+}
+
+void CDialogWindow::mousePressEvent(QMouseEvent* event)
+{
+    const Qt::Edges edges = EdgesAt(event->pos());
+    if (event->button() == Qt::LeftButton && edges) {
+        StartSizing(edges, event->globalPosition().toPoint());
+    }
+}
+
+void CDialogWindow::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_sizing) {
+        SizeTo(event->globalPosition().toPoint());
+        return;
+    }
+    const Qt::Edges edges = EdgesAt(event->pos());
+    const bool falling =
+        edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
+    const bool across = edges == Qt::LeftEdge || edges == Qt::RightEdge;
+    const bool down = edges == Qt::TopEdge || edges == Qt::BottomEdge;
+    setCursor(!edges    ? Qt::ArrowCursor
+              : across  ? Qt::SizeHorCursor
+              : down    ? Qt::SizeVerCursor
+              : falling ? Qt::SizeFDiagCursor
+                        : Qt::SizeBDiagCursor);
+}
+
+void CDialogWindow::mouseReleaseEvent(QMouseEvent* /*event*/)
+{
+    m_sizing = {};
+}
+
+void CDialogWindow::leaveEvent(QEvent* event)
+{
+    QWidget::leaveEvent(event);
+    unsetCursor();
+}
+
+void CDialogWindow::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && m_caption != nullptr) {
+        m_caption->update();
+    }
+}

@@ -1,0 +1,99 @@
+#pragma once
+
+#include "uikit/dialog.h"
+
+#include <QPointer>
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <map>
+#include <vector>
+
+class CCaptionBar;
+class QButtonGroup;
+
+/// The toolkit's side of a dialog: frame, caption bar and client area, and the way of their events
+/// into the dialog's handlers.
+class CDialogWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    CDialogWindow(CDialog& dialog, QWidget* owner);
+    ~CDialogWindow() override;
+
+    QWidget& Client() const { return *m_client; }
+    CCaptionBar& Caption() const { return *m_caption; }
+    QWidget* Find(int id) const;
+    QWidget* Add(const ControlTemplate& control, const QRect& pixels);
+    QRect MapUnits(const CRect& units) const;
+
+    /// Radio buttons of the group that begins with that id, in template order.
+    std::vector<class QRadioButton*> RadioGroup(int firstId) const;
+
+    void StartTimer(int id, int milliseconds);
+    void StopTimer(int id);
+
+    void ApplyColors();
+    void ApplyMinMax();
+    void FocusFirst();
+    void ShowSystemMenu(const QPoint& screen);
+    void DefaultPlace();
+    /// Sizes the window so that its client area has that size.
+    void SetClientSize(const QSize& size);
+    bool IsSizedByUser() const;
+    void NextControl();
+    /// Carries out the system's own entries of the system menu.
+    void DoSystemCommand(unsigned id);
+
+    /// Ends the event loop of DoModal().
+    void Leave();
+    void RunLoop();
+
+    /// Begins sizing by the user at these edges.
+    void StartSizing(Qt::Edges edges, const QPoint& screen);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    friend class CClientArea;
+
+    void PaintClient();
+    void Connect(QWidget& widget, const ControlTemplate& control);
+    void Tell(int id, ControlEvent event);
+    void PressDefault();
+    void LayOut();
+    Qt::Edges EdgesAt(const QPoint& place) const;
+    void SizeTo(const QPoint& screen);
+    int Border() const;
+
+    CDialog& m_dialog;
+    CCaptionBar* m_caption;
+    QWidget* m_client;
+    std::map<int, QPointer<QWidget>> m_controls;
+    QButtonGroup* m_lastGroup = nullptr;
+    std::map<int, QTimer*> m_timers;
+    class QEventLoop* m_loop = nullptr;
+    Qt::Edges m_sizing;
+    QRect m_sizingStart;
+    QPoint m_sizingFrom;
+};
+
+/// The inside of CDialog that its window needs.
+struct CDialogAccess
+{
+    static CDialogWindow* Window(const CDialog& dialog);
+    static bool Raise(CDialog& dialog, CNotify& notify);
+    static void Guard(CDialog& dialog, const std::function<void()>& work);
+};

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QWidget>
+
+#include <vector>
+
+/// A label that shortens what it cannot show and then tells the whole as its tooltip.
+class CLabelWidget : public QLabel
+{
+    Q_OBJECT
+
+public:
+    CLabelWidget(QWidget* parent, bool notify);
+
+    /// Makes the words of the text end at these places, in pixels.
+    void SetColumns(const std::vector<int>& ends);
+
+signals:
+    void Clicked();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    bool IsCut() const;
+    void PaintColumns();
+
+    bool m_notify;
+    std::vector<int> m_columns;
+};
+
+/// A frame whose title stands in its top line.
+class CGroupWidget : public QGroupBox
+{
+    Q_OBJECT
+
+public:
+    explicit CGroupWidget(QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// An edit that selects all when the keyboard comes to it and tells when it leaves.
+class CEditWidget : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit CEditWidget(QWidget* parent);
+
+    /// Colour behind the characters, apart from that of the field; an invalid one for none.
+    void SetTextBackground(const QColor& color);
+
+signals:
+    void FocusLost();
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override;
+};
+
+/// Two arrows, one above the other, that repeat while they are held.
+class CSpinWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CSpinWidget(QWidget* parent);
+
+signals:
+    /// -1 down, 1 up.
+    void Stepped(int delta);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    class QToolButton* MakeArrow(Qt::ArrowType arrow, int delta);
+
+    QToolButton* m_up;
+    QToolButton* m_down;
+};

@@ -1,0 +1,161 @@
+#include "uikit/native/tree_widget.h"
+
+#include "uikit/native/access.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+
+CTreeWidget::CTreeWidget(QWidget* parent) : QTreeWidget(parent)
+{
+    setColumnCount(1);
+    header()->hide();
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setUniformRowHeights(true);
+    setTabKeyNavigation(false);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    connect(this, &QTreeWidget::itemSelectionChanged, this, &CTreeWidget::TellChoice);
+}
+
+void CTreeWidget::SetImages(const CImageList& images)
+{
+    m_images = images;
+    if (!images.Get(0).IsEmpty()) {
+        setIconSize({images.Get(0).GetWidth(), images.Get(0).GetHeight()});
+    }
+}
+
+QIcon CTreeWidget::MakeIcon(int image, int selectedImage) const
+{
+    QIcon icon;
+    if (!m_images.Get(image).IsEmpty()) {
+        icon.addPixmap(QPixmap::fromImage(ToNative(m_images.Get(image))), QIcon::Normal);
+        icon.addPixmap(QPixmap::fromImage(ToNative(m_images.Get(selectedImage))), QIcon::Selected);
+    }
+    return icon;
+}
+
+bool CTreeWidget::IsClosedParent(const QTreeWidgetItem* item) const
+{
+    return item != nullptr && item->childCount() > 0 && !item->isExpanded();
+}
+
+bool CTreeWidget::AskToOpen(QTreeWidgetItem* item)
+{
+    return !m_mayExpand || m_mayExpand(item);
+}
+
+void CTreeWidget::OpenItem(QTreeWidgetItem* item)
+{
+    if (IsClosedParent(item) && AskToOpen(item)) {
+        item->setExpanded(true);
+    }
+}
+
+void CTreeWidget::Choose(QTreeWidgetItem* item)
+{
+    if (item == nullptr) {
+        setCurrentItem(nullptr);
+        clearSelection();
+        return;
+    }
+    QList<QTreeWidgetItem*> parents;
+    for (QTreeWidgetItem* parent = item->parent(); parent != nullptr; parent = parent->parent()) {
+        parents.prepend(parent);
+    }
+    for (QTreeWidgetItem* parent : parents) {
+        OpenItem(parent);
+    }
+    setCurrentItem(item);
+    scrollToItem(item);
+}
+
+QTreeWidgetItem* CTreeWidget::Chosen() const
+{
+    const QList<QTreeWidgetItem*> chosen = selectedItems();
+    return chosen.isEmpty() ? nullptr : chosen.first();
+}
+
+void CTreeWidget::DeleteItem(QTreeWidgetItem* item)
+{
+    if (m_toldChoice == item) {
+        m_toldChoice = nullptr;
+    }
+    delete item;
+}
+
+void CTreeWidget::DeleteAll()
+{
+    const QSignalBlocker quiet(this);
+    m_toldChoice = nullptr;
+    clear();
+}
+
+void CTreeWidget::TellChoice()
+{
+    QTreeWidgetItem* chosen = Chosen();
+    if (chosen != m_toldChoice) {
+        m_toldChoice = chosen;
+        emit ChoiceChanged(chosen);
+    }
+}
+
+void CTreeWidget::mousePressEvent(QMouseEvent* event)
+{
+    QTreeWidgetItem* item = itemAt(event->pos());
+    const bool onExpander = item != nullptr && event->button() == Qt::LeftButton &&
+                            event->pos().x() < visualItemRect(item).left();
+    if (onExpander && IsClosedParent(item)) {
+        OpenItem(item);
+        return;
+    }
+    QTreeWidget::mousePressEvent(event);
+}
+
+void CTreeWidget::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    QTreeWidgetItem* item = itemAt(event->pos());
+    if (event->button() == Qt::LeftButton && IsClosedParent(item)) {
+        OpenItem(item);
+        return;
+    }
+    QTreeWidget::mouseDoubleClickEvent(event);
+}
+
+void CTreeWidget::keyPressEvent(QKeyEvent* event)
+{
+    const bool opens = event->key() == Qt::Key_Right || event->key() == Qt::Key_Plus;
+    if (opens && IsClosedParent(currentItem())) {
+        OpenItem(currentItem());
+        return;
+    }
+    // Opening all levels at once would open items that nobody was asked about.
+    if (event->key() == Qt::Key_Asterisk) {
+        OpenItem(currentItem());
+        return;
+    }
+    QTreeWidget::keyPressEvent(event);
+}
+
+/// The toolkit would make the first item current, and the first press of an arrow key would then
+/// pass it by.
+void CTreeWidget::focusInEvent(QFocusEvent* event)
+{
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+/// One item stays chosen whatever is clicked: neither a click beside the items nor one with Ctrl
+/// takes the choice away.
+QItemSelectionModel::SelectionFlags CTreeWidget::selectionCommand(const QModelIndex& index,
+                                                                  const QEvent* event) const
+{
+    const auto flags = QTreeWidget::selectionCommand(index, event);
+    if (flags == QItemSelectionModel::NoUpdate || !index.isValid()) {
+        return QItemSelectionModel::NoUpdate;
+    }
+    return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+}

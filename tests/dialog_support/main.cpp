@@ -1,0 +1,17 @@
+// Dialogs without a screen, at the size of their templates. Controls need an application object
+// even where no dialog has opened yet.
+
+#include "uikit/application.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+int main(int argc, char** argv)
+{
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    testing::InitGoogleTest(&argc, argv);
+    EnsureApplication();
+    SetDialogFontSize(8);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,144 @@
+#include "uikit/grid_rows.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// Rows of a key and of the place at which each was added.
+CGridRows RowsOf(const std::vector<int>& keys)
+{
+    CGridRows rows;
+    rows.SetColumnCount(2);
+    for (int row = 0; row < static_cast<int>(keys.size()); ++row) {
+        rows.Append();
+        rows.Find(0, row)->SetNumber(keys[static_cast<std::size_t>(row)]);
+        rows.Find(1, row)->SetNumber(row);
+    }
+    return rows;
+}
+
+std::vector<int> ColumnOf(const CGridRows& rows, int column)
+{
+    std::vector<int> numbers;
+    for (int row = 0; row < rows.GetRowCount(); ++row) {
+        numbers.push_back(static_cast<int>(rows.Find(column, row)->GetNumber()));
+    }
+    return numbers;
+}
+
+int Ascending(const CUGCell& a, const CUGCell& b)
+{
+    return static_cast<int>(a.GetNumber() - b.GetNumber());
+}
+
+int Descending(const CUGCell& a, const CUGCell& b)
+{
+    return Ascending(b, a);
+}
+
+/// Every row in front of the first greater one.
+template <class Order>
+std::vector<int> Inserted(const CGridRows& rows, Order order)
+{
+    std::vector<int> sorted;
+    for (int row = 0; row < rows.GetRowCount(); ++row) {
+        const auto place = std::find_if(sorted.begin(), sorted.end(), [&](int other) {
+            return order(*rows.Find(0, other), *rows.Find(0, row)) > 0;
+        });
+        sorted.insert(place, row);
+    }
+    return sorted;
+}
+
+TEST(GridCell, NumberIsWhatTheRoundedTextSays)
+{
+    struct
+    {
+        double number;
+        int decimals;
+        const wchar_t* text;
+        double read;
+    } const cases[] = {{22.5, 0, L"22", 22.0},
+                       {2.66, 1, L"2.7", 2.7},
+                       {0.0, 0, L"0", 0.0},
+                       {-3.25, 1, L"-3.2", -3.2}};
+    CUGCell cell;
+    for (const auto& c : cases) {
+        cell.SetDecimals(c.decimals);
+        cell.SetNumber(c.number);
+        EXPECT_EQ(cell.GetText(), c.text);
+        EXPECT_EQ(cell.GetNumber(), c.read);
+        EXPECT_EQ(cell.GetDataType(), GridDataType::number);
+    }
+    cell.SetText(L"C 22");
+    EXPECT_EQ(cell.GetDataType(), GridDataType::text);
+    EXPECT_EQ(cell.GetNumber(), 0.0);
+}
+
+TEST(GridRows, DeletesFromTheTopUntilRefused)
+{
+    CGridRows rows = RowsOf({5, 6, 7});
+    EXPECT_FALSE(rows.Delete(3));
+    EXPECT_FALSE(rows.Delete(-1));
+    EXPECT_TRUE(rows.Delete(0));
+    EXPECT_EQ(ColumnOf(rows, 0), (std::vector{6, 7}));
+    EXPECT_TRUE(rows.Delete(0));
+    EXPECT_TRUE(rows.Delete(0));
+    EXPECT_FALSE(rows.Delete(0));
+    EXPECT_NE(rows.Find(1, -1), nullptr);
+    EXPECT_EQ(rows.Find(1, 0), nullptr);
+    EXPECT_EQ(rows.Find(2, -1), nullptr);
+}
+
+TEST(GridRows, SortsAsAPlainInsertionDoes)
+{
+    std::mt19937 random(7);
+    for (const int count : {0, 1, 2, 99, 100, 101, 200, 201, 757}) {
+        for (const int different : {1, 5, 10000}) {
+            std::vector<int> keys(static_cast<std::size_t>(count));
+            std::generate(keys.begin(), keys.end(), [&] {
+                return static_cast<int>(random() % static_cast<unsigned>(different));
+            });
+            for (const auto order : {Ascending, Descending}) {
+                CGridRows rows = RowsOf(keys);
+                const std::vector<int> wanted = Inserted(rows, order);
+                rows.Sort(0, order);
+                ASSERT_EQ(ColumnOf(rows, 1), wanted) << count << " rows of " << different;
+            }
+        }
+    }
+}
+
+TEST(GridRows, WalksSortedRowsInJumps)
+{
+    std::vector<int> keys(1000);
+    for (int i = 0; i < 1000; ++i) {
+        keys[static_cast<std::size_t>(i)] = i;
+    }
+    CGridRows rows = RowsOf(keys);
+    int asked = 0;
+    rows.Sort(0, [&](const CUGCell& a, const CUGCell& b) {
+        ++asked;
+        return Ascending(a, b);
+    });
+    // Up to ten jumps and one step back for each row.
+    EXPECT_LE(asked, 11 * 1000);
+}
+
+TEST(GridRows, SortThatThrowsChangesNothing)
+{
+    CGridRows rows = RowsOf({3, 2, 1});
+    EXPECT_THROW(
+        rows.Sort(
+            0, [](const CUGCell&, const CUGCell&) -> int { throw std::runtime_error("no order"); }),
+        std::runtime_error);
+    EXPECT_EQ(ColumnOf(rows, 0), (std::vector{3, 2, 1}));
+}
+
+} // namespace

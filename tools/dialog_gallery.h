@@ -1,0 +1,17 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// A dialog of the module with sample data, as pictures and checks over all dialogs open it.
+struct GalleryEntry
+{
+    /// Lower case with underscores, part of file names.
+    std::string name;
+    /// Opens the dialog and returns when it has ended.
+    std::function<void()> open;
+};
+
+/// All dialogs of the module. `dataFolder` is the folder of the sample data.
+std::vector<GalleryEntry> DialogGallery(const std::string& dataFolder);
