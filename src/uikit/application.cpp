@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QScreen>
 #include <QStyleFactory>
 
@@ -91,11 +90,6 @@ CSize GetVirtualScreenSize()
 int GetCaptionButtonWidth()
 {
     return CCaptionBar::ButtonWidth();
-}
-
-int GetCaptionHeight()
-{
-    return CCaptionBar::Height();
 }
 
 QFont GetDialogFont()

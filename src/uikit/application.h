@@ -15,9 +15,8 @@ void EnsureApplication();
 /// Size of all screens together.
 CSize GetVirtualScreenSize();
 
-/// Width of a button of the caption bar, and height of the bar, in pixels.
+/// Width of a button of the caption bar in pixels.
 int GetCaptionButtonWidth();
-int GetCaptionHeight();
 
 /// Factor by which dialogs are larger than at the size of their templates.
 double GetDialogScale();

@@ -87,14 +87,3 @@ int CComboBox::FindString(int start, const CString& prefix) const
     }
     return -1;
 }
-
-int CComboBox::FindStringExact(const CString& text) const
-{
-    const int count = GetCount();
-    for (int i = 0; i < count; ++i) {
-        if (Widget(*this)->itemText(i).compare(ToNative(text), Qt::CaseInsensitive) == 0) {
-            return i;
-        }
-    }
-    return -1;
-}

@@ -31,6 +31,4 @@ public:
     /// First item from `start` on, and around, that begins with `prefix`, without regard to case;
     /// -1 if none does.
     int FindString(int start, const CString& prefix) const;
-    /// First item equal to `text`, without regard to case; -1 if none is.
-    int FindStringExact(const CString& text) const;
 };

@@ -11,7 +11,6 @@
 
 #include <QRadioButton>
 
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -104,7 +103,7 @@ void DDX_Check(CDataExchange* pDX, int id, bool& value)
 
 void DDX_Radio(CDataExchange* pDX, int id, int& value)
 {
-    const CDialogWindow* window = CDialogAccess::Window(pDX->GetDialog());
+    const CDialogWindow* window = WindowOf(pDX->GetDialog());
     if (window == nullptr) {
         return;
     }

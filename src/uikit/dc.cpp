@@ -6,9 +6,6 @@
 
 #include <QFontMetrics>
 #include <QLinearGradient>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
-#include <QtMath>
 
 CNativeSurface::CNativeSurface(QSize imageSize)
     : image(imageSize.expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied), target(&image),
@@ -35,7 +32,9 @@ CNativeSurface::CNativeSurface(QWidget* painting) : size(painting->size())
 
 CNativeSurface::~CNativeSurface()
 {
-    painter.end();
+    if (painter.isActive()) {
+        painter.end();
+    }
     if (owner) {
         owner->update();
     }

@@ -45,7 +45,6 @@ void CDialog::Create()
     auto* window = new CDialogWindow(*this, QApplication::activeWindow());
     CNativeAccess::Attach(*this, window);
     SetWindowText(m_template.caption);
-    window->Caption().SetTitle(ToNative(m_template.caption));
     for (const ControlTemplate& control : m_template.controls) {
         window->Add(control, window->MapUnits({control.x, control.y, control.x + control.cx,
                                                control.y + control.cy}));
@@ -64,10 +63,10 @@ int CDialog::DoModal()
     bool focusFirst = true;
     Guard([&] { focusFirst = OnInitDialog(); });
 
-    CDialogWindow* window = CDialogAccess::Window(*this);
+    CDialogWindow* window = WindowOf(*this);
     if (!m_ended) {
         window->ApplyColors();
-        window->ApplyMinMax();
+        window->ApplyMinMax(window->size());
         if (focusFirst) {
             window->FocusFirst();
         }
@@ -90,7 +89,7 @@ void CDialog::EndDialog(int result)
 {
     m_result = result;
     m_ended = true;
-    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+    if (CDialogWindow* window = WindowOf(*this)) {
         window->Leave();
     }
 }
@@ -98,7 +97,7 @@ void CDialog::EndDialog(int result)
 CWnd CDialog::GetDlgItem(int id) const
 {
     CWnd control;
-    const CDialogWindow* window = CDialogAccess::Window(*this);
+    const CDialogWindow* window = WindowOf(*this);
     if (QWidget* widget = window != nullptr ? window->Find(id) : nullptr) {
         CNativeAccess::Attach(control, widget);
     }
@@ -128,23 +127,22 @@ void CDialog::DeliverDeferred()
     }
     std::vector<CNotify> waiting = std::exchange(m_deferred, {});
     for (CNotify& notify : waiting) {
-        DispatchNotify(notify);
+        if (!m_ended) {
+            DispatchNotify(notify);
+        }
     }
 }
 
-bool CDialog::Raise(CNotify& notify)
+void CDialog::Raise(CNotify& notify)
 {
     if (m_ended) {
-        return false;
+        return;
     }
-    if (m_exchangeDepth > 0 && IsCommand(notify.event)) {
-        if (!m_dropEvents) {
-            m_deferred.push_back(notify);
-        }
-        return false;
+    if (m_exchangeDepth == 0 || !IsCommand(notify.event)) {
+        Guard([&] { DispatchNotify(notify); });
+    } else if (!m_dropEvents) {
+        m_deferred.push_back(notify);
     }
-    Guard([&] { DispatchNotify(notify); });
-    return true;
 }
 
 void CDialog::DispatchNotify(CNotify& notify)
@@ -191,14 +189,14 @@ void CDialog::Guard(const std::function<void()>& work)
 
 void CDialog::SetTimer(int id, int milliseconds)
 {
-    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+    if (CDialogWindow* window = WindowOf(*this)) {
         window->StartTimer(id, milliseconds);
     }
 }
 
 void CDialog::KillTimer(int id)
 {
-    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+    if (CDialogWindow* window = WindowOf(*this)) {
         window->StopTimer(id);
     }
 }
@@ -206,7 +204,7 @@ void CDialog::KillTimer(int id)
 CWnd CDialog::CreateControl(const ControlTemplate& control, const CRect& pixels)
 {
     CWnd created;
-    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+    if (CDialogWindow* window = WindowOf(*this)) {
         CNativeAccess::Attach(created, window->Add(control, ToNative(pixels)));
     }
     return created;
@@ -214,7 +212,7 @@ CWnd CDialog::CreateControl(const ControlTemplate& control, const CRect& pixels)
 
 void CDialog::MoveControls(const std::vector<Move>& moves)
 {
-    CDialogWindow* window = CDialogAccess::Window(*this);
+    CDialogWindow* window = WindowOf(*this);
     if (window == nullptr) {
         return;
     }
@@ -229,7 +227,7 @@ void CDialog::MoveControls(const std::vector<Move>& moves)
 
 void CDialog::PostNextControl()
 {
-    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+    if (CDialogWindow* window = WindowOf(*this)) {
         QMetaObject::invokeMethod(
             window, [window] { window->NextControl(); }, Qt::QueuedConnection);
     }
@@ -237,21 +235,21 @@ void CDialog::PostNextControl()
 
 int CDialog::GetFocusId() const
 {
-    const CDialogWindow* window = CDialogAccess::Window(*this);
+    const CDialogWindow* window = WindowOf(*this);
     const QWidget* focus = window != nullptr ? window->focusWidget() : nullptr;
     return focus != nullptr ? GetControlId(*focus) : 0;
 }
 
 void CDialog::RedrawFrame()
 {
-    if (const CDialogWindow* window = CDialogAccess::Window(*this)) {
+    if (const CDialogWindow* window = WindowOf(*this)) {
         window->Caption().update();
     }
 }
 
 CRect CDialog::MapDialogRect(const CRect& units) const
 {
-    const CDialogWindow* window = CDialogAccess::Window(*this);
+    const CDialogWindow* window = WindowOf(*this);
     return window != nullptr ? FromNative(window->MapUnits(units)) : CRect();
 }
 
@@ -285,7 +283,7 @@ void CDialog::OnPaint() {}
 
 void CDialog::OnEraseBackground(CDC& dc)
 {
-    if (const CDialogWindow* window = CDialogAccess::Window(*this)) {
+    if (const CDialogWindow* window = WindowOf(*this)) {
         const QColor color = window->Client().palette().color(QPalette::Window);
         const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
         dc.FillRect(GetClientRect(),
@@ -300,7 +298,7 @@ void CDialog::OnTimer(int /*id*/) {}
 
 void CDialog::OnSysCommand(unsigned id)
 {
-    if (CDialogWindow* window = CDialogAccess::Window(*this)) {
+    if (CDialogWindow* window = WindowOf(*this)) {
         window->DoSystemCommand(id);
     }
 }

@@ -9,7 +9,6 @@
 
 #include <exception>
 #include <functional>
-#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -159,10 +158,9 @@ protected:
 
 private:
     friend class CDialogWindow;
-    friend struct CDialogAccess;
 
     void Create();
-    bool Raise(CNotify& notify);
+    void Raise(CNotify& notify);
     void DispatchNotify(CNotify& notify);
     void DeliverDeferred();
 

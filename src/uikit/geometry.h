@@ -33,7 +33,6 @@ struct CRect
         return p.x >= left && p.x < right && p.y >= top && p.y < bottom;
     }
     CRect MovedBy(int dx, int dy) const { return {left + dx, top + dy, right + dx, bottom + dy}; }
-    CRect Inset(int d) const { return {left + d, top + d, right - d, bottom - d}; }
 
     friend bool operator==(const CRect&, const CRect&) = default;
 };

@@ -138,8 +138,6 @@ public:
     /// Width in pixels; 0 if there is no such column.
     int GetColumnWidth(int column) const;
     void SetColumnWidth(int column, int width);
-    /// The narrowest that the user can drag a column; 3 in a new grid.
-    void SetMinColumnWidth(int width);
 
     /// Fits the columns `first` to `count` minus 1 to their first `rows` rows and, if asked, their
     /// headings: the widest cell and 2 pixels more, not less than 3, not more than the width inside

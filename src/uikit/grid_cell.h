@@ -36,7 +36,6 @@ public:
 
     /// Decimals of SetNumber(), 0 to 9; 0 in a new cell.
     void SetDecimals(int decimals) { m_decimals = decimals; }
-    int GetDecimals() const { return m_decimals; }
 
     /// Makes it a cell of data type number that shows the number rounded to its decimals.
     void SetNumber(double number);

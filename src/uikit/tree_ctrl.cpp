@@ -157,7 +157,6 @@ void CTreeCtrl::SetExplorerLook()
 {
     if (CTreeWidget* tree = Widget(*this)) {
         tree->setAllColumnsShowFocus(true);
-        tree->setAnimated(true);
         tree->viewport()->setAttribute(Qt::WA_Hover);
     }
 }

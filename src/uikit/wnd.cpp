@@ -144,11 +144,7 @@ void CWnd::MoveWindow(const CRect& rect)
         return;
     }
     if (auto* dialog = qobject_cast<CDialogWindow*>(widget)) {
-        if (!dialog->IsSizedByUser()) {
-            dialog->setFixedSize(ToNative(rect).size());
-        } else {
-            dialog->ApplyMinMax();
-        }
+        dialog->ApplyMinMax(ToNative(rect).size());
     }
     widget->setGeometry(ToNative(rect));
 }
@@ -163,7 +159,8 @@ void CWnd::SetFocus()
 bool CWnd::HasFocus() const
 {
     const QWidget* widget = CNativeAccess::Widget(*this);
-    return widget != nullptr && widget->window()->focusWidget() == widget;
+    const QWidget* focus = widget != nullptr ? widget->window()->focusWidget() : nullptr;
+    return focus != nullptr && (focus == widget || focus == widget->focusProxy());
 }
 
 void CWnd::SetFont(const CFont& font)

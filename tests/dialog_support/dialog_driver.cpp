@@ -180,6 +180,8 @@ void CDialogDriver::Run(CDialog& dialog)
     const Script script = scripts.front();
     scripts.pop_front();
     CDialogUser user(dialog);
+    // Focus only moves, with the events of that, in a window that is active.
+    EXPECT_TRUE(QTest::qWaitForWindowActive(CNativeAccess::Widget(dialog)));
     try {
         script(user);
     } catch (const std::logic_error& error) {

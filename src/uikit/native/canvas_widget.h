@@ -3,8 +3,6 @@
 #include <QFrame>
 #include <QImage>
 
-#include <functional>
-
 /// A surface whose picture stays until it is erased: what is drawn on Image() shows at the next
 /// painting, whenever it was drawn.
 class CCanvasWidget : public QFrame

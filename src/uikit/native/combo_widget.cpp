@@ -23,7 +23,9 @@ CComboWidget::CComboWidget(QWidget* parent, bool editable, bool sorted)
     setMaxVisibleItems(kMostRowsShown);
     if (editable) {
         setCompleter(nullptr);
-        connect(lineEdit(), &QLineEdit::editingFinished, this, &CComboWidget::FocusLost);
+        // The toolkit would choose an item whose text was typed, which is no choice of the user's.
+        disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
+        disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
     }
 }
 
@@ -126,7 +128,7 @@ void CComboWidget::focusOutEvent(QFocusEvent* event)
     QComboBox::focusOutEvent(event);
     const bool goesToAnotherControl =
         event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
-    if (goesToAnotherControl && !isEditable()) {
+    if (goesToAnotherControl) {
         emit FocusLost();
     }
 }

@@ -7,6 +7,7 @@
 #include "uikit/native/small_widgets.h"
 #include "uikit/native/tree_widget.h"
 
+#include <QCheckBox>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -43,11 +44,22 @@ QWidget* MakePushButton(const ControlTemplate& control, QWidget& parent)
     return button;
 }
 
+/// A check box or radio button that is pressed anywhere, not just on its caption.
+template <class Button>
+class CWholeButton : public Button
+{
+public:
+    using Button::Button;
+
+protected:
+    bool hitButton(const QPoint& at) const override { return this->rect().contains(at); }
+};
+
 /// Check boxes and radio buttons may stand on the line of a frame, which must not show through.
 template <class Button>
 QWidget* MakeCheckButton(const ControlTemplate& control, QWidget& parent)
 {
-    auto* button = new Button(ToNative(control.caption), &parent);
+    auto* button = new CWholeButton<Button>(ToNative(control.caption), &parent);
     button->setAutoFillBackground(true);
     return button;
 }

@@ -13,10 +13,9 @@
 #include "uikit/native/surface.h"
 #include "uikit/native/tree_widget.h"
 
-#include <QApplication>
 #include <QButtonGroup>
-#include <QCheckBox>
 #include <QEventLoop>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
@@ -40,6 +39,11 @@ enum SystemCommand : unsigned
     systemClose = 0xF060,
 };
 
+bool IsSystemMenuKey(const QKeyEvent& event)
+{
+    return event.modifiers() == Qt::AltModifier && event.key() == Qt::Key_Space;
+}
+
 } // namespace
 
 /// The area below the caption bar.
@@ -55,19 +59,9 @@ private:
     CDialogWindow& m_window;
 };
 
-CDialogWindow* CDialogAccess::Window(const CDialog& dialog)
+CDialogWindow* WindowOf(const CDialog& dialog)
 {
     return CNativeAccess::As<CDialogWindow>(dialog);
-}
-
-bool CDialogAccess::Raise(CDialog& dialog, CNotify& notify)
-{
-    return dialog.Raise(notify);
-}
-
-void CDialogAccess::Guard(CDialog& dialog, const std::function<void()>& work)
-{
-    dialog.Guard(work);
 }
 
 CDialogWindow::CDialogWindow(CDialog& dialog, QWidget* owner)
@@ -80,7 +74,11 @@ CDialogWindow::CDialogWindow(CDialog& dialog, QWidget* owner)
         new CCaptionBar(this, {(frame & frameMinimizeBox) != 0, (frame & frameMaximizeBox) != 0});
     m_client = new CClientArea(*this);
     setMouseTracking(dialog.IsResizable());
+    // The pointer of the sizing border would stay while the mouse is inside.
+    m_caption->setCursor(Qt::ArrowCursor);
+    m_client->setCursor(Qt::ArrowCursor);
 
+    connect(this, &QWidget::windowTitleChanged, m_caption, &CCaptionBar::SetTitle);
     connect(m_caption, &CCaptionBar::CloseRequested, this,
             [this] { Tell(kIdCancel, ControlEvent::clicked); });
     connect(m_caption, &CCaptionBar::MinimizeRequested, this, [this] { showMinimized(); });
@@ -88,13 +86,13 @@ CDialogWindow::CDialogWindow(CDialog& dialog, QWidget* owner)
             [this] { isMaximized() ? showNormal() : showMaximized(); });
     connect(m_caption, &CCaptionBar::MenuRequested, this, &CDialogWindow::ShowSystemMenu);
     connect(m_caption, &CCaptionBar::Painting, this, [this] {
-        CDialogAccess::Guard(m_dialog, [this] {
+        m_dialog.Guard([this] {
             CPaintDC dc(m_caption);
             m_dialog.OnNcPaint(dc);
         });
     });
     connect(m_caption, &CCaptionBar::Pressed, this, [this](const QPoint& screen) {
-        CDialogAccess::Guard(m_dialog, [&] { m_dialog.OnNcLButtonDown({screen.x(), screen.y()}); });
+        m_dialog.Guard([&] { m_dialog.OnNcLButtonDown({screen.x(), screen.y()}); });
     });
 }
 
@@ -124,6 +122,7 @@ QWidget* CDialogWindow::Add(const ControlTemplate& control, const QRect& pixels)
 {
     QWidget* widget = MakeControl(control, *m_client);
     widget->setGeometry(pixels);
+    widget->installEventFilter(this);
     SetControlId(*widget, control.id);
     if (control.id != kNoId) {
         m_controls[control.id] = widget;
@@ -182,6 +181,7 @@ void CDialogWindow::Connect(QWidget& widget, const ControlTemplate& control)
             StartSizing(Qt::RightEdge | Qt::BottomEdge, screen);
         });
         connect(grip, &CSizeGrip::Dragged, this, &CDialogWindow::SizeTo);
+        connect(grip, &CSizeGrip::Released, this, [this] { m_sizing = {}; });
     }
 }
 
@@ -208,8 +208,11 @@ void CDialogWindow::StartTimer(int id, int milliseconds)
 {
     StopTimer(id);
     auto* timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this,
-            [this, id] { CDialogAccess::Guard(m_dialog, [&] { m_dialog.OnTimer(id); }); });
+    connect(timer, &QTimer::timeout, this, [this, id] {
+        if (!m_dialog.HasEnded()) {
+            m_dialog.Guard([&] { m_dialog.OnTimer(id); });
+        }
+    });
     timer->start(milliseconds);
     m_timers[id] = timer;
 }
@@ -226,7 +229,7 @@ void CDialogWindow::StopTimer(int id)
 
 void CDialogWindow::ApplyColors()
 {
-    CDialogAccess::Guard(m_dialog, [this] {
+    m_dialog.Guard([this] {
         const ControlColors dialog = m_dialog.OnCtlColor(ColorKind::dialog);
         if (dialog.brush) {
             QPalette colors = m_client->palette();
@@ -242,14 +245,14 @@ void CDialogWindow::ApplyColors()
     });
 }
 
-void CDialogWindow::ApplyMinMax()
+void CDialogWindow::ApplyMinMax(const QSize& size)
 {
     if (!m_dialog.IsResizable()) {
-        setFixedSize(size());
+        setFixedSize(size);
         return;
     }
     MinMaxInfo info{{0, 0}, {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}, {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}};
-    CDialogAccess::Guard(m_dialog, [&] { m_dialog.OnMinMaxInfo(info); });
+    m_dialog.Guard([&] { m_dialog.OnMinMaxInfo(info); });
     setMinimumSize(info.minTrackSize.cx, info.minTrackSize.cy);
     setMaximumSize(qMin(info.maxTrackSize.cx, info.maxSize.cx),
                    qMin(info.maxTrackSize.cy, info.maxSize.cy));
@@ -291,7 +294,7 @@ void CDialogWindow::ShowSystemMenu(const QPoint& screen)
     }
     if (const QAction* chosen = menu.exec(screen)) {
         const unsigned id = chosen->data().toUInt();
-        CDialogAccess::Guard(m_dialog, [&] { m_dialog.OnSysCommand(id); });
+        m_dialog.Guard([&] { m_dialog.OnSysCommand(id); });
     }
 }
 
@@ -308,11 +311,6 @@ void CDialogWindow::SetClientSize(const QSize& size)
 {
     resize(size.width() + 2 * Border(), size.height() + CCaptionBar::Height() + Border());
     LayOut();
-}
-
-bool CDialogWindow::IsSizedByUser() const
-{
-    return m_dialog.IsResizable();
 }
 
 void CDialogWindow::NextControl()
@@ -342,6 +340,10 @@ void CDialogWindow::DoSystemCommand(unsigned id)
 
 void CDialogWindow::RunLoop()
 {
+    // Showing may have ended the dialog.
+    if (m_dialog.HasEnded()) {
+        return;
+    }
     QEventLoop loop;
     m_loop = &loop;
     loop.exec();
@@ -370,14 +372,14 @@ void CDialogWindow::resizeEvent(QResizeEvent* event)
     const SizeKind kind = isMinimized()   ? SizeKind::minimized
                           : isMaximized() ? SizeKind::maximized
                                           : SizeKind::normal;
-    CDialogAccess::Guard(m_dialog, [&] { m_dialog.OnSize(kind); });
+    m_dialog.Guard([&] { m_dialog.OnSize(kind); });
 }
 
 void CDialogWindow::moveEvent(QMoveEvent* event)
 {
     QWidget::moveEvent(event);
     if (!isMinimized()) {
-        CDialogAccess::Guard(m_dialog, [this] { m_dialog.OnMove(); });
+        m_dialog.Guard([this] { m_dialog.OnMove(); });
     }
 }
 
@@ -391,11 +393,11 @@ void CDialogWindow::paintEvent(QPaintEvent* /*event*/)
 
 void CDialogWindow::PaintClient()
 {
-    CDialogAccess::Guard(m_dialog, [this] {
+    m_dialog.Guard([this] {
         CPaintDC dc(m_client);
         m_dialog.OnEraseBackground(dc);
     });
-    CDialogAccess::Guard(m_dialog, [this] { m_dialog.OnPaint(); });
+    m_dialog.Guard([this] { m_dialog.OnPaint(); });
 }
 
 void CDialogWindow::closeEvent(QCloseEvent* event)
@@ -417,6 +419,16 @@ void CDialogWindow::PressDefault()
     }
 }
 
+/// Controls would take the key of the system menu for a blank or a press.
+bool CDialogWindow::eventFilter(QObject* control, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && IsSystemMenuKey(*static_cast<QKeyEvent*>(event))) {
+        keyPressEvent(static_cast<QKeyEvent*>(event));
+        return true;
+    }
+    return QWidget::eventFilter(control, event);
+}
+
 void CDialogWindow::keyPressEvent(QKeyEvent* event)
 {
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
@@ -425,8 +437,8 @@ void CDialogWindow::keyPressEvent(QKeyEvent* event)
     } else if (plain && event->key() == Qt::Key_Escape) {
         Tell(kIdCancel, ControlEvent::clicked);
     } else if (plain && event->key() == Qt::Key_F1) {
-        CDialogAccess::Guard(m_dialog, [this] { m_dialog.OnHelp(); });
-    } else if (event->modifiers() == Qt::AltModifier && event->key() == Qt::Key_Space) {
+        m_dialog.Guard([this] { m_dialog.OnHelp(); });
+    } else if (IsSystemMenuKey(*event)) {
         ShowSystemMenu(mapToGlobal(QPoint(0, CCaptionBar::Height())));
     } else if (event->modifiers() == Qt::AltModifier && event->key() == Qt::Key_F4) {
         Tell(kIdCancel, ControlEvent::clicked);
@@ -455,7 +467,7 @@ Qt::Edges CDialogWindow::EdgesAt(const QPoint& place) const
 
 void CDialogWindow::StartSizing(Qt::Edges edges, const QPoint& screen)
 {
-    ApplyMinMax();
+    ApplyMinMax(size());
     if (windowHandle() != nullptr && windowHandle()->startSystemResize(edges)) {
         return;
     }

@@ -36,13 +36,13 @@ public:
     void StopTimer(int id);
 
     void ApplyColors();
-    void ApplyMinMax();
+    /// Applies the sizes that the dialog allows; a fixed one gets exactly `size`.
+    void ApplyMinMax(const QSize& size);
     void FocusFirst();
     void ShowSystemMenu(const QPoint& screen);
     void DefaultPlace();
     /// Sizes the window so that its client area has that size.
     void SetClientSize(const QSize& size);
-    bool IsSizedByUser() const;
     void NextControl();
     /// Carries out the system's own entries of the system menu.
     void DoSystemCommand(unsigned id);
@@ -55,6 +55,7 @@ public:
     void StartSizing(Qt::Edges edges, const QPoint& screen);
 
 protected:
+    bool eventFilter(QObject* control, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -90,10 +91,5 @@ private:
     QPoint m_sizingFrom;
 };
 
-/// The inside of CDialog that its window needs.
-struct CDialogAccess
-{
-    static CDialogWindow* Window(const CDialog& dialog);
-    static bool Raise(CDialog& dialog, CNotify& notify);
-    static void Guard(CDialog& dialog, const std::function<void()>& work);
-};
+/// The window of an open dialog; null if it has none.
+CDialogWindow* WindowOf(const CDialog& dialog);

@@ -231,13 +231,6 @@ void CUGCtrl::SetColumnWidth(int column, int width)
     }
 }
 
-void CUGCtrl::SetMinColumnWidth(int width)
-{
-    if (CGridView* view = View()) {
-        view->TopHeading().setMinimumSectionSize(width);
-    }
-}
-
 void CUGCtrl::BestFit(int first, int count, int rows, bool headings)
 {
     if (CGridView* view = View()) {

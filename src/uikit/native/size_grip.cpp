@@ -5,6 +5,8 @@
 
 CSizeGrip::CSizeGrip(QWidget* parent) : QWidget(parent)
 {
+    // Never in front of a control that reaches into its corner.
+    lower();
     setCursor(Qt::SizeFDiagCursor);
 }
 

@@ -6,8 +6,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QProxyStyle>
-#include <QStyleOptionFocusRect>
-#include <QStyleOptionFrame>
 #include <QToolButton>
 #include <QToolTip>
 

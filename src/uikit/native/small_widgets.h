@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>

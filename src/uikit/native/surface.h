@@ -18,7 +18,7 @@ struct CNativeSurface
     QImage image;
     QImage* target = nullptr;
     QPointer<QWidget> owner;
-    QSize size;
+    QSize size{0, 0};
     QPainter painter;
 };
 

@@ -66,11 +66,15 @@ void CTreeWidget::Choose(QTreeWidgetItem* item)
     for (QTreeWidgetItem* parent = item->parent(); parent != nullptr; parent = parent->parent()) {
         parents.prepend(parent);
     }
+    bool shows = true;
     for (QTreeWidgetItem* parent : parents) {
         OpenItem(parent);
+        shows = shows && parent->isExpanded();
     }
+    // Scrolling to an item would open parents that are to stay closed.
+    setAutoScroll(shows);
     setCurrentItem(item);
-    scrollToItem(item);
+    setAutoScroll(true);
 }
 
 QTreeWidgetItem* CTreeWidget::Chosen() const
@@ -81,8 +85,11 @@ QTreeWidgetItem* CTreeWidget::Chosen() const
 
 void CTreeWidget::DeleteItem(QTreeWidgetItem* item)
 {
-    if (m_toldChoice == item) {
-        m_toldChoice = nullptr;
+    for (QTreeWidgetItem* told = m_toldChoice; told != nullptr; told = told->parent()) {
+        if (told == item) {
+            m_toldChoice = nullptr;
+            break;
+        }
     }
     delete item;
 }
@@ -106,8 +113,9 @@ void CTreeWidget::TellChoice()
 void CTreeWidget::mousePressEvent(QMouseEvent* event)
 {
     QTreeWidgetItem* item = itemAt(event->pos());
-    const bool onExpander = item != nullptr && event->button() == Qt::LeftButton &&
-                            event->pos().x() < visualItemRect(item).left();
+    const int left = visualItemRect(item).left();
+    const bool onExpander = event->button() == Qt::LeftButton && event->pos().x() < left &&
+                            event->pos().x() >= left - indentation();
     if (onExpander && IsClosedParent(item)) {
         OpenItem(item);
         return;

@@ -1,0 +1,128 @@
+#include "uikit/kit_recorder.h"
+
+#include "uikit/column_label.h"
+
+#include <QApplication>
+#include <QHelpEvent>
+#include <QToolTip>
+
+#include <cstdlib>
+
+namespace {
+
+using KitDrawing = CRecorderTest;
+
+bool IsNear(const QColor& a, COLORREF b)
+{
+    return std::abs(a.red() - GetRValue(b)) + std::abs(a.green() - GetGValue(b)) +
+               std::abs(a.blue() - GetBValue(b)) <
+           40;
+}
+
+QRect InkOf(const QImage& image, const QColor& paper)
+{
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y).lightness() < paper.lightness() - 90) {
+                ink |= QRect(x, y, 1, 1);
+            }
+        }
+    }
+    return ink;
+}
+
+TEST_F(KitDrawing, DrawingsStayUntilTheCanvasIsInvalidated)
+{
+    Run([&](CDialogUser& user) {
+        QWidget& canvas = user.Widget(idCanvas);
+        const auto image = [&] { return canvas.grab().toImage(); };
+        const QColor paper = image().pixelColor(0, 0);
+        const CSize size = CClientDC(Item(idCanvas)).GetSize();
+        EXPECT_EQ(size, (CSize{canvas.width(), canvas.height()}));
+        {
+            CMemoryDC memory({20, 21});
+            memory.FillGradient({0, 0, 20, 21}, RGB(200, 0, 0), RGB(0, 0, 200));
+            CClientDC dc(Item(idCanvas));
+            dc.ExcludeClipRect({0, 0, 5, 5});
+            dc.BitBlt({2, 2}, memory);
+            dc.SetPen(RGB(0, 128, 0), 1);
+            dc.Rectangle({30, 5, 40, 15});
+            dc.TextOut({50, 40}, L"IIIII", {L"Tahoma", 11}, RGB(0, 0, 0), 900);
+        }
+        for (int painting = 0; painting < 2; ++painting) {
+            const QImage drawn = image();
+            EXPECT_EQ(drawn.pixelColor(3, 3), paper) << "excluded";
+            EXPECT_TRUE(IsNear(drawn.pixelColor(10, 2), RGB(200, 0, 0)));
+            EXPECT_TRUE(IsNear(drawn.pixelColor(10, 12), RGB(100, 0, 100)));
+            EXPECT_TRUE(IsNear(drawn.pixelColor(10, 22), RGB(0, 0, 200)));
+            EXPECT_EQ(drawn.pixelColor(39, 14), QColor(0, 128, 0));
+            EXPECT_EQ(drawn.pixelColor(40, 15), paper);
+            EXPECT_EQ(drawn.pixelColor(35, 10), paper);
+            const QRect ink = InkOf(drawn.copy(45, 0, 40, 45), paper).translated(45, 0);
+            EXPECT_GE(ink.left(), 50) << "text that rises stands right of its point";
+            EXPECT_LE(ink.bottom(), 40);
+            EXPECT_GT(ink.height(), ink.width());
+        }
+        Item(idCanvas).Invalidate();
+        EXPECT_EQ(image().pixelColor(10, 12), paper);
+        EXPECT_EQ(CClientDC(CWnd()).GetSize(), CSize{}) << "no canvas";
+    });
+}
+
+TEST_F(KitDrawing, LabelsShortenOrStandOverColumns)
+{
+    Run([&](CDialogUser& user) {
+        QWidget& label = user.Widget(idLabel);
+        const auto tip = [&] {
+            QHelpEvent help(QEvent::ToolTip, {2, 2}, label.mapToGlobal(QPoint(2, 2)));
+            QApplication::sendEvent(&label, &help);
+            return QToolTip::isVisible() ? QToolTip::text() : QString();
+        };
+        Item(idLabel).SetWindowText(L"Una");
+        EXPECT_NE(tip(), "Una");
+        Item(idLabel).SetWindowText(L"Una didascalia lunga");
+        EXPECT_EQ(tip(), "Una didascalia lunga");
+
+        Item(idLabel).SetWindowText(L"I I");
+        const CFont rows = {L"Courier", 11, 400, false, true};
+        CColumnLabel(Item(idLabel)).AlignTo(Item(idSorted), rows, {8, 12});
+        const QImage columns = label.grab().toImage();
+        const int column = QFontMetrics(ToNative(rows)).horizontalAdvance(QString(4, '0'));
+        const QRect ink = InkOf(columns, columns.pixelColor(0, 0));
+        EXPECT_NEAR(ink.width(), column, 3) << "the words end a column apart";
+        QToolTip::hideText();
+    });
+}
+
+/// Counts the paintings of a widget.
+class CPaintCount : public QObject
+{
+public:
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+TEST_F(KitDrawing, ControlsThatAreHeldBackPaintOnceAtTheEnd)
+{
+    Run([&](CDialogUser& user) {
+        QCoreApplication::processEvents();
+        CPaintCount paintings;
+        user.Widget(idText).installEventFilter(&paintings);
+        Item(idText).SetRedraw(false);
+        Item(idText).SetWindowText(L"neu");
+        Item(idText).UpdateWindow();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(paintings.count, 0);
+        Item(idText).SetRedraw(true);
+        EXPECT_TRUE(Until([&] { return paintings.count > 0; }));
+    });
+}
+
+} // namespace
