@@ -3,6 +3,7 @@
 #include "common/datenwurzel.h"
 #include "host/host_base.h"
 #include "platform/environment.h"
+#include "platform/exception.h"
 #include "platform/path.h"
 
 CString ArbeitsPfad(const CString& dateiName)
@@ -17,4 +18,13 @@ CString ArbeitsPfad(const CString& dateiName)
     static bool gemeldet = false;
     MeldeFehlendeWurzel(gemeldet);
     return dateiName;
+}
+
+void MitArbeitsDatei(const std::function<void()>& arbeit)
+{
+    try {
+        arbeit();
+    } catch (const CFileException&) {
+        return;
+    }
 }

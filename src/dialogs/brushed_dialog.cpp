@@ -51,6 +51,13 @@ bool CBrushedDialog::OnHelp()
     return true;
 }
 
+/// The place of the help icon is one on the screen and is taken while the frame is painted.
+void CBrushedDialog::OnMove()
+{
+    CDialog::OnMove();
+    RedrawFrame();
+}
+
 void CBrushedDialog::OnNcPaint(CDC& dc)
 {
     if (!m_bHilfe) {

@@ -25,6 +25,7 @@ protected:
     bool OnInitDialog() override;
     bool OnCommand(int id, ControlEvent event) override;
     bool OnHelp() override;
+    void OnMove() override;
     void OnNcPaint(CDC& dc) override;
     void OnNcLButtonDown(CPoint screen) override;
     ControlColors OnCtlColor(ColorKind kind) override;

@@ -7,7 +7,8 @@
 bool HilfeErlaubt(unsigned dialogId, bool& erlaubt)
 {
     CStringArray zeilen;
-    ReadTextFile(ArbeitsPfad(L"winsett.txt"), zeilen, CFile::modeRead, -1);
+    MitArbeitsDatei(
+        [&] { ReadTextFile(ArbeitsPfad(L"winsett.txt"), zeilen, CFile::modeRead, -1); });
     for (int i = 0; i < zeilen.GetSize(); ++i) {
         CStringArray felder;
         if (SplitString(felder, zeilen[i], L'|') >= 2 &&

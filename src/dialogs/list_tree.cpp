@@ -5,18 +5,27 @@
 
 #include <algorithm>
 #include <functional>
+#include <string_view>
 #include <vector>
 
 namespace {
 
+/// Signs like that of degrees are none, though catalogues put them right behind words.
+bool IsLetter(wchar_t c)
+{
+    constexpr wchar_t kFirstAccented = 0xC0;
+    constexpr wchar_t kTimes = 0xD7;
+    constexpr wchar_t kDivided = 0xF7;
+    constexpr wchar_t kPunctuation = 0x2000;
+    constexpr std::wstring_view kAmongSigns = L"\u00AA\u00B5\u00BA";
+    const wchar_t lower = ToLower(c);
+    return (lower >= L'a' && lower <= L'z') || kAmongSigns.find(c) != std::wstring_view::npos ||
+           (c >= kFirstAccented && c < kPunctuation && c != kTimes && c != kDivided);
+}
+
 bool IsWordEnd(const CString& text, std::size_t place)
 {
-    if (place >= text.size()) {
-        return true;
-    }
-    const wchar_t c = ToLower(text[place]);
-    const bool isLetter = (c >= L'a' && c <= L'z') || c > 0x7F;
-    return !isLetter && c != L'_';
+    return place >= text.size() || (!IsLetter(text[place]) && text[place] != L'_');
 }
 
 bool HoldsWord(CString text, const CString& word)

@@ -26,7 +26,8 @@ HTREEITEM FindTreeItem(const CString& text, const CTreeCtrl& tree, const TreeSea
                        HTREEITEM start);
 
 /// Sorts a list by the numbers at the start of its items and writes them anew, all with as many
-/// decimals as the first item showed. A comma ends a number. Returns true.
+/// decimals as the first item showed, at most nine. A comma ends a number, though one in the first
+/// item sets the decimals if there is no point. Leaves nothing chosen. Returns true.
 bool SortComboNumeric(CComboBox& combo, bool ascending);
 
 /// The fixed colours of the dialogs by index; white for any that is not in use.

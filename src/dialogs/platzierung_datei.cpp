@@ -54,12 +54,26 @@ CString Zeile(const CString& schluessel, const CRect& rect, int alpha)
     return zeile;
 }
 
+/// Puts the line in the place of the first one of its key, or else at the end.
+void Ersetze(CStringArray& zeilen, const CString& schluessel, const CString& neu)
+{
+    CStringArray felder;
+    const int stelle = SucheZeile(zeilen, schluessel, kFelderZumErsetzen, felder);
+    if (stelle >= 0) {
+        zeilen[stelle] = neu;
+    } else {
+        zeilen.Add(neu);
+    }
+}
+
 } // namespace
 
 bool LesePlatzierung(const CString& schluessel, CRect& rect, int* alpha)
 {
     CStringArray zeilen;
-    if (!LeseZeilen(zeilen)) {
+    bool lesbar = false;
+    MitArbeitsDatei([&] { lesbar = LeseZeilen(zeilen); });
+    if (!lesbar) {
         rect = {};
         if (alpha != nullptr) {
             *alpha = kOpaque;
@@ -79,18 +93,13 @@ bool LesePlatzierung(const CString& schluessel, CRect& rect, int* alpha)
 
 void SchreibePlatzierung(const CString& schluessel, const CRect& rect, int alpha)
 {
-    CStringArray zeilen;
-    const CString neu = Zeile(schluessel, rect, alpha);
-    // The first dialog of a fresh installation lays out the file, the second one begins to keep
-    // places in it; programs that share the file count on finding it empty first.
-    if (LeseZeilen(zeilen)) {
-        CStringArray felder;
-        const int stelle = SucheZeile(zeilen, schluessel, kFelderZumErsetzen, felder);
-        if (stelle >= 0) {
-            zeilen[stelle] = neu;
-        } else {
-            zeilen.Add(neu);
+    MitArbeitsDatei([&] {
+        CStringArray zeilen;
+        // The first dialog of a fresh installation lays out the file, the second one begins to
+        // keep places in it; programs that share the file count on finding it empty first.
+        if (LeseZeilen(zeilen)) {
+            Ersetze(zeilen, schluessel, Zeile(schluessel, rect, alpha));
         }
-    }
-    WriteTextFile(DateiPfad(), zeilen, false, false, CFile::modeCreate | CFile::modeWrite);
+        WriteTextFile(DateiPfad(), zeilen, false, false, CFile::modeCreate | CFile::modeWrite);
+    });
 }

@@ -34,7 +34,8 @@ protected:
     /// background is erased.
     void AnkerSetzen(int id, int x, int y, bool keinHintergrund);
 
-    /// Allows or locks sizing in the two directions. With both locked there is no grip.
+    /// Allows or locks sizing in the two directions. Locking both of an open dialog takes its grip
+    /// away.
     void GroesseErlauben(bool x, bool y);
 
     bool OnInitDialog() override;

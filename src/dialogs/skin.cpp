@@ -18,6 +18,7 @@ void LeseFarbe(LumoSkinType typ, std::optional<COLORREF>& farbe)
 
 void LeseSkin()
 {
+    g_skin = {};
     lmGetAllowLumoSkin(g_skin.erlaubt);
     unsigned long hintergrund = 0;
     if (lmGetLumoSkinColor(skinHintergrund, hintergrund)) {

@@ -3,7 +3,6 @@
 #include "platform/color.h"
 #include "uikit/dialog.h"
 
-#include <array>
 #include <optional>
 
 /// The host's skin colours, one set for the process. Every dialog that is made reads them anew.
@@ -19,7 +18,8 @@ struct SkinFarben
     std::optional<COLORREF> eingabe;
 };
 
-/// Reads the host's settings into the set. A colour that the host does not have stays as it was.
+/// Reads the host's settings into the set. A colour that the host does not have becomes that of a
+/// new SkinFarben, whatever it was before.
 void LeseSkin();
 
 const SkinFarben& AktuellerSkin();
