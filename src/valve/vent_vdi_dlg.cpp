@@ -95,7 +95,8 @@ bool CVentVdiDlg::OnInitDialog()
     m_baum.SetImageList(m_icons);
     DateiPfad = GetVEDir(false);
     FuelleHersteller();
-    WechsleHersteller();
+    // A damaged file of the maker shown first must not cost the dialog its sizing and its place.
+    Guard([this] { WechsleHersteller(); });
     SetzeAnker();
     PlatzierungLaden(*this, kPlatzierung, &m_nTransparenz, false);
     return true;
@@ -247,6 +248,11 @@ void CVentVdiDlg::WaehleArtikel(HTREEITEM item)
     Ergebnis.Bezeichnung = text;
     SuchePfad(item);
     SetzeStelle(SucheArtikel(ErsteHauptgruppe, text));
+    if (SelArtikel == nullptr) {
+        // Characters that no screen can show do not come back out of the tree as they stood in the
+        // file.
+        return;
+    }
     ZeigeVentil(*SelArtikel);
     GetDlgItem(kIdOk).EnableWindow(true);
 }

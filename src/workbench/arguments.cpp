@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 
 namespace {
 
@@ -19,6 +20,7 @@ constexpr TextOption kTextOptions[] = {
     {L"--valve-catalogues", &CArguments::strValveCatalogues},
     {L"--output", &CArguments::strOutput},
     {L"--room", &CArguments::strRoom},
+    {L"--workplace", &CArguments::strWorkplace},
 };
 
 bool IsDigits(const CString& text)
@@ -62,6 +64,20 @@ void ApplyOption(CArguments& result, const CString& name, const CString& value)
     }
 }
 
+/// Takes the maker and the number that may stand behind --valve-dialog, and returns how many it
+/// took.
+std::size_t ApplyPreset(CArguments& result, std::span<const CString> behind)
+{
+    std::size_t taken = 0;
+    for (CString CArguments::*field : {&CArguments::strMaker, &CArguments::strValveNumber}) {
+        if (taken == behind.size() || behind[taken].starts_with(L"--")) {
+            break;
+        }
+        result.*field = behind[taken++];
+    }
+    return taken;
+}
+
 bool TakesValue(const CString& name)
 {
     return name == L"--system" ||
@@ -82,6 +98,9 @@ CArguments ParseArguments(const std::vector<CString>& arguments)
             result.bHelp = true;
         } else if (argument == L"--valves") {
             result.bValves = true;
+        } else if (argument == L"--valve-dialog") {
+            result.bValveDialog = true;
+            i += ApplyPreset(result, std::span(arguments).subspan(i + 1));
         } else if (argument == L"--batch") {
             continue;
         } else if (!TakesValue(name)) {
@@ -93,7 +112,7 @@ CArguments ParseArguments(const std::vector<CString>& arguments)
             ApplyOption(result, name, i < arguments.size() ? arguments[i] : CString());
         }
     }
-    if (result.strBuilding.empty() && !result.bHelp) {
+    if (result.strBuilding.empty() && !result.bHelp && !result.bValveDialog) {
         throw CArgumentException(L"manca l'edificio: indicarlo con --building FILE");
     }
     return result;
@@ -132,7 +151,12 @@ Opzioni:
   --list-connections [FILE]
                      mostra in parole un elenco di tipi di attacco (Vent.txt) e nient'altro;
                      senza FILE quello della radice dei dati
-  --batch            calcola senza finestre; al momento è l'unico modo
+  --valve-dialog [PRODUTTORE [NUMERO]]
+                     apre la finestra di scelta delle valvole e mostra la valvola scelta;
+                     si apre sul produttore (nome della sua cartella) e sulla valvola con questo
+                     NumeroTGA, se indicati
+  --workplace DIR    cartella del posto di lavoro: posizione delle finestre e aiuti attivi
+  --batch            calcola senza finestre; è il modo normale
   --help             mostra questo testo
 
 I percorsi relativi partono dalla cartella corrente. Un'opzione ripetuta vale come scritta per ultima.
@@ -145,5 +169,7 @@ Codici di uscita:
   3  edificio illeggibile o errato
   4  catalogo o file di valvole danneggiato o illeggibile; gli altri locali sono calcolati ugualmente
   5  risultati non scrivibili
+  6  finestra annullata
+  7  nessuno schermo per mostrare la finestra
 )";
 }

@@ -19,6 +19,13 @@ struct CArguments
     /// The same for the valves.
     CString strValveCatalogues;
     CString strOutput = L"out";
+    /// Folder in which dialogs keep what belongs to this working place. Empty: the host's own.
+    CString strWorkplace;
+    /// Opens the valve dialog instead of calculating a building.
+    bool bValveDialog = false;
+    /// The valve to open on; empty for none. A maker may stand alone.
+    CString strMaker;
+    CString strValveNumber;
     /// Empty: every room.
     CString strRoom;
     /// Nothing: the building's own.

@@ -6,6 +6,7 @@
 #include "platform/path.h"
 #include "workbench/arguments.h"
 #include "workbench/building_json.h"
+#include "workbench/dialog_run.h"
 #include "workbench/host_prefs/host_settings.h"
 #include "workbench/json_fields.h"
 #include "workbench/schedule_csv.h"
@@ -32,18 +33,28 @@ void SetCatalogueFolder(const CArguments& arguments)
     }
 }
 
-/// A building without valves needs no folder of them.
-void SetValveFolder(const CArguments& arguments, const CBuilding& building)
+void SetValveFolder(const CArguments& arguments, bool needed)
 {
     if (!arguments.strValveCatalogues.empty()) {
         OverrideHostSetting(kSettingVEDir, arguments.strValveCatalogues);
     }
     std::error_code error;
-    if (HasValves(building) &&
-        !std::filesystem::is_directory(ResolvePath(GetVEDir(false)), error)) {
+    if (needed && !std::filesystem::is_directory(ResolvePath(GetVEDir(false)), error)) {
         throw CArgumentException(L"--valve-catalogues: la cartella delle valvole non esiste: " +
                                  GetVEDir(false));
     }
+}
+
+void SetWorkplace(const CArguments& arguments)
+{
+    if (arguments.strWorkplace.empty()) {
+        return;
+    }
+    std::error_code error;
+    if (!std::filesystem::is_directory(ResolvePath(arguments.strWorkplace), error)) {
+        throw CArgumentException(L"--workplace: la cartella non esiste: " + arguments.strWorkplace);
+    }
+    OverrideHostSetting(kSettingLocalPath, arguments.strWorkplace);
 }
 
 CBuilding LoadBuilding(const CArguments& arguments)
@@ -113,14 +124,26 @@ ExitCode Deliver(const CSchedule& schedule, const CArguments& arguments, std::os
     return Show(text, code, out, err);
 }
 
+ExitCode RunValveDialog(const CArguments& arguments, std::ostream& out, std::ostream& err)
+{
+    SetValveFolder(arguments, true);
+    SetWorkplace(arguments);
+    const auto ventil = ChooseValve(arguments.strMaker, arguments.strValveNumber);
+    return ventil ? Show(FormatChosenValve(*ventil), ExitCode::ok, out, err)
+                  : Report(err, L"finestra annullata", ExitCode::cancelled);
+}
+
 ExitCode Run(const CArguments& arguments, std::ostream& out, std::ostream& err)
 {
     if (arguments.bHelp) {
         return Show(GetHelpText(), ExitCode::ok, out, err);
     }
+    if (arguments.bValveDialog) {
+        return RunValveDialog(arguments, out, err);
+    }
     SetCatalogueFolder(arguments);
     const CBuilding building = LoadBuilding(arguments);
-    SetValveFolder(arguments, building);
+    SetValveFolder(arguments, HasValves(building));
     return Deliver(MakeSchedule(building), arguments, out, err);
 }
 

@@ -45,6 +45,30 @@ TEST(Arguments, HelpNeedsNoBuilding)
     EXPECT_TRUE(ParseArguments({L"--help"}).bHelp);
 }
 
+TEST(Arguments, TheValveDialogTakesUpToTwoTexts)
+{
+    const struct
+    {
+        std::vector<CString> behind;
+        CString maker;
+        CString number;
+    } cases[] = {
+        {{}, L"", L""},
+        {{L"--workplace", L"posto"}, L"", L""},
+        {{L"Rossi", L"--workplace", L"posto"}, L"Rossi", L""},
+        {{L"Rossi", L"0123", L"--workplace=posto"}, L"Rossi", L"0123"},
+    };
+    for (const auto& test : cases) {
+        std::vector<CString> arguments = {L"--valve-dialog"};
+        arguments.insert(arguments.end(), test.behind.begin(), test.behind.end());
+        const CArguments result = ParseArguments(arguments);
+        EXPECT_TRUE(result.bValveDialog) << "and needs no building";
+        EXPECT_EQ(result.strMaker, test.maker);
+        EXPECT_EQ(result.strValveNumber, test.number);
+        EXPECT_EQ(result.strWorkplace, test.behind.empty() ? L"" : L"posto");
+    }
+}
+
 TEST(Arguments, ErrorsNameTheArgument)
 {
     const struct
@@ -54,6 +78,7 @@ TEST(Arguments, ErrorsNameTheArgument)
     } cases[] = {
         {{}, L"--building"},
         {{L"--building"}, L"--building"},
+        {{L"--valve-dialog", L"a", L"b", L"troppo"}, L"troppo"},
         {{L"--building="}, L"--building"},
         {{L"--building", L"a.json", L"--rooms", L"Bagno"}, L"--rooms"},
         {{L"--building", L"a.json", L"altro.json"}, L"altro.json"},
