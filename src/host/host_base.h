@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/api.h"
+#include "host/drawing_records.h"
 #include "platform/color.h"
 #include "platform/text.h"
 
@@ -26,3 +27,6 @@ HOST_API bool GetColorDlg(int& index);
 
 /// RGB value of a colour index; black for one outside 1 to 255.
 HOST_API COLORREF GetRGBFromColor(int index);
+/// Colour in which the host draws a trade, as 0x00BBGGRR: red for the flow of heating, blue for its
+/// return, dark grey for every other.
+HOST_API int lmGetGewerkColor(TgaGewerk gewerk);

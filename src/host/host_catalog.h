@@ -32,3 +32,12 @@ HOST_API int ReadVdiFile(const CString& hersteller, HK_VDI3805_ART** art, double
 /// dialog's number. `art` is the kind of page; the module asks for 100, and this host has one page
 /// for every kind. A dialog without a page, or a viewer that cannot be started, changes nothing.
 HOST_API void ShowPDF(unsigned dialogId, int art);
+/// Identifiers of rooms, as hosts put them into a hand-over.
+class HOST_API CRoomTools
+{
+public:
+    /// Name of the floor on which a room lies. A room is identified by its floor, a "." and its
+    /// name or number on that floor: "1.05", "Piano terra.Cucina". Blanks around the floor do not
+    /// belong to it. An identifier without a "." names no floor: an empty text.
+    static CString GetFloorName(const CString& raum);
+};

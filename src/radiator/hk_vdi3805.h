@@ -65,6 +65,12 @@ public:
     /// The product of the last pass, null if it was not found. Owned by the host.
     const HK_VDI3805_PRODUKT* GetProdukt() const { return m_pProdukt; }
 
+    /// The hand-over record that this object is bound to.
+    HK_DATEN_VDI3805_UEBERGABE& GetDaten() const { return *m_pDaten; }
+
+    /// Set from the construction on.
+    bool IsErsterLauf() const { return m_bErsterLauf != 0; }
+
     /// The selection dialog clears the flag at its first refresh. While it is set, the output
     /// bounds that the host gave are left alone; afterwards each pass writes Toleranz 0.1 and the
     /// bounds that follow from it into the hand-over, and the host's band is gone.

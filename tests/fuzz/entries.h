@@ -26,5 +26,11 @@ void RunPunktText(std::span<const std::uint8_t> bytes);
 /// The bytes as a short list of connection types: reads it and works on every entry.
 void RunKurzliste(std::span<const std::uint8_t> bytes);
 
+/// The bytes as a DXF file: its blocks are sound, and written and read again the same.
+void RunDxfBlocks(std::span<const std::uint8_t> bytes);
+/// The bytes as the file of the heating systems: takes every entry apart, and none of those written
+/// gets lost.
+void RunHeizsysteme(std::span<const std::uint8_t> bytes);
+
 /// Throws std::logic_error with this text unless `holds`.
 void Require(bool holds, const char* what);

@@ -131,5 +131,6 @@ INSTANTIATE_TEST_SUITE_P(
     Targets, CFuzzCorpusTest,
     testing::Values(CTarget{"ventil_katalog", RunVentilKatalog}, CTarget{"catalogue", RunCatalogue},
                     CTarget{"archive", RunArchive}, CTarget{"text_file", RunTextFile},
-                    CTarget{"punkt_text", RunPunktText}, CTarget{"kurzliste", RunKurzliste}),
+                    CTarget{"punkt_text", RunPunktText}, CTarget{"kurzliste", RunKurzliste},
+                    CTarget{"dxf_blocks", RunDxfBlocks}, CTarget{"heizsysteme", RunHeizsysteme}),
     [](const auto& info) { return std::string(info.param.lpszName); });

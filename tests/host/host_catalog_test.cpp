@@ -212,3 +212,19 @@ TEST_F(CHostCatalogTest, NodesThatAHostHungBelowAMakerAreLeftToTheHost)
     EXPECT_EQ(Produkt(L"Alfa")->pNext, nullptr);
     EXPECT_EQ(row.pNext, nullptr);
 }
+
+TEST(RoomTools, TheFloorStandsBeforeTheFirstPoint)
+{
+    const struct
+    {
+        const wchar_t *raum, *geschoss;
+    } cases[] = {
+        {L"1.05", L"1"},     {L"Piano terra.Cucina", L"Piano terra"},
+        {L" 1 .05.b", L"1"}, {L"Cucina", L""},
+        {L".Cucina", L""},   {L"  .Cucina", L""},
+        {L"", L""},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(CRoomTools::GetFloorName(c.raum), c.geschoss);
+    }
+}

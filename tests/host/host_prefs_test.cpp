@@ -1,3 +1,4 @@
+#include "frame/hkauswahl_uebergabe.h"
 #include "host/host_base.h"
 #include "host/host_prefs.h"
 #include "support/setting_override.h"
@@ -230,6 +231,69 @@ TEST_F(HostSettings, TheLocalWorkPathLeavesTheTargetAloneUntilItIsSet)
     ASSERT_TRUE(StoreHostSetting(kSettingLocalPath, L"C:\\Locale"));
     EXPECT_TRUE(configGetWorkPathLocal(path));
     EXPECT_EQ(path, L"C:\\Locale");
+}
+
+TEST_F(HostSettings, TheLayerOfRadiatorsHasADefaultAndCanBeChosen)
+{
+    CString layer;
+    int farbe = -1;
+    bool automatisch = false;
+    lmGetHKLayer(layer);
+    lmGetHKLayerColor(farbe);
+    lmGetAutoLayerManagement(automatisch, true);
+    EXPECT_EQ(layer, L"HEIZ_HK_$d");
+    EXPECT_EQ(farbe, 1);
+    EXPECT_TRUE(automatisch);
+    lmGetAutoLayerManagement(automatisch, false);
+    EXPECT_FALSE(automatisch);
+
+    ASSERT_TRUE(StoreHostSetting(kSettingHKLayer, L"Radiatori"));
+    ASSERT_TRUE(StoreHostSetting(kSettingHKLayerColor, L"5"));
+    ASSERT_TRUE(StoreHostSetting(kSettingAutoLayer, L"1"));
+    lmGetHKLayer(layer);
+    lmGetHKLayerColor(farbe);
+    lmGetAutoLayerManagement(automatisch, false);
+    EXPECT_EQ(layer, L"Radiatori");
+    EXPECT_EQ(farbe, 5);
+    EXPECT_TRUE(automatisch);
+}
+
+TEST_F(HostSettings, BlocksAndRightsThatNobodySetLeaveTheTargetsAlone)
+{
+    const CEnvironmentVariable folder("RADSEL_HKBLOCKDIR", nullptr);
+    const CEnvironmentVariable valves("RADSEL_VEBLOCKDIR", "/valves");
+    CString text = L"before";
+    EXPECT_FALSE(lmGetHKBlock(text));
+    EXPECT_FALSE(lmGetDWGDefPath(LumoDWGDefsNames::heizkoerper, text));
+    EXPECT_EQ(text, L"before");
+    EXPECT_TRUE(lmGetDWGDefPath(static_cast<LumoDWGDefsNames>(8), text));
+    EXPECT_EQ(text, L"/valves");
+    EXPECT_FALSE(lmGetDWGDefPath(static_cast<LumoDWGDefsNames>(3), text));
+
+    lmSetHKBlock(L"HK_600");
+    EXPECT_TRUE(lmGetHKBlock(text));
+    EXPECT_EQ(text, L"HK_600");
+    ASSERT_TRUE(StoreHostSetting(kSettingHKBlockFolder, L"D:\\blocchi"));
+    EXPECT_TRUE(lmGetDWGDefPath(static_cast<LumoDWGDefsNames>(2), text));
+    EXPECT_EQ(text, L"D:\\blocchi");
+
+    bool superUser = true;
+    EXPECT_TRUE(lmGetGlobalSuperUser(superUser));
+    EXPECT_FALSE(superUser);
+    ASSERT_TRUE(StoreHostSetting(kSettingSuperUser, L"1"));
+    EXPECT_TRUE(lmGetGlobalSuperUser(superUser));
+    EXPECT_TRUE(superUser);
+}
+
+TEST_F(HostSettings, RecordsLieBesideTheSettings)
+{
+    HKAUSWAHL_UEBERGABE record;
+    EXPECT_TRUE(WriteDefFile(&record, &HKAUSWAHL_UEBERGABE::GetThisClass(), L"HkAuswahl.def"));
+    EXPECT_TRUE(m_folder.Exists("radsel/HkAuswahl.def"));
+
+    const CEnvironmentVariable noConfig("XDG_CONFIG_HOME", nullptr);
+    const CEnvironmentVariable noHome("HOME", nullptr);
+    EXPECT_FALSE(WriteDefFile(&record, &HKAUSWAHL_UEBERGABE::GetThisClass(), L"HkAuswahl.def"));
 }
 
 } // namespace

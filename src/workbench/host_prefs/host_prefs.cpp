@@ -7,6 +7,23 @@
 namespace {
 
 constexpr wchar_t kMeter[] = L"1";
+constexpr wchar_t kHKLayer[] = L"HEIZ_HK_$d";
+constexpr wchar_t kRed[] = L"1";
+
+/// A choice of yes or no, kept as 1 or 0.
+bool GetFlag(const wchar_t* setting, bool fallback)
+{
+    return _wtoi(GetHostSetting(setting, fallback ? L"1" : L"0")) != 0;
+}
+
+bool TakeUnlessEmpty(const CString& text, CString& target)
+{
+    if (text.empty()) {
+        return false;
+    }
+    target = text;
+    return true;
+}
 
 /// A folder from the settings, else from an environment variable, else an empty text.
 CString GetFolder(const wchar_t* setting, const wchar_t* variable)
@@ -34,4 +51,49 @@ void lmGetDimension2(int& code)
 int lmGetDimensionUsr()
 {
     return _wtoi(GetHostSetting(kSettingUserUnit, kMeter));
+}
+
+void lmGetHKLayer(CString& layer)
+{
+    layer = GetHostSetting(kSettingHKLayer, kHKLayer);
+}
+
+void lmGetHKLayerColor(int& farbe)
+{
+    farbe = _wtoi(GetHostSetting(kSettingHKLayerColor, kRed));
+}
+
+void lmGetAutoLayerManagement(bool& automatisch, bool vorgabe)
+{
+    automatisch = GetFlag(kSettingAutoLayer, vorgabe);
+}
+
+bool lmGetDWGDefPath(const LumoDWGDefsNames& name, CString& path)
+{
+    CString folder;
+    switch (name) {
+    case LumoDWGDefsNames::heizkoerper:
+        folder = GetFolder(kSettingHKBlockFolder, L"RADSEL_HKBLOCKDIR");
+        break;
+    case LumoDWGDefsNames::ventile:
+        folder = GetFolder(kSettingValveBlockFolder, L"RADSEL_VEBLOCKDIR");
+        break;
+    }
+    return TakeUnlessEmpty(folder, path);
+}
+
+bool lmGetHKBlock(CString& block)
+{
+    return TakeUnlessEmpty(GetHostSetting(kSettingHKBlock, {}), block);
+}
+
+void lmSetHKBlock(const CString& block)
+{
+    StoreHostSetting(kSettingHKBlock, block);
+}
+
+bool lmGetGlobalSuperUser(bool& superUser)
+{
+    superUser = GetFlag(kSettingSuperUser, false);
+    return true;
 }

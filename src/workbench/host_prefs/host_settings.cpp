@@ -17,21 +17,6 @@ std::map<CString, CString>& Overrides()
     return overrides;
 }
 
-/// The user's configuration folder, nothing for a user without a home.
-std::optional<CString> ConfigurationFolder()
-{
-    const std::optional<CString> chosen = GetEnvironment(L"XDG_CONFIG_HOME");
-    // A relative folder would make the settings depend on where the program was started.
-    if (chosen && chosen->starts_with(L'/')) {
-        return JoinPath(*chosen, L"radsel");
-    }
-    const std::optional<CString> home = GetEnvironment(L"HOME");
-    if (home && home->starts_with(L'/')) {
-        return JoinPath(*home, L".config\\radsel");
-    }
-    return std::nullopt;
-}
-
 CString SettingsPath(const CString& folder)
 {
     return JoinPath(folder, L"settings.txt");
@@ -48,6 +33,20 @@ bool IsStorable(const CString& key, const CString& value)
 }
 
 } // namespace
+
+std::optional<CString> ConfigurationFolder()
+{
+    const std::optional<CString> chosen = GetEnvironment(L"XDG_CONFIG_HOME");
+    // A relative folder would make the settings depend on where the program was started.
+    if (chosen && chosen->starts_with(L'/')) {
+        return JoinPath(*chosen, L"radsel");
+    }
+    const std::optional<CString> home = GetEnvironment(L"HOME");
+    if (home && home->starts_with(L'/')) {
+        return JoinPath(*home, L".config\\radsel");
+    }
+    return std::nullopt;
+}
 
 CString GetHostSetting(const CString& key, const CString& fallback)
 {

@@ -3,6 +3,8 @@
 #include "host/api.h"
 #include "platform/text.h"
 
+#include <optional>
+
 /// The settings of the reference host as texts by key, behind the getters of host/host_prefs.h.
 /// They are kept in "settings.txt" in the user's configuration folder ($XDG_CONFIG_HOME/radsel, or
 /// ~/.config/radsel), a versioned file that is replaced atomically. A missing or damaged file reads
@@ -24,6 +26,9 @@ HOST_API void ClearHostSettingOverride(const CString& key);
 /// such a call stores nothing and gives false.
 HOST_API bool StoreHostSetting(const CString& key, const CString& value);
 
+/// The folder in which the settings are, nothing for a user without a home.
+std::optional<CString> ConfigurationFolder();
+
 /// Keys that the getters ask for. A yes is "1", any other value a no; a colour is "#RRGGBB".
 inline constexpr wchar_t kSettingHKDir[] = L"HKDir";
 inline constexpr wchar_t kSettingVEDir[] = L"VEDir";
@@ -43,3 +48,12 @@ inline constexpr wchar_t kSettingVistaBanner[] = L"ThemenBanner";
 inline constexpr wchar_t kSettingProductName[] = L"Programmname";
 inline constexpr wchar_t kSettingHelpFolder[] = L"HilfeOrdner";
 inline constexpr wchar_t kSettingHelpProgram[] = L"HilfeProgramm";
+inline constexpr wchar_t kSettingHKLayer[] = L"HKLayer";
+inline constexpr wchar_t kSettingHKLayerColor[] = L"HKLayerFarbe";
+inline constexpr wchar_t kSettingAutoLayer[] = L"LayerAutomatik";
+inline constexpr wchar_t kSettingHKBlock[] = L"HKBlock";
+inline constexpr wchar_t kSettingHKBlockFolder[] = L"HKBlockOrdner";
+inline constexpr wchar_t kSettingValveBlockFolder[] = L"VentilBlockOrdner";
+inline constexpr wchar_t kSettingSuperUser[] = L"SuperUser";
+/// Folder of the records of host_prefs.h; the configuration folder if it is not set.
+inline constexpr wchar_t kSettingDefFolder[] = L"DefOrdner";

@@ -1,0 +1,101 @@
+#include "workbench/drawing/connection_symbol.h"
+
+#include "workbench/drawing/hairline_item.h"
+
+#include <QBrush>
+#include <QPen>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// In metres. Shorter pipes are drawn longer, so that shaft and head can be told apart.
+constexpr double kLeastLength = 0.18;
+constexpr double kHeadLength = 0.09;
+constexpr double kHeadWidth = 0.06;
+constexpr double kRingRadius = 0.028;
+constexpr double kDotRadius = 0.012;
+
+/// A pipe steeper than about 84 degrees is upright.
+constexpr double kUprightShare = 0.1;
+
+/// In pixels at any zoom, so that the preview stays visible in a large plan.
+constexpr double kPenWidth = 2.0;
+
+QPainterPath LineBetween(const QPointF& from, const QPointF& to)
+{
+    QPainterPath path(from);
+    path.lineTo(to);
+    return path;
+}
+
+QGraphicsItem* MakeArrow(const CConnectionMark& mark)
+{
+    const QPointF along = mark.richtung / std::hypot(mark.richtung.x(), mark.richtung.y());
+    const QPointF end = mark.punkt + along * std::max(mark.dLaenge, kLeastLength);
+    const QPointF tip = mark.bRuecklauf ? end : mark.punkt;
+    const QPointF tail = mark.bRuecklauf ? mark.punkt : end;
+    const QPointF back = mark.bRuecklauf ? -along : along;
+    const QPointF across = QPointF(-along.y(), along.x()) * (kHeadWidth / 2.0);
+    const QPointF neck = tip + back * kHeadLength;
+
+    auto* const shaft = new CHairlineItem(LineBetween(tail, neck), mark.farbe, kPenWidth);
+    auto* const head =
+        new QGraphicsPolygonItem(QPolygonF({tip, neck + across, neck - across}), shaft);
+    head->setPen(Qt::NoPen);
+    head->setBrush(mark.farbe);
+    return shaft;
+}
+
+void AddDot(const CConnectionMark& mark, QGraphicsItem* ring)
+{
+    auto* const dot =
+        new QGraphicsEllipseItem(mark.punkt.x() - kDotRadius, mark.punkt.y() - kDotRadius,
+                                 2.0 * kDotRadius, 2.0 * kDotRadius, ring);
+    dot->setPen(Qt::NoPen);
+    dot->setBrush(mark.farbe);
+}
+
+void AddCross(const CConnectionMark& mark, QGraphicsItem* ring)
+{
+    const double reach = kRingRadius * std::sqrt(0.5);
+    QPainterPath cross;
+    for (const QPointF& arm : {QPointF(reach, reach), QPointF(reach, -reach)}) {
+        cross.moveTo(mark.punkt - arm);
+        cross.lineTo(mark.punkt + arm);
+    }
+    new CHairlineItem(cross, mark.farbe, kPenWidth, ring);
+}
+
+QGraphicsItem* MakeRing(const CConnectionMark& mark)
+{
+    QPainterPath circle;
+    circle.addEllipse(mark.punkt, kRingRadius, kRingRadius);
+    auto* const ring = new CHairlineItem(circle, mark.farbe, kPenWidth);
+    ring->setBrush(Qt::white);
+    const double water = mark.bRuecklauf ? mark.dAufwaerts : -mark.dAufwaerts;
+    if (water > 0.0) {
+        AddDot(mark, ring);
+    } else if (water < 0.0) {
+        AddCross(mark, ring);
+    }
+    return ring;
+}
+
+} // namespace
+
+bool IsUpright(const CConnectionMark& mark)
+{
+    return std::hypot(mark.richtung.x(), mark.richtung.y()) < kUprightShare;
+}
+
+QGraphicsItem* MakeConnectionSymbol(const CConnectionMark& mark)
+{
+    return IsUpright(mark) ? MakeRing(mark) : MakeArrow(mark);
+}
+
+double WidthOfSymbol(const CConnectionMark& mark)
+{
+    return IsUpright(mark) ? 2.0 * kRingRadius : kHeadWidth;
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "workbench/drawing/dxf_drawing.h"
+#include "workbench/drawing/dxf_screen.h"
+
+#include <cstdint>
+#include <span>
+#include <variant>
+
+/// Why a DXF file could not be read.
+struct CDxfError
+{
+    /// The file, as a system path.
+    CString strFile;
+    /// Line number from 1; 0 if the file as a whole is at fault.
+    int nLine = 0;
+    /// What is wrong, in a sentence for the user.
+    CString strMessage;
+};
+
+/// Largest DXF file that is read, in bytes.
+inline constexpr std::size_t kMaxDxfBytes = 32u << 20;
+
+/// Reads layers and blocks out of the bytes of a text DXF file of any version. Blocks and layers
+/// keep the order of the file. Of a block LINE, CIRCLE, ARC, LWPOLYLINE and POLYLINE are taken,
+/// without their z and in the plane they are drawn in; everything else in it is left out, and so
+/// are meshes and the blocks that CAD programs make for themselves, whose names begin with "*".
+///
+/// The first thing that makes no sense ends the reading with its fault: no DXF, a file cut short, a
+/// number that is none or beyond 1e9, a curve without a radius, a block without a name or with
+/// that of an earlier one.
+/// The result does not depend on the locale of the process.
+std::variant<CDxfDrawing, CDxfFault> ParseDxf(std::span<const std::uint8_t> bytes);
+
+/// Reads a file of at most kMaxDxfBytes.
+std::variant<CDxfDrawing, CDxfError> ReadDxfFile(const CString& path);

@@ -1,0 +1,19 @@
+#include "workbench/drawing/dxf_drawing.h"
+
+#include <algorithm>
+
+const CDxfBlock* FindBlock(const CDxfDrawing& drawing, std::wstring_view name)
+{
+    const CString wanted = ToLower(CString(name));
+    const auto found = std::ranges::find_if(
+        drawing.blocks, [&](const CDxfBlock& block) { return ToLower(block.strName) == wanted; });
+    return found != drawing.blocks.end() ? &*found : nullptr;
+}
+
+int FindLayerColor(const std::vector<CDxfLayer>& layers, std::wstring_view name)
+{
+    const CString wanted = ToLower(CString(name));
+    const auto found = std::ranges::find_if(
+        layers, [&](const CDxfLayer& layer) { return ToLower(layer.strName) == wanted; });
+    return found != layers.end() ? found->nColor : kColorDefault;
+}

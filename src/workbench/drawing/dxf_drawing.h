@@ -1,0 +1,103 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <string_view>
+#include <variant>
+#include <vector>
+
+/// What the workbench takes from a DXF file: layers, and blocks of lines and curves in one plane.
+/// Coordinates are in the file's unit with y upwards, angles in degrees, counter-clockwise from +x.
+
+struct CDxfPoint
+{
+    double x = 0.0;
+    double y = 0.0;
+    bool operator==(const CDxfPoint&) const = default;
+};
+
+struct CDxfLine
+{
+    CDxfPoint von;
+    CDxfPoint bis;
+    bool operator==(const CDxfLine&) const = default;
+};
+
+struct CDxfCircle
+{
+    CDxfPoint mitte;
+    double dRadius = 0.0;
+    bool operator==(const CDxfCircle&) const = default;
+};
+
+/// Runs counter-clockwise from the first angle to the second.
+struct CDxfArc
+{
+    CDxfPoint mitte;
+    double dRadius = 0.0;
+    double dVon = 0.0;
+    double dBis = 0.0;
+    bool operator==(const CDxfArc&) const = default;
+};
+
+struct CDxfVertex
+{
+    CDxfPoint punkt;
+    /// Tangent of a quarter of the angle of the arc to the next vertex, above 0 for one that runs
+    /// counter-clockwise; 0 is a straight line.
+    double dBulge = 0.0;
+    bool operator==(const CDxfVertex&) const = default;
+};
+
+struct CDxfPolyline
+{
+    std::vector<CDxfVertex> punkte;
+    bool bGeschlossen = false;
+    bool operator==(const CDxfPolyline&) const = default;
+};
+
+using CDxfShape = std::variant<CDxfLine, CDxfCircle, CDxfArc, CDxfPolyline>;
+
+/// Colour indexes with a meaning of their own.
+inline constexpr int kColorByBlock = 0;
+inline constexpr int kColorDefault = 7;
+inline constexpr int kColorByLayer = 256;
+
+struct CDxfEntity
+{
+    CString strLayer;
+    /// 1 to 255, kColorByBlock or kColorByLayer.
+    int nColor = kColorByLayer;
+    CDxfShape shape;
+    bool operator==(const CDxfEntity&) const = default;
+};
+
+struct CDxfBlock
+{
+    CString strName;
+    /// The point of the block that comes to stand where the block is inserted.
+    CDxfPoint basis;
+    std::vector<CDxfEntity> entities;
+    bool operator==(const CDxfBlock&) const = default;
+};
+
+struct CDxfLayer
+{
+    CString strName;
+    /// 1 to 255.
+    int nColor = kColorDefault;
+    bool operator==(const CDxfLayer&) const = default;
+};
+
+struct CDxfDrawing
+{
+    std::vector<CDxfLayer> layers;
+    std::vector<CDxfBlock> blocks;
+    bool operator==(const CDxfDrawing&) const = default;
+};
+
+/// The block of that name, case left aside as DXF does; null if there is none.
+const CDxfBlock* FindBlock(const CDxfDrawing& drawing, std::wstring_view name);
+
+/// Colour index of the layer of that name, case left aside; kColorDefault for an unknown one.
+int FindLayerColor(const std::vector<CDxfLayer>& layers, std::wstring_view name);

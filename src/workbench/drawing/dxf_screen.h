@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <vector>
+
+/// What is wrong with a DXF file.
+struct CDxfFault
+{
+    /// Line number from 1; 0 if the file as a whole is at fault.
+    int nLine = 0;
+    /// A sentence for the user.
+    CString strMessage;
+};
+
+/// The part of a DXF file that describes layers and blocks, in a form that dxflib can be trusted
+/// with: every group is whole and short, every number finite and in range, every count true.
+struct CScreenedDxf
+{
+    /// Groups of two lines each, ending with that of the end of the file.
+    std::string strText;
+    /// For each group the line of the file on which the record it belongs to starts.
+    std::vector<int> lines;
+    /// Names are UTF-8, else code page 1252.
+    bool bUtf8 = false;
+};
+
+/// Screens a file. dxflib itself cannot be handed any bytes: an over-long line makes it loop, a
+/// polyline allocates whatever count it states, a hatch without a boundary aborts the process.
+/// Throws CDxfFault at the first line that is no DXF.
+CScreenedDxf ScreenDxf(std::span<const std::uint8_t> bytes);

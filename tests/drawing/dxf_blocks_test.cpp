@@ -1,0 +1,165 @@
+#include "drawing/dxf_text.h"
+#include "platform/encoding.h"
+#include "support/temp_folder.h"
+#include "workbench/drawing/dxf_writer.h"
+
+#include <locale>
+
+namespace {
+
+CDxfDrawing EveryShape()
+{
+    CDxfDrawing drawing;
+    drawing.layers = {{L"0", 7}, {L"Wände", 30}};
+    drawing.blocks = {{L"EINS",
+                       {0.5, -0.25},
+                       {{L"0", kColorByLayer, CDxfLine{{0.1, -2e-7}, {1.0 / 3.0, 1e8}}},
+                        {L"Wände", 5, CDxfCircle{{1, 2}, 0.1}},
+                        {L"Wände", kColorByBlock, CDxfArc{{-1, 2}, 3.5, 350, 10}},
+                        {L"0", 255, CDxfPolyline{{{{0, 0}, 0}, {{1, 0}, -0.5}, {{1, 1}, 1}}, true}},
+                        {L"0", 1, CDxfPolyline{{{{0, 0}, 0}, {{1, 0}, 0}}, false}},
+                        {L"0", 1, CDxfLine{}}}},
+                      {L"leer", {}, {}}};
+    return drawing;
+}
+
+/// Writes numbers as Germans do.
+class CGermanNumbers : public std::numpunct<char>
+{
+protected:
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+class CGlobalLocale
+{
+public:
+    explicit CGlobalLocale(const std::locale& locale) : m_before(std::locale::global(locale)) {}
+    ~CGlobalLocale() { std::locale::global(m_before); }
+
+private:
+    std::locale m_before;
+};
+
+} // namespace
+
+TEST(DxfBlocks, WhatIsWrittenReadsBackTheSame)
+{
+    EXPECT_EQ(ParseSound(WriteDxf(EveryShape())), EveryShape());
+}
+
+TEST(DxfBlocks, TheProcessLocaleDecidesNothingAndStays)
+{
+    const std::locale german(std::locale::classic(), new CGermanNumbers);
+    const CGlobalLocale global(german);
+    EXPECT_EQ(ParseSound(WriteDxf(EveryShape())), EveryShape());
+    EXPECT_EQ(std::locale(), german);
+}
+
+TEST(DxfBlocks, NewerPolylinesAreReadWithWhateverCountTheyState)
+{
+    const CDxfPolyline expected{{{{1, 2}, 0.5}, {{3, 4}, 0}, {{5, 6}, 0}}, true};
+    for (const char* count : {"90 3|", "90 2|", "90 2147483647|", "90 -1|", ""}) {
+        const CDxfDrawing drawing =
+            ParseSound(DxfWithBlocks(std::string("0 BLOCK|2 B|0 LWPOLYLINE|8 0|") + count +
+                                     "70 1|10 1|20 2|42 0.5|10 3|20 4|10 5|20 6|0 ENDBLK|"));
+        ASSERT_EQ(drawing.blocks.size(), 1u);
+        ASSERT_EQ(drawing.blocks[0].entities.size(), 1u);
+        EXPECT_EQ(drawing.blocks[0].entities[0].shape, CDxfShape(expected)) << count;
+    }
+}
+
+TEST(DxfBlocks, WhatIsNoSymbolIsLeftOut)
+{
+    const CDxfDrawing drawing = ParseSound(DxfWithBlocks(
+        "0 BLOCK|2 *Model_Space|0 LINE|10 0|20 0|11 1|21 1|0 ENDBLK|"
+        "0 LINE|10 0|20 0|11 1|21 1|"
+        "0 BLOCK|2 B|0 HATCH|72 1|93 1|0 SPLINE|73 2147483647|10 x|0 TEXT|40 x|"
+        "0 POLYLINE|70 16|0 VERTEX|10 1|20 1|0 SEQEND|0 VERTEX|10 1|20 1|0 CIRCLE|40 1|0 ENDBLK|"));
+    ASSERT_EQ(drawing.blocks.size(), 1u);
+    ASSERT_EQ(drawing.blocks[0].entities.size(), 1u);
+    EXPECT_EQ(drawing.blocks[0].entities[0].shape, CDxfShape(CDxfCircle{{0, 0}, 1}));
+}
+
+TEST(DxfBlocks, NamesAreOfTheEncodingOfTheFilesVersion)
+{
+    const struct
+    {
+        const char* version;
+        const char* bytes;
+        const wchar_t* name;
+    } cases[] = {{"AC1009",
+                  "K\xFC"
+                  "che",
+                  L"Küche"},
+                 {"AC1021",
+                  "K\xC3\xBC"
+                  "che",
+                  L"Küche"},
+                 {"AC1032",
+                  "K\xC3\xBC"
+                  "che",
+                  L"Küche"},
+                 {"AC1015", "\\U+00D8 20 \\U+2C", L"\u00D8 20 \\U+2C"}};
+    for (const auto& c : cases) {
+        const CDxfDrawing drawing = ParseSound(
+            DxfWithBlocks(std::string("0 BLOCK|2 ") + c.bytes + "|0 ENDBLK|", c.version));
+        ASSERT_EQ(drawing.blocks.size(), 1u);
+        EXPECT_EQ(drawing.blocks[0].strName, c.name) << c.version;
+        EXPECT_NE(FindBlock(drawing, ToLower(c.name)), nullptr);
+    }
+}
+
+TEST(DxfBlocks, BrokenFilesSayWhereTheyBreak)
+{
+    // The section of blocks begins on line 15.
+    const std::string block = "0 BLOCK|2 B|";
+    const std::string line = block + "0 LINE|";
+    const struct
+    {
+        std::string text;
+        int line;
+    } cases[] = {
+        {"", 1},
+        {"0\n", 2},
+        {"0\nSECTION\n2\nHEADER\n", 5},
+        {"not a drawing\nat all\n", 1},
+        {std::string("\0\1\2", 3), 1},
+        {DxfWithBlocks(line + "10 nan|0 ENDBLK|"), 22},
+        {DxfWithBlocks(line + "10 inf|0 ENDBLK|"), 22},
+        {DxfWithBlocks(line + "10 1e999|0 ENDBLK|"), 22},
+        {DxfWithBlocks(line + "10 1e10|0 ENDBLK|"), 22},
+        {DxfWithBlocks(line + "10 1,5|0 ENDBLK|"), 22},
+        {DxfWithBlocks(line + "62 red|0 ENDBLK|"), 22},
+        {DxfWithBlocks(line + "62 99999999999|0 ENDBLK|"), 22},
+        {DxfWithBlocks(line + "8 " + std::string(2000, 'x') + "|0 ENDBLK|"), 22},
+        {DxfWithBlocks(line + "x 1|0 ENDBLK|"), 21},
+        {DxfWithBlocks("0 BLOCK|8 0|0 ENDBLK|"), 15},
+        {DxfWithBlocks("0 BLOCK|2 |0 ENDBLK|"), 18},
+        {DxfWithBlocks(block + "0 CIRCLE|10 1|20 1|40 0|0 ENDBLK|"), 19},
+        {DxfWithBlocks(block + "0 ARC|10 1|20 1|40 -1|0 ENDBLK|"), 19},
+        {DxfWithBlocks(block + "0 ENDBLK|0 BLOCK|2 b|0 ENDBLK|"), 21},
+        {DxfWithBlocks(block + "0 BLOCK|2 C|0 ENDBLK|"), 19},
+    };
+    for (const auto& c : cases) {
+        const auto parsed = Parse(c.text);
+        const auto* const fault = std::get_if<CDxfFault>(&parsed);
+        ASSERT_NE(fault, nullptr) << c.text;
+        EXPECT_EQ(fault->nLine, c.line) << c.text;
+        EXPECT_FALSE(fault->strMessage.empty());
+    }
+}
+
+TEST(DxfBlocks, AFaultInAFileNamesTheFile)
+{
+    const CTempFolder folder;
+    folder.WriteBytes("rotto.dxf", "0\nSECTION\n");
+    for (const auto& [name, line] : {std::pair("rotto.dxf", 3), std::pair("manca.dxf", 0)}) {
+        const auto read = ReadDxfFile(folder.Path(name));
+        const auto* const error = std::get_if<CDxfError>(&read);
+        ASSERT_NE(error, nullptr) << name;
+        EXPECT_TRUE(error->strFile.ends_with(WideFromUtf8(name)));
+        EXPECT_EQ(error->nLine, line);
+    }
+}

@@ -1,0 +1,11 @@
+#include "tools/make_drawings_samples.h"
+
+#include "tools/make_drawings_radiators.h"
+#include "tools/make_drawings_valves.h"
+#include "workbench/drawing/dxf_writer.h"
+
+std::vector<CSampleDrawing> MakeSampleDrawings()
+{
+    return {{"heizkoerper.dxf", WriteDxf(MakeRadiatorBlocks())},
+            {"ventile.dxf", WriteDxf(MakeValveBlocks())}};
+}
