@@ -1,10 +1,13 @@
 #include "tools/dialog_gallery.h"
 
+#include "connection/presets.h"
+#include "frame/conn_values.h"
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
 #include "platform/path.h"
 #include "valve/ventil_bewertung.h"
 #include "valve/ventil_katalog.h"
+#include "workbench/drawing/scene_drawer.h"
 #include "workbench/host_prefs/host_settings.h"
 
 namespace {
@@ -38,6 +41,56 @@ void OpenValveDialog(const CString& maker, bool bypass)
     ShowVentVDI3805Dlg(SampleValve(maker, bypass), maker, ventil);
 }
 
+/// A connection with all that a record can hold: points of a sample type, distances, graphics.
+ConnValues SampleConnection()
+{
+    ConnValues connection;
+    connection.AnschlussAN = AnschlussPreset(14);
+    connection.AnschlussRI = AnschlussPreset(15);
+    connection.PosAN = {0.5, 0.0, 0.5};
+    connection.OffsetAN = {0.0, 0.0, -0.03};
+    connection.PosRI = {0.5, 0.0, -0.5};
+    connection.OffsetRI = {0.0, 0.0, 0.03};
+    connection.SeitAbstandAN = 0.15;
+    connection.SeitAbstandRI = 0.05;
+    connection.KreuzTyp = 1;
+    connection.KreuzAbstand = 0.08;
+    connection.WandAbstand = 0.035;
+    return connection;
+}
+
+void OpenConnectionDialog(const ConnValues& start, bool superUser)
+{
+    OverrideHostSetting(kSettingSuperUser, superUser ? L"1" : L"0");
+    QGraphicsScene scene;
+    CSceneDrawer drawer(scene, {});
+    ConnValues connection = start;
+    VDI3805_VENTIL_KV flow;
+    VDI3805_VENTIL_KV back;
+    flow.Hersteller = back.Hersteller = L"Fontespada";
+    flow.VentilNr = SampleValve(L"Fontespada", false);
+    back.VentilNr = SampleValve(L"Fontespada", true);
+    bool groups = true;
+    bool withValves = true;
+    bool withType = true;
+    bool fanCoil = false;
+    ShowVentDlg(connection, flow, back, groups, withValves, withType, fanCoil, nullptr, &drawer);
+}
+
+/// Without valves and drawing.
+void OpenEmptyConnectionDialog()
+{
+    OverrideHostSetting(kSettingSuperUser, L"0");
+    ConnValues connection;
+    VDI3805_VENTIL_KV flow;
+    VDI3805_VENTIL_KV back;
+    bool groups = false;
+    bool withValves = true;
+    bool withType = true;
+    bool fanCoil = false;
+    ShowVentDlg(connection, flow, back, groups, withValves, withType, fanCoil, nullptr, nullptr);
+}
+
 } // namespace
 
 std::vector<GalleryEntry> DialogGallery(const std::string& dataFolder)
@@ -46,6 +99,7 @@ std::vector<GalleryEntry> DialogGallery(const std::string& dataFolder)
     OverrideHostSetting(kSettingHKDir, Folder(dataFolder, "catalogues"));
     OverrideHostSetting(kSettingServerPath, Folder(dataFolder, "root"));
     OverrideHostSetting(kSettingLocalPath, Folder(dataFolder, "workplace"));
+    OverrideHostSetting(kSettingValveBlockFolder, Folder(dataFolder, "drawing/ventile.dxf"));
     return {
         {"scelta_valvola", [] { OpenValveDialog(L"Fontespada", false); }},
         {"scelta_valvola_monotubo", [] { OpenValveDialog(L"Fontespada", true); }},
@@ -54,5 +108,8 @@ std::vector<GalleryEntry> DialogGallery(const std::string& dataFolder)
              VDI3805_VENTIL_KV ventil;
              ShowVentVDI3805Dlg(L"", L"", ventil);
          }},
+        {"attacco", [] { OpenConnectionDialog(SampleConnection(), false); }},
+        {"attacco_esteso", [] { OpenConnectionDialog(SampleConnection(), true); }, {1024, 18074}},
+        {"attacco_vuoto", OpenEmptyConnectionDialog},
     };
 }

@@ -11,6 +11,8 @@ struct GalleryEntry
     std::string name;
     /// Opens the dialog and returns when it has ended.
     std::function<void()> open;
+    /// Ids of the buttons that are pressed, in this order, to bring it to what is to be seen.
+    std::vector<int> presses{};
 };
 
 /// All dialogs of the module. `dataFolder` is the folder of the sample data.

@@ -7,6 +7,7 @@
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
 
+#include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDir>
 #include <QPixmap>
@@ -30,10 +31,24 @@ void Save(const CDialog& dialog, const QString& path)
     }
 }
 
+void Press(const CDialog& dialog, int id)
+{
+    auto* button = CNativeAccess::As<QAbstractButton>(dialog.GetDlgItem(id));
+    if (button == nullptr) {
+        std::fprintf(stderr, "dialog %d has no button %d\n", dialog.GetTemplateId(), id);
+        g_failed = true;
+        return;
+    }
+    button->click();
+}
+
 void TakePicture(const GalleryEntry& entry, const QString& path, double points, bool grown)
 {
     SetDialogFontSize(points);
     const DialogObserver before = SetDialogObserver([&](CDialog& dialog) {
+        for (const int id : entry.presses) {
+            Press(dialog, id);
+        }
         const CRect place = dialog.GetWindowRect();
         if (grown) {
             dialog.MoveWindow({place.left, place.top,

@@ -53,11 +53,21 @@ RADSEL_API double HKGetMaxTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe);
 RADSEL_API double GetHK_Inhalt(HK_DATEN_VDI3805_UEBERGABE& uebergabe, double hoehe, double tiefe,
                                double laenge);
 
-/// Edits the connection of a radiator and its two valves. True on OK, and then the records and
-/// flags are updated.
+/// Lets the user edit the connection of a radiator and its two valves. Both valves are fetched by
+/// their keys first, in place, whatever the user does then.
+///
+/// True on OK, and then the connection and the valves hold what the user chose, `ventile` and `typ`
+/// the checks of the two groups and `fanCoil` that of its box, which opens as it came. Otherwise
+/// all but the fetched valves stays. `gruppenWaehlbar` tells whether the user may change the checks
+/// of the groups.
+///
+/// The radiators of the list show their connection points in the drawing while the dialog is open;
+/// their attributes "H_VL_PUNKT" and "H_RL_PUNKT" keep the last texts, after Cancel too. A missing
+/// attribute is made with `new`. List and `drawer` may be null and stay the caller's.
 RADSEL_API bool ShowVentDlg(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilVorlauf,
-                            VDI3805_VENTIL_KV& ventilRuecklauf, bool& flag1, bool& flag2,
-                            bool& flag3, bool& flag4, TGA_LIST* heizkoerper, CDrawer* drawer);
+                            VDI3805_VENTIL_KV& ventilRuecklauf, bool& gruppenWaehlbar,
+                            bool& ventile, bool& typ, bool& fanCoil, TGA_LIST* heizkoerper,
+                            CDrawer* drawer);
 
 /// Lets the user pick a valve. True on OK, and then `ventil` holds it. With both texts non-empty
 /// the dialog opens on that valve. Mind the order: number first, manufacturer second.

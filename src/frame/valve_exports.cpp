@@ -1,15 +1,33 @@
 #include "frame/entry_points.h"
 
+#include "connection/vent_dlg.h"
 #include "frame/resource_context.h"
 #include "frame/ventil_kv.h"
+#include "host/host_prefs.h"
 #include "valve/vent_vdi_dlg.h"
 #include "valve/ventil_abruf.h"
 
-bool ShowVentDlg(ConnValues& /*anschluss*/, VDI3805_VENTIL_KV& /*ventilVorlauf*/,
-                 VDI3805_VENTIL_KV& /*ventilRuecklauf*/, bool& /*flag1*/, bool& /*flag2*/,
-                 bool& /*flag3*/, bool& /*flag4*/, TGA_LIST* /*heizkoerper*/, CDrawer* /*drawer*/)
+bool ShowVentDlg(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilVorlauf,
+                 VDI3805_VENTIL_KV& ventilRuecklauf, bool& gruppenWaehlbar, bool& ventile,
+                 bool& typ, bool& fanCoil, TGA_LIST* heizkoerper, CDrawer* drawer)
 {
-    return false;
+    const CResourceContext context;
+    CVentDlg dialog;
+    bool superUser = false;
+    lmGetGlobalSuperUser(superUser);
+    VDI3805GetVentilDaten(ventilVorlauf, ventilRuecklauf);
+    dialog.SetzeEingang(anschluss, ventilVorlauf, ventilRuecklauf);
+    dialog.SetzeZeichnung(heizkoerper, drawer);
+    dialog.SetzeRechte(superUser, gruppenWaehlbar);
+    dialog.SetzeFanCoil(fanCoil);
+    if (dialog.DoModal() != kIdOk) {
+        return false;
+    }
+    dialog.HoleErgebnis(anschluss, ventilVorlauf, ventilRuecklauf);
+    ventile = dialog.VentileAktiv();
+    typ = dialog.TypAktiv();
+    fanCoil = dialog.FanCoil();
+    return true;
 }
 
 bool ShowVentVDI3805Dlg(const CString& ventilNr, const CString& hersteller,

@@ -64,11 +64,15 @@ void DDX_Text(CDataExchange* pDX, int id, CString& value)
 void DDX_Text(CDataExchange* pDX, int id, double& value)
 {
     CWnd control = pDX->GetDialog().GetDlgItem(id);
+    const std::optional<double> number = WholeNumber(control.GetWindowText());
     if (!pDX->m_bSaveAndValidate) {
-        control.SetWindowText(ShortestText(value));
+        // A number that is being typed, such as "0.", must not be taken from under the user's
+        // hands.
+        if (number != value) {
+            control.SetWindowText(ShortestText(value));
+        }
         return;
     }
-    const std::optional<double> number = WholeNumber(control.GetWindowText());
     if (!number) {
         Fail(control, L"Inserire un numero.");
     }

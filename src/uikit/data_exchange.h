@@ -28,7 +28,8 @@ class CExchangeFailed
 
 /// Text of an edit, a label or an editable list.
 void DDX_Text(CDataExchange* pDX, int id, CString& value);
-/// Number of an edit. A text that is no number as a whole is told to the user.
+/// Number of an edit. A text that is no number as a whole is told to the user; one that is the
+/// number already is left as it was typed.
 void DDX_Text(CDataExchange* pDX, int id, double& value);
 void DDX_Text(CDataExchange* pDX, int id, int& value);
 /// Check box: 0 or 1.

@@ -135,6 +135,7 @@ protected:
     /// Cancel arrive as clicks of their ids, Enter and Esc likewise.
     virtual bool OnCommand(int id, ControlEvent event);
 
+    /// The dialog shows, wholly or in part; a control that paints itself alone does not count.
     virtual void OnPaint();
     virtual void OnEraseBackground(CDC& dc);
     virtual void OnSize(SizeKind kind);

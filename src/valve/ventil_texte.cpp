@@ -25,6 +25,9 @@ constexpr TabellenText kTexte[] = {
     {113, L"PdC localizzata(p.e. Saracinesca di chiusura)"},
     {114, L"regolabile"},
     {115, L"non regolabile"},
+    {116, L"Selezionare quì per acquisire il valore %d..."},
+    {117, L"Espandi >>"},
+    {118, L"Riduci <<"},
     // Without its closing bracket, as designers know the head of the list.
     {119, L"xp       Regolazione           kv[m³/h]           kvs[m³/h"},
     {120, L"xp       Regolazione  kv-Bypass[m³/h]   kv-HK[m³/h]   %"},

@@ -156,6 +156,10 @@ Opzioni:
                      si apre sul produttore (nome della sua cartella) e sulla valvola con questo
                      NumeroTGA, se indicati
   --workplace DIR    cartella del posto di lavoro: posizione delle finestre e aiuti attivi
+  --connection-dialog [--superuser]
+                     apre la finestra di attacco e valvole accanto a una pianta con tre corpi
+                     scaldanti e mostra quanto confermato; con --superuser la finestra si può
+                     espandere
   --batch            calcola senza finestre; è il modo normale
   --help             mostra questo testo
 

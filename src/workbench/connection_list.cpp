@@ -228,3 +228,9 @@ ExitCode ListConnections(const CString& path, std::ostream& out, std::ostream& e
     }
     return CListPrinter(shown, lines, out, err).Print();
 }
+
+CString DescribeConnectionPoint(const CString& text)
+{
+    const std::optional<CPunkt> punkt = ReadPunkt(text);
+    return punkt ? DescribePunkt(*punkt) : L"non indicato";
+}

@@ -11,3 +11,6 @@
 /// badCatalogue, as it is for a file that cannot be read. An empty path stands for the file in the
 /// data root.
 ExitCode ListConnections(const CString& path, std::ostream& out, std::ostream& err);
+
+/// The place and direction of a connection point text in plain words.
+CString DescribeConnectionPoint(const CString& text);

@@ -30,14 +30,14 @@ void OnStartMessage(QtMsgType type, const QMessageLogContext& context, const QSt
     std::_Exit(static_cast<int>(ExitCode::noScreen));
 }
 
+} // namespace
+
 void StartWindows()
 {
     g_messageHandlerBefore = qInstallMessageHandler(OnStartMessage);
     EnsureApplication();
     qInstallMessageHandler(g_messageHandlerBefore);
 }
-
-} // namespace
 
 std::optional<VDI3805_VENTIL_KV> ChooseValve(const CString& maker, const CString& number)
 {

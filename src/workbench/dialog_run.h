@@ -5,9 +5,13 @@
 
 #include <optional>
 
+/// Makes what dialogs need. A process without a screen ends here, with a message on standard error
+/// and ExitCode::noScreen.
+void StartWindows();
+
 /// Opens the module's valve dialog on a valve, on a maker alone or, with both texts empty, on the
-/// first maker. The record that the user confirmed; nothing if he cancelled. A process without a
-/// screen ends here, with a message on standard error and ExitCode::noScreen.
+/// first maker. The record that the user confirmed; nothing if he cancelled. StartWindows()
+/// is called first.
 std::optional<VDI3805_VENTIL_KV> ChooseValve(const CString& maker, const CString& number);
 
 /// The identity and nominal data of a valve as chosen in the dialog, a line each; lines end in a

@@ -1,6 +1,7 @@
 #include "platform/encoding.h"
 #include "workbench/batch.h"
 #include "workbench/connection_list.h"
+#include "workbench/connection_run.h"
 
 #include <algorithm>
 #include <iostream>
@@ -11,6 +12,9 @@ int main(int argc, char* argv[])
     std::vector<CString> arguments;
     for (int i = 1; i < argc; ++i) {
         arguments.push_back(WideFromUtf8(argv[i]));
+    }
+    if (std::ranges::find(arguments, L"--connection-dialog") != arguments.end()) {
+        return static_cast<int>(RunConnectionDialog(arguments, std::cout, std::cerr));
     }
     const auto listing = std::ranges::find(arguments, L"--list-connections");
     if (listing == arguments.end()) {

@@ -1,3 +1,4 @@
+#include "dialog_support/dialog_driver.h"
 #include "support/message_log.h"
 #include "support/setting_override.h"
 #include "support/temp_folder.h"
@@ -121,7 +122,9 @@ void CheckPlaces(const CDialog& dialog, const std::vector<Part>& parts, Complain
     const CRect client = dialog.GetClientRect();
     for (std::size_t i = 0; i < parts.size(); ++i) {
         const Part& part = parts[i];
-        if (!ToNative(client).contains(part.place)) {
+        // What a collapsed dialog keeps below its edge is out of reach.
+        const bool putAway = !part.widget->isEnabled() && !ToNative(client).intersects(part.place);
+        if (!putAway && !ToNative(client).contains(part.place)) {
             complaints.push_back("outside: " + Name(part));
         }
         for (std::size_t k = 0; k < i; ++k) {
@@ -232,6 +235,9 @@ protected:
     AllDialogs()
         : m_before(SetDialogObserver([this](CDialog& dialog) {
               ++m_opened;
+              for (const int id : m_presses) {
+                  CDialogUser(dialog).Click(id);
+              }
               m_complaints = Check(dialog);
               dialog.EndDialog(kIdCancel);
           }))
@@ -247,6 +253,7 @@ protected:
     CMessageLog m_messages;
     Complaints m_complaints;
     int m_opened = 0;
+    std::vector<int> m_presses;
     DialogObserver m_before;
 };
 
@@ -262,6 +269,7 @@ TEST_P(AllDialogs, FitTheirCaptionsAndWorkByKeyboard)
     OverrideHostSetting(kSettingLocalPath, workplace.Path());
     for (const GalleryEntry& entry : gallery) {
         const int opened = m_opened;
+        m_presses = entry.presses;
         entry.open();
         EXPECT_EQ(m_opened, opened + 1) << entry.name;
         EXPECT_EQ(m_complaints, Complaints{}) << entry.name;

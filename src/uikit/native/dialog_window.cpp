@@ -53,9 +53,24 @@ public:
     explicit CClientArea(CDialogWindow& window) : QWidget(&window), m_window(window) {}
 
 protected:
-    void paintEvent(QPaintEvent* /*event*/) override { m_window.PaintClient(); }
+    void paintEvent(QPaintEvent* event) override
+    {
+        m_window.PaintClient(!IsBelowControls(event->region()));
+    }
 
 private:
+    /// A control that paints itself anew has the toolkit paint what lies below it first.
+    bool IsBelowControls(QRegion region) const
+    {
+        for (const QObject* child : children()) {
+            const auto* control = qobject_cast<const QWidget*>(child);
+            if (control != nullptr && control->isVisible()) {
+                region -= control->geometry();
+            }
+        }
+        return region.isEmpty();
+    }
+
     CDialogWindow& m_window;
 };
 
@@ -391,13 +406,15 @@ void CDialogWindow::paintEvent(QPaintEvent* /*event*/)
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-void CDialogWindow::PaintClient()
+void CDialogWindow::PaintClient(bool dialogShows)
 {
     m_dialog.Guard([this] {
         CPaintDC dc(m_client);
         m_dialog.OnEraseBackground(dc);
     });
-    m_dialog.Guard([this] { m_dialog.OnPaint(); });
+    if (dialogShows) {
+        m_dialog.Guard([this] { m_dialog.OnPaint(); });
+    }
 }
 
 void CDialogWindow::closeEvent(QCloseEvent* event)

@@ -70,7 +70,8 @@ protected:
 private:
     friend class CClientArea;
 
-    void PaintClient();
+    /// `dialogShows` tells that more of the client area is painted than what lies below controls.
+    void PaintClient(bool dialogShows);
     void Connect(QWidget& widget, const ControlTemplate& control);
     void Tell(int id, ControlEvent event);
     void PressDefault();
