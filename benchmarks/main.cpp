@@ -1,6 +1,6 @@
 // Prints what has to be fast as ratios to a floor that is measured in the same run. The pairs run
 // interleaved, so that a drift of the machine's speed meets both sides. The table quotes medians of
-// CPU time. The exit code tells whether every ratio was reached.
+// CPU time. The exit code tells whether every ratio and every limit was reached.
 
 #include "ratio_table.h"
 #include "valve_file.h"
@@ -53,7 +53,13 @@ int main(int argc, char** argv)
          1.5},
         {"valve_file", "valve file of 50 MB to nodes", "read, find line ends, widen", 4.0},
         {"valve_fetch", "second fetch of a cached valve pair", "copying the two records", 1.5},
+        {"dialog_keystroke", "keystroke to repainted grid, 2,000 rows", "painting the same rows",
+         2.0, 16.0},
+        {"dialog_opening", "opening the selection dialog, 2,000 rows", "", 0.0, 150.0},
     };
+
+    // Dialogs are painted without a screen, at the size of their templates.
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
 
     std::vector<std::string> arguments(argv, argv + argc);
     arguments.insert(arguments.begin() + 1,

@@ -6,14 +6,17 @@
 #include <string>
 #include <vector>
 
-/// A line of the table: what is measured, against which floor, and the ratio to reach.
-/// The two benchmarks of a line are registered as "<key>/measured" and "<key>/floor".
+/// A line of the table: what is measured, against which floor, and the ratio to reach. The two
+/// benchmarks of a line are registered as "<key>/measured" and "<key>/floor". A line without a
+/// floor has an empty one and a limit in milliseconds alone.
 struct RatioLine
 {
     std::string key;
     std::string what;
     std::string floor;
-    double reach;
+    double reach = 0.0;
+    /// What the measured one may take by itself; 0 if nothing says so.
+    double milliseconds = 0.0;
 };
 
 /// Collects the medians of a run and prints them as ratios.
@@ -23,10 +26,14 @@ public:
     bool ReportContext(const Context& context) override;
     void ReportRuns(const std::vector<Run>& runs) override;
 
-    /// Prints the table; false if a ratio lies above what is to be reached.
+    /// Prints the table; false if a ratio or a time lies above what is to be reached.
     bool PrintTable(const std::vector<RatioLine>& lines) const;
 
 private:
+    bool PrintLine(const RatioLine& line) const;
+    /// 0 for a benchmark that a filter on the command line has left out.
+    double Median(const std::string& name) const;
+
     /// Median of the CPU time in nanoseconds by benchmark name.
     std::map<std::string, double> m_medians;
 };

@@ -1,10 +1,13 @@
 #include "tools/dialog_gallery.h"
 
 #include "connection/presets.h"
+#include "connection/wand_ab_dlg.h"
 #include "frame/conn_values.h"
 #include "frame/entry_points.h"
+#include "frame/handover.h"
 #include "frame/ventil_kv.h"
 #include "platform/path.h"
+#include "tools/radiator_gallery.h"
 #include "valve/ventil_bewertung.h"
 #include "valve/ventil_katalog.h"
 #include "workbench/drawing/scene_drawer.h"
@@ -91,6 +94,16 @@ void OpenEmptyConnectionDialog()
     ShowVentDlg(connection, flow, back, groups, withValves, withType, fanCoil, nullptr, nullptr);
 }
 
+void OpenTreeDialog(const CString& maker, const CString& kind, const CString& product)
+{
+    HK_DATEN_VDI3805_UEBERGABE uebergabe;
+    uebergabe.Hersteller = maker;
+    uebergabe.Art = kind;
+    uebergabe.Produkt = product;
+    uebergabe.Leistung = 1000.0;
+    HeizkoerperauswahlVDI3805Tree(&uebergabe);
+}
+
 } // namespace
 
 std::vector<GalleryEntry> DialogGallery(const std::string& dataFolder)
@@ -100,7 +113,9 @@ std::vector<GalleryEntry> DialogGallery(const std::string& dataFolder)
     OverrideHostSetting(kSettingServerPath, Folder(dataFolder, "root"));
     OverrideHostSetting(kSettingLocalPath, Folder(dataFolder, "workplace"));
     OverrideHostSetting(kSettingValveBlockFolder, Folder(dataFolder, "drawing/ventile.dxf"));
-    return {
+    OverrideHostSetting(kSettingDefFolder, Folder(dataFolder, "workplace"));
+    OverrideHostSetting(kSettingHKBlockFolder, Folder(dataFolder, "drawing/heizkoerper.dxf"));
+    std::vector<GalleryEntry> dialogs = {
         {"scelta_valvola", [] { OpenValveDialog(L"Fontespada", false); }},
         {"scelta_valvola_monotubo", [] { OpenValveDialog(L"Fontespada", true); }},
         {"scelta_valvola_vuota",
@@ -111,5 +126,13 @@ std::vector<GalleryEntry> DialogGallery(const std::string& dataFolder)
         {"attacco", [] { OpenConnectionDialog(SampleConnection(), false); }},
         {"attacco_esteso", [] { OpenConnectionDialog(SampleConnection(), true); }, {1024, 18074}},
         {"attacco_vuoto", OpenEmptyConnectionDialog},
+        {"albero",
+         [] { OpenTreeDialog(L"Valmorena", L"Radiatori a piastra compatti", L"Tipo 22"); }},
+        {"albero_vuoto", [] { OpenTreeDialog(L"", L"", L""); }},
+        {"distanze", [] { CWandAbDlg().DoModal(); }},
     };
+    for (const GalleryEntry& entry : RadiatorGallery()) {
+        dialogs.push_back(entry);
+    }
+    return dialogs;
 }

@@ -101,6 +101,8 @@ CArguments ParseArguments(const std::vector<CString>& arguments)
         } else if (argument == L"--valve-dialog") {
             result.bValveDialog = true;
             i += ApplyPreset(result, std::span(arguments).subspan(i + 1));
+        } else if (argument == kTreeDialogOption) {
+            result.bTreeDialog = true;
         } else if (argument == L"--batch") {
             continue;
         } else if (!TakesValue(name)) {
@@ -112,7 +114,8 @@ CArguments ParseArguments(const std::vector<CString>& arguments)
             ApplyOption(result, name, i < arguments.size() ? arguments[i] : CString());
         }
     }
-    if (result.strBuilding.empty() && !result.bHelp && !result.bValveDialog) {
+    const bool asksForDialog = result.bValveDialog || result.bTreeDialog;
+    if (result.strBuilding.empty() && !result.bHelp && !asksForDialog) {
         throw CArgumentException(L"manca l'edificio: indicarlo con --building FILE");
     }
     return result;
@@ -160,6 +163,11 @@ Opzioni:
                      apre la finestra di attacco e valvole accanto a una pianta con tre corpi
                      scaldanti e mostra quanto confermato; con --superuser la finestra si può
                      espandere
+  --radiator-dialog [NOME]
+                     apre la scelta del corpo scaldante di un locale, il primo se NOME manca, e
+                     mostra quello scelto; esce con 1 se non ne è stato scelto nessuno
+  --tree-dialog      apre la scelta di un prodotto dall'albero dei cataloghi e lo mostra; valgono
+                     --catalogues e --system
   --batch            calcola senza finestre; è il modo normale
   --help             mostra questo testo
 

@@ -7,12 +7,17 @@
 #include <optional>
 #include <vector>
 
+/// The option that RunTreeDialog() serves.
+inline constexpr wchar_t kTreeDialogOption[] = L"--tree-dialog";
+
 /// What the user asked for on the command line. Paths are as typed.
 struct CArguments
 {
     bool bHelp = false;
     /// The schedule on the screen shows the kv tables of the valves as well.
     bool bValves = false;
+    /// A product is picked in the catalogue tree; needs no building.
+    bool bTreeDialog = false;
     CString strBuilding;
     /// Empty: the folder of the host's settings.
     CString strCatalogues;

@@ -1,7 +1,10 @@
 #include "platform/encoding.h"
+#include "workbench/arguments.h"
 #include "workbench/batch.h"
 #include "workbench/connection_list.h"
 #include "workbench/connection_run.h"
+#include "workbench/radiator_run.h"
+#include "workbench/tree_run.h"
 
 #include <algorithm>
 #include <iostream>
@@ -15,6 +18,12 @@ int main(int argc, char* argv[])
     }
     if (std::ranges::find(arguments, L"--connection-dialog") != arguments.end()) {
         return static_cast<int>(RunConnectionDialog(arguments, std::cout, std::cerr));
+    }
+    if (std::ranges::find(arguments, kTreeDialogOption) != arguments.end()) {
+        return static_cast<int>(RunTreeDialog(arguments, std::cout, std::cerr));
+    }
+    if (std::ranges::find(arguments, kRadiatorDialogOption) != arguments.end()) {
+        return RunRadiatorDialog(arguments, std::cout, std::cerr);
     }
     const auto listing = std::ranges::find(arguments, L"--list-connections");
     if (listing == arguments.end()) {

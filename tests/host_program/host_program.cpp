@@ -53,13 +53,10 @@ void ChooseRadiator(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
            "and leaves the hand-over untouched");
     Expect(HKGetMinTiefe(nothing) == -1.0, "nor has it a depth");
 
-    auto dialog = uebergabe;
-    dialog.Leistung = 0.0;
-    Expect(HeizkoerperauswahlVDI3805Tree(&dialog) == -1 && dialog.Leistung == 0.0,
-           "the tree form is cancelled and supplies no default output");
-    Expect(HeizkoerperauswahlVDI3805(nullptr, &dialog, layer, color, true, false) == -2,
-           "the form with the dialog is cancelled");
-    Expect(dialog.Leistung == 1000.0, "a requirement of 0 becomes 1000 W and stays");
+    auto undemanding = uebergabe;
+    undemanding.Leistung = 0.0;
+    HeizkoerperauswahlVDI3805(nullptr, &undemanding, layer, color, false, false);
+    Expect(undemanding.Leistung == 1000.0, "a requirement of 0 becomes 1000 W and stays");
 }
 
 void AskSizes(HK_DATEN_VDI3805_UEBERGABE& uebergabe)

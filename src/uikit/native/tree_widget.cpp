@@ -156,6 +156,13 @@ void CTreeWidget::focusInEvent(QFocusEvent* event)
     viewport()->update();
 }
 
+/// Rows reach across the tree however short their texts are.
+void CTreeWidget::resizeEvent(QResizeEvent* event)
+{
+    QTreeWidget::resizeEvent(event);
+    header()->setMinimumSectionSize(viewport()->width());
+}
+
 /// One item stays chosen whatever is clicked: neither a click beside the items nor one with Ctrl
 /// takes the choice away.
 QItemSelectionModel::SelectionFlags CTreeWidget::selectionCommand(const QModelIndex& index,

@@ -1,0 +1,163 @@
+#pragma once
+
+#include "dialog_support/dialog_driver.h"
+#include "frame/entry_points.h"
+#include "host/drawer.h"
+#include "host/host_catalog.h"
+#include "platform/encoding.h"
+#include "support/setting_override.h"
+#include "support/temp_folder.h"
+#include "uikit/native/access.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QTableView>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <cstdlib>
+
+inline constexpr int kAuswahlDialog = 18000;
+inline constexpr int kGitter = 18001;
+
+using Zeile = std::vector<CString>;
+
+inline QTableView& Gitter(const CDialogUser& user)
+{
+    return *user.Widget(kGitter).findChild<QTableView*>();
+}
+
+/// The cell texts of the result grid.
+inline std::vector<Zeile> GitterZeilen(const CDialogUser& user)
+{
+    const QAbstractItemModel& model = *Gitter(user).model();
+    std::vector<Zeile> zeilen(static_cast<std::size_t>(model.rowCount()));
+    for (int row = 0; row < model.rowCount(); ++row) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            const QString text = model.index(row, column).data().toString();
+            zeilen[static_cast<std::size_t>(row)].push_back(text.toStdWString());
+        }
+    }
+    return zeilen;
+}
+
+inline QPoint MitteDerZeile(const CDialogUser& user, int row)
+{
+    QTableView& view = Gitter(user);
+    const QModelIndex index = view.model()->index(row, 0);
+    view.scrollTo(index);
+    return view.visualRect(index).center();
+}
+
+inline void KlickeZeile(const CDialogUser& user, int row)
+{
+    QTest::mouseClick(Gitter(user).viewport(), Qt::LeftButton, {}, MitteDerZeile(user, row));
+}
+
+inline void KlickeKopf(const CDialogUser& user, int column)
+{
+    const QHeaderView* kopf = Gitter(user).horizontalHeader();
+    const int x = kopf->sectionViewportPosition(column) + kopf->sectionSize(column) / 2;
+    QTest::mouseClick(kopf->viewport(), Qt::LeftButton, {}, {x, 10});
+}
+
+/// A drawing with three layers and two blocks, one of which has a preview.
+class CAuswahlDrawer : public CDrawer
+{
+public:
+    void GetLayerNames(CStringArray& namen, int art) override
+    {
+        EXPECT_EQ(art, 2);
+        for (const wchar_t* name : {L"MURI", L"HEIZ_PT_2", L"0"}) {
+            namen.Add(name);
+        }
+    }
+    int GetLayerColor(const CString& layer) override { return layer == L"MURI" ? 8 : 3; }
+    void GetBlockNames(const CString& ordner, CStringArray& namen, int art) override
+    {
+        EXPECT_EQ(ordner + std::to_wstring(art), L"blocchi0");
+        namen.Add(L"ZETA");
+        namen.Add(L"ABCD");
+    }
+    bool GetBlockPreview(const CString& ordner, const CString& block, CBitmap& bild, int,
+                         int) override
+    {
+        EXPECT_EQ(ordner, L"blocchi");
+        if (block == L"ABCD") {
+            bild = CBitmap(4, 4);
+            bild.Fill(RGB(1, 2, 3));
+        }
+        return block == L"ABCD";
+    }
+    void ClearPreview() override {}
+    void BeginPreview() override {}
+    void EndPreview() override {}
+    void DrawConnectionPoint(const double*, const double*, double, int, bool) override {}
+};
+
+/// The selection dialog over the sample catalogues, with stores of the test's own.
+class CAuswahlDialogTest : public testing::Test
+{
+protected:
+    CAuswahlDialogTest()
+    {
+        setenv("XDG_CONFIG_HOME", m_folder.Root().c_str(), 1);
+        std::filesystem::create_directories(m_folder.Root() / "HEIZUNG");
+        m_uebergabe.Hersteller = L"Valmorena";
+        m_uebergabe.Art = L"Radiatori a piastra compatti";
+        m_uebergabe.Produkt = L"Tipo 22";
+        m_uebergabe.Leistung = 1000.0;
+        m_uebergabe.LaengeMin = 400.0;
+        m_uebergabe.LaengeMax = 3000.0;
+        m_uebergabe.HoeheMin = 300.0;
+        m_uebergabe.HoeheMax = 600.0;
+        m_uebergabe.TiefeMax = 500.0;
+        m_uebergabe.Vorlauf = 75.4;
+        m_uebergabe.Ruecklauf = 65.2;
+        m_uebergabe.Raumtemperatur = 20.5;
+        m_uebergabe.NeuLesen = 1;
+    }
+
+    ~CAuswahlDialogTest() override
+    {
+        for (auto* maker = ReadHKDaten(); maker != nullptr; maker = maker->pNext) {
+            maker->pArt = nullptr;
+        }
+        unsetenv("XDG_CONFIG_HOME");
+    }
+
+    void Raum(double bedarf, double gedeckt)
+    {
+        m_uebergabe.Raumname = L"PT.Cucina";
+        m_uebergabe.RaumBedarf = bedarf;
+        m_uebergabe.RaumGedeckt = gedeckt;
+    }
+
+    /// Opens the dialog through the export and returns its result.
+    int Oeffne(const CDialogDriver::Script& script, bool warnen = false)
+    {
+        m_driver.WhenOpens(kAuswahlDialog, [script](CDialogUser& user) {
+            // Without a screen nothing gives a second dialog the focus that the first one had.
+            QApplication::setActiveWindow(CNativeAccess::Widget(user.Dialog()));
+            dynamic_cast<QTreeWidget&>(user.Widget(18000)).setAnimated(false);
+            script(user);
+        });
+        return HeizkoerperauswahlVDI3805(m_pDrawer, &m_uebergabe, m_layer, m_farbe, true, warnen);
+    }
+
+    CTempFolder m_folder;
+    CSettingOverride m_root{kSettingServerPath, m_folder.Path()};
+    CSettingOverride m_def{kSettingDefFolder, m_folder.Path()};
+    CSettingOverride m_local{kSettingLocalPath, m_folder.Path()};
+    CSettingOverride m_hk{kSettingHKDir, WideFromUtf8(RADSEL_DATA_DIR "/catalogues")};
+    CSettingOverride m_blocks{kSettingHKBlockFolder, L"blocchi"};
+    CSettingOverride m_template{kSettingHKLayer, L"HEIZ_$d"};
+    CAuswahlDrawer m_drawer;
+    CDrawer* m_pDrawer = &m_drawer;
+    HK_DATEN_VDI3805_UEBERGABE m_uebergabe;
+    CString m_layer = L"HEIZ_$d__";
+    int m_farbe = 5;
+    CDialogDriver m_driver;
+};
