@@ -22,4 +22,12 @@ forbid 'common' '#include "(frame|radiator|valve|connection|selection|dialogs|ui
     'common/ includes a folder above it'
 forbid "$logic uikit" '#include "workbench/' 'the module includes the reference host'
 forbid 'radiator' '#include "(valve|connection|selection|dialogs|uikit)/' 'radiator/ reaches sideways or up'
+forbid 'uikit' '#include "(frame|host|radiator|valve|connection|selection|dialogs)/' 'uikit/ knows the module'
+forbid 'dialogs' '#include "(radiator|valve|connection|selection|frame)/' 'dialogs/ reaches up'
+hits=$(grep -nE '#include *<Q|\bQ[A-Z][a-z]+' uikit/*.h || true)
+if [ -n "$hits" ]; then
+    echo 'a header of uikit/ shows the toolkit:'
+    echo "$hits"
+    fail=1
+fi
 exit $fail

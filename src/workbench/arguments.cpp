@@ -165,7 +165,7 @@ Opzioni:
                      espandere
   --radiator-dialog [NOME]
                      apre la scelta del corpo scaldante di un locale, il primo se NOME manca, e
-                     mostra quello scelto; esce con 1 se non ne è stato scelto nessuno
+                     mostra quello scelto
   --tree-dialog      apre la scelta di un prodotto dall'albero dei cataloghi e lo mostra; valgono
                      --catalogues e --system
   --batch            calcola senza finestre; è il modo normale

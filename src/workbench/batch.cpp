@@ -45,18 +45,6 @@ void SetValveFolder(const CArguments& arguments, bool needed)
     }
 }
 
-void SetWorkplace(const CArguments& arguments)
-{
-    if (arguments.strWorkplace.empty()) {
-        return;
-    }
-    std::error_code error;
-    if (!std::filesystem::is_directory(ResolvePath(arguments.strWorkplace), error)) {
-        throw CArgumentException(L"--workplace: la cartella non esiste: " + arguments.strWorkplace);
-    }
-    OverrideHostSetting(kSettingLocalPath, arguments.strWorkplace);
-}
-
 CBuilding LoadBuilding(const CArguments& arguments)
 {
     CBuilding building = ReadBuilding(arguments.strBuilding);

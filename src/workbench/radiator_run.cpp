@@ -5,10 +5,11 @@
 #include "platform/encoding.h"
 #include "platform/format.h"
 #include "workbench/arguments.h"
+#include "workbench/batch.h"
 #include "workbench/building_json.h"
+#include "workbench/dialog_run.h"
 #include "workbench/drawing/dxf_blocks.h"
 #include "workbench/drawing/scene_drawer.h"
-#include "workbench/host_base/qt_application.h"
 #include "workbench/host_prefs/host_settings.h"
 
 #include <QGraphicsScene>
@@ -142,7 +143,8 @@ bool Choose(const CRoomChoice& choice, std::ostream& out)
     int layerColor = 0;
     lmGetHKLayer(layer);
     lmGetHKLayerColor(layerColor);
-    EnsureApplication();
+    SetWorkplace(choice.arguments);
+    StartWindows();
     QGraphicsScene scene;
     CSceneDrawer drawer(scene, LayersOfBlocks());
     const bool chosen =
@@ -161,7 +163,7 @@ int RunRadiatorDialog(const std::vector<CString>& arguments, std::ostream& out, 
             Write(out, GetHelpText());
             return 0;
         }
-        return Choose(choice, out) ? 0 : 1;
+        return static_cast<int>(Choose(choice, out) ? ExitCode::ok : ExitCode::cancelled);
     } catch (const CException& error) {
         Write(err, L"radsel_workbench: " + error.GetErrorMessage());
         return 1;

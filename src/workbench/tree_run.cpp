@@ -6,9 +6,9 @@
 #include "host/host_prefs.h"
 #include "platform/encoding.h"
 #include "workbench/arguments.h"
+#include "workbench/dialog_run.h"
 #include "workbench/host_prefs/host_settings.h"
 
-#include <cstdlib>
 #include <ostream>
 
 namespace {
@@ -22,19 +22,12 @@ void Write(std::ostream& stream, const CString& text)
     stream << Utf8FromWide(text) << '\n';
 }
 
-/// The toolkit would end the process.
-bool HasDisplay()
-{
-    return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr ||
-           std::getenv("QT_QPA_PLATFORM") != nullptr;
-}
-
 CString DescribeProdukt(const HK_DATEN_VDI3805_UEBERGABE& uebergabe)
 {
     return uebergabe.Hersteller + L" / " + uebergabe.Art + L" / " + uebergabe.Produkt;
 }
 
-void PickProdukt(const CArguments& arguments, std::ostream& out)
+bool PickProdukt(const CArguments& arguments, std::ostream& out)
 {
     const CHeatingSystem system = arguments.system.value_or(kSystem);
     HK_DATEN_VDI3805_UEBERGABE uebergabe;
@@ -50,6 +43,7 @@ void PickProdukt(const CArguments& arguments, std::ostream& out)
     } else {
         Write(out, L"Annullato; ultimo prodotto selezionato: " + DescribeProdukt(uebergabe));
     }
+    return confirmed;
 }
 
 } // namespace
@@ -69,12 +63,9 @@ ExitCode RunTreeDialog(const std::vector<CString>& arguments, std::ostream& out,
             Write(err, L"radsel_workbench: nessun catalogo in " + GetHKDir());
             return ExitCode::badCatalogue;
         }
-        if (!HasDisplay()) {
-            Write(err, L"radsel_workbench: --tree-dialog richiede uno schermo");
-            return ExitCode::unexpected;
-        }
-        PickProdukt(parsed, out);
-        return ExitCode::ok;
+        SetWorkplace(parsed);
+        StartWindows();
+        return PickProdukt(parsed, out) ? ExitCode::ok : ExitCode::cancelled;
     } catch (const CArgumentException& error) {
         Write(err, L"radsel_workbench: " + error.GetErrorMessage());
         return ExitCode::wrongArguments;
