@@ -3,63 +3,7 @@
 # Usage: valve_dialog_journey.sh PROGRAM DATA_FOLDER
 set -euo pipefail
 
-program=$1
-data=$2
-deadline=30 # seconds for one thing to happen
-scratch=$(mktemp -d)
-server=
-job=
-
-finish() {
-    [[ -z $job ]] || kill "$job" 2>/dev/null || true
-    [[ -z $server ]] || kill "$server" 2>/dev/null || true
-    wait
-    rm -rf "$scratch"
-}
-trap finish EXIT
-
-fail() {
-    printf 'journey: %s\n' "$*" >&2
-    cat "$scratch"/*.log >&2 || true
-    exit 1
-}
-
-# Asks until the command succeeds.
-await() {
-    local what=$1 end=$((SECONDS + deadline))
-    shift
-    until "$@"; do
-        ((SECONDS < end)) || fail "waited in vain: $what"
-        sleep 0.05
-    done
-}
-
-# Starts a server under a display number of chance, as one that is just ending takes the socket of
-# the lowest free number away with it. It must not start anew whenever a client leaves. False if it
-# ends, the number being taken.
-screen_answers() {
-    export DISPLAY=:$((100 + RANDOM % 30000))
-    Xvfb "$DISPLAY" -screen 0 1280x1024x24 -nolisten tcp -noreset >"$scratch/screen.log" 2>&1 &
-    server=$!
-    while kill -0 "$server" 2>/dev/null; do
-        ! xdotool getmouselocation >/dev/null 2>&1 || return 0
-        ((SECONDS < deadline)) || fail "the screen does not answer"
-        sleep 0.05
-    done
-    return 1
-}
-
-start_screen() {
-    await "a screen" screen_answers
-    # Neither the settings of who runs this, nor his desktop.
-    export XDG_CONFIG_HOME=$scratch/config XDG_RUNTIME_DIR=$scratch QT_QPA_PLATFORM=xcb
-    export DBUS_SESSION_BUS_ADDRESS=disabled:
-    unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_STYLE_OVERRIDE
-    mkdir "$scratch/workplace"
-    cp "$data/workplace/winsett.txt" "$scratch/workplace"
-}
-
-program_ended() { ! kill -0 "$job" 2>/dev/null; }
+source "$(dirname "${BASH_SOURCE[0]}")/journey.sh"
 
 dialog_is_up() {
     ! program_ended || fail "the program has ended"
@@ -70,7 +14,7 @@ dialog_is_up() {
 # Starts the program and waits for its window to take keys.
 open_dialog() {
     "$program" --valve-dialog "$@" --valve-catalogues "$data/valves" \
-        --workplace "$scratch/workplace" >"$scratch/out" 2>"$scratch/program.log" &
+        --workplace "$scratch/kept/workplace" >"$scratch/out" 2>"$scratch/program.log" &
     job=$!
     await "the window" dialog_is_up
     # WIDTH and HEIGHT
@@ -85,15 +29,6 @@ click() {
     local x=$((5 + $1 * (WIDTH - 10) / 398)) y=$((30 + $2 * (HEIGHT - 35) / 257))
     shift 2
     xdotool mousemove --sync --window "$window" "$x" "$y" click "$@" 1
-}
-
-# Waits for the end of the program and looks at its exit code.
-expect_exit() {
-    await "the end of the program" program_ended
-    local code=0
-    wait "$job" || code=$?
-    job=
-    [[ $code -eq $1 ]] || fail "exit code $code instead of $1"
 }
 
 expect_line() {
