@@ -376,7 +376,8 @@ TEST_F(CAuswahlDialogTest, TheFirstRunMakesTheListOfSystems)
 TEST_F(CAuswahlDialogTest, StoresThatCannotBeReadOrWrittenAreNoObstacle)
 {
     const CSettingOverride winpos(kSettingWinposFile, L"fenster.txt");
-    const std::string muell("\xFF\xFE|[VDI\0\x01*|*|(/\n\xD8\x00", 20);
+    using namespace std::string_literals;
+    const std::string muell = "\xFF\xFE|[VDI\0\x01*|*|(/\n\xD8\x00"s;
     for (const bool ordner : {false, true}) {
         for (const char* name :
              {"HEIZUNG/CmbData.txt", "HkAuswahl.def", "Vdi6030Start.def", "fenster.txt"}) {
