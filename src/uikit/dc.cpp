@@ -72,11 +72,6 @@ void CDC::SetPen(COLORREF color, int width)
     m_surface->painter.setPen(pen);
 }
 
-void CDC::SetNoPen()
-{
-    m_surface->painter.setPen(Qt::NoPen);
-}
-
 void CDC::Line(CPoint from, CPoint to)
 {
     m_surface->painter.drawLine(from.x, from.y, to.x, to.y);
@@ -134,12 +129,6 @@ void CDC::TextOut(CPoint at, const CString& text, const CFont& font, COLORREF co
     painter.rotate(-escapement / 10.0);
     painter.drawText(0, painter.fontMetrics().ascent(), ToNative(text));
     painter.restore();
-}
-
-CSize CDC::GetTextExtent(const CString& text, const CFont& font) const
-{
-    const QFontMetrics metrics(ToNative(font));
-    return {metrics.horizontalAdvance(ToNative(text)), metrics.height()};
 }
 
 void CDC::DrawBitmap(CPoint at, const CBitmap& bitmap)

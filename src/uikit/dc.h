@@ -24,9 +24,6 @@ public:
 
     /// Solid pen for lines and outlines.
     void SetPen(COLORREF color, int width);
-    /// No outline.
-    void SetNoPen();
-
     void Line(CPoint from, CPoint to);
     void Polyline(const std::vector<CPoint>& points);
     /// Outline with the pen, its right and bottom line lying inside the rectangle.
@@ -41,7 +38,6 @@ public:
     /// degree; `at` is the left end of the line's top.
     void TextOut(CPoint at, const CString& text, const CFont& font, COLORREF color,
                  int escapement = 0);
-    CSize GetTextExtent(const CString& text, const CFont& font) const;
 
     void DrawBitmap(CPoint at, const CBitmap& bitmap);
     /// Copies another surface to this one, its corner at `at`.

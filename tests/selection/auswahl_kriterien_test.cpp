@@ -1,4 +1,5 @@
 #include "selection/auswahl_kriterien.h"
+#include "selection/muster_uebergabe.h"
 
 #include "frame/hkauswahl_uebergabe.h"
 #include "frame/vdi6030_start.h"
@@ -29,19 +30,7 @@ protected:
     KriterienTest()
     {
         std::filesystem::create_directories(m_folder.Root() / "HEIZUNG");
-        m_uebergabe.Hersteller = L"Valmorena";
-        m_uebergabe.Art = L"Radiatori a piastra compatti";
-        m_uebergabe.Produkt = L"Tipo 22";
-        m_uebergabe.Leistung = 1000.0;
-        m_uebergabe.LaengeMin = 400.0;
-        m_uebergabe.LaengeMax = 3000.0;
-        m_uebergabe.HoeheMin = 300.0;
-        m_uebergabe.HoeheMax = 600.0;
-        m_uebergabe.TiefeMin = 0.0;
-        m_uebergabe.TiefeMax = 500.0;
-        m_uebergabe.Vorlauf = 75.4;
-        m_uebergabe.Ruecklauf = 65.2;
-        m_uebergabe.Raumtemperatur = 20.5;
+        m_uebergabe = MusterUebergabe();
     }
 
     ~KriterienTest() override

@@ -5,6 +5,7 @@
 #include "host/drawer.h"
 #include "host/host_catalog.h"
 #include "platform/encoding.h"
+#include "selection/muster_uebergabe.h"
 #include "support/setting_override.h"
 #include "support/temp_folder.h"
 #include "uikit/native/access.h"
@@ -105,18 +106,7 @@ protected:
     {
         setenv("XDG_CONFIG_HOME", m_folder.Root().c_str(), 1);
         std::filesystem::create_directories(m_folder.Root() / "HEIZUNG");
-        m_uebergabe.Hersteller = L"Valmorena";
-        m_uebergabe.Art = L"Radiatori a piastra compatti";
-        m_uebergabe.Produkt = L"Tipo 22";
-        m_uebergabe.Leistung = 1000.0;
-        m_uebergabe.LaengeMin = 400.0;
-        m_uebergabe.LaengeMax = 3000.0;
-        m_uebergabe.HoeheMin = 300.0;
-        m_uebergabe.HoeheMax = 600.0;
-        m_uebergabe.TiefeMax = 500.0;
-        m_uebergabe.Vorlauf = 75.4;
-        m_uebergabe.Ruecklauf = 65.2;
-        m_uebergabe.Raumtemperatur = 20.5;
+        m_uebergabe = MusterUebergabe();
         m_uebergabe.NeuLesen = 1;
     }
 
