@@ -68,6 +68,9 @@ public:
         return true;
     }
 
+    /// What stands behind the last line end.
+    CString TakeRest() { return std::move(m_line); }
+
 private:
     bool EndLine()
     {
@@ -126,15 +129,17 @@ void ReserveFor(const CFile& file, CStringArray& lines)
     lines.Reserve(lines.GetSize() + static_cast<int>(expected));
 }
 
-void ReadLines(CFile& file, CStringArray& lines, int wideLimit, int narrowLimit)
+/// Returns what stands behind the last line end.
+CString ReadLines(CFile& file, CStringArray& lines, int wideLimit, int narrowLimit)
 {
-    if (ReadByteOrderMark(file)) {
-        CLineCutter cutter(lines, wideLimit);
+    const bool isWide = ReadByteOrderMark(file);
+    CLineCutter cutter(lines, isWide ? wideLimit : narrowLimit);
+    if (isWide) {
         ReadWideLines(file, cutter);
     } else {
-        CLineCutter cutter(lines, narrowLimit);
         ReadNarrowLines(file, cutter);
     }
+    return cutter.TakeRest();
 }
 
 /// Collects text for a file, so that short lines do not cost a system call each.
@@ -187,12 +192,15 @@ bool IsElementOf(const CStringArray& array, const CString& text)
 
 } // namespace
 
-int ReadTextLines(CFile& file, CStringArray& lines, int limit)
+int ReadTextLines(CFile& file, CStringArray& lines, int limit, CString* rest)
 {
     if (limit == -1) {
         ReserveFor(file, lines);
     }
-    ReadLines(file, lines, limit, -1);
+    CString dropped = ReadLines(file, lines, limit, -1);
+    if (rest != nullptr) {
+        *rest = std::move(dropped);
+    }
     return lines.GetSize();
 }
 

@@ -15,8 +15,9 @@
 
 /// Appends the lines of an open file to `lines` and returns the count then in the array. With a
 /// limit other than -1 reading a wide file stops as soon as the array holds exactly that many; an
-/// 8-bit file is always read whole. Exceptions of the file pass through.
-int ReadTextLines(CFile& file, CStringArray& lines, int limit);
+/// 8-bit file is always read whole. `rest` takes the last line that is dropped, for files that are
+/// written again. Exceptions of the file pass through.
+int ReadTextLines(CFile& file, CStringArray& lines, int limit, CString* rest = nullptr);
 
 /// Opens the file with `flags` and does the same. 0 if it cannot be opened.
 int ReadTextFile(const CString& path, CStringArray& lines, unsigned flags, int limit);

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -71,6 +72,44 @@ bool WriteAll(int descriptor, const char* bytes, std::size_t count)
         count -= static_cast<std::size_t>(written);
     }
     return true;
+}
+
+/// The file beside a target that its next content is written to.
+fs::path TemporaryOf(const fs::path& target)
+{
+    return target.parent_path() / ("." + target.filename().native() + ".radsel-tmp");
+}
+
+/// True if the open file is nobody else's: locked now, still the one of that name, and no way to
+/// another file's content.
+bool TakeTemporary(int descriptor, const char* name)
+{
+    struct stat opened = {};
+    struct stat named = {};
+    return flock(descriptor, LOCK_EX | LOCK_NB) == 0 && fstat(descriptor, &opened) == 0 &&
+           lstat(name, &named) == 0 && opened.st_ino == named.st_ino &&
+           opened.st_dev == named.st_dev && S_ISREG(opened.st_mode) && opened.st_nlink == 1 &&
+           opened.st_uid == geteuid() && ftruncate(descriptor, 0) == 0;
+}
+
+/// Opens an empty temporary file and sets its name; below 0 with errno set if that fails. A target
+/// has one name as long as nobody else is writing to it, so that what a killed process has left is
+/// used up by the next one instead of piling up.
+int OpenTemporary(const fs::path& target, fs::path& temporary)
+{
+    temporary = TemporaryOf(target);
+    const int descriptor =
+        open(temporary.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600);
+    if (descriptor >= 0) {
+        if (TakeTemporary(descriptor, temporary.c_str())) {
+            return descriptor;
+        }
+        close(descriptor);
+    }
+    std::string name = (target.parent_path() / ".radsel-XXXXXX.tmp").native();
+    const int other = mkostemps(name.data(), 4, O_CLOEXEC);
+    temporary = other >= 0 ? name : "";
+    return other;
 }
 
 /// Fills a created file with what its target holds; false with errno set if that fails.
@@ -154,13 +193,11 @@ bool CFile::OpenCreated(unsigned flags)
     if (m_openError != 0) {
         return false;
     }
-    std::string name = (m_target.parent_path() / ".radsel-XXXXXX.tmp").native();
-    m_descriptor = mkostemps(name.data(), 4, O_CLOEXEC);
+    m_descriptor = OpenTemporary(m_target, m_temporary);
     if (!IsOpen()) {
         m_openError = errno;
         return false;
     }
-    m_temporary = name;
     const bool keep = (flags & modeNoTruncate) != 0;
     if (fchmod(m_descriptor, mode) != 0 || (keep && !CopyContents(m_target, m_descriptor))) {
         m_openError = errno;
@@ -245,34 +282,30 @@ void CFile::Close()
     if (!IsOpen()) {
         return;
     }
-    const bool created = !m_temporary.empty();
-    bool ok = !created || fsync(m_descriptor) == 0;
-    int error = errno;
-    if (close(std::exchange(m_descriptor, -1)) != 0 && ok) {
-        ok = false;
-        error = errno;
+    if (m_temporary.empty()) {
+        if (close(std::exchange(m_descriptor, -1)) != 0) {
+            Fail(errno);
+        }
+        return;
     }
-    if (ok && created && rename(m_temporary.c_str(), m_target.c_str()) != 0) {
-        ok = false;
-        error = errno;
-    }
-    if (!ok) {
+    // Renamed while its lock is held, lest another writer take it for a leftover.
+    if (fsync(m_descriptor) != 0 || rename(m_temporary.c_str(), m_target.c_str()) != 0) {
+        const int error = errno;
         Abort();
         Fail(error);
     }
-    if (created) {
-        m_temporary.clear();
-        SyncFolderOf(m_target);
-    }
+    m_temporary.clear();
+    close(std::exchange(m_descriptor, -1));
+    SyncFolderOf(m_target);
 }
 
 void CFile::Abort() noexcept
 {
-    if (IsOpen()) {
-        close(std::exchange(m_descriptor, -1));
-    }
     if (!m_temporary.empty()) {
         unlink(m_temporary.c_str());
         m_temporary.clear();
+    }
+    if (IsOpen()) {
+        close(std::exchange(m_descriptor, -1));
     }
 }

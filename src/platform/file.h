@@ -12,7 +12,8 @@
 /// A file opened with modeCreate is written beside its target and moved over it by Close(), so that
 /// a crash, a full disk or an exception on the way leaves the old file or the new one, whole.
 /// Without Close() such a file is dropped and the target stays as it was; every other file is
-/// simply closed when the object dies.
+/// simply closed when the object dies. What a killed process leaves beside the target is used up
+/// when the target is next written to.
 class CFile : public CByteStream
 {
 public:

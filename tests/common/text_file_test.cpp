@@ -1,17 +1,15 @@
 #include "common/text_file.h"
 #include "platform/encoding.h"
 #include "platform/exception.h"
+#include "support/file_size_limit.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <filesystem>
 #include <initializer_list>
 #include <random>
 #include <string>
-
-#include <sys/resource.h>
 
 namespace {
 
@@ -265,29 +263,6 @@ TEST_F(TextFile, WhatCannotBeOpenedForWritingGivesFalseAndIsLeftAlone)
     EXPECT_FALSE(WriteTextFile(m_folder.Path("locked"), lines, true, false, CFile::modeWrite));
     EXPECT_EQ(m_folder.ReadBytes("locked"), "old");
 }
-
-/// Makes writing to a file fail from a position on, as a full disk does.
-class CFileSizeLimit
-{
-public:
-    explicit CFileSizeLimit(rlim_t bytes) : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_limit);
-        const rlimit lower = {bytes, m_limit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &lower);
-    }
-    ~CFileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_limit);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    CFileSizeLimit(const CFileSizeLimit&) = delete;
-    CFileSizeLimit& operator=(const CFileSizeLimit&) = delete;
-
-private:
-    void (*m_handler)(int);
-    rlimit m_limit = {};
-};
 
 TEST_F(TextFile, AnErrorWhileWritingReachesTheCallerAndLeavesTheOldFileWhole)
 {

@@ -6,14 +6,12 @@
 #include "dialogs/platzierung_datei.h"
 #include "dialogs/resizing_dialog.h"
 #include "platform/environment.h"
+#include "support/file_size_limit.h"
 #include "support/setting_override.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <sys/resource.h>
-
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
@@ -207,15 +205,10 @@ TEST_F(Platzierung, FilesThatCannotBeReadOrWrittenHarmNothing)
     EXPECT_EQ(m_folder.ReadBytes(kDatei), line);
     std::filesystem::permissions(m_folder.Root() / kDatei, std::filesystem::perms::owner_all);
 
-    // A file that may not grow behaves like one on a full disk.
-    rlimit before = {};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit none = {0, before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &none);
-    EXPECT_NO_THROW(SchreibePlatzierung(L"CHIAVE", rect, 255));
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
+    {
+        const CFileSizeLimit full(0);
+        EXPECT_NO_THROW(SchreibePlatzierung(L"CHIAVE", rect, 255));
+    }
     EXPECT_EQ(m_folder.ReadBytes(kDatei), line);
 
     const CSettingOverride missing(kSettingLocalPath, m_folder.Path("manca"));

@@ -2,6 +2,7 @@
 
 #include "platform/exception.h"
 #include "platform/path.h"
+#include "support/file_size_limit.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +13,8 @@
 #include <string>
 #include <vector>
 
-#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -131,30 +133,6 @@ TEST_F(FileTest, WhatCannotBeOpenedSaysWhy)
     EXPECT_EQ(Names(), std::vector<std::string>{"readonly.txt"});
 }
 
-/// Lets no file of the process grow beyond a size, as a full disk would.
-class CFileSizeLimit
-{
-public:
-    explicit CFileSizeLimit(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-    }
-    ~CFileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    CFileSizeLimit(const CFileSizeLimit&) = delete;
-    CFileSizeLimit& operator=(const CFileSizeLimit&) = delete;
-
-private:
-    rlimit m_before = {};
-    void (*m_handler)(int) = nullptr;
-};
-
 TEST_F(FileTest, AFullDiskLeavesTheOldFile)
 {
     m_folder.WriteBytes("a.txt", "old");
@@ -170,6 +148,39 @@ TEST_F(FileTest, AFullDiskLeavesTheOldFile)
         }
     }
     EXPECT_EQ(m_folder.ReadBytes("a.txt"), "old");
+    EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
+}
+
+TEST_F(FileTest, WhatAKilledWriterLeavesIsUsedUpByTheNext)
+{
+    m_folder.WriteBytes("a.txt", "old");
+    const pid_t child = fork();
+    if (child == 0) {
+        CFile file(m_folder.Path("a.txt"), CFile::modeCreate | CFile::modeWrite);
+        Put(file, "half of a long new content");
+        raise(SIGKILL);
+    }
+    waitpid(child, nullptr, 0);
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "old");
+    ASSERT_EQ(Names().size(), 2U);
+
+    CFile file(m_folder.Path("a.txt"), CFile::modeCreate | CFile::modeWrite);
+    Put(file, "new");
+    file.Close();
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "new");
+    EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
+}
+
+TEST_F(FileTest, WritersOfOneTargetKeepOutOfEachOthersWay)
+{
+    CFile first(m_folder.Path("a.txt"), CFile::modeCreate | CFile::modeWrite);
+    CFile second(m_folder.Path("a.txt"), CFile::modeCreate | CFile::modeWrite);
+    Put(first, "from the first");
+    Put(second, "from the second");
+    first.Close();
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "from the first");
+    second.Close();
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "from the second");
     EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
 }
 

@@ -8,6 +8,7 @@
 #include <limits>
 #include <locale>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -46,6 +47,26 @@ TEST(Format, ExactNumbersReadBackBitForBit)
     for (const double value : {0.1, 1.0 / 3.0, -1e-300, 5e-324, 123456789.123456789, 0.0}) {
         EXPECT_EQ(_wtof(FormatExact(value)), value);
     }
+}
+
+TEST(Format, PlainNumbersHaveNoExponentAndAtMostFifteenDigits)
+{
+    const std::pair<double, const wchar_t*> cases[] = {
+        {100000.0, L"100000"},
+        {75.4, L"75.4"},
+        {0.0, L"0"},
+        {1733.3333333333333, L"1733.33333333333"},
+        {0.1 + 0.2, L"0.3"},
+        {-999999999999999.9, L"-1000000000000000"},
+        {1e-7 / 3.0, L"0.0000000333333333333333"},
+        {std::nan(""), L"nan"},
+    };
+    for (const auto& [value, text] : cases) {
+        EXPECT_EQ(FormatPlain(value), text);
+    }
+    using Limits = std::numeric_limits<double>;
+    EXPECT_EQ(FormatPlain(Limits::max()).size(), 309U) << "rounding finds no larger one";
+    EXPECT_EQ(FormatPlain(Limits::denorm_min()).size(), 326U);
 }
 
 } // namespace
