@@ -98,6 +98,21 @@ void CheckRows(benchmark::State& state, const QTableView& grid)
     }
 }
 
+/// Counts how often a widget is painted.
+class CPaintCounter : public QObject
+{
+public:
+    explicit CPaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+
+    int nPaints = 0;
+
+    bool eventFilter(QObject* /*object*/, QEvent* event) override
+    {
+        nPaints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
 void KeystrokeMeasured(benchmark::State& state)
 {
     CDialogRun run;
@@ -106,15 +121,20 @@ void KeystrokeMeasured(benchmark::State& state)
         QTableView& grid = Grid(dialog);
         auto& field =
             dynamic_cast<QLineEdit&>(*CNativeAccess::Widget(dialog.GetDlgItem(kFieldLength)));
+        CPaintCounter paints(*grid.viewport());
+        int keys = 0;
         bool odd = false;
         for (auto _ : state) {
             odd = !odd;
+            ++keys;
             field.selectAll();
             QKeyEvent press(QEvent::KeyPress, odd ? Qt::Key_1 : Qt::Key_2, Qt::NoModifier,
                             odd ? "1" : "2");
             QApplication::sendEvent(&field, &press);
             QApplication::sendPostedEvents();
-            grid.viewport()->repaint();
+        }
+        if (paints.nPaints < keys) {
+            state.SkipWithError("a key left the grid unpainted");
         }
         if (run.uebergabe.LaengeMin != (odd ? 1.0 : 2.0)) {
             state.SkipWithError("the key did not get through");

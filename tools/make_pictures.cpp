@@ -1,5 +1,5 @@
 // Writes a picture of every dialog of the module into a folder: at the size of its template, grown
-// by half where it can grow, and at a font of one and a half times the size.
+// by half and to double height where it can grow, and at a font of one and a half times the size.
 //   radsel_make_pictures <data folder> <picture folder>
 
 #include "tools/dialog_gallery.h"
@@ -16,9 +16,16 @@
 
 namespace {
 
-constexpr double kNormalPoints = 8;
-constexpr double kLargePoints = 12;
-constexpr double kGrowth = 1.5;
+/// How a dialog is seen: size of its font, and what its window grows by.
+struct View
+{
+    const char* suffix;
+    double points = 8;
+    double width = 1;
+    double height = 1;
+};
+
+constexpr View kViews[] = {{""}, {"_grande", 8, 1.5, 1.5}, {"_alta", 8, 1, 2}, {"_caratteri", 12}};
 
 bool g_failed = false;
 
@@ -42,9 +49,10 @@ void Press(const CDialog& dialog, int id)
     button->click();
 }
 
-void TakePicture(const GalleryEntry& entry, const QString& path, double points, bool grown)
+void TakePicture(const GalleryEntry& entry, const QString& path, const View& view)
 {
-    SetDialogFontSize(points);
+    SetDialogFontSize(view.points);
+    const bool grown = view.height > 1;
     const DialogObserver before = SetDialogObserver([&](CDialog& dialog) {
         for (const int id : entry.presses) {
             Press(dialog, id);
@@ -52,8 +60,8 @@ void TakePicture(const GalleryEntry& entry, const QString& path, double points, 
         const CRect place = dialog.GetWindowRect();
         if (grown) {
             dialog.MoveWindow({place.left, place.top,
-                               place.left + static_cast<int>(place.Width() * kGrowth),
-                               place.top + static_cast<int>(place.Height() * kGrowth)});
+                               place.left + static_cast<int>(place.Width() * view.width),
+                               place.top + static_cast<int>(place.Height() * view.height)});
         }
         if (!grown || dialog.IsResizable()) {
             Save(dialog, path);
@@ -79,9 +87,9 @@ int main(int argc, char** argv)
     }
     for (const GalleryEntry& entry : DialogGallery(argv[1])) {
         const QString name = QString::fromStdString(entry.name);
-        TakePicture(entry, folder.filePath(name + ".png"), kNormalPoints, false);
-        TakePicture(entry, folder.filePath(name + "_grande.png"), kNormalPoints, true);
-        TakePicture(entry, folder.filePath(name + "_caratteri.png"), kLargePoints, false);
+        for (const View& view : kViews) {
+            TakePicture(entry, folder.filePath(name + view.suffix + ".png"), view);
+        }
     }
     return g_failed ? 1 : 0;
 }

@@ -33,7 +33,7 @@ const DialogTemplate& VentTemplate()
             {18105, edit, L"", 76, 106, 34, 13, styleRight},
             {18047, label, L"mm", 113, 108, 14, 9},
 
-            {16022, canvas, L"", 146, 29, 98, 57, styleSunken},
+            {16022, canvas, L"", 146, 29, 98, 57, styleSunken | stylePales},
             {18079, radioButton, L"", 135, 35, 10, 10, styleGroup},
             {18080, radioButton, L"", 135, 70, 10, 10},
             {18081, radioButton, L"", 154, 18, 10, 10},

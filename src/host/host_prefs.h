@@ -11,11 +11,11 @@ struct CRuntimeClass;
 /// HostPrefs: the host's settings, the records that are kept from one use to the next, and the
 /// constructors, assignments and archive forms of the records in frame/.
 
-/// Folder of the radiator catalogues, one sub-folder a manufacturer.
-HOST_API CString GetHKDir();
+/// Folder of the radiator catalogues, one sub-folder a manufacturer. `projectCopy` asks for the
+/// copies that a project may carry of its own; the module passes false.
+HOST_API CString GetHKDir(bool projectCopy);
 
-/// Folder of the valve catalogues, one sub-folder a manufacturer. `projectCopy` asks for the copies
-/// that a project may carry of its own; the module passes false.
+/// The same for the valve catalogues.
 HOST_API CString GetVEDir(bool projectCopy);
 
 /// Unit code of the drawing: 1 metre, 100 centimetre, 1000 millimetre.

@@ -116,7 +116,7 @@ void ZellTexte(const HK_VDI3805_TYP& zeile, ErgebnisTexte& texte)
 {
     texte[0] = zeile.Name;
     for (std::size_t i = 0; i < std::size(kZahlen); ++i) {
-        texte[i + 1] = FormatFixed(zeile.Daten.*kZahlen[i].wert, kZahlen[i].stellen);
+        AssignFixed(texte[i + 1], zeile.Daten.*kZahlen[i].wert, kZahlen[i].stellen);
     }
 }
 

@@ -24,14 +24,27 @@ CString Kopfzeile(const CString& name)
 }
 
 /// The lines of the file, none of a file that does not exist; nothing if it cannot be opened.
-std::optional<CStringArray> LeseZeilen()
+/// `rest` takes what stands behind the last line end.
+std::optional<CStringArray> LeseZeilen(CString* rest = nullptr)
 {
     CStringArray zeilen;
     CFile datei;
     if (datei.Open(HeizungPfad(kDateiName), CFile::modeRead)) {
-        ReadTextLines(datei, zeilen, -1);
+        ReadTextLines(datei, zeilen, -1, rest);
     } else if (datei.GetOpenError() != ENOENT) {
         return std::nullopt;
+    }
+    return zeilen;
+}
+
+/// The same with what stands behind the last line end, which is someone's list all the same. But a
+/// header of this list that has nothing behind it would hide the one that is written.
+std::optional<CStringArray> LeseZeilenMitRest(const CString& name)
+{
+    CString rest;
+    std::optional<CStringArray> zeilen = LeseZeilen(&rest);
+    if (zeilen && !rest.empty() && rest != Kopfzeile(name)) {
+        zeilen->Add(rest);
     }
     return zeilen;
 }
@@ -112,12 +125,16 @@ bool ListeSchreiben(const CString& name, const CAuswahlListe& liste, int gewerk)
     if (gewerk != kGewerkHeizung) {
         return false;
     }
-    std::optional<CStringArray> zeilen = LeseZeilen();
-    if (!zeilen) {
+    try {
+        std::optional<CStringArray> zeilen = LeseZeilenMitRest(name);
+        if (!zeilen) {
+            return false;
+        }
+        ListeInZeilen(*zeilen, name, liste);
+        return WriteTextFile(HeizungPfad(kDateiName), *zeilen, false, false, kNeueDatei);
+    } catch (const CFileException&) {
         return false;
     }
-    ListeInZeilen(*zeilen, name, liste);
-    return WriteTextFile(HeizungPfad(kDateiName), *zeilen, false, false, kNeueDatei);
 }
 
 bool ListeAusZeilen(const CStringArray& zeilen, const CString& name, CAuswahlListe& liste)

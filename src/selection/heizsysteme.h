@@ -29,8 +29,9 @@ inline constexpr int kGewerkHeizung = 2;
 bool ListeLesen(const CString& name, CAuswahlListe& liste, int gewerk);
 
 /// Puts the entries into the file, in place of the list of that name or behind all others, with the
-/// mark at every entry that is equal to the selected one. All other lines of the file stay. False
-/// if the file cannot be opened. Exceptions of the file pass through.
+/// mark at every entry that is equal to the selected one. All other lines of the file stay, also a
+/// last one without a line end, which reading drops. False, with the file as it was, if it cannot
+/// be read or written.
 bool ListeSchreiben(const CString& name, const CAuswahlListe& liste, int gewerk);
 
 /// ListeLesen() and ListeSchreiben() on the lines of a file; false if the lines have no such list

@@ -16,6 +16,8 @@
 #include "selection/hk_auswahl_template.h"
 #include "uikit/button.h"
 
+#include <utility>
+
 namespace {
 
 constexpr wchar_t kPlatzierung[] = L"RADSEL_HK_AUSWAHL";
@@ -58,13 +60,15 @@ enum Control
 constexpr int kListen[] = {kListeSystem,   kListeHoeheVon, kListeHoeheBis, kListeTiefeVon,
                            kListeTiefeBis, idLayer,        idBloecke};
 
-/// A number whose text reads back as the very same, since the exchange runs many times between two
-/// inputs. A text without a number reads as 0.0 and is no error: the user may be typing still.
+/// A number that the exchange leaves alone until its text was changed, since it runs many times
+/// between two inputs and a text may have fewer digits than the number. A text without a number
+/// reads as 0.0 and is no error: the user may be typing still.
 void DDX_Zahl(CDataExchange* pDX, int id, double& value)
 {
-    CString text = FormatExact(value);
+    const CString shown = FormatPlain(value);
+    CString text = shown;
     DDX_Text(pDX, id, text);
-    if (pDX->m_bSaveAndValidate) {
+    if (pDX->m_bSaveAndValidate && text != shown) {
         value = _wtof(text);
     }
 }
@@ -200,7 +204,7 @@ bool CHKAuswahlVdi3805Dlg::OnInitDialog()
     LadeIcons();
     ResetUnits();
     m_baum.Fuelle(*m_kriterien.m_pVdi);
-    m_strPfad = GetHKDir();
+    m_strPfad = GetHKDir(false);
     m_kriterien.LeistungFilterAus();
     GitterAnlegen();
     VorschauAnlegen();
@@ -377,14 +381,25 @@ void CHKAuswahlVdi3805Dlg::OnLayerDialog()
 void CHKAuswahlVdi3805Dlg::OnBlockGewaehlt()
 {
     const CComboListe& bloecke = m_listen.at(idBloecke);
-    const CString block = bloecke.GetItemText(bloecke.GetCurSel());
+    const int index = bloecke.GetCurSel();
     m_vorschau = {};
-    const bool zeigbar =
-        m_pDrawer != nullptr && m_pDrawer->GetBlockPreview(BlockOrdner(), block, m_vorschau,
-                                                           kGroesseDesHosts, kGroesseDesHosts);
-    m_vorschauBild.SetBitmap(zeigbar ? &m_vorschau : nullptr);
-    if (!block.empty()) {
-        lmSetHKBlock(block);
+    if (index >= 0) {
+        const CString block = bloecke.GetItemText(index);
+        LadeVorschau(block);
+        if (!block.empty()) {
+            lmSetHKBlock(block);
+        }
+    }
+    // A block without a picture is no fault that the user should read of.
+    m_vorschauBild.SetBitmap(&m_vorschau);
+}
+
+void CHKAuswahlVdi3805Dlg::LadeVorschau(const CString& block)
+{
+    CBitmap bild;
+    if (m_pDrawer != nullptr && m_pDrawer->GetBlockPreview(BlockOrdner(), block, bild,
+                                                           kGroesseDesHosts, kGroesseDesHosts)) {
+        m_vorschau = std::move(bild);
     }
 }
 
@@ -396,12 +411,12 @@ void CHKAuswahlVdi3805Dlg::ZeichneFarbe()
 void CHKAuswahlVdi3805Dlg::OnVentile()
 {
     VDI6030START start = LeseStart();
-    bool vonHand = false;
-    bool vorlauf = true;
-    bool ruecklauf = true;
-    bool einrohr = false;
-    if (ShowVentDlg(start.Anschluss, start.VentilVorlauf, start.VentilRuecklauf, vonHand, vorlauf,
-                    ruecklauf, einrohr, nullptr, m_pDrawer)) {
+    bool gruppenWaehlbar = false;
+    bool ventile = true;
+    bool typ = true;
+    bool fanCoil = false;
+    if (ShowVentDlg(start.Anschluss, start.VentilVorlauf, start.VentilRuecklauf, gruppenWaehlbar,
+                    ventile, typ, fanCoil, nullptr, m_pDrawer)) {
         WriteDefFile_VDI6030START(&start, false);
     }
 }

@@ -75,6 +75,7 @@ private:
     void FuelleZeichnungsListen();
     void SetzeAnker();
     void WendeLayerAktivAn();
+    void LadeVorschau(const CString& block);
     void ZeigeOhneBlock();
     void ZeichneFarbe();
 

@@ -27,7 +27,8 @@ public:
     /// To be called before an item opens: reads the file of a manufacturer that is unread, around
     /// the required output at standard conditions, and adds what it holds in place of the
     /// placeholder. A file that cannot be read leaves the item without children and is not
-    /// reported. Other items are left alone.
+    /// reported. Other items are left alone, also one that has kept its kinds from a reading before
+    /// the file failed.
     void LeseHersteller(HTREEITEM item);
 
     /// Selects what three searches find, for manufacturer, kind and product of the hand-over, each

@@ -63,9 +63,16 @@ void CKatalogBaum::LeseHersteller(HTREEITEM item)
     if (!IstUngelesen(item)) {
         return;
     }
+    if (HTREEITEM erstes = GetChildItem(item)) {
+        if (GetItemData(erstes) != kPlatzhalter) {
+            // The kinds of an earlier reading stand here still: the file failed when it was read
+            // again.
+            return;
+        }
+        DeleteItem(erstes);
+    }
     HK_VDI3805_HERSTELLER& hersteller = *Hersteller(item);
     const HK_DATEN_VDI3805_UEBERGABE& daten = m_pVdi->GetDaten();
-    DeleteItem(GetChildItem(item));
     ReadVdiFile(hersteller.Name, &hersteller.pArt, daten.Leistung / daten.Umrechnungsfaktor);
     FuelleHersteller(item);
 }

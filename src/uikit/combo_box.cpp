@@ -69,8 +69,12 @@ int CComboBox::GetCurSel() const
 void CComboBox::SetCurSel(int index)
 {
     if (CComboWidget* combo = Widget(*this)) {
+        const int wanted = index < combo->count() ? index : -1;
+        if (combo->currentIndex() == wanted) {
+            return;
+        }
         const QSignalBlocker quiet(combo);
-        combo->setCurrentIndex(index < combo->count() ? index : -1);
+        combo->setCurrentIndex(wanted);
         combo->update();
     }
 }

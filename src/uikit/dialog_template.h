@@ -46,6 +46,8 @@ enum ControlStyle : unsigned
     styleGroup = 128,
     /// A control that has the keyboard's focus only by mouse.
     styleNoTabStop = 256,
+    /// A canvas whose picture pales while it is disabled; any other shows it as it was drawn.
+    stylePales = 512,
 };
 
 /// Ids of controls that nobody addresses.

@@ -146,7 +146,8 @@ public:
 
     /// Sorts the rows by a column as OnSortEvaluate() decides, which is given the flags. Every row
     /// in turn is put in front of the first sorted row that is greater, so rows that compare equal
-    /// keep their order. The current cell keeps its row number and hence changes its contents.
+    /// keep their order. The current cell keeps its row number and hence changes its contents,
+    /// which the user's next pick of a row tells by OnRowChange().
     void SortBy(int column, int flags);
 
 protected:
@@ -172,7 +173,8 @@ protected:
     virtual bool OnSideHeadingSizing(int* width);
     virtual bool OnSideHeadingSized(int* width);
 
-    /// The user made another row the current one; -1 for none before.
+    /// The user made another row the current one, -1 for none before, or picked any row for the
+    /// first time after a sort, which may have put other contents under the same number.
     virtual void OnRowChange(int oldRow, int newRow);
 
     /// A mouse button went down or up on a cell.

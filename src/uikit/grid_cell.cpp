@@ -3,6 +3,16 @@
 #include "platform/format.h"
 #include "platform/numbers.h"
 
+void CUGCell::Clear()
+{
+    m_text.clear();
+    m_decimals = 0;
+    m_cellType = kGridTextType;
+    m_typeFlag = 0;
+    m_dataType = GridDataType::text;
+    m_align = GridAlign::left;
+}
+
 void CUGCell::SetText(const CString& text)
 {
     m_text = text;

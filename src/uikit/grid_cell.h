@@ -30,6 +30,9 @@ inline constexpr int kSortArrowDescending = 18;
 class CUGCell
 {
 public:
+    /// Makes it as good as new; the memory of its text stays for the next one.
+    void Clear();
+
     /// Makes it a cell of data type text.
     void SetText(const CString& text);
     const CString& GetText() const { return m_text; }

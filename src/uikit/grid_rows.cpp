@@ -29,6 +29,7 @@ void CGridRows::SetColumnCount(int count)
 {
     const auto columns = static_cast<std::size_t>(std::max(count, 0));
     m_heading.resize(columns);
+    m_spare.clear();
     for (Row& row : m_rows) {
         row.resize(columns);
     }
@@ -36,7 +37,15 @@ void CGridRows::SetColumnCount(int count)
 
 void CGridRows::Append()
 {
-    m_rows.emplace_back(m_heading.size());
+    if (m_spare.empty()) {
+        m_rows.emplace_back(m_heading.size());
+        return;
+    }
+    m_rows.push_back(std::move(m_spare.back()));
+    m_spare.pop_back();
+    for (CUGCell& cell : m_rows.back()) {
+        cell.Clear();
+    }
 }
 
 bool CGridRows::Delete(int row)
@@ -44,6 +53,7 @@ bool CGridRows::Delete(int row)
     if (row < 0 || row >= GetRowCount()) {
         return false;
     }
+    m_spare.push_back(std::move(m_rows[static_cast<std::size_t>(row)]));
     m_rows.erase(m_rows.begin() + row);
     return true;
 }

@@ -37,4 +37,7 @@ private:
     Row m_heading;
     /// Rebuilds delete the first row again and again, which a deque does in no time.
     std::deque<Row> m_rows;
+    /// Rows that were deleted, for those that come next: a rebuild of thousands of rows would spend
+    /// half of its time on their memory.
+    std::vector<Row> m_spare;
 };

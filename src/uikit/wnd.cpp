@@ -40,6 +40,10 @@ void SetTextOf(QWidget& widget, const QString& text)
 {
     if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {
         edit->setText(text);
+        if (edit->isReadOnly()) {
+            // Where nobody types, a long text is read from its start.
+            edit->setCursorPosition(0);
+        }
     } else if (auto* label = qobject_cast<QLabel*>(&widget)) {
         label->setText(text);
     } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {

@@ -28,8 +28,8 @@ void SetCatalogueFolder(const CArguments& arguments)
         OverrideHostSetting(kSettingHKDir, arguments.strCatalogues);
     }
     std::error_code error;
-    if (!std::filesystem::is_directory(ResolvePath(GetHKDir()), error)) {
-        throw CArgumentException(L"la cartella dei cataloghi non esiste: " + GetHKDir());
+    if (!std::filesystem::is_directory(ResolvePath(GetHKDir(false)), error)) {
+        throw CArgumentException(L"la cartella dei cataloghi non esiste: " + GetHKDir(false));
     }
 }
 

@@ -60,7 +60,7 @@ ExitCode RunTreeDialog(const std::vector<CString>& arguments, std::ostream& out,
             OverrideHostSetting(kSettingHKDir, parsed.strCatalogues);
         }
         if (ReadHKDaten() == nullptr) {
-            Write(err, L"radsel_workbench: nessun catalogo in " + GetHKDir());
+            Write(err, L"radsel_workbench: nessun catalogo in " + GetHKDir(false));
             return ExitCode::badCatalogue;
         }
         SetWorkplace(parsed);

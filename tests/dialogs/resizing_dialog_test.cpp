@@ -103,78 +103,56 @@ protected:
     CDialogDriver m_driver;
 };
 
-/// Where an edge pair comes to lie when a length grows from one value to another.
-std::pair<int, int> Followed(int anker, std::pair<int, int> edges, int before, int after)
-{
-    const int growth = after - before;
-    const int shift = after / 2 - before / 2;
-    switch (anker) {
-    case ankerStrecken:
-        return {edges.first, edges.second + growth};
-    case ankerMitgehen:
-        return {edges.first + growth, edges.second + growth};
-    case ankerMitte:
-        return {edges.first + shift, edges.second + shift};
-    default:
-        return edges;
-    }
-}
-
 TEST_F(ResizingDialog, ControlsFollowByTheirAnchors)
 {
-    constexpr int kAnchors = 4;
-    CProbeDialog dialog([](CProbeDialog& d) {
+    constexpr int kGrowth = 40;
+    // How far the two edges across the growth go, by anchor.
+    const std::pair<int, int> ways[] = {
+        {0, 0}, {0, kGrowth}, {kGrowth, kGrowth}, {kGrowth / 2, kGrowth / 2}};
+    const int anchors[] = {ankerFest, ankerStrecken, ankerMitgehen, ankerMitte};
+    CProbeDialog dialog([&](CProbeDialog& d) {
         d.AnkerSetzen(idUnten, ankerMitgehen, ankerStrecken, false);
         d.AnkerSetzen(idUnten, ankerFest, ankerFest, false);
         d.AnkerSetzen(idFehlt, ankerMitgehen, ankerStrecken, false);
-        for (int i = 0; i < kAnchors; ++i) {
-            d.AnkerSetzen(10 + i, i, kAnchors - 1 - i, false);
+        for (int i = 0; i < 4; ++i) {
+            d.AnkerSetzen(10 + i, anchors[i], anchors[3 - i], false);
         }
     });
     Run(dialog, [&] {
-        const CRect client = dialog.GetClientRect();
-        const CRect fixed = dialog.Place(idUnten);
         std::vector<CRect> before;
-        for (int i = 0; i < kAnchors; ++i) {
-            before.push_back(dialog.Place(10 + i));
+        for (const int id : {10, 11, 12, 13, int(idUnten)}) {
+            before.push_back(dialog.Place(id));
         }
-        for (const CSize growth : {CSize{41, 33}, {30, 1}, {-70, -30}, {-1, -4}}) {
-            dialog.Grow(growth.cx, growth.cy);
-            const CRect now = dialog.GetClientRect();
-            EXPECT_EQ(dialog.Place(idUnten), fixed) << "the later anchor counts alone";
-            for (int i = 0; i < kAnchors; ++i) {
-                const CRect& old = before[static_cast<std::size_t>(i)];
-                const auto x = Followed(i, {old.left, old.right}, client.Width(), now.Width());
-                const auto y = Followed(kAnchors - 1 - i, {old.top, old.bottom}, client.Height(),
-                                        now.Height());
-                EXPECT_EQ(dialog.Place(10 + i), (CRect{x.first, y.first, x.second, y.second}))
-                    << "anchor " << i << " at " << now.Width() << " x " << now.Height();
-            }
+        // No half pixel may be lost on the way there.
+        for (const int step : {1, 1, 1, kGrowth - 3}) {
+            dialog.Grow(step, step);
         }
-        EXPECT_EQ(dialog.GetClientRect(), client) << "back to where it began";
+        for (int i = 0; i < 4; ++i) {
+            const CRect& old = before[static_cast<std::size_t>(i)];
+            const auto& [left, right] = ways[i];
+            const auto& [top, bottom] = ways[3 - i];
+            EXPECT_EQ(dialog.Place(10 + i), (CRect{old.left + left, old.top + top,
+                                                   old.right + right, old.bottom + bottom}))
+                << "anchor " << anchors[i];
+        }
+        EXPECT_EQ(dialog.Place(idUnten), before.back()) << "the later anchor counts alone";
+        dialog.Grow(-kGrowth, -kGrowth);
+        EXPECT_EQ(dialog.Place(13), before[3]) << "back to where it began";
     });
 }
 
 TEST_F(ResizingDialog, SizesStayWithinTheirLimits)
 {
-    struct Case
-    {
-        bool x;
-        bool y;
-        CSize grown;
-    };
-    for (const Case& c : {Case{true, true, {50, 40}},
-                          {false, true, {0, 40}},
-                          {true, false, {50, 0}},
-                          {false, false, {0, 0}}}) {
-        CProbeDialog dialog([&](CProbeDialog& d) { d.GroesseErlauben(c.x, c.y); });
-        Run(dialog, [&] {
+    for (const auto& [x, y] :
+         {std::pair(true, true), {false, true}, {true, false}, {false, false}}) {
+        CProbeDialog dialog([x = x, y = y](CProbeDialog& d) { d.GroesseErlauben(x, y); });
+        Run(dialog, [&, x = x, y = y] {
             const CSize least = dialog.Size();
             dialog.Grow(-20, -30);
             EXPECT_EQ(dialog.Size(), least);
             dialog.Grow(50, 40);
-            EXPECT_EQ(dialog.Size(), (CSize{least.cx + c.grown.cx, least.cy + c.grown.cy}));
-            EXPECT_EQ(dialog.Native().findChild<CSizeGrip*>()->isVisible(), c.x || c.y);
+            EXPECT_EQ(dialog.Size(), (CSize{least.cx + (x ? 50 : 0), least.cy + (y ? 40 : 0)}));
+            EXPECT_EQ(dialog.Native().findChild<CSizeGrip*>()->isVisible(), x || y);
         });
     }
 }
@@ -203,20 +181,15 @@ TEST_F(ResizingDialog, TheGripStaysInItsCornerBehindTheControls)
 TEST_F(ResizingDialog, AKeptPlaceMovesTheControlsLikeTheUser)
 {
     m_folder.WriteBytes("winpos.txt", "CHIAVE|10|710|20|620|255|\n");
-    CRect before;
-    CRect client;
+    CRect expected;
     CProbeDialog dialog([&](CProbeDialog& d) {
-        before = d.Place(13);
-        client = d.GetClientRect();
-        d.AnkerSetzen(13, ankerStrecken, ankerMitgehen, false);
+        expected = d.Place(13).MovedBy(700 - d.Size().cx, 600 - d.Size().cy);
+        d.AnkerSetzen(13, ankerMitgehen, ankerMitgehen, false);
         PlatzierungLaden(d, L"CHIAVE", nullptr, false);
     });
     Run(dialog, [&] {
         EXPECT_EQ(dialog.GetWindowRect(), (CRect{10, 20, 710, 620}));
-        const int dx = dialog.GetClientRect().Width() - client.Width();
-        const int dy = dialog.GetClientRect().Height() - client.Height();
-        EXPECT_EQ(dialog.Place(13),
-                  (CRect{before.left, before.top + dy, before.right + dx, before.bottom + dy}));
+        EXPECT_EQ(dialog.Place(13), expected);
     });
 }
 

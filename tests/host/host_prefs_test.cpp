@@ -151,13 +151,13 @@ TEST_F(HostSettings, WithoutAConfigurationFolderTheHomeFolderHoldsOne)
 
 TEST_F(HostSettings, TheCatalogueFolderComesFromTheSettingThenTheEnvironment)
 {
-    EXPECT_EQ(GetHKDir(), L"");
+    EXPECT_EQ(GetHKDir(false), L"");
     const CEnvironmentVariable catalogues("RADSEL_HKDIR", "/catalogues");
-    EXPECT_EQ(GetHKDir(), L"/catalogues");
+    EXPECT_EQ(GetHKDir(false), L"/catalogues");
     ASSERT_TRUE(StoreHostSetting(kSettingHKDir, L"D:\\stored"));
-    EXPECT_EQ(GetHKDir(), L"D:\\stored");
+    EXPECT_EQ(GetHKDir(false), L"D:\\stored");
     const CSettingOverride override(kSettingHKDir, L"override");
-    EXPECT_EQ(GetHKDir(), L"override");
+    EXPECT_EQ(GetHKDir(false), L"override");
 }
 
 TEST_F(HostSettings, UnitsAreMetresUntilChosen)

@@ -163,6 +163,9 @@ TEST_F(KriterienTest, APercentageOfTheDemandBecomesTheWantedOutput)
     EXPECT_EQ(dialog.texte[18005], L"300");
     EXPECT_EQ(dialog.neuLesen.back(), 1);
 
+    dialog.Tippe(18016, L"3.33");
+    EXPECT_EQ(m_uebergabe.Leistung, 100.0);
+    EXPECT_EQ(dialog.neuLesen.back(), 1);
     dialog.Tippe(18016, L"2");
     EXPECT_EQ(dialog.texte[18005], L"60");
     EXPECT_EQ(m_uebergabe.Leistung, 60.0);

@@ -2,6 +2,7 @@
 
 #include "common/text_file.h"
 #include "connection/heizung_ordner.h"
+#include "support/file_size_limit.h"
 #include "support/setting_override.h"
 #include "support/temp_folder.h"
 #include "support/test_liste.h"
@@ -9,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -24,13 +26,19 @@ class HeizsystemeTest : public ::testing::Test
 protected:
     HeizsystemeTest() { std::filesystem::create_directories(m_folder.Root() / "HEIZUNG"); }
 
-    static void Schreibe(const Texts& lines)
+    /// `ended`: the last line has a line end, as every other.
+    void Schreibe(const Texts& lines, bool ended = true) const
     {
         CStringArray array;
         for (const CString& line : lines) {
             array.Add(line);
         }
         ASSERT_TRUE(WriteTextFile(HeizungPfad(L"CmbData.txt"), array, false, false, 0x1001));
+        if (!ended) {
+            constexpr std::uintmax_t kLineEnd = 4;
+            const auto file = m_folder.Root() / "HEIZUNG/CmbData.txt";
+            std::filesystem::resize_file(file, std::filesystem::file_size(file) - kLineEnd);
+        }
     }
 
     static Texts Zeilen()
@@ -75,6 +83,10 @@ TEST_F(HeizsystemeTest, ReadsTheSectionOrTheDefault)
         EXPECT_EQ(list.texte, c.entries);
         EXPECT_EQ(list.gewaehlt, c.selected);
     }
+    Schreibe({kKopf, L"a|"}, false);
+    CTestListe unread;
+    EXPECT_TRUE(ListeLesen(kListeHeizsysteme, unread, kGewerkHeizung));
+    EXPECT_EQ(unread.texte, Texts{standard}) << "a line without an end is not read";
     CTestListe list;
     EXPECT_FALSE(ListeLesen(L"andere", list, kGewerkHeizung)) << "the default is not for all";
     EXPECT_FALSE(ListeLesen(kListeHeizsysteme, list, 3));
@@ -87,6 +99,11 @@ TEST_F(HeizsystemeTest, TheFirstRunMakesTheFileAndAFileOutOfReachIsLeftAlone)
     CTestListe list;
     EXPECT_TRUE(ListeLesen(kListeHeizsysteme, list, kGewerkHeizung));
     EXPECT_TRUE(ListeSchreiben(kListeHeizsysteme, list, kGewerkHeizung));
+    EXPECT_EQ(Zeilen(), (Texts{kKopf, L"Standard (75/65)*|"}));
+    {
+        const CFileSizeLimit full(0);
+        EXPECT_FALSE(ListeSchreiben(kListeHeizsysteme, CTestListe({L"a"}), kGewerkHeizung));
+    }
     EXPECT_EQ(Zeilen(), (Texts{kKopf, L"Standard (75/65)*|"}));
 
     std::filesystem::remove(m_folder.Root() / "HEIZUNG/CmbData.txt");
@@ -111,18 +128,22 @@ TEST_F(HeizsystemeTest, WritingReplacesTheSectionAndKeepsAllOthers)
     {
         const char* what;
         Texts before, after;
+        bool ended = true;
     } cases[] = {
         {"in the middle",
          {L"[x]", L"\u00E4 | y*|", L"", kKopf, L"old|", L"", L"[VDI6030_HS2]", L"z"},
          {L"[x]", L"\u00E4 | y*|", L"", kKopf, line, L"", L"[VDI6030_HS2]", L"z"}},
         {"missing", {L"[x]", L"y|"}, {L"[x]", L"y|", kKopf, line}},
         {"header last", {L"[x]", L"y|", kKopf}, {L"[x]", L"y|", kKopf, kKopf, line}},
+        {"another's line without an end", {L"[x]", L"y|"}, {L"[x]", L"y|", kKopf, line}, false},
+        {"its line without an end", {L"[x]", kKopf, L"old|"}, {L"[x]", kKopf, line}, false},
+        {"its header without an end", {L"[x]", L"y|", kKopf}, {L"[x]", L"y|", kKopf, line}, false},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         Schreibe(c.after);
         const std::string bytes = m_folder.ReadBytes("HEIZUNG/CmbData.txt");
-        Schreibe(c.before);
+        Schreibe(c.before, c.ended);
         EXPECT_TRUE(ListeSchreiben(kListeHeizsysteme, list, kGewerkHeizung));
         EXPECT_EQ(m_folder.ReadBytes("HEIZUNG/CmbData.txt"), bytes);
     }

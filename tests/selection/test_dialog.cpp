@@ -139,7 +139,7 @@ void CTestDialog::SchreibeFelder()
         shown[id] = kriterien.*member;
     }
     for (const auto& [id, member] : m_zahlFelder) {
-        shown[id] = FormatExact(kriterien.*member);
+        shown[id] = FormatPlain(kriterien.*member);
     }
     std::vector<int> changed;
     for (const auto& [id, text] : shown) {

@@ -15,6 +15,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -251,9 +252,35 @@ TEST_F(GridTest, OnlyTheUserRaisesRowChanges)
     ClickCell(2);
     EXPECT_EQ(TakeLog(), Log{"row 1 2"});
     QTest::mouseDClick(m_view->viewport(), Qt::LeftButton, {}, MiddleOf(1, 2));
-    QTest::mouseClick(m_view->viewport(), Qt::RightButton, {}, MiddleOf(1, 2));
-    EXPECT_EQ(TakeLog(), (Log{"double 2 1", "right down 2 1", "right up 2 1"}));
-    EXPECT_EQ(m_grid->GetCurrentRow(), 2);
+    QTest::mouseClick(m_view->viewport(), Qt::RightButton, {}, MiddleOf(2, 2));
+    EXPECT_EQ(TakeLog(), (Log{"row 2 1", "double 2 1", "right down 2 2", "right up 2 2"}));
+    EXPECT_EQ(m_grid->GetCurrentRow(), 1);
+}
+
+TEST_F(GridTest, AfterASortTheFirstPickOfAnyRowIsTold)
+{
+    Fill(3);
+    const auto click = [&] { ClickCell(0); };
+    const auto doubleClick = [&] {
+        QTest::mouseDClick(m_view->viewport(), Qt::LeftButton, {}, MiddleOf(0));
+    };
+    const auto key = [&] { QTest::keyClick(m_view, Qt::Key_Home); };
+    const std::pair<std::function<void()>, Log> picks[] = {
+        {click, {"row 0 0"}}, {doubleClick, {"row 0 0", "double 0 0"}}, {key, {"row 0 0"}}};
+    for (const auto& [pick, told] : picks) {
+        m_grid->SortBy(0, kSortDescending);
+        m_grid->GotoCell(0, 0);
+        pick();
+        EXPECT_EQ(TakeLog(), told);
+        click();
+        EXPECT_EQ(TakeLog(), Log{}) << "it is known by now";
+    }
+    m_grid->SortBy(0, kSortAscending);
+    while (m_grid->DeleteRow(0)) {
+    }
+    Fill(3);
+    click();
+    EXPECT_EQ(TakeLog(), Log{}) << "the sort went with the rows";
 }
 
 TEST_F(GridTest, EnterAndEscReachTheDialogUnlessProcessed)

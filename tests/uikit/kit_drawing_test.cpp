@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QHelpEvent>
+#include <QLineEdit>
 #include <QToolTip>
 
 #include <cstdlib>
@@ -67,6 +68,28 @@ TEST_F(KitDrawing, DrawingsStayUntilTheCanvasIsInvalidated)
         Item(idCanvas).Invalidate();
         EXPECT_EQ(image().pixelColor(10, 12), paper);
         EXPECT_EQ(CClientDC(CWnd()).GetSize(), CSize{}) << "no canvas";
+    });
+}
+
+TEST_F(KitDrawing, OnlyACanvasThatPalesShowsThatItIsDisabled)
+{
+    Run([&](CDialogUser& user) {
+        for (const auto& [id, pales] : {std::pair(idCanvas, false), {idPale, true}}) {
+            CClientDC(Item(id)).FillRect({0, 0, 9, 9}, RGB(200, 0, 0));
+            Item(id).EnableWindow(false);
+            const QColor shown = user.Widget(id).grab().toImage().pixelColor(3, 3);
+            EXPECT_EQ(shown != QColor(200, 0, 0), pales) << id;
+        }
+    });
+}
+
+TEST_F(KitDrawing, OfALongTextThatNobodyTypesTheStartShows)
+{
+    Run([&](CDialogUser& user) {
+        for (const auto& [id, cursor] : {std::pair(idReadOnly, 0), {idText, 60}}) {
+            Item(id).SetWindowText(CString(60, L'm'));
+            EXPECT_EQ(dynamic_cast<QLineEdit&>(user.Widget(id)).cursorPosition(), cursor) << id;
+        }
     });
 }
 

@@ -35,6 +35,8 @@ enum RecorderId
     idCheck,
     idButton,
     idGrip,
+    idReadOnly,
+    idPale,
 };
 
 inline const DialogTemplate& RecorderTemplate()
@@ -64,6 +66,8 @@ inline const DialogTemplate& RecorderTemplate()
             {idLabel, label, L"Una didascalia lunga", 90, 90, 40, 9},
             {idCheck, checkBox, L"sì", 90, 104, 40, 11},
             {idButton, button, L"Altro", 4, 140, 40, 14},
+            {idReadOnly, edit, L"", 50, 140, 40, 13, styleReadOnly},
+            {idPale, canvas, L"", 96, 140, 20, 14, stylePales},
             {kIdOk, defaultButton, L"OK", 140, 140, 44, 14},
             {kIdCancel, button, L"Annulla", 188, 140, 44, 14},
             {idGrip, sizeGrip, L"", 232, 152, 8, 8},
@@ -140,18 +144,6 @@ protected:
     {
         log.push_back("help");
         return true;
-    }
-    void OnSysCommand(unsigned id) override
-    {
-        log.push_back("system " + std::to_string(id));
-        CDialog::OnSysCommand(id);
-    }
-    void OnNcPaint(CDC& dc) override { dc.FillRect({150, 2, 156, 8}, RGB(255, 0, 0)); }
-    void OnNcLButtonDown(CPoint screen) override
-    {
-        const CRect window = GetWindowRect();
-        log.push_back("frame " + std::to_string(screen.x - window.left) + ' ' +
-                      std::to_string(screen.y - window.top));
     }
 
 private:

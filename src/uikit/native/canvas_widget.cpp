@@ -1,13 +1,15 @@
 #include "uikit/native/canvas_widget.h"
 
+#include "uikit/dialog_template.h"
+
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
-CCanvasWidget::CCanvasWidget(QWidget* parent, bool sunken, bool notify)
-    : QFrame(parent), m_notify(notify)
+CCanvasWidget::CCanvasWidget(QWidget* parent, unsigned style)
+    : QFrame(parent), m_notify((style & styleNotify) != 0), m_pales((style & stylePales) != 0)
 {
-    if (sunken) {
+    if ((style & styleSunken) != 0) {
         setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     }
     // The dialog draws on canvases while it paints itself; a transparent child would make it paint
@@ -36,7 +38,7 @@ void CCanvasWidget::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.fillRect(rect(), palette().window());
-    if (!isEnabled()) {
+    if (m_pales && !isEnabled()) {
         painter.setOpacity(0.4);
     }
     painter.drawImage(contentsRect().topLeft(), *Image());

@@ -10,7 +10,8 @@ class CCanvasWidget : public QFrame
     Q_OBJECT
 
 public:
-    CCanvasWidget(QWidget* parent, bool sunken, bool notify);
+    /// `style` holds values of ControlStyle.
+    CCanvasWidget(QWidget* parent, unsigned style);
 
     /// The picture, of the size of the area inside the frame.
     QImage* Image();
@@ -27,5 +28,6 @@ protected:
 
 private:
     bool m_notify;
+    bool m_pales;
     QImage m_image;
 };

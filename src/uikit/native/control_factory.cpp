@@ -106,8 +106,7 @@ QWidget* MakeWidget(const ControlTemplate& control, QWidget& parent)
     case ControlKind::spin:
         return new CSpinWidget(&parent);
     case ControlKind::canvas:
-        return new CCanvasWidget(&parent, (control.style & styleSunken) != 0,
-                                 (control.style & styleNotify) != 0);
+        return new CCanvasWidget(&parent, control.style);
     case ControlKind::sizeGrip:
         return new CSizeGrip(&parent);
     case ControlKind::placeholder:

@@ -244,5 +244,6 @@ void CUGCtrl::SortBy(int column, int flags)
         view->Model().Sort(column, [this, flags](const CUGCell& first, const CUGCell& second) {
             return OnSortEvaluate(first, second, flags);
         });
+        view->RowsSorted();
     }
 }

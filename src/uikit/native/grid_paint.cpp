@@ -48,17 +48,29 @@ CGridPaint::CGridPaint(const QFont& font)
     }
 }
 
-double CGridPaint::LineWidth(std::wstring_view line)
+/// Below 0 for a text with other characters than numbers have.
+double CGridPaint::NumericWidth(std::wstring_view text) const
 {
     double width = 0.0;
-    for (const wchar_t c : line) {
+    for (const wchar_t c : text) {
         const auto code = static_cast<std::size_t>(c);
         if (code >= m_numeric.size() || m_numeric[code] < 0.0) {
-            return ShapedWidth(CString(line));
+            return -1.0;
         }
         width += m_numeric[code];
     }
     return width;
+}
+
+double CGridPaint::WidestLine(std::wstring_view text)
+{
+    double widest = 0.0;
+    for (std::size_t begin = 0; begin < text.size();) {
+        const std::size_t end = std::min(text.find(L'\n', begin), text.size());
+        widest = std::max(widest, ShapedWidth(CString(text.substr(begin, end - begin))));
+        begin = end + 1;
+    }
+    return widest;
 }
 
 double CGridPaint::ShapedWidth(const CString& line)
@@ -86,12 +98,9 @@ QMargins CGridPaint::MarginsOf(const CUGCell& cell, GridCellKind kind) const
 
 int CGridPaint::CellWidth(const CUGCell& cell, GridCellKind kind)
 {
-    const std::wstring_view text = cell.GetText();
-    double widest = 0.0;
-    for (std::size_t begin = 0; begin < text.size();) {
-        const std::size_t end = std::min(text.find(L'\n', begin), text.size());
-        widest = std::max(widest, LineWidth(text.substr(begin, end - begin)));
-        begin = end + 1;
+    double widest = NumericWidth(cell.GetText());
+    if (widest < 0.0) {
+        widest = WidestLine(cell.GetText());
     }
     if (widest == 0.0 && kind != GridCellKind::sortArrow) {
         return 0;

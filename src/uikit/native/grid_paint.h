@@ -28,7 +28,8 @@ public:
                   GridCellKind kind) const;
 
 private:
-    double LineWidth(std::wstring_view line);
+    double NumericWidth(std::wstring_view text) const;
+    double WidestLine(std::wstring_view text);
     double ShapedWidth(const CString& line);
     QMargins MarginsOf(const CUGCell& cell, GridCellKind kind) const;
     void DrawArrow(QPainter& painter, const QRect& rect, int flag) const;

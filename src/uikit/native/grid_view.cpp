@@ -81,6 +81,8 @@ CGridView::CGridView(CUGCtrl& grid, CUGCtrl::Guard guard, QWidget* parent)
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
     setHorizontalScrollMode(ScrollPerPixel);
+    // The view fills all of it, so nothing below needs painting.
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     m_side->SetThickness(0);
     SetRowHighlight(false);
     SetHeadingHeight(kHeadingHeight);
@@ -111,6 +113,7 @@ bool CGridView::DeleteRow(int row)
     if (!m_model.DeleteRow(row)) {
         return false;
     }
+    m_sorted = m_sorted && m_model.Rows().GetRowCount() > 0;
     HighlightCurrent();
     return true;
 }
@@ -218,7 +221,8 @@ void CGridView::Choose(int column, int row)
     const int oldRow = m_row;
     GotoCell(column, row);
     const int newRow = m_row;
-    if (newRow != oldRow) {
+    const bool sorted = std::exchange(m_sorted, false);
+    if (sorted || newRow != oldRow) {
         Raise([=](CUGCtrl& grid) { grid.OnRowChange(oldRow, newRow); });
     }
 }
@@ -332,6 +336,8 @@ void CGridView::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const QModelIndex at = indexAt(event->pos());
     if (event->button() == Qt::LeftButton && at.isValid()) {
+        // The second press may have come down on another row than the first.
+        Choose(at.column(), at.row());
         Raise([&](CUGCtrl& grid) { grid.OnDoubleClick(at.column(), at.row()); });
     }
 }

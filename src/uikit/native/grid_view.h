@@ -38,6 +38,8 @@ public:
 
     void SetColumnCount(int count);
     bool DeleteRow(int row);
+    /// The current row may have other contents under its number now.
+    void RowsSorted() { m_sorted = m_model.Rows().GetRowCount() > 0; }
     void SetRedraw(bool redraw);
     int AddCellType(GridCellKind kind);
     void SetHeadingRows(int rows);
@@ -99,5 +101,7 @@ private:
     bool m_toolTips = true;
     int m_column = -1;
     int m_row = -1;
+    /// The rows were sorted since the user picked one last.
+    bool m_sorted = false;
     QColor m_back;
 };

@@ -48,7 +48,7 @@ int Fail(const CString& hersteller, CCatalogueError error)
 HK_VDI3805_HERSTELLER* ReadHKDaten()
 {
     CCatalogueTree& tree = Library().tree;
-    const CString folder = GetHKDir();
+    const CString folder = GetHKDir(false);
     tree.ListHersteller(folder, ListManufacturers(folder));
     return tree.GetFirst();
 }
@@ -77,7 +77,7 @@ int ReadVdiFile(const CString& hersteller, HK_VDI3805_ART** art, double leistung
 
     CLibrary& library = Library();
     library.errors.erase(hersteller);
-    const CString folder = GetHKDir();
+    const CString folder = GetHKDir(false);
     const std::optional<std::filesystem::path> file = FindCatalogueFile(folder, hersteller);
     if (!file) {
         return Fail(hersteller, {TextFromPath(ResolvePath(folder)), 0,

@@ -33,7 +33,7 @@ CString GetFolder(const wchar_t* setting, const wchar_t* variable)
 
 } // namespace
 
-CString GetHKDir()
+CString GetHKDir(bool /*projectCopy*/)
 {
     return GetFolder(kSettingHKDir, L"RADSEL_HKDIR");
 }

@@ -18,12 +18,26 @@
 #include <QTest>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 
 inline constexpr int kAuswahlDialog = 18000;
+inline constexpr int kBaum = 18000;
 inline constexpr int kGitter = 18001;
 
 using Zeile = std::vector<CString>;
+using Texte = std::vector<CString>;
+
+inline bool Verbietet(const CDialogUser& user, std::initializer_list<int> ids)
+{
+    return std::ranges::none_of(ids, [&](int id) { return user.IsEnabled(id); });
+}
+
+inline QTreeWidget& Baum(const CDialogUser& user)
+{
+    return dynamic_cast<QTreeWidget&>(user.Widget(kBaum));
+}
 
 inline QTableView& Gitter(const CDialogUser& user)
 {
@@ -64,7 +78,7 @@ inline void KlickeKopf(const CDialogUser& user, int column)
     QTest::mouseClick(kopf->viewport(), Qt::LeftButton, {}, {x, 10});
 }
 
-/// A drawing with three layers and two blocks, one of which has a preview.
+/// A drawing with three layers and some blocks, one of which has a preview.
 class CAuswahlDrawer : public CDrawer
 {
 public:
@@ -79,13 +93,15 @@ public:
     void GetBlockNames(const CString& ordner, CStringArray& namen, int art) override
     {
         EXPECT_EQ(ordner + std::to_wstring(art), L"blocchi0");
-        namen.Add(L"ZETA");
-        namen.Add(L"ABCD");
+        for (const CString& name : bloecke) {
+            namen.Add(name);
+        }
     }
     bool GetBlockPreview(const CString& ordner, const CString& block, CBitmap& bild, int,
                          int) override
     {
         EXPECT_EQ(ordner, L"blocchi");
+        EXPECT_FALSE(block.empty());
         if (block == L"ABCD") {
             bild = CBitmap(4, 4);
             bild.Fill(RGB(1, 2, 3));
@@ -96,6 +112,8 @@ public:
     void BeginPreview() override {}
     void EndPreview() override {}
     void DrawConnectionPoint(const double*, const double*, double, int, bool) override {}
+
+    Texte bloecke{L"ZETA", L"ABCD"};
 };
 
 /// The selection dialog over the sample catalogues, with stores of the test's own.
@@ -131,7 +149,7 @@ protected:
         m_driver.WhenOpens(kAuswahlDialog, [script](CDialogUser& user) {
             // Without a screen nothing gives a second dialog the focus that the first one had.
             QApplication::setActiveWindow(CNativeAccess::Widget(user.Dialog()));
-            dynamic_cast<QTreeWidget&>(user.Widget(18000)).setAnimated(false);
+            Baum(user).setAnimated(false);
             script(user);
         });
         return HeizkoerperauswahlVDI3805(m_pDrawer, &m_uebergabe, m_layer, m_farbe, true, warnen);

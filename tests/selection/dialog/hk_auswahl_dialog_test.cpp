@@ -1,56 +1,10 @@
 // The radiator selection as its callers open it, in the hands of a user.
 
-#include "frame/hkauswahl_uebergabe.h"
-#include "frame/vdi6030_start.h"
-#include "host/host_base.h"
 #include "host/host_prefs.h"
-#include "host_dialogs/dialog_driver.h"
 #include "selection/dialog/auswahl_fixture.h"
 #include "support/memory_catalogue.h"
 
-#include <QLineEdit>
-#include <QMenu>
-#include <QPixmap>
-#include <QTimer>
-
 namespace {
-
-using Texte = std::vector<CString>;
-
-bool Verbietet(const CDialogUser& user, std::initializer_list<int> ids)
-{
-    return std::ranges::none_of(ids, [&](int id) { return user.IsEnabled(id); });
-}
-
-QColor FarbeBei(QWidget& widget, QPoint at)
-{
-    return widget.grab().toImage().pixelColor(at);
-}
-
-QColor Farbe(int index)
-{
-    const COLORREF farbe = GetRGBFromColor(index);
-    return {static_cast<int>(farbe & 0xFF), static_cast<int>(farbe >> 8 & 0xFF),
-            static_cast<int>(farbe >> 16 & 0xFF)};
-}
-
-/// Opens the system menu, chooses its last entry, and presses a key in the dialog that opens.
-void WaehleTransparenz(const CDialogUser& user, Qt::Key key)
-{
-    QTimer::singleShot(0, [key] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        QTimer::singleShot(0, [key] {
-            QWidget* choice = QApplication::activeModalWidget();
-            QTest::keyClick(choice->focusWidget(), Qt::Key_PageUp);
-            QTest::keyClick(choice->focusWidget(), key);
-        });
-        QTest::keyClick(menu, Qt::Key_Up);
-        QTest::keyClick(menu, Qt::Key_Return);
-    });
-    user.Focus(18109);
-    user.Press(Qt::Key_Space, Qt::AltModifier);
-}
 
 TEST_F(CAuswahlDialogTest, OpensOnTheHandOver)
 {
@@ -58,10 +12,9 @@ TEST_F(CAuswahlDialogTest, OpensOnTheHandOver)
     Raum(3000.0, 0.0);
     m_uebergabe.LeistungMin = 999.0;
     EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                  EXPECT_EQ(user.Text(18109), GetHKDir());
-                  const auto& baum = dynamic_cast<QTreeWidget&>(user.Widget(18000));
-                  ASSERT_EQ(baum.selectedItems().size(), 1);
-                  EXPECT_EQ(baum.selectedItems().front()->text(0), "Tipo 22");
+                  EXPECT_EQ(user.Text(18109), GetHKDir(false));
+                  ASSERT_EQ(Baum(user).selectedItems().size(), 1);
+                  EXPECT_EQ(Baum(user).selectedItems().front()->text(0), "Tipo 22");
                   EXPECT_EQ(user.Text(18002) + L" " + user.Text(18003), L"400 3000");
                   EXPECT_EQ(user.Text(18005), L"1500");
                   EXPECT_EQ(user.Text(18012), L"3000");
@@ -113,98 +66,6 @@ TEST_F(CAuswahlDialogTest, WithoutDrawingOrProductTheDialogStillWorks)
     EXPECT_EQ(m_farbe, 5);
 }
 
-TEST_F(CAuswahlDialogTest, LayerAndColourGoBackEvenOnCancel)
-{
-    EXPECT_EQ(
-        Oeffne([&](CDialogUser& user) {
-            user.Click(250);
-            user.Click(3144);
-            EXPECT_TRUE(user.IsEnabled(250) && user.IsEnabled(3187));
-            EXPECT_EQ(FarbeBei(user.Widget(250), {5, 5}), Farbe(5));
-            user.Choose(3187, L"MURI");
-            EXPECT_EQ(FarbeBei(user.Widget(250), {5, 5}), Farbe(8));
-            KlickeZeile(user, 2);
-            EXPECT_EQ(user.Text(3187), L"MURI");
-
-            for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Return}) {
-                OnNextDialog([key](QWidget& dialog) {
-                    PressKey(dialog, Qt::Key_Right);
-                    PressKey(dialog, key);
-                });
-                user.Click(250);
-                EXPECT_EQ(FarbeBei(user.Widget(250), {5, 5}), Farbe(key == Qt::Key_Return ? 9 : 8));
-            }
-            auto* eingabe = user.Widget(3187).findChild<QLineEdit*>();
-            eingabe->selectAll();
-            QTest::keyClicks(eingabe, "NUOVO");
-            user.Click(kIdCancel);
-        }),
-        -2);
-    EXPECT_EQ(m_layer, L"NUOVO");
-    EXPECT_EQ(m_farbe, 9);
-    EXPECT_FALSE(m_folder.Exists("HkAuswahl.def"));
-}
-
-TEST_F(CAuswahlDialogTest, ABlockIsShownAndKeptAtOnce)
-{
-    EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                  CString block;
-                  EXPECT_FALSE(lmGetHKBlock(block)) << "the first one shows but is no choice";
-                  const QPoint inBild = user.Widget(16022).geometry().topLeft() + QPoint(3, 3);
-                  QWidget& fenster = *CNativeAccess::Widget(user.Dialog());
-                  QWidget& flaeche = *user.Widget(16022).parentWidget();
-                  const auto farbe = [&] {
-                      return FarbeBei(fenster, flaeche.mapTo(&fenster, inBild));
-                  };
-                  EXPECT_EQ(farbe(), QColor(128, 128, 128));
-                  user.Choose(18080, L"ABCD");
-                  EXPECT_EQ(farbe(), QColor(1, 2, 3));
-                  user.Choose(18080, L"ZETA");
-                  EXPECT_NE(farbe(), QColor(1, 2, 3));
-                  user.Click(kIdCancel);
-              }),
-              -2);
-    CString block;
-    EXPECT_TRUE(lmGetHKBlock(block));
-    EXPECT_EQ(block, L"ZETA");
-}
-
-TEST_F(CAuswahlDialogTest, TheGridChoosesConfirmsAndCloses)
-{
-    EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                  const Zeile dritte = GitterZeilen(user)[2];
-                  KlickeZeile(user, 2);
-                  EXPECT_EQ(user.Text(18011), dritte[5]);
-                  EXPECT_EQ(m_uebergabe.TypName, dritte[0]);
-                  QTest::keyClick(&Gitter(user), Qt::Key_Down);
-                  EXPECT_EQ(user.Text(18011), GitterZeilen(user)[3][5]);
-
-                  KlickeKopf(user, 5);
-                  const auto rows = GitterZeilen(user);
-                  EXPECT_GE(std::stoi(rows.front()[5]), std::stoi(rows.back()[5]));
-                  EXPECT_NE(m_uebergabe.TypName, rows[3][0]) << "the choice stays";
-
-                  user.Type(18003, L"500");
-                  QWidget* view = Gitter(user).viewport();
-                  QTest::mouseDClick(Gitter(user).horizontalHeader()->viewport(), Qt::LeftButton,
-                                     {}, {20, 10});
-                  QTest::mouseDClick(view, Qt::LeftButton, {}, {20, view->height() - 3});
-                  EXPECT_FALSE(user.Dialog().HasEnded());
-                  QTest::mouseDClick(view, Qt::LeftButton, {}, MitteDerZeile(user, 1));
-              }),
-              0);
-    EXPECT_EQ(m_uebergabe.Daten.Laenge, 500.0);
-    const auto* const start = ReadDefFile_VDI6030START(false);
-    ASSERT_NE(start, nullptr);
-    EXPECT_EQ(start->Produkt, L"Tipo 22");
-
-    EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                  Gitter(user).setFocus();
-                  QTest::keyClick(&Gitter(user), Qt::Key_Escape);
-              }),
-              -2);
-}
-
 TEST_F(CAuswahlDialogTest, OkWithoutARowIsToldAndTheWarningComesOnce)
 {
     m_uebergabe.LaengeMin = m_uebergabe.LaengeMax = 1.0;
@@ -224,49 +85,6 @@ TEST_F(CAuswahlDialogTest, OkWithoutARowIsToldAndTheWarningComesOnce)
               -1);
 }
 
-TEST_F(CAuswahlDialogTest, TheTreeReadsMakersWhenTheyOpen)
-{
-    Oeffne([&](CDialogUser& user) {
-        auto& baum = dynamic_cast<QTreeWidget&>(user.Widget(18000));
-        const QTreeWidgetItem& erster = *baum.topLevelItem(0);
-        ASSERT_EQ(erster.childCount(), 1);
-        EXPECT_EQ(erster.child(0)->text(0), "Dummy");
-        const CString maker = erster.text(0).toStdWString();
-        user.ChooseInTree(18000, {maker});
-        EXPECT_TRUE(GitterZeilen(user).empty()) << "no product";
-        EXPECT_EQ(m_uebergabe.Produkt, L"Tipo 22");
-        EXPECT_EQ(user.Text(18002), L"400");
-        user.ChooseInTree(18000, {maker, L"Radiatori tubolari in acciaio", L"3 colonne"});
-        EXPECT_EQ(m_uebergabe.Hersteller + L"|" + m_uebergabe.Art + L"|" + m_uebergabe.Produkt,
-                  maker + L"|Radiatori tubolari in acciaio|3 colonne");
-        EXPECT_FALSE(GitterZeilen(user).empty());
-        const Texte hoehen = user.Items(18004);
-        EXPECT_TRUE(std::ranges::is_sorted(hoehen, {},
-                                           [](const CString& text) { return std::stoi(text); }));
-        EXPECT_EQ(hoehen, user.Items(18008));
-        user.Click(kIdCancel);
-    });
-}
-
-TEST_F(CAuswahlDialogTest, RoundedRowsCannotBeChosenByAClick)
-{
-    CMemoryCatalogue katalog;
-    katalog.Add(L'E', 600.0, 22.5, 800.0, 1000.0, 0.0, 0.0, L"mezzo");
-    katalog.AddUnit(500.0, L"intero");
-    m_uebergabe = katalog.Uebergabe(1000.0);
-    EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                  EXPECT_EQ(m_uebergabe.TypName, L"mezzo");
-                  KlickeZeile(user, 1);
-                  EXPECT_EQ(m_uebergabe.TypName, L"intero");
-                  KlickeZeile(user, 0);
-                  EXPECT_EQ(user.Text(18011), L"1000");
-                  EXPECT_EQ(m_uebergabe.TypName, L"intero");
-                  user.Click(kIdOk);
-              }),
-              0);
-    EXPECT_EQ(m_uebergabe.Leistung, 1000.0);
-}
-
 TEST_F(CAuswahlDialogTest, FieldsRaiseTheirEvents)
 {
     Raum(3000.0, 4000.0);
@@ -283,6 +101,10 @@ TEST_F(CAuswahlDialogTest, FieldsRaiseTheirEvents)
         EXPECT_EQ(user.Text(18016), L"3.") << "still typing";
         user.Type(18016, L"3.1");
         EXPECT_EQ(user.Text(18005), L"93");
+        user.Click(18047);
+        EXPECT_FALSE(user.IsChecked(18049)) << "one of the two";
+        EXPECT_FALSE(user.IsEnabled(18016));
+        EXPECT_EQ(user.Text(18005), L"0");
 
         const double faktor = m_uebergabe.Umrechnungsfaktor;
         user.Type(18107, L"24,5");
@@ -296,106 +118,119 @@ TEST_F(CAuswahlDialogTest, FieldsRaiseTheirEvents)
         user.Click(18019);
         EXPECT_FALSE(user.IsEnabled(18005));
         EXPECT_TRUE(user.IsEnabled(18002));
+        user.Type(18107, L"");
+        EXPECT_EQ(m_uebergabe.Raumtemperatur, 0.0);
         user.Click(kIdCancel);
     });
 }
 
-TEST_F(CAuswahlDialogTest, WallDistancesOpenAndReadNothingBack)
+/// Boxes of two heights and three depths, one of each.
+class CMassTest : public CAuswahlDialogTest
 {
-    m_driver.WhenOpens(18006, [](CDialogUser& user) { user.Click(kIdOk); });
-    Oeffne([&](CDialogUser& user) {
-        const auto rows = GitterZeilen(user);
-        user.Click(7022);
-        EXPECT_EQ(GitterZeilen(user), rows);
-        user.Click(kIdCancel);
-    });
-}
-
-TEST_F(CAuswahlDialogTest, OkAloneKeepsPlacementAndFiles)
-{
-    const CSettingOverride winpos(kSettingWinposFile, L"fenster.txt");
-    m_folder.WriteBytes("fenster.txt", "");
-    CRect ort;
-    int alpha = 0;
-    for (const int schluss : {kIdCancel, kIdOk}) {
-        EXPECT_EQ(m_folder.ReadBytes("fenster.txt"), "");
-        Oeffne([&](CDialogUser& user) {
-            const CRect vorher = user.Dialog().GetWindowRect();
-            user.Dialog().MoveWindow({20, 10, 20 + vorher.Width() + 90, 10 + vorher.Height() + 90});
-            ort = user.Dialog().GetWindowRect();
-            EXPECT_EQ(ort.Width(), vorher.Width()) << "grows in height alone";
-            EXPECT_EQ(ort.Height(), vorher.Height() + 90);
-            WaehleTransparenz(user, Qt::Key_Escape);
-            EXPECT_EQ(user.Dialog().GetAlpha(), 255);
-            WaehleTransparenz(user, Qt::Key_Return);
-            alpha = user.Dialog().GetAlpha();
-            EXPECT_LT(alpha, 255);
-            user.Click(schluss);
-        });
-        EXPECT_EQ(m_folder.Exists("HEIZUNG/CmbData.txt"), schluss == kIdOk);
-        EXPECT_EQ(m_folder.Exists("HkAuswahl.def"), schluss == kIdOk);
-    }
-    Oeffne([&](CDialogUser& user) {
-        EXPECT_EQ(user.Dialog().GetWindowRect(), ort);
-        EXPECT_EQ(user.Dialog().GetAlpha(), alpha);
-        user.Click(kIdCancel);
-    });
-}
-
-TEST_F(CAuswahlDialogTest, TheFirstRunMakesTheListOfSystems)
-{
-    Oeffne([&](CDialogUser& user) {
-        EXPECT_EQ(user.Items(7006), Texte{L"Standard (75/65)"});
-        user.Type(7008, L"70");
-        user.Click(kIdOk);
-    });
-    EXPECT_EQ(m_uebergabe.Vorlauf, 75.4) << "no event has read the field";
-    Oeffne([&](CDialogUser& user) {
-        user.Type(7007, L"Pompa");
-        user.Type(7008, L"45");
-        user.Type(7009, L"35");
-        user.Click(268);
-        user.Click(kIdOk);
-    });
-    EXPECT_EQ(m_uebergabe.Vorlauf, 45.0);
-    Oeffne([&](CDialogUser& user) {
-        EXPECT_EQ(user.Items(7006), (Texte{L"Standard (75/65)", L"Pompa (45/35)"}));
-        EXPECT_EQ(user.Text(7007), L"Pompa");
-        user.Click(269);
-        user.Click(269);
-        user.Click(269);
-        EXPECT_TRUE(user.Items(7006).empty());
-        user.Click(kIdOk);
-    });
-    Oeffne([&](CDialogUser& user) {
-        EXPECT_TRUE(user.Items(7006).empty()) << "deleted, not missing";
-        user.Click(kIdCancel);
-    });
-}
-
-TEST_F(CAuswahlDialogTest, StoresThatCannotBeReadOrWrittenAreNoObstacle)
-{
-    const CSettingOverride winpos(kSettingWinposFile, L"fenster.txt");
-    using namespace std::string_literals;
-    const std::string muell = "\xFF\xFE|[VDI\0\x01*|*|(/\n\xD8\x00"s;
-    for (const bool ordner : {false, true}) {
-        for (const char* name :
-             {"HEIZUNG/CmbData.txt", "HkAuswahl.def", "Vdi6030Start.def", "fenster.txt"}) {
-            std::filesystem::remove_all(m_folder.Root() / name);
-            if (ordner) {
-                std::filesystem::create_directories(m_folder.Root() / name / "voll");
-            } else {
-                m_folder.WriteBytes(name, muell);
+protected:
+    CMassTest()
+    {
+        for (const double hoehe : {300.0, 600.0}) {
+            m_katalog.Produkt().Hoehen.Add(hoehe);
+            for (const double tiefe : {60.0, 100.0, 160.0}) {
+                m_katalog.Add(L'E', hoehe, tiefe, 1000.0, 1000.0);
             }
         }
-        m_layer.clear();
-        EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                      EXPECT_EQ(user.Items(7006).size(), ordner ? 0U : 1U);
-                      user.Click(kIdOk);
-                  }),
-                  0);
+        for (const double tiefe : {60.0, 100.0, 160.0}) {
+            m_katalog.Produkt().Tiefen.Add(tiefe);
+        }
+        m_uebergabe = m_katalog.Uebergabe(1000.0);
     }
-    EXPECT_TRUE(m_driver.Messages().empty());
+
+    CMemoryCatalogue m_katalog;
+};
+
+TEST_F(CMassTest, TheListsShowTheLimitsOrTheWholeRange)
+{
+    const struct
+    {
+        double min, max;
+        CString von, bis;
+    } cases[] = {
+        {60.0, 100.0, L"60", L"100"}, {100.0, 100.0, L"100", L"100"}, {6.0, 16.0, L"60", L"160"},
+        {61.0, 100.0, L"60", L"160"}, {100.0, 200.0, L"60", L"160"},
+    };
+    for (const auto& c : cases) {
+        m_uebergabe.TiefeMin = c.min;
+        m_uebergabe.TiefeMax = c.max;
+        Oeffne([&](CDialogUser& user) {
+            EXPECT_EQ(user.Text(18009) + L" " + user.Text(18010), c.von + L" " + c.bis)
+                << c.min << ' ' << c.max;
+            user.Click(kIdCancel);
+        });
+        EXPECT_EQ(m_uebergabe.TiefeMax, std::stod(c.bis)) << "as the lists have it, Cancel or not";
+    }
+}
+
+TEST_F(CMassTest, EachListLimitsTheRows)
+{
+    const struct
+    {
+        int liste;
+        CString text;
+        double HK_DATEN_VDI3805_UEBERGABE::*grenze;
+        std::size_t zeilen;
+    } cases[] = {
+        {18004, L"600", &HK_DATEN_VDI3805_UEBERGABE::HoeheMin, 3},
+        {18008, L"300", &HK_DATEN_VDI3805_UEBERGABE::HoeheMax, 3},
+        {18009, L"100", &HK_DATEN_VDI3805_UEBERGABE::TiefeMin, 4},
+        {18010, L"60", &HK_DATEN_VDI3805_UEBERGABE::TiefeMax, 2},
+    };
+    for (const auto& c : cases) {
+        m_uebergabe = m_katalog.Uebergabe(1000.0);
+        Oeffne([&](CDialogUser& user) {
+            EXPECT_EQ(GitterZeilen(user).size(), 6U);
+            user.Choose(c.liste, c.text);
+            EXPECT_EQ(GitterZeilen(user).size(), c.zeilen) << c.liste;
+            user.Click(kIdCancel);
+        });
+        EXPECT_EQ(m_uebergabe.*c.grenze, std::stod(c.text)) << "Cancel takes nothing back";
+    }
+}
+
+TEST_F(CAuswahlDialogTest, NumbersShowPlainAndKeepWhatTheirTextCannotHold)
+{
+    Raum(100000.0, 0.0);
+    m_uebergabe.Vorlauf = 75.0 + 1.0 / 3.0;
+    Oeffne([](CDialogUser& user) {
+        EXPECT_EQ(user.Text(18012), L"100000");
+        EXPECT_EQ(user.Text(7008), L"75.3333333333333");
+        user.Type(18003, L"2000");
+        user.Click(kIdOk);
+    });
+    EXPECT_EQ(m_uebergabe.Vorlauf, 75.0 + 1.0 / 3.0);
+}
+
+TEST_F(CAuswahlDialogTest, InATallerDialogTreeAndGridGrow)
+{
+    constexpr int kMehr = 90;
+    Oeffne([](CDialogUser& user) {
+        const struct
+        {
+            int id, oben, unten;
+        } cases[] = {{kBaum, 0, kMehr},     {kGitter, 0, kMehr},       {563, 0, kMehr},
+                     {kIdOk, kMehr, kMehr}, {kIdCancel, kMehr, kMehr}, {7028, 0, 0},
+                     {18109, 0, 0}};
+        std::vector<CRect> vorher;
+        for (const auto& c : cases) {
+            vorher.push_back(user.Dialog().GetDlgItem(c.id).GetPlace());
+        }
+        CRect fenster = user.Dialog().GetWindowRect();
+        fenster.bottom += kMehr;
+        user.Dialog().MoveWindow(fenster);
+        for (std::size_t i = 0; i < vorher.size(); ++i) {
+            CRect erwartet = vorher[i];
+            erwartet.top += cases[i].oben;
+            erwartet.bottom += cases[i].unten;
+            EXPECT_EQ(user.Dialog().GetDlgItem(cases[i].id).GetPlace(), erwartet) << cases[i].id;
+        }
+        user.Click(kIdCancel);
+    });
 }
 
 } // namespace
