@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# What is installed serves a program elsewhere: it is found, compiles, links and runs, and nothing in
+# it leads back to the place where it was built.
+set -euo pipefail
+cmake=$1 build=$2 source=$3 compiler=$4 flags=$5 scan=$6
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+fail() {
+    echo "$1"
+    exit 1
+}
+quietly() {
+    "$@" >"$work/log" 2>&1 || {
+        cat "$work/log"
+        fail "failed: $*"
+    }
+}
+
+# Moved, since a package is unpacked elsewhere than it is made.
+quietly "$cmake" --install "$build" --prefix "$work/made" --strip
+mv "$work/made" "$work/there"
+prefix=$work/there
+
+searches() { # file, folder that it may look for libraries in
+    local path
+    path=$(readelf -d "$1" | sed -nE 's/.*\((RUNPATH|RPATH)\).*\[(.*)\]/\2/p')
+    [[ $path == "$2" ]] || fail "$1 looks for libraries in '$path'"
+}
+for library in "$prefix"/lib/lib*.so; do
+    searches "$library" '$ORIGIN'
+done
+searches "$prefix/bin/radsel_workbench" '$ORIGIN/../lib'
+"$prefix/bin/radsel_workbench" --help >/dev/null
+
+kinds=()
+[[ $scan == binary ]] || kinds=(-I)
+if grep -rlF "${kinds[@]}" -e "$source" -e "$build" -e "$work/made" "$prefix"; then
+    fail "these name the folder of the sources, of the build or of the first installation"
+fi
+
+export CXX=$compiler include=$prefix/include/radsel
+compiles_alone() {
+    echo "#include \"$1\"" |
+        "$CXX" -std=c++20 -Wall -Wextra -Wpedantic -Wconversion -Werror -fsyntax-only \
+            -I "$include" -x c++ - || { echo "$1 does not compile alone" && false; }
+}
+export -f compiles_alone
+(cd "$include" && find . -name '*.h' -printf '%P\0') |
+    xargs -0 -n 1 -P 2 bash -c 'compiles_alone "$0"'
+
+quietly "$cmake" -S "$here" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$prefix" \
+    -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags" \
+    -DEXAMPLE="$prefix/share/doc/radsel/examples/bind_radsel.cpp"
+grep -q "^radsel_DIR:PATH=$prefix/" "$work/consumer/CMakeCache.txt" ||
+    fail "another radsel was found"
+quietly "$cmake" --build "$work/consumer" --parallel 2
+"$work/consumer/keep_records" || fail "records are not kept"
+"$here/example_test.sh" "$work/consumer/bind_radsel" "$prefix/share/radsel/catalogues"

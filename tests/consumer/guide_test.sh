@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# The guide quotes the example that is compiled, and leaves out no function of either side.
+set -euo pipefail
+source=$1
+guide=$source/docs/host-programmer.md
+example=$source/examples/bind_radsel.cpp
+
+diff "$example" <(sed -n '/^```cpp$/,/^```$/p' "$guide" | sed '1d;$d')
+[[ $(wc -l <"$example") -le 40 ]] || { echo "the example is too long to be read" && false; }
+
+declared() { # files
+    sed -nE 's/^ *(HOST_API|RADSEL_API|virtual|static) [^(]*[ *&]([A-Za-z_0-9]+)\(.*/\2/p' "$@"
+}
+names=$(declared "$source"/src/frame/entry_points.h "$source"/src/host/*.h)
+[[ $(wc -w <<<"$names") -ge 50 ]] || { echo "only found: $names" && false; }
+missing=0
+for name in $names; do
+    grep -qw "$name" "$guide" || { echo "not in the guide: $name" && missing=1; }
+done
+exit $missing
