@@ -19,6 +19,7 @@ constexpr TextOption kTextOptions[] = {
     {L"--catalogues", &CArguments::strCatalogues},
     {L"--valve-catalogues", &CArguments::strValveCatalogues},
     {L"--output", &CArguments::strOutput},
+    {L"--save", &CArguments::strSave},
     {L"--room", &CArguments::strRoom},
     {L"--workplace", &CArguments::strWorkplace},
 };
@@ -150,7 +151,9 @@ Opzioni:
                      senza l'opzione valgono quelle dell'edificio
   --room NOME        calcola soltanto questo locale
   --valves           mostra anche le tabelle kv delle valvole
-  --output DIR       cartella dei risultati (corpi-scaldanti.csv e corpi-scaldanti.json)
+  --output DIR       cartella dei risultati: corpi-scaldanti.csv, corpi-scaldanti.json,
+                     progetto.pdf con piante e distinta, pianta.dxf
+  --save FILE        scrive l'edificio con i corpi scaldanti scelti
   --list-connections [FILE]
                      mostra in parole un elenco di tipi di attacco (Vent.txt) e nient'altro;
                      senza FILE quello della radice dei dati
@@ -168,7 +171,8 @@ Opzioni:
                      mostra quello scelto
   --tree-dialog      apre la scelta di un prodotto dall'albero dei cataloghi e lo mostra; valgono
                      --catalogues e --system
-  --batch            calcola senza finestre; è il modo normale
+  --batch            calcola senza finestre; senza quest'opzione e con uno schermo si apre il
+                     programma con la pianta dell'edificio
   --help             mostra questo testo
 
 I percorsi relativi partono dalla cartella corrente. Un'opzione ripetuta vale come scritta per ultima.

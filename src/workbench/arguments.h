@@ -24,6 +24,8 @@ struct CArguments
     /// The same for the valves.
     CString strValveCatalogues;
     CString strOutput = L"out";
+    /// File that the building is written to with the radiators that were chosen. Empty: none.
+    CString strSave;
     /// Folder in which dialogs keep what belongs to this working place. Empty: the host's own.
     CString strWorkplace;
     /// Opens the valve dialog instead of calculating a building.

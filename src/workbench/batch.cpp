@@ -1,49 +1,31 @@
 #include "workbench/batch.h"
 
-#include "host/host_prefs.h"
 #include "platform/encoding.h"
 #include "platform/file.h"
 #include "platform/path.h"
 #include "workbench/arguments.h"
 #include "workbench/building_json.h"
 #include "workbench/dialog_run.h"
-#include "workbench/host_prefs/host_settings.h"
+#include "workbench/drawing/drawing_blocks.h"
+#include "workbench/host_folders.h"
 #include "workbench/json_fields.h"
+#include "workbench/plan/sizing.h"
+#include "workbench/plan_files.h"
 #include "workbench/schedule_csv.h"
 #include "workbench/schedule_json.h"
 #include "workbench/schedule_text.h"
+#include "workbench/whole_file.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <ostream>
 #include <system_error>
+#include <utility>
 
 namespace {
 
 constexpr wchar_t kCsvName[] = L"corpi-scaldanti.csv";
 constexpr wchar_t kJsonName[] = L"corpi-scaldanti.json";
-
-void SetCatalogueFolder(const CArguments& arguments)
-{
-    if (!arguments.strCatalogues.empty()) {
-        OverrideHostSetting(kSettingHKDir, arguments.strCatalogues);
-    }
-    std::error_code error;
-    if (!std::filesystem::is_directory(ResolvePath(GetHKDir(false)), error)) {
-        throw CArgumentException(L"la cartella dei cataloghi non esiste: " + GetHKDir(false));
-    }
-}
-
-void SetValveFolder(const CArguments& arguments, bool needed)
-{
-    if (!arguments.strValveCatalogues.empty()) {
-        OverrideHostSetting(kSettingVEDir, arguments.strValveCatalogues);
-    }
-    std::error_code error;
-    if (needed && !std::filesystem::is_directory(ResolvePath(GetVEDir(false)), error)) {
-        throw CArgumentException(L"--valve-catalogues: la cartella delle valvole non esiste: " +
-                                 GetVEDir(false));
-    }
-}
 
 CBuilding LoadBuilding(const CArguments& arguments)
 {
@@ -63,22 +45,39 @@ CBuilding LoadBuilding(const CArguments& arguments)
     return building;
 }
 
-void WriteWholeFile(const CString& path, const std::string& bytes)
+/// What a run comes to.
+struct CResult
 {
-    CFile file(path, CFile::modeCreate | CFile::modeWrite);
-    file.Write(bytes.data(), bytes.size());
-    file.Close();
+    CSchedule schedule;
+    /// The building with its radiators.
+    CBuilding building;
+};
+
+/// A building that has no radiators yet is told room by room with what was tried; one that has some
+/// with what stands in it after they were sized.
+CResult Calculate(const CBuilding& building)
+{
+    const std::vector<CRoomRef> rooms = AllRooms(building);
+    CBuilding sized = SizeRooms(building, rooms, {}).building;
+    const bool isPlanned = std::ranges::any_of(
+        rooms, [&](const CRoomRef& room) { return !RoomOf(building, room).heizkoerper.empty(); });
+    return {isPlanned ? SchedulePlan(sized) : MakeSchedule(building), std::move(sized)};
 }
 
-void WriteSchedule(const CSchedule& schedule, const CString& folder)
+void WriteFiles(const CResult& result, const CArguments& arguments)
 {
+    const CString& folder = arguments.strOutput;
     std::error_code error;
     std::filesystem::create_directories(ResolvePath(folder), error);
     if (error) {
         throw CFileException::FromErrno(error.value(), folder);
     }
-    WriteWholeFile(JoinPath(folder, kCsvName), Utf8FromWide(FormatScheduleCsv(schedule)));
-    WriteWholeFile(JoinPath(folder, kJsonName), FormatScheduleJson(schedule));
+    WriteWholeFile(JoinPath(folder, kCsvName), Utf8FromWide(FormatScheduleCsv(result.schedule)));
+    WriteWholeFile(JoinPath(folder, kJsonName), FormatScheduleJson(result.schedule));
+    WritePlanFiles(folder, result.building, ReadDrawingBlocks());
+    if (!arguments.strSave.empty()) {
+        WriteBuilding(arguments.strSave, result.building);
+    }
 }
 
 ExitCode Report(std::ostream& err, const CString& message, ExitCode code)
@@ -96,15 +95,15 @@ ExitCode Show(const CString& text, ExitCode code, std::ostream& out, std::ostrea
 }
 
 /// The files come first: a reader of `out` that goes away ends the process.
-ExitCode Deliver(const CSchedule& schedule, const CArguments& arguments, std::ostream& out,
+ExitCode Deliver(const CResult& result, const CArguments& arguments, std::ostream& out,
                  std::ostream& err)
 {
-    ExitCode code = schedule.HasBadCatalogue() ? ExitCode::badCatalogue : ExitCode::ok;
-    CString text = FormatScheduleText(schedule, arguments.bValves);
+    ExitCode code = result.schedule.HasBadCatalogue() ? ExitCode::badCatalogue : ExitCode::ok;
+    CString text = FormatScheduleText(result.schedule, arguments.bValves);
     try {
-        WriteSchedule(schedule, arguments.strOutput);
-        text += L"Scritti " + CString(kCsvName) + L" e " + kJsonName + L" in " +
-                arguments.strOutput + L"\n";
+        WriteFiles(result, arguments);
+        text += L"Scritti " + CString(kCsvName) + L", " + kJsonName + L", " + kPdfName + L" e " +
+                kDxfName + L" in " + arguments.strOutput + L"\n";
     } catch (const CFileException& error) {
         code = Report(err, L"risultati non scrivibili: " + error.GetErrorMessage(),
                       ExitCode::outputNotWritable);
@@ -132,7 +131,7 @@ ExitCode Run(const CArguments& arguments, std::ostream& out, std::ostream& err)
     SetCatalogueFolder(arguments);
     const CBuilding building = LoadBuilding(arguments);
     SetValveFolder(arguments, HasValves(building));
-    return Deliver(MakeSchedule(building), arguments, out, err);
+    return Deliver(Calculate(building), arguments, out, err);
 }
 
 } // namespace

@@ -1,30 +1,39 @@
 #include "workbench/building_json.h"
 
 #include "platform/format.h"
+#include "workbench/building_layout.h"
 #include "workbench/json_fields.h"
+#include "workbench/json_note.h"
+#include "workbench/json_writer.h"
+#include "workbench/room_json.h"
+#include "workbench/valve_keys_json.h"
+#include "workbench/whole_file.h"
 
+#include <algorithm>
+#include <limits>
+#include <map>
 #include <set>
+#include <utility>
 
 namespace {
 
-constexpr int kFormatVersion = 1;
+constexpr int kOldestVersion = 1;
+constexpr int kNewestVersion = kVersionWithPlan;
 
-/// No room of a building reaches these; beyond them a unit was mistaken.
-constexpr double kLargestLength = 20000.0;
-constexpr double kLargestDemand = 50000.0;
+/// In mm; no building leaves more room than that below a radiator or above it.
+constexpr double kLargestClearance = 20000.0;
 
-/// The module never searches for shorter valve numbers.
-constexpr std::size_t kShortestVentilNr = 30;
+/// Outlines drawn along the middle of a wall may overlap by its thickness, in mm.
+constexpr double kThickestWall = 300.0;
 
-/// Stands for "no limit" on a depth.
-constexpr double kAnyDepth = kLargestLength;
-
-/// Space that every radiator of the building keeps, in mm.
-struct Clearance
+int ReadVersion(CJsonFields& fields)
 {
-    double floor = 0.0;
-    double sill = 0.0;
-};
+    const int version = fields.Integer("version", kOldestVersion, std::numeric_limits<int>::max());
+    if (version > kNewestVersion) {
+        fields.Fail(L"version", L"il file è di una versione più recente del programma");
+    }
+    return version;
+}
 
 CHeatingSystem ReadSystem(CJsonFields fields)
 {
@@ -38,162 +47,179 @@ CHeatingSystem ReadSystem(CJsonFields fields)
     return system;
 }
 
-Clearance ReadClearance(CJsonFields fields)
+CClearance ReadClearance(CJsonFields fields)
 {
-    Clearance clearance;
-    clearance.floor = fields.Number("floor", 0.0, kLargestLength);
-    clearance.sill = fields.Number("sill", 0.0, kLargestLength);
+    CClearance clearance;
+    clearance.boden = fields.Number("floor", 0.0, kLargestClearance);
+    clearance.sturz = fields.Number("sill", 0.0, kLargestClearance);
     fields.RefuseUnknown();
     return clearance;
 }
 
-/// A radiator stands under a window or before a wall. Only the window has a sill above it to which
-/// the air needs a gap.
-void ReadPlace(CJsonFields& room, const Clearance& clearance, CSizeLimits& limits)
+/// By how many millimetres the rectangles lie over each other; 0 or less if they do not.
+double OverlapOf(const CFloorRect& a, const CFloorRect& b)
 {
-    const bool window = room.Has("window");
-    if (window == room.Has("wall")) {
-        room.Fail(L"window", L"serve uno solo tra \"window\" e \"wall\"");
-    }
-    CJsonFields place = room.Object(window ? "window" : "wall");
-    const char* heightName = window ? "sill" : "height";
-    const double height = place.Number(heightName, 0.0, kLargestLength);
-    limits.hoeheMax = height - clearance.floor - (window ? clearance.sill : 0.0);
-    limits.laengeMax = place.Number("width", 0.0, kLargestLength);
-    place.RefuseUnknown();
-    if (limits.hoeheMax <= 0.0) {
-        place.Fail(window ? L"sill" : L"height", L"non lascia spazio sopra la distanza da terra");
-    }
+    const double x = std::min(a.x + a.breite, b.x + b.breite) - std::max(a.x, b.x);
+    const double y = std::min(a.y + a.tiefe, b.y + b.tiefe) - std::max(a.y, b.y);
+    return std::min(x, y);
 }
 
-void ReadProduct(CJsonFields fields, CRoom& room)
-{
-    room.strHersteller = fields.Text("maker");
-    room.strArt = fields.Text("kind");
-    room.strProdukt = fields.Text("product");
-    fields.RefuseUnknown();
-}
+using Rooms = std::vector<std::shared_ptr<const CRoom>>;
 
-CValveKey ReadValve(CJsonFields fields)
+/// From west to east, so that each one has to be compared with the next few only.
+void RefuseOverlaps(const Rooms& rooms, CJsonFields& floor)
 {
-    CValveKey key;
-    key.strHersteller = fields.Text("maker");
-    key.strVentilNr = fields.Text("number");
-    fields.RefuseUnknown();
-    if (key.strVentilNr.size() < kShortestVentilNr) {
-        fields.Fail(L"number", L"ha " + FormatInt(static_cast<long long>(key.strVentilNr.size())) +
-                                   L" caratteri, ne servono almeno " +
-                                   FormatInt(kShortestVentilNr));
-    }
-    return key;
-}
-
-/// Changes `key` if the object says anything about that valve.
-void ReadValveOver(CJsonFields& valves, const char* name, std::optional<CValveKey>& key)
-{
-    if (valves.TakeNull(name)) {
-        key.reset();
-    } else if (valves.Has(name)) {
-        key = ReadValve(valves.Object(name));
-    }
-}
-
-/// The valves that an object asks for, and those of `fallback` where it says nothing.
-CValveKeys ReadValves(CJsonFields& owner, CValveKeys fallback)
-{
-    if (owner.Has("valves")) {
-        CJsonFields valves = owner.Object("valves");
-        ReadValveOver(valves, "supply", fallback.vorlauf);
-        ReadValveOver(valves, "return", fallback.ruecklauf);
-        valves.RefuseUnknown();
-    }
-    return fallback;
-}
-
-/// What all rooms of a building have in common.
-struct Common
-{
-    CHeatingSystem system;
-    Clearance clearance;
-    CValveKeys valves;
-};
-
-CRoom ReadRoom(CJsonFields fields, const Common& common)
-{
-    CRoom room;
-    room.strName = fields.Text("name");
-    fields.SetPlace(L"locale \"" + room.strName + L"\"");
-    room.raumtemperatur = fields.Number("temperature", 0.0, 40.0);
-    if (room.raumtemperatur >= common.system.ruecklauf) {
-        fields.Fail(L"temperature", L"deve essere minore del ritorno, " +
-                                        FormatExact(common.system.ruecklauf) + L" °C");
-    }
-    room.bedarf = fields.Number("demand", 0.0, kLargestDemand);
-    room.gedeckt = fields.NumberOr("covered", 0.0, kLargestDemand, 0.0);
-    ReadPlace(fields, common.clearance, room.grenzen);
-    room.grenzen.tiefeMin = fields.NumberOr("depthMin", 0.0, kLargestLength, 0.0);
-    room.grenzen.tiefeMax = fields.NumberOr("depthMax", 0.0, kLargestLength, kAnyDepth);
-    if (room.grenzen.tiefeMin > room.grenzen.tiefeMax) {
-        fields.Fail(L"depthMin", L"supera \"depthMax\"");
-    }
-    ReadProduct(fields.Object("radiator"), room);
-    room.ventile = ReadValves(fields, common.valves);
-    fields.RefuseUnknown();
-    return room;
-}
-
-/// Names objects of a list by their place, as long as they have no name that was read.
-CString PlaceInList(const CString& what, qsizetype index)
-{
-    return what + L" " + FormatInt(index + 1);
-}
-
-CFloor ReadFloor(CJsonFields fields, const CString& file, const Common& common)
-{
-    CFloor floor;
-    floor.strName = fields.Text("name");
-    fields.SetPlace(L"piano \"" + floor.strName + L"\"");
-    const QJsonArray rooms = fields.Objects("rooms");
-    for (qsizetype i = 0; i < rooms.size(); ++i) {
-        const CString place = L"piano \"" + floor.strName + L"\", " + PlaceInList(L"locale", i);
-        floor.rooms.push_back(ReadRoom(CJsonFields(rooms[i].toObject(), file, place), common));
-    }
-    fields.RefuseUnknown();
-    return floor;
-}
-
-void RefuseDuplicates(const CBuilding& building, const CString& file)
-{
-    std::set<CString> names;
-    for (const CFloor& floor : building.floors) {
-        for (const CRoom& room : floor.rooms) {
-            if (!names.insert(room.strName).second) {
-                throw CContentException(file + L": locale \"" + room.strName +
-                                        L"\": campo \"name\": il nome è già di un altro locale");
+    Rooms sorted = rooms;
+    std::ranges::stable_sort(sorted, {}, [](const auto& room) { return room->grundriss.x; });
+    for (auto room = sorted.begin(); room != sorted.end(); ++room) {
+        const CFloorRect& rect = (*room)->grundriss;
+        for (auto next = room + 1;
+             next != sorted.end() && (*next)->grundriss.x < rect.x + rect.breite; ++next) {
+            const double overlap = OverlapOf(rect, (*next)->grundriss);
+            if (overlap > kThickestWall) {
+                floor.SetPlace(L"locale \"" + (*next)->strName + L"\"");
+                floor.Fail(L"outline", L"si sovrappone al locale \"" + (*room)->strName +
+                                           L"\" per " + FormatPlain(overlap) + L" mm");
             }
         }
     }
 }
 
+Rooms ReadRooms(CJsonFields& floor, const CRoomsOfFile& common)
+{
+    std::vector<CRoom> rooms;
+    for (CJsonFields& room : floor.Objects("rooms", L"locale")) {
+        rooms.push_back(ReadRoom(std::move(room), common));
+    }
+    if (common.nVersion < kVersionWithPlan) {
+        LayOutFloor(rooms);
+    }
+    Rooms shared;
+    for (CRoom& room : rooms) {
+        shared.push_back(std::make_shared<const CRoom>(std::move(room)));
+    }
+    return shared;
+}
+
+CFloor ReadFloor(CJsonFields fields, const CRoomsOfFile& common)
+{
+    CFloor floor;
+    floor.strName = fields.Text("name");
+    floor.strNotiz = NoteOf(fields);
+    fields.SetPlace(L"piano \"" + floor.strName + L"\"");
+    floor.rooms = ReadRooms(fields, common);
+    fields.RefuseUnknown();
+    RefuseOverlaps(floor.rooms, fields);
+    return floor;
+}
+
+void RefuseSameRoomNames(const CBuilding& building, CJsonFields& fields)
+{
+    std::set<CString> names;
+    for (const CFloor& floor : building.floors) {
+        for (const auto& room : floor.rooms) {
+            if (!names.insert(room->strName).second) {
+                fields.SetPlace(L"locale \"" + room->strName + L"\"");
+                fields.Fail(L"name", L"il nome è già di un altro locale");
+            }
+        }
+    }
+}
+
+/// The first version let floors share a name; there the later ones get a number.
+void TellFloorsApart(CBuilding& building, int version, CJsonFields& fields)
+{
+    std::set<CString> names;
+    std::map<CString, int> numbers;
+    for (CFloor& floor : building.floors) {
+        const CString name = floor.strName;
+        if (version >= kVersionWithPlan && names.contains(name)) {
+            fields.SetPlace(L"piano \"" + name + L"\"");
+            fields.Fail(L"name", L"il nome è già di un altro piano");
+        }
+        int& number = numbers.try_emplace(name, 1).first->second;
+        while (!names.insert(floor.strName).second) {
+            floor.strName = name + L" (" + FormatInt(++number) + L")";
+        }
+    }
+}
+
+void WriteFloor(CJsonWriter& writer, const CFloor& floor, const CValveKeys& valvesOfBuilding)
+{
+    writer.BeginObject(nullptr);
+    writer.Text("name", floor.strName);
+    WriteNote(writer, floor.strNotiz);
+    writer.BeginList("rooms");
+    for (const auto& room : floor.rooms) {
+        WriteRoom(writer, *room, valvesOfBuilding);
+    }
+    writer.End();
+    writer.End();
+}
+
+void WritePair(CJsonWriter& writer, const char* name, const char* firstName, double first,
+               const char* secondName, double second)
+{
+    writer.BeginObject(name, CJsonWriter::Layout::line);
+    writer.Number(firstName, first);
+    writer.Number(secondName, second);
+    writer.End();
+}
+
 } // namespace
+
+CBuilding ReadBuilding(CJsonFields fields)
+{
+    const int version = ReadVersion(fields);
+    CBuilding building;
+    building.strName = fields.Text("name");
+    building.strNotiz = NoteOf(fields);
+    building.system = ReadSystem(fields.Object("system"));
+    building.abstaende = ReadClearance(fields.Object("clearance"));
+    building.ventile = ReadValveKeys(fields, {});
+    std::vector<CJsonFields> floors = fields.Objects("floors", L"piano");
+    fields.RefuseUnknown();
+    const CRoomsOfFile common = {version, building.system, building.abstaende, building.ventile};
+    for (CJsonFields& floor : floors) {
+        building.floors.push_back(ReadFloor(std::move(floor), common));
+    }
+    RefuseSameRoomNames(building, fields);
+    TellFloorsApart(building, version, fields);
+    return building;
+}
 
 CBuilding ReadBuilding(const CString& path)
 {
-    CJsonFields fields = ReadJsonFile(path);
-    if (fields.Number("version", 1.0, 1e6) != kFormatVersion) {
-        fields.Fail(L"version", L"il file è di una versione più recente del programma");
+    return ReadBuilding(ReadJsonFile(path));
+}
+
+void WriteBuilding(CJsonWriter& writer, const char* name, const CBuilding& building)
+{
+    writer.BeginObject(name);
+    writer.Number("version", kNewestVersion);
+    writer.Text("name", building.strName);
+    WriteNote(writer, building.strNotiz);
+    WritePair(writer, "system", "supply", building.system.vorlauf, "return",
+              building.system.ruecklauf);
+    WritePair(writer, "clearance", "floor", building.abstaende.boden, "sill",
+              building.abstaende.sturz);
+    WriteValveKeys(writer, building.ventile, {});
+    writer.BeginList("floors");
+    for (const CFloor& floor : building.floors) {
+        WriteFloor(writer, floor, building.ventile);
     }
-    CBuilding building;
-    building.strName = fields.Text("name");
-    building.system = ReadSystem(fields.Object("system"));
-    const Common common = {building.system, ReadClearance(fields.Object("clearance")),
-                           ReadValves(fields, {})};
-    const QJsonArray floors = fields.Objects("floors");
-    fields.RefuseUnknown();
-    for (qsizetype i = 0; i < floors.size(); ++i) {
-        building.floors.push_back(ReadFloor(
-            CJsonFields(floors[i].toObject(), path, PlaceInList(L"piano", i)), path, common));
-    }
-    RefuseDuplicates(building, path);
-    return building;
+    writer.End();
+    writer.End();
+}
+
+std::string FormatBuilding(const CBuilding& building)
+{
+    CJsonWriter writer;
+    WriteBuilding(writer, nullptr, building);
+    return writer.Take();
+}
+
+void WriteBuilding(const CString& path, const CBuilding& building)
+{
+    WriteWholeFile(path, FormatBuilding(building));
 }

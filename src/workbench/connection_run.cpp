@@ -98,17 +98,6 @@ CDxfDrawing RadiatorBlocks(std::ostream& err)
     return std::get<CDxfDrawing>(std::move(result));
 }
 
-CString AttributeOf(const TGA_LIST& radiator, const CString& name)
-{
-    for (const ALIST* attribute = radiator.Attribute; attribute != nullptr;
-         attribute = attribute->pNext) {
-        if (attribute->Name == name) {
-            return attribute->Wert;
-        }
-    }
-    return {};
-}
-
 bool Edit(CConnectionChoice& choice, std::ostream& err)
 {
     CSamplePlan plan;

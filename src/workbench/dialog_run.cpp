@@ -2,19 +2,14 @@
 
 #include "frame/entry_points.h"
 #include "platform/format.h"
-#include "platform/path.h"
-#include "workbench/arguments.h"
 #include "workbench/batch.h"
 #include "workbench/host_base/qt_application.h"
-#include "workbench/host_prefs/host_settings.h"
 #include "workbench/text_columns.h"
 
 #include <QtGlobal>
 
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
-#include <system_error>
 
 namespace {
 
@@ -36,18 +31,6 @@ void OnStartMessage(QtMsgType type, const QMessageLogContext& context, const QSt
 }
 
 } // namespace
-
-void SetWorkplace(const CArguments& arguments)
-{
-    if (arguments.strWorkplace.empty()) {
-        return;
-    }
-    std::error_code error;
-    if (!std::filesystem::is_directory(ResolvePath(arguments.strWorkplace), error)) {
-        throw CArgumentException(L"--workplace: la cartella non esiste: " + arguments.strWorkplace);
-    }
-    OverrideHostSetting(kSettingLocalPath, arguments.strWorkplace);
-}
 
 void StartWindows()
 {

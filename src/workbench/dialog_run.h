@@ -5,12 +5,6 @@
 
 #include <optional>
 
-struct CArguments;
-
-/// Makes the working place of the arguments that of the process, if they name one. One that is no
-/// folder raises CArgumentException.
-void SetWorkplace(const CArguments& arguments);
-
 /// Makes what dialogs need. A process without a screen ends here, with a message on standard error
 /// and ExitCode::noScreen.
 void StartWindows();

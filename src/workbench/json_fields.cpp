@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -16,8 +17,11 @@ namespace {
 /// A field longer than this is no name of anything.
 constexpr std::size_t kLongestText = 200;
 
-/// A building with its rooms is a few kilobytes; reading a wrong file must not fill the memory.
-constexpr std::uint64_t kLargestFile = 16ULL << 20;
+/// Two thousand rooms with their radiators take some megabytes; reading a wrong file must not fill
+/// the memory.
+constexpr std::uint64_t kLargestFile = 64ULL << 20;
+
+constexpr double kLargestNumber = std::numeric_limits<double>::max();
 
 CString FromAscii(const char* text)
 {
@@ -27,6 +31,16 @@ CString FromAscii(const char* text)
 bool IsControl(wchar_t c)
 {
     return c < L' ' || (c >= 0x7f && c < 0xa0);
+}
+
+bool IsBlank(wchar_t c)
+{
+    return QChar::isSpace(static_cast<char32_t>(c));
+}
+
+bool IsFinite(const QJsonValue& value)
+{
+    return value.isDouble() && std::isfinite(value.toDouble());
 }
 
 std::string ReadWholeFile(const CString& path)
@@ -85,8 +99,16 @@ CString DescribeParseError(QJsonParseError::ParseError error)
 
 } // namespace
 
+CString TextFromJson(const QString& text)
+{
+    const std::u16string units = text.toStdU16String();
+    CString wide;
+    AppendUtf16(wide, units);
+    return wide;
+}
+
 CJsonFields::CJsonFields(const QJsonObject& object, const CString& file, const CString& place)
-    : m_object(object), m_strFile(file), m_strPlace(place), m_known(QStringLiteral("note"))
+    : m_object(object), m_strFile(file), m_strPlace(place), m_known{"note"}
 {
 }
 
@@ -97,21 +119,31 @@ bool CJsonFields::TakeNull(const char* name)
 
 CString CJsonFields::Text(const char* name)
 {
-    const QJsonValue value = Take(name);
-    if (!value.isString()) {
-        Fail(FromAscii(name), L"atteso un testo");
-    }
-    CString text = value.toString().toStdWString();
-    if (value.toString().trimmed().isEmpty()) {
+    const CString text = ForeignText(name);
+    if (std::ranges::all_of(text, IsBlank)) {
         Fail(FromAscii(name), L"il testo è vuoto");
     }
     if (text.size() > kLongestText) {
         Fail(FromAscii(name), L"il testo è troppo lungo");
     }
-    if (std::any_of(text.begin(), text.end(), IsControl)) {
+    if (std::ranges::any_of(text, IsControl)) {
         Fail(FromAscii(name), L"il testo contiene caratteri di controllo");
     }
     return text;
+}
+
+CString CJsonFields::ForeignText(const char* name)
+{
+    const QJsonValue value = Take(name);
+    if (!value.isString()) {
+        Fail(FromAscii(name), L"atteso un testo");
+    }
+    return TextFromJson(value.toString());
+}
+
+CString CJsonFields::ForeignTextOr(const char* name)
+{
+    return Has(name) ? ForeignText(name) : CString();
 }
 
 double CJsonFields::Number(const char* name, double min, double max)
@@ -123,7 +155,7 @@ double CJsonFields::Number(const char* name, double min, double max)
     const double number = value.toDouble();
     if (!(number >= min && number <= max)) {
         Fail(FromAscii(name), FormatExact(number) + L" è fuori dall'intervallo da " +
-                                  FormatExact(min) + L" a " + FormatExact(max));
+                                  FormatPlain(min) + L" a " + FormatPlain(max));
     }
     return number;
 }
@@ -131,6 +163,33 @@ double CJsonFields::Number(const char* name, double min, double max)
 double CJsonFields::NumberOr(const char* name, double min, double max, double fallback)
 {
     return Has(name) ? Number(name, min, max) : fallback;
+}
+
+double CJsonFields::Number(const char* name)
+{
+    return Number(name, -kLargestNumber, kLargestNumber);
+}
+
+int CJsonFields::Integer(const char* name, int min, int max)
+{
+    const double number = Number(name, min, max);
+    if (number != std::trunc(number)) {
+        Fail(FromAscii(name), L"atteso un numero intero");
+    }
+    return static_cast<int>(number);
+}
+
+std::array<double, 3> CJsonFields::Vector(const char* name)
+{
+    const QJsonArray list = Take(name).toArray();
+    std::array<double, 3> vector = {};
+    if (list.size() != static_cast<qsizetype>(vector.size()) ||
+        !std::all_of(list.begin(), list.end(), IsFinite)) {
+        Fail(FromAscii(name), L"atteso un elenco [ ] di tre numeri");
+    }
+    std::transform(list.begin(), list.end(), vector.begin(),
+                   [](const QJsonValue& value) { return value.toDouble(); });
+    return vector;
 }
 
 CJsonFields CJsonFields::Object(const char* name)
@@ -142,22 +201,34 @@ CJsonFields CJsonFields::Object(const char* name)
     return {value.toObject(), m_strFile, m_strPlace};
 }
 
-QJsonArray CJsonFields::Objects(const char* name)
+std::vector<CJsonFields> CJsonFields::Objects(const char* name, const CString& what,
+                                              bool mayBeEmpty)
 {
     const QJsonValue value = Take(name);
-    QJsonArray list = value.toArray();
-    if (list.isEmpty() || !std::all_of(list.begin(), list.end(),
-                                       [](const QJsonValue& item) { return item.isObject(); })) {
-        Fail(FromAscii(name), L"atteso un elenco [ ] di almeno un oggetto");
+    const QJsonArray list = value.toArray();
+    if (!value.isArray() || (list.isEmpty() && !mayBeEmpty) ||
+        !std::all_of(list.begin(), list.end(),
+                     [](const QJsonValue& item) { return item.isObject(); })) {
+        Fail(FromAscii(name), mayBeEmpty ? L"atteso un elenco [ ] di oggetti"
+                                         : L"atteso un elenco [ ] di almeno un oggetto");
     }
-    return list;
+    const CString place = m_strPlace.empty() ? what : m_strPlace + L", " + what;
+    std::vector<CJsonFields> objects;
+    objects.reserve(static_cast<std::size_t>(list.size()));
+    for (qsizetype i = 0; i < list.size(); ++i) {
+        objects.emplace_back(list[i].toObject(), m_strFile, place + L" " + FormatInt(i + 1));
+    }
+    return objects;
 }
 
 void CJsonFields::RefuseUnknown() const
 {
-    for (const QString& name : m_object.keys()) {
-        if (!m_known.contains(name)) {
-            Fail(name.toStdWString(), L"campo sconosciuto");
+    for (auto field = m_object.begin(); field != m_object.end(); ++field) {
+        const QString name = field.key();
+        if (std::ranges::none_of(m_known, [&name](std::string_view known) {
+                return name == QLatin1String(known.data(), qsizetype(known.size()));
+            })) {
+            Fail(TextFromJson(name), L"campo sconosciuto");
         }
     }
 }
@@ -170,11 +241,12 @@ void CJsonFields::Fail(const CString& name, const CString& what) const
 
 QJsonValue CJsonFields::Take(const char* name)
 {
-    if (!Has(name)) {
+    const auto field = m_object.constFind(QLatin1String(name));
+    if (field == m_object.constEnd()) {
         Fail(FromAscii(name), L"manca");
     }
-    m_known.append(QLatin1String(name));
-    return m_object.value(QLatin1String(name));
+    m_known.emplace_back(name);
+    return field.value();
 }
 
 CJsonFields ReadJsonFile(const CString& path)

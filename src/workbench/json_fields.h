@@ -5,7 +5,10 @@
 
 #include <QJsonArray>
 #include <QJsonObject>
-#include <QStringList>
+
+#include <array>
+#include <string_view>
+#include <vector>
 
 /// Content of a file that is not what its format asks for. The message names file, place and field.
 class CContentException : public CException
@@ -15,7 +18,8 @@ public:
 };
 
 /// One object of a JSON file, read field by field with checks: a missing field, one of another type
-/// or out of range, and one that nobody knows raise CContentException.
+/// or out of range, and one that nobody knows raise CContentException. Names of fields are
+/// literals.
 class CJsonFields
 {
 public:
@@ -24,14 +28,21 @@ public:
 
     /// From here on messages name this place.
     void SetPlace(const CString& place) { m_strPlace = place; }
+    const CString& GetPlace() const { return m_strPlace; }
 
     bool Has(const char* name) const { return m_object.contains(QLatin1String(name)); }
 
     /// True if the field is there and stands for nothing; it then counts as asked for.
     bool TakeNull(const char* name);
 
-    /// A text that is not blank and holds no control characters.
+    /// A text that somebody wrote for people: not blank, no control characters, at most 200 long.
     CString Text(const char* name);
+
+    /// A text that comes from elsewhere, a catalogue or a drawing, and may hold anything.
+    CString ForeignText(const char* name);
+
+    /// The same, or an empty text where the field is missing.
+    CString ForeignTextOr(const char* name);
 
     /// A number of at least `min` and at most `max`.
     double Number(const char* name, double min, double max);
@@ -39,14 +50,28 @@ public:
     /// The same, or `fallback` where the field is missing.
     double NumberOr(const char* name, double min, double max, double fallback);
 
+    /// Any number.
+    double Number(const char* name);
+
+    /// A whole number within the same kind of limits.
+    int Integer(const char* name, int min, int max);
+
+    /// A list of three numbers.
+    std::array<double, 3> Vector(const char* name);
+
     /// An object; its place is the one of this object.
     CJsonFields Object(const char* name);
 
-    /// A list of at least one object.
-    QJsonArray Objects(const char* name);
+    /// A list of objects, of at least one unless `mayBeEmpty`. Their places are `what` and their
+    /// number, behind the place of this object.
+    std::vector<CJsonFields> Objects(const char* name, const CString& what,
+                                     bool mayBeEmpty = false);
 
     /// Raises if the object has a field that was not asked for. A "note" may stand in any object.
     void RefuseUnknown() const;
+
+    /// The object as it stands in the file.
+    const QJsonObject& GetObject() const { return m_object; }
 
     [[noreturn]] void Fail(const CString& name, const CString& what) const;
 
@@ -56,9 +81,12 @@ private:
     QJsonObject m_object;
     CString m_strFile;
     CString m_strPlace;
-    QStringList m_known;
+    std::vector<std::string_view> m_known;
 };
 
 /// The object of a JSON file. A file that cannot be opened or is no JSON object raises
 /// CContentException, the latter with line and column of the place where reading stopped.
 CJsonFields ReadJsonFile(const CString& path);
+
+/// The text of a JSON value with every code unit that the file has, unpaired surrogates included.
+CString TextFromJson(const QString& text);

@@ -23,7 +23,7 @@ int main(int argc, char* argv[])
         return static_cast<int>(RunTreeDialog(arguments, std::cout, std::cerr));
     }
     if (std::ranges::find(arguments, kRadiatorDialogOption) != arguments.end()) {
-        return RunRadiatorDialog(arguments, std::cout, std::cerr);
+        return static_cast<int>(RunRadiatorDialog(arguments, std::cout, std::cerr));
     }
     const auto listing = std::ranges::find(arguments, L"--list-connections");
     if (listing == arguments.end()) {

@@ -10,7 +10,9 @@
 #include "workbench/dialog_run.h"
 #include "workbench/drawing/dxf_blocks.h"
 #include "workbench/drawing/scene_drawer.h"
-#include "workbench/host_prefs/host_settings.h"
+#include "workbench/host_folders.h"
+#include "workbench/json_fields.h"
+#include "workbench/plan/room_request.h"
 
 #include <QGraphicsScene>
 
@@ -56,61 +58,14 @@ CRoomChoice ParseChoice(std::vector<CString> arguments)
 CPlacedRoom FindRoom(const CBuilding& building, const CString& name)
 {
     for (const CFloor& floor : building.floors) {
-        for (const CRoom& room : floor.rooms) {
-            if (name.empty() || room.strName == name) {
-                return {&floor, &room};
+        for (const auto& room : floor.rooms) {
+            if (name.empty() || room->strName == name) {
+                return {&floor, room.get()};
             }
         }
     }
     throw CArgumentException(CString(kRadiatorDialogOption) + L": l'edificio non ha il locale \"" +
                              name + L"\"");
-}
-
-/// The sizes of the product within a range; the whole range if there are none.
-void Narrow(const OCArray<double>& sizes, double& min, double& max)
-{
-    double lowest = max;
-    double highest = min;
-    for (const double size : sizes) {
-        if (size >= min && size <= max) {
-            lowest = std::min(lowest, size);
-            highest = std::max(highest, size);
-        }
-    }
-    if (lowest <= highest) {
-        min = lowest;
-        max = highest;
-    }
-}
-
-HK_DATEN_VDI3805_UEBERGABE MakeHandover(const CPlacedRoom& place, const CHeatingSystem& system)
-{
-    const CRoom& room = *place.room;
-    HK_DATEN_VDI3805_UEBERGABE uebergabe;
-    uebergabe.Hersteller = room.strHersteller;
-    uebergabe.Art = room.strArt;
-    uebergabe.Produkt = room.strProdukt;
-    uebergabe.Leistung = room.GetLeistung();
-    uebergabe.LaengeMax = room.grenzen.laengeMax;
-    uebergabe.HoeheMax = room.grenzen.hoeheMax;
-    uebergabe.TiefeMin = room.grenzen.tiefeMin;
-    uebergabe.TiefeMax = room.grenzen.tiefeMax;
-    uebergabe.Vorlauf = system.vorlauf;
-    uebergabe.Ruecklauf = system.ruecklauf;
-    uebergabe.Raumtemperatur = room.raumtemperatur;
-    uebergabe.Raumname = place.floor->strName + L"." + room.strName;
-    uebergabe.RaumBedarf = room.bedarf;
-    uebergabe.RaumGedeckt = room.gedeckt;
-    uebergabe.NeuLesen = 1;
-
-    // The dialog offers the sizes of the product and falls back to all of them where it is given
-    // another one.
-    OCArray<double> heights;
-    OCArray<double> depths;
-    Read_HK_Masse(uebergabe, heights, depths);
-    Narrow(heights, uebergabe.HoeheMin, uebergabe.HoeheMax);
-    Narrow(depths, uebergabe.TiefeMin, uebergabe.TiefeMax);
-    return uebergabe;
 }
 
 std::vector<CDxfLayer> LayersOfBlocks()
@@ -133,12 +88,11 @@ CString DescribeRadiator(const HK_DATEN_VDI3805_UEBERGABE& uebergabe, const CStr
 
 bool Choose(const CRoomChoice& choice, std::ostream& out)
 {
-    if (!choice.arguments.strCatalogues.empty()) {
-        OverrideHostSetting(kSettingHKDir, choice.arguments.strCatalogues);
-    }
-    const CBuilding building = ReadBuilding(choice.arguments.strBuilding);
-    HK_DATEN_VDI3805_UEBERGABE uebergabe = MakeHandover(
-        FindRoom(building, choice.strRoom), choice.arguments.system.value_or(building.system));
+    SetCatalogueFolder(choice.arguments);
+    CBuilding building = ReadBuilding(choice.arguments.strBuilding);
+    building.system = choice.arguments.system.value_or(building.system);
+    const CPlacedRoom place = FindRoom(building, choice.strRoom);
+    HK_DATEN_VDI3805_UEBERGABE uebergabe = MakeRequest(building, *place.floor, *place.room);
     CString layer;
     int layerColor = 0;
     lmGetHKLayer(layer);
@@ -155,17 +109,24 @@ bool Choose(const CRoomChoice& choice, std::ostream& out)
 
 } // namespace
 
-int RunRadiatorDialog(const std::vector<CString>& arguments, std::ostream& out, std::ostream& err)
+ExitCode RunRadiatorDialog(const std::vector<CString>& arguments, std::ostream& out,
+                           std::ostream& err)
 {
     try {
         const CRoomChoice choice = ParseChoice(arguments);
         if (choice.arguments.bHelp) {
             Write(out, GetHelpText());
-            return 0;
+            return ExitCode::ok;
         }
-        return static_cast<int>(Choose(choice, out) ? ExitCode::ok : ExitCode::cancelled);
+        return Choose(choice, out) ? ExitCode::ok : ExitCode::cancelled;
+    } catch (const CArgumentException& error) {
+        Write(err, L"radsel_workbench: " + error.GetErrorMessage());
+        return ExitCode::wrongArguments;
+    } catch (const CContentException& error) {
+        Write(err, L"radsel_workbench: " + error.GetErrorMessage());
+        return ExitCode::badBuilding;
     } catch (const CException& error) {
         Write(err, L"radsel_workbench: " + error.GetErrorMessage());
-        return 1;
+        return ExitCode::unexpected;
     }
 }

@@ -4,6 +4,7 @@
 #include "host/host_catalog.h"
 #include "platform/format.h"
 #include "workbench/host_catalog/catalogue_errors.h"
+#include "workbench/plan/coverage.h"
 
 #include <algorithm>
 #include <vector>
@@ -19,14 +20,6 @@ constexpr double kNoLimit = 1e6;
 
 constexpr CSizeLimits kAnySize{kNoLimit, kNoLimit, 0.0, kNoLimit};
 
-/// Fraction of the need by which a radiator may miss it.
-constexpr double kTolerance = 0.1;
-
-double WeakestOutput(const CRoom& room)
-{
-    return (1.0 - kTolerance) * room.GetLeistung();
-}
-
 HK_DATEN_VDI3805_UEBERGABE MakeCriteria(const CRoom& room, const CHeatingSystem& system,
                                         const CSizeLimits& limits)
 {
@@ -37,7 +30,7 @@ HK_DATEN_VDI3805_UEBERGABE MakeCriteria(const CRoom& room, const CHeatingSystem&
     criteria.Leistung = room.GetLeistung();
     criteria.LeistungMin = -1.0;
     criteria.LeistungMax = -1.0;
-    criteria.Toleranz = kTolerance;
+    criteria.Toleranz = kCoverTolerance;
     criteria.HoeheMax = limits.hoeheMax - kHeightGrace;
     criteria.LaengeMax = limits.laengeMax;
     criteria.TiefeMin = limits.tiefeMin;
@@ -69,12 +62,12 @@ std::optional<CRadiator> SearchWithin(const CRoom& room, const CHeatingSystem& s
 {
     HK_DATEN_VDI3805_UEBERGABE criteria = MakeCriteria(room, system, room.grenzen);
     std::optional<CRadiator> nearest = Search(criteria);
-    if (!nearest || nearest->daten.Leistung >= WeakestOutput(room)) {
+    if (!nearest || nearest->daten.Leistung >= WeakestOutputOf(room)) {
         return nearest;
     }
-    criteria.LeistungMin = WeakestOutput(room);
+    criteria.LeistungMin = WeakestOutputOf(room);
     std::optional<CRadiator> stronger = Search(criteria);
-    return stronger && stronger->daten.Leistung >= WeakestOutput(room) ? stronger : nearest;
+    return stronger && stronger->daten.Leistung >= WeakestOutputOf(room) ? stronger : nearest;
 }
 
 /// The lowest height of the product; the room's limit if the product has no heights.
@@ -128,7 +121,7 @@ std::vector<CString> FindLacks(const CRoom& room, const HK_DATEN_VDI3805& daten)
         lacks.push_back(L"profondità " + Millimetres(daten.Tiefe) + L", richiesti almeno " +
                         Millimetres(room.grenzen.tiefeMin));
     }
-    if (daten.Leistung < WeakestOutput(room)) {
+    if (daten.Leistung < WeakestOutputOf(room)) {
         const double missing = room.GetLeistung() - daten.Leistung;
         lacks.push_back(L"mancano " + FormatFixed(missing, 0) + L" W (" +
                         FormatFixed(100.0 * missing / room.GetLeistung(), 1) + L" %)");
@@ -184,7 +177,7 @@ CRoomOutcome SelectRadiator(const CRoom& room, const CHeatingSystem& system)
         return {RoomStatus::covered, {}, L"nessun corpo scaldante necessario"};
     }
     std::optional<CRadiator> found = SearchWithin(room, system);
-    if (found && found->daten.Leistung >= WeakestOutput(room)) {
+    if (found && found->daten.Leistung >= WeakestOutputOf(room)) {
         return {RoomStatus::chosen, found, {}};
     }
     if (!found) {

@@ -18,6 +18,10 @@ enum class RoomStatus
     unknownProduct,
     /// The maker's catalogue cannot be read.
     badCatalogue,
+    /// Nothing was chosen yet.
+    missing,
+    /// What was chosen does not cover the room.
+    lacking,
 };
 
 /// A row of a product: outputs are those of the whole radiator.

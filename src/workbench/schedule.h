@@ -6,22 +6,33 @@
 
 #include <vector>
 
+/// A radiator of a room, or a room without one.
 struct CScheduleRow
 {
+    /// Its product is that of the radiator.
     CRoom room;
     CRoomOutcome outcome;
-    /// Only a chosen radiator gets valves.
+    /// Only a radiator of the building gets valves.
     CRoomValves ventile;
+    /// False for a further radiator of the room in the row before, which counts the room no more.
+    bool bErster = true;
+    /// Output of all radiators of the room.
+    double leistungRaum = 0.0;
+
+    /// True if the radiator is one of the building; not for one that is told as the nearest.
+    bool HasRadiator() const;
 };
 
-/// Sums over rooms, in watts and litres. Outputs and water count chosen radiators only, so that an
-/// unfitting room shows as missing output.
+/// Sums over rooms, in watts and litres. Outputs and water count radiators of the building only, so
+/// that an unfitting room shows as missing output.
 struct CScheduleTotals
 {
     int nRooms = 0;
-    /// Rooms that got a radiator, and rooms that need one and got none.
+    /// Rooms with radiators that cover them, and rooms that need some and are not covered.
     int nChosen = 0;
     int nOpen = 0;
+    /// Radiators of the building.
+    int nHeizkoerper = 0;
     double bedarf = 0.0;
     double required = 0.0;
     double leistungEN442 = 0.0;
@@ -39,7 +50,7 @@ struct CScheduleFloor
     CScheduleTotals totals;
 };
 
-/// The result of a batch run.
+/// The radiators of a building, of a batch run or of a plan.
 struct CSchedule
 {
     CString strBuilding;
@@ -54,7 +65,14 @@ struct CSchedule
 /// Chooses a radiator for every room of the building and fetches its valves.
 CSchedule MakeSchedule(const CBuilding& building);
 
-/// Output that the room asks of its radiator: never below 0.
+/// Lists the radiators that stand in the building, with their valves, a row each, and a row for
+/// each room without one. Rooms that are not covered say what is missing.
+CSchedule SchedulePlan(const CBuilding& building);
+
+/// True for a room that needs radiators and is not covered.
+bool IsOpen(RoomStatus status);
+
+/// Output that the room asks of its radiators: never below 0.
 double GetRequired(const CRoom& room);
 
 /// How far an output misses what is required, in per cent: above 0 if it is more. 0 if nothing is

@@ -44,14 +44,22 @@ std::vector<CString> MakeHeadings()
     return headings;
 }
 
-void AppendRadiator(std::vector<CString>& fields, const CRadiator& radiator, double required)
+/// A number of the room, which its further radiators do not repeat.
+CString RoomNumber(const CScheduleRow& row, const CString& number)
 {
+    return row.bErster ? number : CString();
+}
+
+void AppendRadiator(std::vector<CString>& fields, const CScheduleRow& row)
+{
+    const CRadiator& radiator = *row.outcome.radiator;
     const HK_DATEN_VDI3805& daten = radiator.daten;
-    fields.insert(fields.end(), {radiator.strTyp, FormatExact(daten.Hoehe),
-                                 FormatExact(daten.Tiefe), FormatExact(daten.Laenge),
-                                 FormatExact(daten.LeistungEN442), FormatExact(daten.Leistung),
-                                 FormatFixed(GetDeviation(daten.Leistung, required), 1),
-                                 FormatExact(daten.Elemente), FormatLitres(daten.Inhalt)});
+    const double deviation = GetDeviation(row.leistungRaum, GetRequired(row.room));
+    fields.insert(fields.end(),
+                  {radiator.strTyp, FormatExact(daten.Hoehe), FormatExact(daten.Tiefe),
+                   FormatExact(daten.Laenge), FormatExact(daten.LeistungEN442),
+                   FormatExact(daten.Leistung), RoomNumber(row, FormatFixed(deviation, 1)),
+                   FormatExact(daten.Elemente), FormatLitres(daten.Inhalt)});
 }
 
 void AppendValve(std::vector<CString>& fields, const CValveOutcome& valve)
@@ -80,19 +88,18 @@ CString JoinNotes(const CScheduleRow& row)
 CString FormatRow(const CScheduleFloor& floor, const CScheduleRow& row)
 {
     const CRoom& room = row.room;
-    const double required = GetRequired(room);
     std::vector<CString> fields = {floor.strName,
                                    room.strName,
                                    GetStatusText(row.outcome.status),
                                    FormatExact(room.raumtemperatur),
-                                   FormatExact(room.bedarf),
-                                   FormatExact(room.gedeckt),
-                                   FormatExact(required),
+                                   RoomNumber(row, FormatExact(room.bedarf)),
+                                   RoomNumber(row, FormatExact(room.gedeckt)),
+                                   RoomNumber(row, FormatExact(GetRequired(room))),
                                    room.strHersteller,
                                    room.strArt,
                                    room.strProdukt};
-    if (row.outcome.status == RoomStatus::chosen) {
-        AppendRadiator(fields, *row.outcome.radiator, required);
+    if (row.HasRadiator()) {
+        AppendRadiator(fields, row);
     } else {
         fields.resize(fields.size() + kFieldsOfRadiator);
     }

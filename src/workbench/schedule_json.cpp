@@ -29,11 +29,15 @@ QString StatusCode(RoomStatus status)
         return QStringLiteral("unknownProduct");
     case RoomStatus::badCatalogue:
         return QStringLiteral("badCatalogue");
+    case RoomStatus::missing:
+        return QStringLiteral("missing");
+    case RoomStatus::lacking:
+        return QStringLiteral("lacking");
     }
     return {};
 }
 
-QJsonObject MakeRadiator(const CRadiator& radiator, double required)
+QJsonObject MakeRadiator(const CRadiator& radiator)
 {
     const HK_DATEN_VDI3805& daten = radiator.daten;
     return {{"type", Text(radiator.strTyp)},
@@ -42,9 +46,41 @@ QJsonObject MakeRadiator(const CRadiator& radiator, double required)
             {"length", daten.Laenge},
             {"outputEN442", daten.LeistungEN442},
             {"output", daten.Leistung},
-            {"deviationPercent", GetDeviation(daten.Leistung, required)},
             {"sections", daten.Elemente},
             {"litres", daten.Inhalt}};
+}
+
+/// The radiator of a room's first row. How far its room is covered is told with it.
+QJsonObject MakeFirstRadiator(const CScheduleRow& row)
+{
+    QJsonObject object = MakeRadiator(*row.outcome.radiator);
+    const double leistung =
+        row.HasRadiator() ? row.leistungRaum : row.outcome.radiator->daten.Leistung;
+    object.insert("deviationPercent", GetDeviation(leistung, GetRequired(row.room)));
+    return object;
+}
+
+void InsertProduct(QJsonObject& object, const CRoom& room)
+{
+    object.insert("maker", Text(room.strHersteller));
+    object.insert("kind", Text(room.strArt));
+    object.insert("product", Text(room.strProdukt));
+}
+
+void InsertValves(QJsonObject& object, const CRoomValves& ventile)
+{
+    if (const QJsonObject valves = MakeValvesJson(ventile); !valves.isEmpty()) {
+        object.insert("valves", valves);
+    }
+}
+
+QJsonObject MakeFurther(const CScheduleRow& row)
+{
+    QJsonObject object;
+    InsertProduct(object, row.room);
+    object.insert("radiator", MakeRadiator(*row.outcome.radiator));
+    InsertValves(object, row.ventile);
+    return object;
 }
 
 QJsonObject MakeRoom(const CScheduleRow& row)
@@ -57,18 +93,13 @@ QJsonObject MakeRoom(const CScheduleRow& row)
                           {"demand", room.bedarf},
                           {"covered", room.gedeckt},
                           {"required", GetRequired(room)},
-                          {"maker", Text(room.strHersteller)},
-                          {"kind", Text(room.strArt)},
-                          {"product", Text(room.strProdukt)},
                           {"heightMax", room.grenzen.hoeheMax},
                           {"lengthMax", room.grenzen.laengeMax}};
+    InsertProduct(object, room);
     if (outcome.radiator) {
-        object.insert(outcome.status == RoomStatus::chosen ? "radiator" : "nearest",
-                      MakeRadiator(*outcome.radiator, GetRequired(room)));
+        object.insert(row.HasRadiator() ? "radiator" : "nearest", MakeFirstRadiator(row));
     }
-    if (const QJsonObject valves = MakeValvesJson(row.ventile); !valves.isEmpty()) {
-        object.insert("valves", valves);
-    }
+    InsertValves(object, row.ventile);
     if (!outcome.strNote.empty()) {
         object.insert("note", Text(outcome.strNote));
     }
@@ -80,6 +111,7 @@ QJsonObject MakeTotals(const CScheduleTotals& totals)
     return {{"rooms", totals.nRooms},
             {"chosen", totals.nChosen},
             {"open", totals.nOpen},
+            {"radiators", totals.nHeizkoerper},
             {"demand", totals.bedarf},
             {"required", totals.required},
             {"outputEN442", totals.leistungEN442},
@@ -88,13 +120,29 @@ QJsonObject MakeTotals(const CScheduleTotals& totals)
             {"litres", totals.inhalt}};
 }
 
-QJsonObject MakeFloor(const CScheduleFloor& floor)
+/// The rooms of a floor; rows of one room follow each other.
+QJsonArray MakeRooms(const std::vector<CScheduleRow>& rows)
 {
     QJsonArray rooms;
-    for (const CScheduleRow& row : floor.rows) {
-        rooms.append(MakeRoom(row));
+    for (auto row = rows.begin(); row != rows.end();) {
+        QJsonObject room = MakeRoom(*row);
+        QJsonArray further;
+        for (++row; row != rows.end() && !row->bErster; ++row) {
+            further.append(MakeFurther(*row));
+        }
+        if (!further.isEmpty()) {
+            room.insert("furtherRadiators", further);
+        }
+        rooms.append(room);
     }
-    return {{"name", Text(floor.strName)}, {"rooms", rooms}, {"totals", MakeTotals(floor.totals)}};
+    return rooms;
+}
+
+QJsonObject MakeFloor(const CScheduleFloor& floor)
+{
+    return {{"name", Text(floor.strName)},
+            {"rooms", MakeRooms(floor.rows)},
+            {"totals", MakeTotals(floor.totals)}};
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 #include "workbench/text_columns.h"
 #include "workbench/valve_text.h"
 
+#include <algorithm>
+
 namespace {
 
 /// With the widest texts the table takes 160 places, as many as a wide terminal has. The files hold
@@ -41,12 +43,15 @@ std::vector<CString> MakeCells(const CScheduleRow& row)
     const CRoom& room = row.room;
     std::vector<CString> cells = {room.strName,       Watts(room.bedarf), Watts(GetRequired(room)),
                                   room.strHersteller, room.strArt,        room.strProdukt};
-    if (row.outcome.status == RoomStatus::chosen) {
+    if (!row.bErster) {
+        std::fill_n(cells.begin(), 3, CString());
+    }
+    if (row.HasRadiator()) {
         const HK_DATEN_VDI3805& daten = row.outcome.radiator->daten;
-        const double deviation = GetDeviation(daten.Leistung, GetRequired(room));
+        const double deviation = GetDeviation(row.leistungRaum, GetRequired(room));
         cells.insert(cells.end(),
                      {row.outcome.radiator->strTyp, FormatSize(daten), Watts(daten.LeistungEN442),
-                      Watts(daten.Leistung), Percent(deviation),
+                      Watts(daten.Leistung), row.bErster ? Percent(deviation) : CString(),
                       daten.Elemente > 0.0 ? FormatExact(daten.Elemente) : CString(),
                       FormatFixed(daten.Inhalt, 1)});
     } else {
@@ -90,7 +95,7 @@ void AddFloor(CTextColumns& table, const CScheduleFloor& floor, bool kvTables)
     table.AddLine(floor.strName);
     for (const CScheduleRow& row : floor.rows) {
         table.AddRow(MakeCells(row));
-        if (row.outcome.status != RoomStatus::chosen) {
+        if (row.bErster && row.outcome.status != RoomStatus::chosen) {
             table.AddLine(L"    " + GetStatusText(row.outcome.status) + L": " +
                           row.outcome.strNote);
         }

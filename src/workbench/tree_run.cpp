@@ -7,6 +7,7 @@
 #include "platform/encoding.h"
 #include "workbench/arguments.h"
 #include "workbench/dialog_run.h"
+#include "workbench/host_folders.h"
 #include "workbench/host_prefs/host_settings.h"
 
 #include <ostream>

@@ -7,6 +7,11 @@
 
 namespace {
 
+/// Texts that are no texts of the code page, or look like the signs for what is none.
+const wchar_t* const kOddTexts[] = {L"", L" Größe: 1,5 è già così ",
+                                    L"\u0141\u00F3d\u017A \u0394t \U0001F321",
+                                    L"\\U+00D8 \\U+12 \\\\U+00d8", L"due\nrighe\t?"};
+
 CDxfDrawing EveryShape()
 {
     CDxfDrawing drawing;
@@ -19,7 +24,24 @@ CDxfDrawing EveryShape()
                         {L"0", 255, CDxfPolyline{{{{0, 0}, 0}, {{1, 0}, -0.5}, {{1, 1}, 1}}, true}},
                         {L"0", 1, CDxfPolyline{{{{0, 0}, 0}, {{1, 0}, 0}}, false}},
                         {L"0", 1, CDxfLine{}}}},
-                      {L"leer", {}, {}}};
+                      {L"leer", {}, {}, {{L"A", L" 0.5; 0.0;  0;0"}, {L"B", L""}}}};
+    return drawing;
+}
+
+CDxfDrawing EveryEntity()
+{
+    CDxfDrawing drawing = EveryShape();
+    drawing.entities = drawing.blocks[0].entities;
+    drawing.inserts = {
+        {L"Wände", 3, L"EINS", {1.0 / 3.0, -2}, 1.2, -0.7, 33.3, {}},
+        {L"0", kColorByBlock, L"leer", {}, 1, 1, 0, {{L"A", L"x"}, {L"A", L""}, {L"B", L"y"}}},
+        {L"0", kColorByLayer, L"leer", {}, 0.1, 1, -270, {}}};
+    for (const wchar_t* text : kOddTexts) {
+        drawing.inserts.back().attribute.push_back({L"T", text});
+        drawing.texts.push_back({L"Wände", 2, {1, 2}, 0.15, 12.3456789, DxfAlign::left, text});
+    }
+    drawing.texts[0].ausrichtung = DxfAlign::middle;
+    drawing.texts[1].ausrichtung = DxfAlign::right;
     return drawing;
 }
 
@@ -46,7 +68,55 @@ private:
 
 TEST(DxfBlocks, WhatIsWrittenReadsBackTheSame)
 {
-    EXPECT_EQ(ParseSound(WriteDxf(EveryShape())), EveryShape());
+    EXPECT_EQ(ParseSound(WriteDxf(EveryEntity())), EveryEntity());
+}
+
+TEST(DxfBlocks, WhoWantsBlocksIsNotStoppedByTheDrawing)
+{
+    const std::string text = DxfWith("ENTITIES", "0 CIRCLE|10 x|");
+    EXPECT_TRUE(std::holds_alternative<CDxfDrawing>(
+        ParseDxf({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()},
+                 DxfContent::layersAndBlocks)));
+    EXPECT_TRUE(std::holds_alternative<CDxfFault>(Parse(text)));
+}
+
+TEST(DxfBlocks, AttributesGoToTheInsertTheyFollow)
+{
+    const std::string attribute = "0 ATTRIB|1 v|2 A|";
+    const CDxfDrawing drawing =
+        ParseSound(DxfWith("ENTITIES", attribute + "0 INSERT|2 B|66 1|" + attribute + "0 SEQEND|" +
+                                           attribute + "0 INSERT|2 C|0 LINE|10 1|" + attribute +
+                                           "0 INSERT|2 D|0 INSERT|2 PAPER|67 1|66 1|" + attribute +
+                                           "0 SEQEND|0 INSERT|2 E|" + attribute + attribute));
+    ASSERT_EQ(drawing.inserts.size(), 4u);
+    const std::size_t counts[] = {1, 0, 0, 2};
+    for (std::size_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(drawing.inserts[i].attribute.size(), counts[i])
+            << testing::PrintToString(drawing.inserts[i].strBlock);
+    }
+}
+
+TEST(DxfBlocks, TextsStandWhereTheyAreAligned)
+{
+    const struct
+    {
+        const char* groups;
+        CDxfPoint punkt;
+        DxfAlign ausrichtung;
+    } cases[] = {{"72 0|", {1, 2}, DxfAlign::left},
+                 {"72 1|11 3|21 4|", {3, 4}, DxfAlign::middle},
+                 {"72 2|11 3|21 4|", {3, 4}, DxfAlign::right},
+                 {"72 2|", {1, 2}, DxfAlign::left},
+                 {"72 5|11 3|21 4|", {1, 2}, DxfAlign::left},
+                 {"72 1|73 2|11 3|21 4|", {1, 2}, DxfAlign::left}};
+    for (const auto& c : cases) {
+        const CDxfDrawing drawing = ParseSound(
+            DxfWith("ENTITIES", std::string("0 TEXT|10 1|20 2|40 5|1 x|41 3|50 90|") + c.groups));
+        ASSERT_EQ(drawing.texts.size(), 1u);
+        EXPECT_EQ(drawing.texts[0].punkt, c.punkt) << c.groups;
+        EXPECT_EQ(drawing.texts[0].ausrichtung, c.ausrichtung) << c.groups;
+        EXPECT_EQ(drawing.texts[0].dWinkel, 90.0);
+    }
 }
 
 TEST(DxfBlocks, TheProcessLocaleDecidesNothingAndStays)
@@ -116,6 +186,7 @@ TEST(DxfBlocks, BrokenFilesSayWhereTheyBreak)
     // The section of blocks begins on line 15.
     const std::string block = "0 BLOCK|2 B|";
     const std::string line = block + "0 LINE|";
+    const auto entity = [](const std::string& groups) { return DxfWith("ENTITIES", groups); };
     const struct
     {
         std::string text;
@@ -141,6 +212,15 @@ TEST(DxfBlocks, BrokenFilesSayWhereTheyBreak)
         {DxfWithBlocks(block + "0 ARC|10 1|20 1|40 -1|0 ENDBLK|"), 19},
         {DxfWithBlocks(block + "0 ENDBLK|0 BLOCK|2 b|0 ENDBLK|"), 21},
         {DxfWithBlocks(block + "0 BLOCK|2 C|0 ENDBLK|"), 19},
+        {DxfWithBlocks(block + "0 ATTDEF|1 v|0 ENDBLK|"), 19},
+        {entity("0 INSERT|66 1|0 ATTRIB|2 A|"), 15},
+        {entity("0 INSERT|2 |"), 18},
+        {entity("0 INSERT|2 B|50 nan|"), 20},
+        {entity("0 INSERT|2 B|0 ATTRIB|1 v|"), 19},
+        {entity("0 INSERT|2 B|0 ATTRIB|2 A|1 " + std::string(1001, 'x') + "|"), 24},
+        {entity("0 TEXT|1 a\rb|"), 18},
+        {entity("0 TEXT|50 1e10|"), 18},
+        {entity("0 CIRCLE|40 0|"), 15},
     };
     for (const auto& c : cases) {
         const auto parsed = Parse(c.text);

@@ -7,11 +7,12 @@
 #include <string>
 
 /// A DXF file with the given groups, a blank between code and value and a "|" behind each group, in
-/// its section of blocks.
-inline std::string DxfWithBlocks(const std::string& groups, const std::string& version = "AC1009")
+/// a section of that name. The first group stands on line 15.
+inline std::string DxfWith(const std::string& section, const std::string& groups,
+                           const std::string& version = "AC1009")
 {
     std::string text = "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\n" + version +
-                       "\n0\nENDSEC\n0\nSECTION\n2\nBLOCKS\n";
+                       "\n0\nENDSEC\n0\nSECTION\n2\n" + section + "\n";
     std::size_t start = 0;
     for (std::size_t end = groups.find('|'); end != std::string::npos;
          end = groups.find('|', start)) {
@@ -21,6 +22,11 @@ inline std::string DxfWithBlocks(const std::string& groups, const std::string& v
         start = end + 1;
     }
     return text + "0\nENDSEC\n0\nEOF\n";
+}
+
+inline std::string DxfWithBlocks(const std::string& groups, const std::string& version = "AC1009")
+{
+    return DxfWith("BLOCKS", groups, version);
 }
 
 inline std::variant<CDxfDrawing, CDxfFault> Parse(const std::string& text)

@@ -108,13 +108,14 @@ TEST(SamplePlan, RadiatorsAreHostRecordsWhereTheyAreDrawn)
     }
     LM_APUNKT points[kMaxAnschlussPunkte];
     ASSERT_EQ(lmGet_K_APUNKT_BLOCK_Wc(first->Attribute, points, &first->Trafo, 0, L""), 4);
-    const double expected[2][3] = {{10, 19, 0.67}, {10, 21, 0.13}};
+    // The room lies to the west: who looks at the radiator from there has north on his left.
+    const double expected[2][3] = {{10, 21, 0.67}, {10, 19, 0.13}};
     for (std::size_t i = 0; i < 2; ++i) {
         for (std::size_t axis = 0; axis < 3; ++axis) {
             EXPECT_NEAR(points[i].Punkt[axis], expected[i][axis], 1e-9);
         }
     }
-    EXPECT_NEAR(points[0].Richtung[1], -1, 1e-9);
+    EXPECT_NEAR(points[0].Richtung[1], 1, 1e-9);
 }
 
 TEST(SamplePlan, TheSampleRoomFindsItsBlocksAndConnections)

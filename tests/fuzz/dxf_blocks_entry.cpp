@@ -3,6 +3,7 @@
 #include "workbench/drawing/dxf_blocks.h"
 #include "workbench/drawing/dxf_writer.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -42,18 +43,68 @@ struct CCheckShape
     }
 };
 
-/// Names that any version of the format can hold in place of those of the file.
-void Rename(CDxfDrawing& drawing)
+void CheckEntities(const std::vector<CDxfEntity>& entities)
 {
-    int number = 0;
-    for (CDxfLayer& layer : drawing.layers) {
-        layer.strName = FormatInt(++number);
+    for (const CDxfEntity& entity : entities) {
+        Require(entity.nColor >= 0 && entity.nColor <= 256, "every colour is an index");
+        std::visit(CCheckShape(), entity.shape);
     }
+}
+
+/// Names and texts that any version of the format can hold in place of those of the file: what the
+/// code page lacks takes more bytes to write than it took to read.
+class CShortener
+{
+public:
+    void operator()(CString& text) const { text.resize(std::min<std::size_t>(text.size(), 35)); }
+
+    template <class ITEM>
+    void operator()(std::vector<ITEM>& items) const
+    {
+        std::ranges::for_each(items, *this);
+    }
+
+    void operator()(CDxfLayer& layer) const { (*this)(layer.strName); }
+    void operator()(CDxfEntity& entity) const { (*this)(entity.strLayer); }
+
+    void operator()(CDxfAttribute& attribute) const
+    {
+        (*this)(attribute.strName);
+        (*this)(attribute.strWert);
+    }
+
+    void operator()(CDxfBlock& block) const
+    {
+        (*this)(block.entities);
+        (*this)(block.attribute);
+    }
+
+    void operator()(CDxfInsert& insert) const
+    {
+        (*this)(insert.strLayer);
+        (*this)(insert.strBlock);
+        (*this)(insert.attribute);
+    }
+
+    void operator()(CDxfText& text) const
+    {
+        (*this)(text.strLayer);
+        (*this)(text.strText);
+    }
+};
+
+/// Block names must stay different from each other.
+void Shorten(CDxfDrawing& drawing)
+{
+    const CShortener shorten;
+    shorten(drawing.layers);
+    shorten(drawing.blocks);
+    shorten(drawing.entities);
+    shorten(drawing.inserts);
+    shorten(drawing.texts);
+    int number = 0;
     for (CDxfBlock& block : drawing.blocks) {
         block.strName = FormatInt(++number);
-        for (CDxfEntity& entity : block.entities) {
-            entity.strLayer = L"0";
-        }
     }
 }
 
@@ -68,12 +119,14 @@ void RunDxfBlocks(std::span<const std::uint8_t> bytes)
     }
     auto& drawing = std::get<CDxfDrawing>(parsed);
     for (const CDxfBlock& block : drawing.blocks) {
-        for (const CDxfEntity& entity : block.entities) {
-            Require(entity.nColor >= 0 && entity.nColor <= 256, "every colour is an index");
-            std::visit(CCheckShape(), entity.shape);
-        }
+        CheckEntities(block.entities);
     }
-    Rename(drawing);
+    CheckEntities(drawing.entities);
+    for (const CDxfText& text : drawing.texts) {
+        CheckPoint(text.punkt);
+        Require(std::isfinite(text.dWinkel), "every angle is a number");
+    }
+    Shorten(drawing);
     const std::string text = WriteDxf(drawing);
     const auto again = ParseDxf({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
     const auto* const same = std::get_if<CDxfDrawing>(&again);

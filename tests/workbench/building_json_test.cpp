@@ -62,7 +62,7 @@ TEST(BuildingJson, LimitsFollowFromWindowOrWall)
     ASSERT_EQ(building.floors.size(), 1u);
     ASSERT_EQ(building.floors[0].rooms.size(), 2u);
 
-    const CRoom& window = building.floors[0].rooms[0];
+    const CRoom& window = *building.floors[0].rooms[0];
     EXPECT_EQ(window.strName, L"Città");
     EXPECT_EQ(window.GetLeistung(), 849.5);
     EXPECT_EQ(window.grenzen.hoeheMax, 720.0); // 900 - 100 - 80
@@ -71,7 +71,7 @@ TEST(BuildingJson, LimitsFollowFromWindowOrWall)
     EXPECT_EQ(window.grenzen.tiefeMax, 120.0);
     EXPECT_EQ(window.strProdukt, L"P");
 
-    const CRoom& wall = building.floors[0].rooms[1];
+    const CRoom& wall = *building.floors[0].rooms[1];
     EXPECT_EQ(wall.grenzen.hoeheMax, 1900.0); // 2000 - 100
     EXPECT_EQ(wall.gedeckt, 0.0);
     EXPECT_GE(wall.grenzen.tiefeMax, 10000.0);
@@ -83,7 +83,7 @@ TEST(BuildingJson, WrongFieldsAreNamedWithTheirRoom)
     {
         std::string from, to, message;
     } cases[] = {
-        {"\"version\": 1", "\"version\": 2",
+        {"\"version\": 1", "\"version\": 3",
          "campo \"version\": il file è di una versione più recente del programma"},
         {"\"name\": \"Casa\",", "", "campo \"name\": manca"},
         {"55.5", "70", "campo \"return\": deve essere maggiore di 0 e minore di \"supply\""},
@@ -162,8 +162,8 @@ TEST(BuildingJson, ValvesOfARoomWinPieceByPiece)
         const CTempFolder folder;
         folder.WriteBytes("casa.json", WithValves(test.building, test.room));
         const CBuilding building = ReadBuilding(folder.Path("casa.json"));
-        const CValveKeys& first = building.floors[0].rooms[0].ventile;
-        const CValveKeys& second = building.floors[0].rooms[1].ventile;
+        const CValveKeys& first = building.floors[0].rooms[0]->ventile;
+        const CValveKeys& second = building.floors[0].rooms[1]->ventile;
         EXPECT_EQ(first.vorlauf.value_or(CValveKey()).strHersteller, test.supply) << test.room;
         EXPECT_EQ(first.ruecklauf.value_or(CValveKey()).strHersteller, test.back) << test.room;
         EXPECT_EQ(second.ruecklauf.has_value(), !test.building.empty()) << test.room;

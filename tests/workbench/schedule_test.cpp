@@ -47,6 +47,16 @@ protected:
         m_folder.WriteBytes("Rotto/hk.tga", kDamagedCatalogue);
     }
 
+    static CFloor Floor(const CString& name, const std::vector<CRoom>& rooms)
+    {
+        CFloor floor;
+        floor.strName = name;
+        for (const CRoom& room : rooms) {
+            floor.rooms.push_back(std::make_shared<const CRoom>(room));
+        }
+        return floor;
+    }
+
     static CRoom Room(const CString& name, double bedarf, const CString& art,
                       const CString& produkt)
     {
@@ -184,8 +194,10 @@ TEST_F(ScheduleTest, TotalsCountChosenRadiatorsAndEveryDemand)
     low.grenzen.hoeheMax = 300.0;
     const CRoom first = Room(L"Sala; \"grande\"", 1000.0, L"Piastre", L"P10");
     const CRoom second = Room(L"Piccolo", 850.0, L"Elementi", L"E80");
-    const CSchedule schedule = MakeSchedule(
-        {L"Casa", kStandard, {{L"Terra", {first, covered, damaged}}, {L"Primo", {second, low}}}});
+    CBuilding building;
+    building.system = kStandard;
+    building.floors = {Floor(L"Terra", {first, covered, damaged}), Floor(L"Primo", {second, low})};
+    const CSchedule schedule = MakeSchedule(building);
 
     // Chosen: 1000 W with 2 l, 800 W with 4 l. Required: 1000 + 0 + 400 + 850 + 1000.
     const CScheduleTotals& totals = schedule.totals;

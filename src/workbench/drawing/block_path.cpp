@@ -137,3 +137,17 @@ QRectF BoundsOf(const std::vector<CColorPath>& paths)
     }
     return {QPointF(left, low), QPointF(right, high)};
 }
+
+QTransform PlaceInPlan(const QRectF& bounds, const QPointF& middle, double degrees, double length,
+                       double depth)
+{
+    const auto stretch = [](double wanted, double given) {
+        return given > 0.0 ? wanted / given : 1.0;
+    };
+    QTransform transform;
+    transform.translate(middle.x(), middle.y());
+    transform.rotate(degrees);
+    transform.scale(stretch(length, bounds.width()), stretch(depth, bounds.height()));
+    transform.translate(-bounds.center().x(), -bounds.center().y());
+    return transform;
+}

@@ -4,6 +4,7 @@
 #include "workbench/drawing/dxf_drawing.h"
 
 #include <QPainterPath>
+#include <QTransform>
 
 #include <vector>
 
@@ -23,3 +24,8 @@ std::vector<CColorPath> MakeBlockPaths(const std::vector<CDxfLayer>& layers,
 
 /// The smallest rectangle around the paths; a null one if they draw nothing.
 QRectF BoundsOf(const std::vector<CColorPath>& paths);
+
+/// Puts what has these bounds into a plan: stretched to a length and a depth, turned by degrees
+/// counter-clockwise, and with its middle in that place.
+QTransform PlaceInPlan(const QRectF& bounds, const QPointF& middle, double degrees, double length,
+                       double depth);

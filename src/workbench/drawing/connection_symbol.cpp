@@ -23,6 +23,32 @@ constexpr double kUprightShare = 0.1;
 /// In pixels at any zoom, so that the preview stays visible in a large plan.
 constexpr double kPenWidth = 2.0;
 
+/// A symbol that finds no free place within this many steps stays where it is.
+constexpr int kMostSteps = 8;
+
+double Distance(const QPointF& a, const QPointF& b)
+{
+    return std::hypot(a.x() - b.x(), a.y() - b.y());
+}
+
+/// The way, a symbol's width, by which one that would cover another moves aside.
+QPointF StepAside(const CConnectionMark& mark)
+{
+    // Pipes that leave one end in a row stand across it, upright ones side by side.
+    const double width = 1.15 * WidthOfSymbol(mark);
+    return IsUpright(mark) ? QPointF(width, 0.0)
+                           : QPointF(-mark.richtung.y(), mark.richtung.x()) * width;
+}
+
+bool Covers(const CConnectionMark& mark, const std::vector<CConnectionMark>& standing)
+{
+    return std::ranges::any_of(standing, [&](const CConnectionMark& other) {
+        return IsUpright(mark) == IsUpright(other) &&
+               Distance(mark.punkt, other.punkt) < 0.5 * WidthOfSymbol(mark) &&
+               Distance(mark.richtung, other.richtung) < 0.5;
+    });
+}
+
 QPainterPath LineBetween(const QPointF& from, const QPointF& to)
 {
     QPainterPath path(from);
@@ -98,4 +124,16 @@ QGraphicsItem* MakeConnectionSymbol(const CConnectionMark& mark)
 double WidthOfSymbol(const CConnectionMark& mark)
 {
     return IsUpright(mark) ? 2.0 * kRingRadius : kHeadWidth;
+}
+
+QPointF PlaceBeside(CConnectionMark mark, const std::vector<CConnectionMark>& standing)
+{
+    const QPointF step = StepAside(mark);
+    const QPointF place = mark.punkt;
+    for (int i = 0; i < kMostSteps; ++i, mark.punkt += step) {
+        if (!Covers(mark, standing)) {
+            return mark.punkt;
+        }
+    }
+    return place;
 }

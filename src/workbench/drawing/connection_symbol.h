@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QGraphicsItem>
 
+#include <vector>
+
 /// One connection point of a drawing whose unit is the metre, seen from above.
 struct CConnectionMark
 {
@@ -27,3 +29,7 @@ QGraphicsItem* MakeConnectionSymbol(const CConnectionMark& mark);
 
 /// Width of a symbol across its direction, in metres.
 double WidthOfSymbol(const CConnectionMark& mark);
+
+/// Where the mark's symbol stands so that it does not cover one of those that stand already: in its
+/// place, or a few widths beside.
+QPointF PlaceBeside(CConnectionMark mark, const std::vector<CConnectionMark>& standing);

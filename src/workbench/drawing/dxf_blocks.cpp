@@ -63,7 +63,8 @@ CString Unescaped(const CString& text)
         const std::size_t end = found + mark.size() + (isCode ? digits : 0);
         result += text.substr(at, (isCode ? found : end) - at);
         if (isCode) {
-            result += static_cast<wchar_t>(std::stoi(code, nullptr, 16));
+            const auto unit = static_cast<char16_t>(std::stoi(code, nullptr, 16));
+            AppendUtf16(result, {&unit, 1});
         }
         at = end;
     }
@@ -93,7 +94,7 @@ public:
     void addBlock(const DL_BlockData& data) override
     {
         RequireClosed();
-        CDxfBlock block{Text(data.name), {data.bpx, data.bpy}, {}};
+        CDxfBlock block{Text(data.name), {data.bpx, data.bpy}};
         if (!block.strName.starts_with(L'*') && !m_names.insert(ToLower(block.strName)).second) {
             Refuse(L"Il blocco " + block.strName + L" è definito due volte.");
         }
@@ -106,7 +107,7 @@ public:
             m_drawing.blocks.push_back(std::move(*m_block));
         }
         m_block.reset();
-        m_polyline = nullptr;
+        EndOwner();
     }
 
     void addLine(const DL_LineData& data) override
@@ -128,10 +129,10 @@ public:
 
     void addPolyline(const DL_PolylineData& data) override
     {
-        m_polyline = nullptr;
-        if (m_block && (data.flags & kPolylineMesh) == 0) {
+        EndOwner();
+        if ((data.flags & kPolylineMesh) == 0) {
             Add(CDxfPolyline{{}, (data.flags & kPolylineClosed) != 0});
-            m_polyline = std::get_if<CDxfPolyline>(&m_block->entities.back().shape);
+            m_polyline = std::get_if<CDxfPolyline>(&Entities().back().shape);
         }
     }
 
@@ -142,7 +143,44 @@ public:
         }
     }
 
-    void endSequence() override { m_polyline = nullptr; }
+    void addInsert(const DL_InsertData& data) override
+    {
+        EndOwner();
+        m_drawing.inserts.push_back({Text(attributes.getLayer()),
+                                     IndexOf(attributes.getColor()),
+                                     Text(data.name),
+                                     {data.ipx, data.ipy},
+                                     data.sx,
+                                     data.sy,
+                                     data.angle});
+        m_attribute = &m_drawing.inserts.back().attribute;
+    }
+
+    void addAttribute(const DL_AttributeData& data) override
+    {
+        std::vector<CDxfAttribute>* const owned = m_block ? &m_block->attribute : m_attribute;
+        if (owned) {
+            owned->push_back({Text(data.tag), Text(data.text)});
+        }
+    }
+
+    void addText(const DL_TextData& data) override
+    {
+        EndOwner();
+        // dxflib writes no number for a point that the text does not have.
+        const bool aligned = data.vJustification == 0 && std::isfinite(data.apx) &&
+                             std::isfinite(data.apy) &&
+                             (data.hJustification == 1 || data.hJustification == 2);
+        const CDxfPoint punkt =
+            aligned ? CDxfPoint{data.apx, data.apy} : CDxfPoint{data.ipx, data.ipy};
+        m_drawing.texts.push_back(
+            {Text(attributes.getLayer()), IndexOf(attributes.getColor()), punkt, data.height,
+             data.xScaleFactor,
+             aligned ? static_cast<DxfAlign>(data.hJustification) : DxfAlign::left,
+             Text(data.text)});
+    }
+
+    void endSequence() override { EndOwner(); }
 
     /// A block that lacks its end would vanish without a word.
     void RequireClosed() const
@@ -169,13 +207,20 @@ private:
         return Unescaped(text);
     }
 
+    std::vector<CDxfEntity>& Entities() { return m_block ? m_block->entities : m_drawing.entities; }
+
     void Add(CDxfShape shape)
     {
+        EndOwner();
+        Entities().push_back(
+            {Text(attributes.getLayer()), IndexOf(attributes.getColor()), std::move(shape)});
+    }
+
+    /// What follows belongs to no polyline and to no insert.
+    void EndOwner()
+    {
         m_polyline = nullptr;
-        if (m_block) {
-            m_block->entities.push_back(
-                {Text(attributes.getLayer()), IndexOf(attributes.getColor()), std::move(shape)});
-        }
+        m_attribute = nullptr;
     }
 
     void RequireRadius(double radius) const
@@ -194,6 +239,8 @@ private:
     std::optional<CDxfBlock> m_block;
     /// The polyline that vertices belong to; null outside one.
     CDxfPolyline* m_polyline = nullptr;
+    /// Those of the insert that attributes belong to; null outside one.
+    std::vector<CDxfAttribute>* m_attribute = nullptr;
 };
 
 CDxfDrawing Build(const CScreenedDxf& screened)
@@ -231,29 +278,30 @@ std::variant<std::vector<std::uint8_t>, CDxfFault> ReadAll(const CString& path)
     }
 }
 
-std::variant<CDxfDrawing, CDxfFault> ReadDrawing(const CString& path)
+std::variant<CDxfDrawing, CDxfFault> ReadDrawing(const CString& path, DxfContent content)
 {
     const auto bytes = ReadAll(path);
     if (const auto* const fault = std::get_if<CDxfFault>(&bytes)) {
         return *fault;
     }
-    return ParseDxf(std::get<std::vector<std::uint8_t>>(bytes));
+    return ParseDxf(std::get<std::vector<std::uint8_t>>(bytes), content);
 }
 
 } // namespace
 
-std::variant<CDxfDrawing, CDxfFault> ParseDxf(std::span<const std::uint8_t> bytes)
+std::variant<CDxfDrawing, CDxfFault> ParseDxf(std::span<const std::uint8_t> bytes,
+                                              DxfContent content)
 {
     try {
-        return Build(ScreenDxf(bytes));
+        return Build(ScreenDxf(bytes, content));
     } catch (const CDxfFault& fault) {
         return fault;
     }
 }
 
-std::variant<CDxfDrawing, CDxfError> ReadDxfFile(const CString& path)
+std::variant<CDxfDrawing, CDxfError> ReadDxfFile(const CString& path, DxfContent content)
 {
-    auto read = ReadDrawing(path);
+    auto read = ReadDrawing(path, content);
     if (const auto* const fault = std::get_if<CDxfFault>(&read)) {
         return CDxfError{TextFromPath(ResolvePath(path)), fault->nLine, fault->strMessage};
     }

@@ -10,6 +10,12 @@ const CDxfBlock* FindBlock(const CDxfDrawing& drawing, std::wstring_view name)
     return found != drawing.blocks.end() ? &*found : nullptr;
 }
 
+CString FindAttribute(const std::vector<CDxfAttribute>& attributes, std::wstring_view name)
+{
+    const auto found = std::ranges::find(attributes, name, &CDxfAttribute::strName);
+    return found != attributes.end() ? found->strWert : CString();
+}
+
 int FindLayerColor(const std::vector<CDxfLayer>& layers, std::wstring_view name)
 {
     const CString wanted = ToLower(CString(name));

@@ -6,8 +6,9 @@
 #include <variant>
 #include <vector>
 
-/// What the workbench takes from a DXF file: layers, and blocks of lines and curves in one plane.
-/// Coordinates are in the file's unit with y upwards, angles in degrees, counter-clockwise from +x.
+/// What the workbench takes from a DXF file: layers, blocks of lines and curves in one plane, and
+/// the drawing made of these, of texts and of inserted blocks. Coordinates are in the file's unit
+/// with y upwards, angles in degrees, counter-clockwise from +x.
 
 struct CDxfPoint
 {
@@ -72,13 +73,59 @@ struct CDxfEntity
     bool operator==(const CDxfEntity&) const = default;
 };
 
+/// A named value that a block carries without showing it.
+struct CDxfAttribute
+{
+    CString strName;
+    CString strWert;
+    bool operator==(const CDxfAttribute&) const = default;
+};
+
 struct CDxfBlock
 {
     CString strName;
     /// The point of the block that comes to stand where the block is inserted.
     CDxfPoint basis;
-    std::vector<CDxfEntity> entities;
+    std::vector<CDxfEntity> entities{};
+    /// What each insert is to have, with the values that a new one gets.
+    std::vector<CDxfAttribute> attribute{};
     bool operator==(const CDxfBlock&) const = default;
+};
+
+/// Which part of a text's base line its point is.
+enum class DxfAlign
+{
+    left,
+    middle,
+    right,
+};
+
+struct CDxfText
+{
+    CString strLayer;
+    int nColor = kColorByLayer;
+    CDxfPoint punkt;
+    /// Of the capitals.
+    double dHoehe = 0.0;
+    double dWinkel = 0.0;
+    DxfAlign ausrichtung = DxfAlign::left;
+    CString strText;
+    bool operator==(const CDxfText&) const = default;
+};
+
+/// A block in the drawing: stretched along its own axes, then turned.
+struct CDxfInsert
+{
+    CString strLayer;
+    /// What of the block is kColorByBlock takes this one.
+    int nColor = kColorByLayer;
+    CString strBlock;
+    CDxfPoint punkt;
+    double dSkalaX = 1.0;
+    double dSkalaY = 1.0;
+    double dWinkel = 0.0;
+    std::vector<CDxfAttribute> attribute{};
+    bool operator==(const CDxfInsert&) const = default;
 };
 
 struct CDxfLayer
@@ -93,11 +140,18 @@ struct CDxfDrawing
 {
     std::vector<CDxfLayer> layers;
     std::vector<CDxfBlock> blocks;
+    /// What the drawing shows. Each kind is in order; what lies above what is not kept.
+    std::vector<CDxfEntity> entities{};
+    std::vector<CDxfInsert> inserts{};
+    std::vector<CDxfText> texts{};
     bool operator==(const CDxfDrawing&) const = default;
 };
 
 /// The block of that name, case left aside as DXF does; null if there is none.
 const CDxfBlock* FindBlock(const CDxfDrawing& drawing, std::wstring_view name);
+
+/// Value of the first attribute of that name; empty if there is none.
+CString FindAttribute(const std::vector<CDxfAttribute>& attributes, std::wstring_view name);
 
 /// Colour index of the layer of that name, case left aside; kColorDefault for an unknown one.
 int FindLayerColor(const std::vector<CDxfLayer>& layers, std::wstring_view name);

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <initializer_list>
 #include <optional>
 #include <string_view>
 
@@ -17,6 +18,9 @@ constexpr double kMaxNumber = 1e9;
 /// Longest name that the format allows.
 constexpr std::size_t kMaxName = 255;
 
+/// Texts may be longer, but no line of dxflib's reaches 1024 bytes.
+constexpr std::size_t kMaxText = 1000;
+
 /// First version of the format that writes its texts in UTF-8.
 constexpr std::string_view kFirstUtf8Version = "AC1021";
 
@@ -26,6 +30,9 @@ constexpr int kCodeName = 2;
 constexpr int kCodeLayer = 8;
 constexpr int kCodeVariable = 9;
 constexpr int kCodeX = 10;
+constexpr int kCodeWidthFactor = 41;
+constexpr int kCodeAngle = 50;
+constexpr int kCodePaperSpace = 67;
 constexpr int kCodeVertexCount = 90;
 
 struct CGroup
@@ -101,14 +108,33 @@ private:
     int m_nLine = 0;
 };
 
-bool IsWanted(std::string_view section, std::string_view record)
+bool IsOneOf(std::string_view record, std::initializer_list<std::string_view> records)
 {
-    constexpr std::string_view blockRecords[] = {
-        "BLOCK", "ENDBLK", "LINE", "CIRCLE", "ARC", "LWPOLYLINE", "POLYLINE", "VERTEX", "SEQEND"};
-    if (section == "TABLES") {
-        return record == "LAYER";
+    return std::ranges::count(records, record) > 0;
+}
+
+bool IsShape(std::string_view record)
+{
+    return IsOneOf(record, {"LINE", "CIRCLE", "ARC", "LWPOLYLINE", "POLYLINE"});
+}
+
+/// True for records that belong to the one before them that is none of these.
+bool IsPart(std::string_view record)
+{
+    return IsOneOf(record, {"VERTEX", "ATTRIB", "SEQEND"});
+}
+
+/// What a record without a name is called, of those that dxflib would pass over for it, leaving
+/// what follows to nobody or to the one before; empty for all others.
+CString NeedOfName(std::string_view record)
+{
+    if (record == "BLOCK") {
+        return L"Un blocco";
     }
-    return section == "BLOCKS" && std::ranges::count(blockRecords, record) > 0;
+    if (record == "INSERT") {
+        return L"L'inserimento di un blocco";
+    }
+    return IsOneOf(record, {"ATTDEF", "ATTRIB"}) ? L"Un attributo" : L"";
 }
 
 bool IsReal(int code)
@@ -125,7 +151,10 @@ bool IsInt(int code)
 class CScreening
 {
 public:
-    explicit CScreening(std::span<const std::uint8_t> bytes) : m_reader(bytes) {}
+    CScreening(std::span<const std::uint8_t> bytes, DxfContent content)
+        : m_reader(bytes), m_content(content)
+    {
+    }
 
     CScreenedDxf Run()
     {
@@ -151,10 +180,40 @@ private:
         }
         if (record == "SECTION") {
             EnterSection();
-        } else if (IsWanted(m_section, record)) {
+        } else if (IsWanted(record)) {
             WriteRecord(record);
         }
         return group;
+    }
+
+    bool IsWanted(std::string_view record)
+    {
+        if (!IsPart(record)) {
+            m_bWanted = IsWantedAlone(record);
+        }
+        return m_bWanted;
+    }
+
+    bool IsWantedAlone(std::string_view record)
+    {
+        if (m_section == "TABLES") {
+            return record == "LAYER";
+        }
+        if (m_section == "BLOCKS") {
+            const bool bounds = IsOneOf(record, {"BLOCK", "ENDBLK"});
+            m_bInBlock = bounds ? record == "BLOCK" : m_bInBlock;
+            return bounds || (m_bInBlock && (IsShape(record) || record == "ATTDEF"));
+        }
+        return m_section == "ENTITIES" && m_content == DxfContent::wholeDrawing &&
+               (IsShape(record) || IsOneOf(record, {"INSERT", "TEXT"})) && !IsInPaperSpace();
+    }
+
+    /// Frames and legends of a printed sheet are in its scale, not in that of the drawing.
+    bool IsInPaperSpace() const
+    {
+        return std::ranges::any_of(m_groups, [](const CGroup& group) {
+            return group.nCode == kCodePaperSpace && Trimmed(group.value) == "1";
+        });
     }
 
     void EnterSection()
@@ -171,44 +230,59 @@ private:
 
     void WriteRecord(std::string_view record)
     {
-        // dxflib would pass over it and leave its entities to nobody.
-        if (record == "BLOCK" && std::ranges::count(m_groups, kCodeName, &CGroup::nCode) == 0) {
-            throw CDxfFault{m_nRecordLine, L"Un blocco non ha nome."};
+        const CString needy = NeedOfName(record);
+        if (!needy.empty() && std::ranges::count(m_groups, kCodeName, &CGroup::nCode) == 0) {
+            throw CDxfFault{m_nRecordLine, needy + L" non ha nome."};
         }
-        Write(kCodeRecord, record);
+        Write(kCodeRecord, record == "ATTDEF" ? "ATTRIB" : record);
         if (record == "LWPOLYLINE") {
             // The stated count may be anything, and dxflib sizes its array by it.
             const auto count = std::ranges::count(m_groups, kCodeX, &CGroup::nCode);
             Write(kCodeVertexCount, std::to_string(count));
         }
+        if (record == "TEXT") {
+            Write(kCodeWidthFactor, "0");
+            std::erase_if(m_groups,
+                          [](const auto& group) { return group.nCode == kCodeWidthFactor; });
+        }
         for (const CGroup& group : m_groups) {
-            if (group.nCode == kCodeName || group.nCode == kCodeLayer) {
-                WriteName(group);
-            } else if (IsReal(group.nCode)) {
-                WriteReal(group);
-            } else if (IsInt(group.nCode)) {
-                WriteInt(group);
-            }
+            WriteGroup(record, group);
         }
     }
 
-    void WriteName(const CGroup& group)
+    void WriteGroup(std::string_view record, const CGroup& group)
+    {
+        if (group.nCode == kCodeName || group.nCode == kCodeLayer) {
+            WriteText(group, 1, kMaxName);
+        } else if (group.nCode == kCodeText && IsOneOf(record, {"TEXT", "ATTRIB", "ATTDEF"})) {
+            WriteText(group, 0, kMaxText);
+        } else if (group.nCode == kCodeAngle && record == "TEXT") {
+            WriteReal(group, kCodeWidthFactor);
+        } else if (IsReal(group.nCode)) {
+            WriteReal(group, group.nCode);
+        } else if (IsInt(group.nCode)) {
+            WriteInt(group);
+        }
+    }
+
+    void WriteText(const CGroup& group, std::size_t least, std::size_t most)
     {
         const bool hasControl = std::ranges::any_of(
             group.value, [](char c) { return static_cast<unsigned char>(c) < ' '; });
-        if (group.value.empty() || group.value.size() > kMaxName || hasControl) {
-            throw CDxfFault{group.nLine + 1, L"Nome vuoto, troppo lungo o con caratteri illeciti."};
+        if (group.value.size() < least || group.value.size() > most || hasControl) {
+            throw CDxfFault{group.nLine + 1,
+                            L"Testo vuoto, troppo lungo o con caratteri illeciti."};
         }
         Write(group.nCode, group.value);
     }
 
-    void WriteReal(const CGroup& group)
+    void WriteReal(const CGroup& group, int code)
     {
         const std::optional<double> value = ParseNumber<double>(group.value);
         if (!value || !(std::fabs(*value) <= kMaxNumber)) {
             RefuseNumber(group);
         }
-        Write(group.nCode, Utf8FromWide(FormatExact(*value)));
+        Write(code, Utf8FromWide(FormatExact(*value)));
     }
 
     void WriteInt(const CGroup& group)
@@ -236,7 +310,11 @@ private:
     }
 
     CGroupReader m_reader;
+    DxfContent m_content;
     std::string_view m_section;
+    bool m_bInBlock = false;
+    /// Whether the last record that is no part of another was wanted.
+    bool m_bWanted = false;
     std::vector<CGroup> m_groups;
     int m_nRecordLine = 0;
     CScreenedDxf m_screened;
@@ -244,7 +322,7 @@ private:
 
 } // namespace
 
-CScreenedDxf ScreenDxf(std::span<const std::uint8_t> bytes)
+CScreenedDxf ScreenDxf(std::span<const std::uint8_t> bytes, DxfContent content)
 {
-    return CScreening(bytes).Run();
+    return CScreening(bytes, content).Run();
 }

@@ -3,20 +3,51 @@
 #include "platform/encoding.h"
 #include "platform/format.h"
 
+#include <cstdio>
+
 namespace {
+
+/// An attribute takes part in no picture, but CAD programs want a size for its text, in metres.
+constexpr double kAttributeHeight = 0.05;
+constexpr int kInvisible = 1;
+
+/// True if a reader would take what stands at `at` for a character that the code page lacks.
+bool IsEscape(const CString& text, std::size_t at)
+{
+    constexpr std::size_t length = 7;
+    return text.compare(at, 3, L"\\U+") == 0 && at + length <= text.size() &&
+           text.find_first_not_of(L"0123456789abcdefABCDEF", at + 3) >= at + length;
+}
+
+/// Bytes of code page 1252, with "\U+xxxx" for what it lacks and for what would break a line.
+std::string EscapedText(const CString& text)
+{
+    std::string bytes;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::string plain = Cp1252FromWide(text.substr(i, 1));
+        const bool isLacking = plain == "?" && text[i] != L'?';
+        if (!isLacking && text[i] >= L' ' && !IsEscape(text, i)) {
+            bytes += plain;
+            continue;
+        }
+        for (const char16_t unit : Utf16FromWide(text.substr(i, 1))) {
+            char digits[16];
+            std::snprintf(digits, sizeof digits, "\\U+%04X", static_cast<unsigned>(unit));
+            bytes += digits;
+        }
+    }
+    return bytes;
+}
 
 /// Writes groups: a line with the code, a line with the value.
 class CGroupWriter
 {
 public:
-    void Text(int code, const CString& value)
-    {
-        m_text += std::to_string(code) + "\r\n" + Cp1252FromWide(value) + "\r\n";
-    }
+    void Text(int code, const CString& value) { Group(code, EscapedText(value)); }
 
-    void Int(int code, int value) { Text(code, FormatInt(value)); }
+    void Int(int code, int value) { Group(code, std::to_string(value)); }
 
-    void Real(int code, double value) { Text(code, FormatExact(value)); }
+    void Real(int code, double value) { Group(code, Utf8FromWide(FormatExact(value))); }
 
     /// x, y and z; the codes of the three are ten apart.
     void Point(int code, const CDxfPoint& point)
@@ -29,6 +60,11 @@ public:
     std::string TakeText() { return std::move(m_text); }
 
 private:
+    void Group(int code, const std::string& value)
+    {
+        m_text += std::to_string(code) + "\r\n" + value + "\r\n";
+    }
+
     std::string m_text;
 };
 
@@ -133,6 +169,26 @@ void WriteLayers(CGroupWriter& out, const std::vector<CDxfLayer>& layers)
     out.Text(0, L"ENDTAB");
 }
 
+void WriteEntities(CGroupWriter& out, const std::vector<CDxfEntity>& entities)
+{
+    for (const CDxfEntity& entity : entities) {
+        std::visit(CEntityWriter(out, entity), entity.shape);
+    }
+}
+
+/// `record` is that of an attribute or of its definition.
+void WriteAttribute(CGroupWriter& out, const CString& record, const CString& layer,
+                    const CDxfPoint& punkt, const CDxfAttribute& attribute)
+{
+    out.Text(0, record);
+    out.Text(8, layer);
+    out.Point(10, punkt);
+    out.Real(40, kAttributeHeight);
+    out.Text(1, attribute.strWert);
+    out.Text(2, attribute.strName);
+    out.Int(70, kInvisible);
+}
+
 void WriteBlock(CGroupWriter& out, const CDxfBlock& block)
 {
     out.Text(0, L"BLOCK");
@@ -141,11 +197,50 @@ void WriteBlock(CGroupWriter& out, const CDxfBlock& block)
     out.Int(70, 0);
     out.Point(10, block.basis);
     out.Text(3, block.strName);
-    for (const CDxfEntity& entity : block.entities) {
-        std::visit(CEntityWriter(out, entity), entity.shape);
+    WriteEntities(out, block.entities);
+    for (const CDxfAttribute& attribute : block.attribute) {
+        WriteAttribute(out, L"ATTDEF", L"0", block.basis, attribute);
+        out.Text(3, attribute.strName);
     }
     out.Text(0, L"ENDBLK");
     out.Text(8, L"0");
+}
+
+void WriteInsert(CGroupWriter& out, const CDxfInsert& insert)
+{
+    out.Text(0, L"INSERT");
+    out.Text(8, insert.strLayer);
+    out.Int(62, insert.nColor);
+    if (!insert.attribute.empty()) {
+        out.Int(66, 1);
+    }
+    out.Text(2, insert.strBlock);
+    out.Point(10, insert.punkt);
+    out.Real(41, insert.dSkalaX);
+    out.Real(42, insert.dSkalaY);
+    out.Real(50, insert.dWinkel);
+    for (const CDxfAttribute& attribute : insert.attribute) {
+        WriteAttribute(out, L"ATTRIB", insert.strLayer, insert.punkt, attribute);
+    }
+    if (!insert.attribute.empty()) {
+        out.Text(0, L"SEQEND");
+        out.Text(8, insert.strLayer);
+    }
+}
+
+void WriteText(CGroupWriter& out, const CDxfText& text)
+{
+    out.Text(0, L"TEXT");
+    out.Text(8, text.strLayer);
+    out.Int(62, text.nColor);
+    out.Point(10, text.punkt);
+    out.Real(40, text.dHoehe);
+    out.Text(1, text.strText);
+    out.Real(50, text.dWinkel);
+    if (text.ausrichtung != DxfAlign::left) {
+        out.Int(72, static_cast<int>(text.ausrichtung));
+        out.Point(11, text.punkt);
+    }
 }
 
 } // namespace
@@ -164,6 +259,13 @@ std::string WriteDxf(const CDxfDrawing& drawing)
     }
     out.Text(0, L"ENDSEC");
     BeginSection(out, L"ENTITIES");
+    WriteEntities(out, drawing.entities);
+    for (const CDxfInsert& insert : drawing.inserts) {
+        WriteInsert(out, insert);
+    }
+    for (const CDxfText& text : drawing.texts) {
+        WriteText(out, text);
+    }
     out.Text(0, L"ENDSEC");
     out.Text(0, L"EOF");
     return out.TakeText();

@@ -1,5 +1,6 @@
 #include "workbench/drawing/plan_view.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -15,6 +16,9 @@ constexpr double kMostScale = 8000.0;
 
 constexpr double kFactorPerNotch = 1.2;
 constexpr double kUnitsPerNotch = 120.0;
+
+/// Part of the window by which an arrow key moves the plan.
+constexpr int kStepsPerWindow = 8;
 
 /// Part of the content's size that is left free on every side.
 constexpr double kMarginShare = 0.04;
@@ -33,13 +37,22 @@ QRectF FramedContent(const QGraphicsScene& scene)
     return content.adjusted(-margin, -margin, margin, margin);
 }
 
+bool IsTab(const QEvent& event)
+{
+    if (event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    const auto& key = static_cast<const QKeyEvent&>(event);
+    return (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) &&
+           (key.modifiers() & ~Qt::ShiftModifier) == Qt::NoModifier;
+}
+
 } // namespace
 
 CPlanView::CPlanView(QGraphicsScene* scene, QWidget* parent) : QGraphicsView(scene, parent)
 {
     setRenderHint(QPainter::Antialiasing);
     setBackgroundBrush(Qt::white);
-    setDragMode(ScrollHandDrag);
     setTransformationAnchor(NoAnchor);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -68,9 +81,26 @@ void CPlanView::ZoomAt(const QPoint& position, double factor)
     const double before = transform().m11();
     const double after = std::clamp(before * factor, kLeastScale, kMostScale);
     setTransform(QTransform::fromScale(after, -after));
-    const QPoint moved = mapFromScene(held) - position;
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + moved.x());
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + moved.y());
+    PanBy(position - mapFromScene(held));
+}
+
+void CPlanView::PanBy(const QPoint& pixels)
+{
+    m_bFitted = false;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() - pixels.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - pixels.y());
+}
+
+bool CPlanView::event(QEvent* event)
+{
+    // Otherwise a widget gives the focus away before the scene is asked.
+    if (IsTab(*event) && scene() != nullptr) {
+        QCoreApplication::sendEvent(scene(), event);
+        if (event->isAccepted()) {
+            return true;
+        }
+    }
+    return QGraphicsView::event(event);
 }
 
 void CPlanView::wheelEvent(QWheelEvent* event)
@@ -80,10 +110,90 @@ void CPlanView::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
+void CPlanView::keyPressEvent(QKeyEvent* event)
+{
+    if (!HandleKey(*event)) {
+        QGraphicsView::keyPressEvent(event);
+    }
+}
+
+bool CPlanView::HandleKey(const QKeyEvent& event)
+{
+    const QPoint middle = viewport()->rect().center();
+    // On many keyboards "+" needs Shift, and without it is "=".
+    switch (event.key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        ZoomAt(middle, kFactorPerNotch);
+        return true;
+    case Qt::Key_Minus:
+        ZoomAt(middle, 1.0 / kFactorPerNotch);
+        return true;
+    default:
+        break;
+    }
+    if ((event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) {
+        return false;
+    }
+    const QSize step = viewport()->size() / kStepsPerWindow;
+    switch (event.key()) {
+    case Qt::Key_Home:
+        FitToContent();
+        return true;
+    case Qt::Key_Left:
+        PanBy({step.width(), 0});
+        return true;
+    case Qt::Key_Right:
+        PanBy({-step.width(), 0});
+        return true;
+    case Qt::Key_Up:
+        PanBy({0, step.height()});
+        return true;
+    case Qt::Key_Down:
+        PanBy({0, -step.height()});
+        return true;
+    default:
+        return false;
+    }
+}
+
 void CPlanView::mousePressEvent(QMouseEvent* event)
 {
-    m_bFitted = false;
-    QGraphicsView::mousePressEvent(event);
+    const bool isLeft = event->button() == Qt::LeftButton;
+    if (event->button() == Qt::MiddleButton ||
+        (isLeft && !event->modifiers().testFlag(Qt::ShiftModifier))) {
+        m_drag = Drag::begun;
+        m_held = event->pos();
+    }
+    if (event->button() != Qt::MiddleButton) {
+        QGraphicsView::mousePressEvent(event);
+    }
+}
+
+void CPlanView::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint moved = event->pos() - m_held;
+    if (m_drag == Drag::begun && moved.manhattanLength() >= QApplication::startDragDistance()) {
+        m_drag = Drag::moving;
+        viewport()->setCursor(Qt::ClosedHandCursor);
+    }
+    if (m_drag == Drag::moving) {
+        m_held = event->pos();
+        PanBy(moved);
+    } else {
+        QGraphicsView::mouseMoveEvent(event);
+    }
+}
+
+void CPlanView::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool hasMoved = m_drag == Drag::moving;
+    m_drag = Drag::none;
+    if (hasMoved) {
+        viewport()->unsetCursor();
+    } else {
+        QGraphicsView::mouseReleaseEvent(event);
+    }
 }
 
 void CPlanView::resizeEvent(QResizeEvent* event)

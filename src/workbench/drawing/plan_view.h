@@ -3,8 +3,13 @@
 #include <QGraphicsView>
 
 /// Shows a plan whose scene has the metre as its unit and y upwards. The wheel zooms about the
-/// pointer, dragging moves the plan, and until the user does either the whole plan stays fitted to
-/// the window.
+/// pointer and "+" and "-" about the middle; dragging with the left or middle button and the arrow
+/// keys move the plan; "Home" shows all of it. Until the user does any of that the whole plan stays
+/// fitted to the window.
+///
+/// Clicks and all other keys are the scene's, Tab included as long as the scene accepts it, and so
+/// is dragging with Shift held. A drag that has moved the plan is no click: the scene gets the
+/// press but not the release.
 class CPlanView : public QGraphicsView
 {
 public:
@@ -19,10 +24,28 @@ public:
     void ZoomAt(const QPoint& position, double factor);
 
 protected:
+    bool event(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    enum class Drag
+    {
+        none,
+        /// A button is down, but the pointer has hardly moved.
+        begun,
+        moving,
+    };
+
+    bool HandleKey(const QKeyEvent& event);
+    void PanBy(const QPoint& pixels);
+
     bool m_bFitted = true;
+    Drag m_drag = Drag::none;
+    /// Where the pointer was when the plan was last moved by it.
+    QPoint m_held;
 };

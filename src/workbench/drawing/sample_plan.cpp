@@ -1,14 +1,9 @@
 #include "workbench/drawing/sample_plan.h"
 
-#include "platform/format.h"
 #include "workbench/drawing/block_path.h"
 #include "workbench/drawing/hairline_item.h"
 
 #include <QBrush>
-#include <QTransform>
-
-#include <cmath>
-#include <numbers>
 
 namespace {
 
@@ -23,41 +18,6 @@ QRectF RectBetween(const CDxfPoint& from, const CDxfPoint& to)
     return QRectF(QPointF(from.x, from.y), QPointF(to.x, to.y)).normalized();
 }
 
-LM_TRAFO TrafoOf(const CPlanRadiator& radiator)
-{
-    const double turn = radiator.dWinkel * std::numbers::pi / 180.0;
-    LM_TRAFO trafo;
-    trafo.Achsen = {
-        {{std::cos(turn), std::sin(turn), 0.0}, {-std::sin(turn), std::cos(turn), 0.0}, {0, 0, 1}}};
-    trafo.Ursprung = {radiator.dX, radiator.dY, radiator.dUeberBoden + radiator.dHoehe / 2.0};
-    return trafo;
-}
-
-ALIST* AttributesOf(const CPlanRadiator& radiator)
-{
-    const std::pair<const wchar_t*, CString> attributes[] = {
-        {L"H_VL_PUNKT", radiator.strVorlauf},         {L"H_RL_PUNKT", radiator.strRuecklauf},
-        {L"H_LAENGE", FormatExact(radiator.dLaenge)}, {L"H_TIEFE", FormatExact(radiator.dTiefe)},
-        {L"H_HOEHE", FormatExact(radiator.dHoehe)},
-    };
-    ALIST* head = nullptr;
-    ALIST** end = &head;
-    for (const auto& [name, value] : attributes) {
-        *end = new ALIST{name, value, nullptr};
-        end = &(*end)->pNext;
-    }
-    return head;
-}
-
-void DeleteAttributes(ALIST* attribute)
-{
-    while (attribute) {
-        ALIST* const next = attribute->pNext;
-        delete attribute;
-        attribute = next;
-    }
-}
-
 /// The radiator's block, or a rectangle in its place.
 std::vector<CColorPath> PathsOf(const CDxfDrawing& blocks, const CString& name)
 {
@@ -69,29 +29,7 @@ std::vector<CColorPath> PathsOf(const CDxfDrawing& blocks, const CString& name)
     return paths;
 }
 
-/// Stretches the bounds to the radiator's outline and puts that in its place.
-QTransform PlaceOf(const CPlanRadiator& radiator, const QRectF& bounds)
-{
-    const auto stretch = [](double wanted, double given) {
-        return given > 0.0 ? wanted / given : 1.0;
-    };
-    QTransform transform;
-    transform.translate(radiator.dX, radiator.dY);
-    transform.rotate(radiator.dWinkel);
-    transform.scale(stretch(radiator.dLaenge, bounds.width()),
-                    stretch(radiator.dTiefe, bounds.height()));
-    transform.translate(-bounds.center().x(), -bounds.center().y());
-    return transform;
-}
-
 } // namespace
-
-CSamplePlan::~CSamplePlan()
-{
-    for (const TGA_LIST& record : m_records) {
-        DeleteAttributes(record.Attribute);
-    }
-}
 
 void CSamplePlan::AddWall(const CDxfPoint& from, const CDxfPoint& to)
 {
@@ -117,17 +55,13 @@ void CSamplePlan::AddWindow(const CDxfPoint& from, const CDxfPoint& to)
 void CSamplePlan::AddRadiator(const CDxfDrawing& blocks, const CPlanRadiator& radiator)
 {
     const std::vector<CColorPath> paths = PathsOf(blocks, radiator.strBlock);
-    const QTransform place = PlaceOf(radiator, BoundsOf(paths));
+    const QTransform place = PlaceInPlan(BoundsOf(paths), {radiator.dX, radiator.dY},
+                                         radiator.dWinkel, radiator.dLaenge, radiator.dTiefe);
     for (const CColorPath& part : paths) {
         const QColor color(GetRValue(part.color), GetGValue(part.color), GetBValue(part.color));
         Add(place.map(part.path), color, Qt::NoBrush);
     }
-    TGA_LIST& record = m_records.emplace_back();
-    record.Trafo = TrafoOf(radiator);
-    record.Attribute = AttributesOf(radiator);
-    if (m_records.size() > 1) {
-        m_records[m_records.size() - 2].pNext = &record;
-    }
+    m_records.Add(radiator);
 }
 
 void CSamplePlan::Add(const QPainterPath& path, const QColor& pen, const QBrush& brush)
@@ -149,22 +83,20 @@ void FillSampleRoom(CSamplePlan& plan, const CDxfDrawing& blocks)
     plan.AddWindow({3.0, -0.3}, {4.2, 0.0});
     plan.AddWindow({-0.3, 1.4}, {0.0, 2.6});
 
-    const CString vorlauf = L"-0.5; 0.0;  0;0; 0.5; -0.03; 180;0";
-    const CString ruecklauf = L" 0.5; 0.0;  0;0;-0.5;  0.03; 0;0";
     plan.AddRadiator(blocks, {.strBlock = L"RAD_PIASTRA_22_PIANTA",
                               .dX = 1.3,
                               .dY = 0.09,
                               .dLaenge = 1.2,
                               .dTiefe = 0.102,
-                              .strVorlauf = vorlauf,
-                              .strRuecklauf = ruecklauf});
+                              .strVorlauf = kStandardVorlauf,
+                              .strRuecklauf = kStandardRuecklauf});
     plan.AddRadiator(blocks, {.strBlock = L"RAD_PIASTRA_22_PIANTA",
                               .dX = 3.6,
                               .dY = 0.09,
                               .dLaenge = 1.0,
                               .dTiefe = 0.102,
-                              .strVorlauf = vorlauf,
-                              .strRuecklauf = ruecklauf});
+                              .strVorlauf = kStandardVorlauf,
+                              .strRuecklauf = kStandardRuecklauf});
     plan.AddRadiator(blocks, {.strBlock = L"RAD_TUBOLARE_PIANTA",
                               .dX = 0.11,
                               .dY = 2.0,
@@ -172,6 +104,6 @@ void FillSampleRoom(CSamplePlan& plan, const CDxfDrawing& blocks)
                               .dLaenge = 0.9,
                               .dTiefe = 0.139,
                               .dHoehe = 0.9,
-                              .strVorlauf = vorlauf,
-                              .strRuecklauf = ruecklauf});
+                              .strVorlauf = kStandardVorlauf,
+                              .strRuecklauf = kStandardRuecklauf});
 }

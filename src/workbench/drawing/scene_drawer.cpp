@@ -30,9 +30,6 @@ public:
 /// Metres beyond which no drawing of a building goes.
 constexpr double kMaxPlace = 1e9;
 
-/// A symbol that finds no free place within this many steps stays where it is.
-constexpr int kMostSteps = 8;
-
 bool IsPlace(const double vector[3])
 {
     return std::all_of(vector, vector + 3,
@@ -43,20 +40,6 @@ QColor ColorFrom(int farbe)
 {
     const auto color = static_cast<COLORREF>(farbe);
     return {GetRValue(color), GetGValue(color), GetBValue(color)};
-}
-
-double Distance(const QPointF& a, const QPointF& b)
-{
-    return std::hypot(a.x() - b.x(), a.y() - b.y());
-}
-
-/// The way, a symbol's width, by which one that would cover another moves aside.
-QPointF StepAside(const CConnectionMark& mark)
-{
-    // Pipes that leave one end in a row stand across it, upright ones side by side.
-    const double width = 1.15 * WidthOfSymbol(mark);
-    return IsUpright(mark) ? QPointF(width, 0.0)
-                           : QPointF(-mark.richtung.y(), mark.richtung.x()) * width;
 }
 
 } // namespace
@@ -143,28 +126,7 @@ void CSceneDrawer::DrawConnectionPoint(const double punkt[3], const double richt
     CConnectionMark mark{{punkt[0], punkt[1]}, {richtung[0], richtung[1]},
                          richtung[2],          wert,
                          ColorFrom(farbe),     ruecklauf};
-    mark.punkt = FreePlace(mark);
+    mark.punkt = PlaceBeside(mark, m_marks);
     MakeConnectionSymbol(mark)->setParentItem(m_open.get());
     m_marks.push_back(mark);
-}
-
-QPointF CSceneDrawer::FreePlace(CConnectionMark mark) const
-{
-    const QPointF step = StepAside(mark);
-    const QPointF place = mark.punkt;
-    for (int i = 0; i < kMostSteps; ++i, mark.punkt += step) {
-        if (!Covers(mark)) {
-            return mark.punkt;
-        }
-    }
-    return place;
-}
-
-bool CSceneDrawer::Covers(const CConnectionMark& mark) const
-{
-    return std::ranges::any_of(m_marks, [&](const CConnectionMark& other) {
-        return IsUpright(mark) == IsUpright(other) &&
-               Distance(mark.punkt, other.punkt) < 0.5 * WidthOfSymbol(mark) &&
-               Distance(mark.richtung, other.richtung) < 0.5;
-    });
 }

@@ -59,9 +59,6 @@ public:
     const std::vector<CDxfError>& GetErrors() const { return m_errors; }
 
 private:
-    QPointF FreePlace(CConnectionMark mark) const;
-    bool Covers(const CConnectionMark& mark) const;
-
     QPointer<QGraphicsScene> m_scene;
     std::vector<CDxfLayer> m_layers;
     std::vector<CDxfError> m_errors;

@@ -27,7 +27,7 @@ HOST_API void ClearHostSettingOverride(const CString& key);
 HOST_API bool StoreHostSetting(const CString& key, const CString& value);
 
 /// The folder in which the settings are, nothing for a user without a home.
-std::optional<CString> ConfigurationFolder();
+HOST_API std::optional<CString> ConfigurationFolder();
 
 /// Keys that the getters ask for. A yes is "1", any other value a no; a colour is "#RRGGBB".
 inline constexpr wchar_t kSettingHKDir[] = L"HKDir";

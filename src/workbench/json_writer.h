@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <string>
+#include <vector>
+
+/// Writes JSON for people and for comparing line by line: fields stay in the order in which they
+/// come, an object has a line a field, and small ones stand on a line of their own.
+///
+/// Every value takes the name of its field; null within a list and at the top. Names are plain
+/// ASCII literals.
+class CJsonWriter
+{
+public:
+    enum class Layout
+    {
+        /// A line for every value.
+        lines,
+        /// All in one line, whatever is asked for further in.
+        line,
+    };
+
+    void BeginObject(const char* name, Layout layout = Layout::lines);
+    void BeginList(const char* name, Layout layout = Layout::lines);
+    /// Ends the object or list that was begun last.
+    void End();
+
+    /// Any text comes back from a reader exactly, unpaired surrogates included.
+    void Text(const char* name, const CString& text);
+
+    /// The shortest form that reads back as exactly the same number. What JSON cannot hold,
+    /// infinity and not-a-number, becomes 0, so that the file stays readable; so does the negative
+    /// zero.
+    void Number(const char* name, double number);
+
+    void Null(const char* name);
+
+    /// A value that is JSON already.
+    void Raw(const char* name, const CString& json);
+
+    /// The whole text, in UTF-8, with a line end behind it.
+    std::string Take();
+
+private:
+    struct CLevel
+    {
+        bool bList = false;
+        bool bLine = false;
+        bool bEmpty = true;
+    };
+
+    void Begin(const char* name, bool list, Layout layout);
+    void BreakLine();
+    void Lead(const char* name);
+
+    std::string m_text;
+    std::vector<CLevel> m_levels;
+};

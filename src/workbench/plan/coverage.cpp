@@ -1,0 +1,41 @@
+#include "workbench/plan/coverage.h"
+
+#include <numeric>
+
+double OutputOf(const CRoom& room)
+{
+    return std::accumulate(
+        room.heizkoerper.begin(), room.heizkoerper.end(), 0.0,
+        [](double sum, const CPlacedRadiator& radiator) { return sum + radiator.daten.Leistung; });
+}
+
+double CoveredOf(const CRoom& room)
+{
+    return room.gedeckt + OutputOf(room);
+}
+
+double RemainderOf(const CRoom& room)
+{
+    return room.bedarf - CoveredOf(room);
+}
+
+double WeakestOutputOf(const CRoom& room)
+{
+    return (1.0 - kCoverTolerance) * room.GetLeistung();
+}
+
+Coverage CoverageOf(const CRoom& room)
+{
+    if (room.GetLeistung() <= 0.0) {
+        return Coverage::notNeeded;
+    }
+    if (room.heizkoerper.empty()) {
+        return Coverage::empty;
+    }
+    return OutputOf(room) >= WeakestOutputOf(room) ? Coverage::covered : Coverage::lacking;
+}
+
+bool IsOpen(Coverage coverage)
+{
+    return coverage == Coverage::lacking || coverage == Coverage::empty;
+}

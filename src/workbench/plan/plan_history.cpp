@@ -1,0 +1,42 @@
+#include "workbench/plan/plan_history.h"
+
+#include <utility>
+
+CPlanHistory::CPlanHistory(CBuilding building)
+{
+    m_states.push_back({{}, std::move(building)});
+}
+
+void CPlanHistory::Do(const CString& what, CBuilding next)
+{
+    if (m_nSaved > m_nCurrent) {
+        m_nSaved = kNever;
+    }
+    m_states.erase(m_states.begin() + static_cast<std::ptrdiff_t>(m_nCurrent) + 1, m_states.end());
+    m_states.push_back({what, std::move(next)});
+    ++m_nCurrent;
+}
+
+CString CPlanHistory::GetUndoText() const
+{
+    return CanUndo() ? m_states[m_nCurrent].strWhat : CString();
+}
+
+CString CPlanHistory::GetRedoText() const
+{
+    return CanRedo() ? m_states[m_nCurrent + 1].strWhat : CString();
+}
+
+void CPlanHistory::Undo()
+{
+    if (CanUndo()) {
+        --m_nCurrent;
+    }
+}
+
+void CPlanHistory::Redo()
+{
+    if (CanRedo()) {
+        ++m_nCurrent;
+    }
+}

@@ -1,0 +1,154 @@
+#include "workbench/plan/sizing.h"
+
+#include "platform/format.h"
+#include "workbench/plan/coverage.h"
+#include "workbench/plan/placement.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+HK_DATEN_VDI3805_UEBERGABE ChoiceFor(const CRoom& room, const CRadiator& radiator)
+{
+    HK_DATEN_VDI3805_UEBERGABE chosen;
+    chosen.Hersteller = room.strHersteller;
+    chosen.Art = room.strArt;
+    chosen.Produkt = room.strProdukt;
+    chosen.TypName = radiator.strTyp;
+    chosen.Daten = radiator.daten;
+    return chosen;
+}
+
+/// Sizes the radiators of one room.
+class CRoomSizing
+{
+public:
+    CRoomSizing(const CBuilding& building, const CFloor& floor, const CRoom& room,
+                const CRadiatorStart& start)
+        : m_building(building), m_floor(floor), m_start(start), m_room(room)
+    {
+    }
+
+    void Size()
+    {
+        if (m_room.heizkoerper.empty()) {
+            AddRadiator();
+        } else {
+            ResizeRadiators();
+        }
+    }
+
+    const CRoom& GetRoom() const { return m_room; }
+    int GetSized() const { return m_nSized; }
+
+    /// Why the room is still open; nothing if it is not.
+    std::optional<CSizingFault> FindFault(const CRoomRef& ref) const
+    {
+        if (!IsOpen(CoverageOf(m_room))) {
+            return std::nullopt;
+        }
+        if (!m_failure) {
+            return CSizingFault{ref, RoomStatus::unfitting,
+                                L"mancano " + FormatFixed(RemainderOf(m_room), 0) + L" W"};
+        }
+        return CSizingFault{ref, m_failure->status, m_failure->strNote};
+    }
+
+private:
+    void AddRadiator()
+    {
+        for (const std::size_t place : FreePlaces(m_room)) {
+            if (const auto found = Select(place, m_room.GetLeistung())) {
+                m_room.heizkoerper.push_back(
+                    PlaceRadiator(m_building, m_room, m_floor.strName, *found, m_start).value());
+                return;
+            }
+            if (m_failure->status != RoomStatus::unfitting) {
+                return;
+            }
+        }
+    }
+
+    void ResizeRadiators()
+    {
+        const double all = OutputOf(m_room);
+        const double even = 1.0 / static_cast<double>(m_room.heizkoerper.size());
+        for (CPlacedRadiator& radiator : m_room.heizkoerper) {
+            const double share = all > 0.0 ? radiator.daten.Leistung / all : even;
+            if (const auto found = Select(radiator.nPlatz, share * m_room.GetLeistung())) {
+                TakeChoice(radiator, *found, m_start);
+            }
+        }
+    }
+
+    std::optional<HK_DATEN_VDI3805_UEBERGABE> Select(std::size_t place, double leistung)
+    {
+        CRoom wish;
+        wish.strName = m_room.strName;
+        wish.raumtemperatur = m_room.raumtemperatur;
+        wish.bedarf = leistung;
+        wish.grenzen = LimitsOfPlace(m_room, m_room.plaetze.at(place), m_building.abstaende);
+        wish.strHersteller = m_room.strHersteller;
+        wish.strArt = m_room.strArt;
+        wish.strProdukt = m_room.strProdukt;
+        CRoomOutcome outcome = SelectRadiator(wish, m_building.system);
+        if (outcome.status == RoomStatus::chosen) {
+            ++m_nSized;
+            return ChoiceFor(m_room, *outcome.radiator);
+        }
+        if (outcome.status != RoomStatus::covered && !m_failure) {
+            m_failure = std::move(outcome);
+        }
+        return std::nullopt;
+    }
+
+    const CBuilding& m_building;
+    const CFloor& m_floor;
+    const CRadiatorStart& m_start;
+    CRoom m_room;
+    int m_nSized = 0;
+    /// The first search that found nothing.
+    std::optional<CRoomOutcome> m_failure;
+};
+
+void SizeRoom(CSizingResult& result, const CRoomRef& ref, const CRadiatorStart& start)
+{
+    if (!Exists(result.building, ref) || RoomOf(result.building, ref).GetLeistung() <= 0.0) {
+        return;
+    }
+    CRoomSizing sizing(result.building, result.building.floors[ref.nFloor],
+                       RoomOf(result.building, ref), start);
+    sizing.Size();
+    if (sizing.GetSized() > 0) {
+        result.nSized += sizing.GetSized();
+        ReplaceRoom(result.building, ref, sizing.GetRoom());
+    }
+    if (std::optional<CSizingFault> fault = sizing.FindFault(ref)) {
+        result.faults.push_back(std::move(*fault));
+    }
+}
+
+std::vector<CRoomRef> InOrder(std::vector<CRoomRef> rooms)
+{
+    std::ranges::sort(rooms);
+    rooms.erase(std::unique(rooms.begin(), rooms.end()), rooms.end());
+    return rooms;
+}
+
+} // namespace
+
+CSizingResult SizeRooms(const CBuilding& building, const std::vector<CRoomRef>& rooms,
+                        const SizingProgress& progress)
+{
+    const std::vector<CRoomRef> ordered = InOrder(rooms);
+    const CRadiatorStart start = ReadRadiatorStart();
+    CSizingResult result{building, 0, {}, false};
+    for (std::size_t done = 0; done < ordered.size(); ++done) {
+        SizeRoom(result, ordered[done], start);
+        if (progress && !progress(done + 1, ordered.size())) {
+            return {building, 0, {}, true};
+        }
+    }
+    return result;
+}

@@ -1,0 +1,103 @@
+#include "workbench/report/plan_legend.h"
+
+#include <QPainterPath>
+#include <QTransform>
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+const QColor kInk(30, 36, 44);
+
+struct CCoverageLook
+{
+    Coverage coverage;
+    QColor fill;
+    QColor ink;
+    const char* lpszText;
+};
+
+const CCoverageLook kLooks[] = {
+    {Coverage::covered, {236, 247, 239}, {18, 104, 66}, "coperto"},
+    {Coverage::lacking, {252, 228, 219}, {176, 34, 20}, "insufficiente"},
+    {Coverage::empty, {254, 246, 219}, {146, 94, 0}, "manca il corpo scaldante"},
+    {Coverage::notNeeded, {243, 244, 246}, {98, 106, 116}, "nessun corpo scaldante necessario"},
+};
+
+const CCoverageLook& LookOf(Coverage coverage)
+{
+    return *std::ranges::find(kLooks, coverage, &CCoverageLook::coverage);
+}
+
+/// Metres that a bar of the scale shows: a round number, at most 60 mm long.
+double LengthOfBar(int scale)
+{
+    double length = 1.0;
+    for (const double metres : {2.0, 5.0, 10.0, 20.0, 50.0, 100.0, 200.0}) {
+        if (1000.0 * metres / scale <= 60.0) {
+            length = metres;
+        }
+    }
+    return length;
+}
+
+} // namespace
+
+QColor PrintFillOf(Coverage coverage)
+{
+    return LookOf(coverage).fill;
+}
+
+QColor PrintInkOf(Coverage coverage)
+{
+    return LookOf(coverage).ink;
+}
+
+void PaintScaleBar(CReportSheet& sheet, const QPointF& corner, int scale)
+{
+    constexpr int kParts = 4;
+    constexpr double kHeight = 1.6;
+    const double length = LengthOfBar(scale);
+    const double part = 1000.0 * length / kParts / scale;
+    const CTextLook look{6.0, false, kInk, Qt::AlignHCenter};
+    for (int i = 0; i < kParts; ++i) {
+        const QRectF box(corner.x() + i * part, corner.y() + 4.0, part, kHeight);
+        sheet.Fill(box, i % 2 == 0 ? kInk : QColor(Qt::white));
+        sheet.Frame(box, 0.15, kInk);
+    }
+    for (int i = 0; i <= kParts; ++i) {
+        const QString metres = QString::number(i * length / kParts).replace('.', ',');
+        sheet.Text({corner.x() + i * part - 10.0, corner.y() + 1.0, 20.0, 2.6},
+                   i == kParts ? metres + " m" : metres, look);
+    }
+    sheet.Text({corner.x() + kParts * part + 8.0, corner.y() + 3.0, 30.0, 3.6},
+               "Scala 1:" + QString::number(scale), {8.0, true, kInk, Qt::AlignLeft});
+}
+
+void PaintLegend(CReportSheet& sheet, const QPointF& corner)
+{
+    const CTextLook look{6.5, false, kInk, Qt::AlignLeft};
+    double right = corner.x();
+    for (auto entry = std::rbegin(kLooks); entry != std::rend(kLooks); ++entry) {
+        const QString text = entry->lpszText;
+        const double width = sheet.WidthOf(text, look) + 1.0;
+        sheet.Text({right - width, corner.y() + 3.2, width, 3.0}, text, look);
+        const QRectF box(right - width - 5.5, corner.y() + 3.3, 4.2, 2.8);
+        sheet.Fill(box, entry->fill);
+        sheet.Frame(box, 0.12, entry->ink);
+        right -= width + 10.0;
+    }
+}
+
+void PaintNorth(CReportSheet& sheet, const QPointF& tip)
+{
+    QPainterPath arrow(tip);
+    arrow.lineTo(tip + QPointF(2.2, 8.0));
+    arrow.lineTo(tip + QPointF(0.0, 6.4));
+    arrow.lineTo(tip + QPointF(-2.2, 8.0));
+    arrow.closeSubpath();
+    sheet.GetPainter().fillPath(
+        QTransform::fromScale(CReportSheet::kUnits, CReportSheet::kUnits).map(arrow), kInk);
+    sheet.Text({tip.x() - 5.0, tip.y() + 8.4, 10.0, 3.4}, "N", {8.0, true, kInk, Qt::AlignHCenter});
+}

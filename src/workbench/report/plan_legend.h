@@ -1,0 +1,18 @@
+#pragma once
+
+#include "workbench/plan/coverage.h"
+#include "workbench/report/report_sheet.h"
+
+/// How a printed plan shows whether a room is covered: a light fill, and a strong form of it for
+/// figures on that fill.
+QColor PrintFillOf(Coverage coverage);
+QColor PrintInkOf(Coverage coverage);
+
+/// Paints a bar of the scale with its name, 6.5 mm high, from its upper left corner.
+void PaintScaleBar(CReportSheet& sheet, const QPointF& corner, int scale);
+
+/// Paints what the fills mean, in a line of that height, from its upper right corner.
+void PaintLegend(CReportSheet& sheet, const QPointF& corner);
+
+/// Paints an arrow to the north, 12 mm high, from its tip.
+void PaintNorth(CReportSheet& sheet, const QPointF& tip);

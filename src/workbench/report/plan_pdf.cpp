@@ -1,0 +1,260 @@
+#include "workbench/report/plan_pdf.h"
+
+#include "platform/file.h"
+#include "workbench/report/plan_picture.h"
+#include "workbench/report/plan_tables.h"
+
+#include <QBuffer>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QPdfWriter>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+
+namespace {
+
+constexpr double kMargin = 15.0;
+constexpr double kHeadHeight = 14.0;
+constexpr double kFootHeight = 8.0;
+
+/// A plan at this scale or a larger one needs no larger paper.
+constexpr int kSmallPaperScale = 100;
+
+const QColor kInk(30, 36, 44);
+const QColor kGrey(98, 106, 116);
+const QColor kAccent(176, 58, 20);
+
+QString Text(const CString& text)
+{
+    return QString::fromStdWString(text);
+}
+
+QString Degrees(double value)
+{
+    return QString::number(value).replace('.', ',');
+}
+
+QString Watt(double value)
+{
+    return QString::number(value, 'f', 0) + " W";
+}
+
+/// All pages of the report, laid out before the first is painted, so that each knows how many there
+/// are.
+class CPlanReport
+{
+public:
+    CPlanReport(const CBuilding& building, const CDxfDrawing& radiators,
+                const CBlockLibrary* valves, const QDate& date)
+        : m_building(building), m_schedule(SchedulePlan(building)),
+          m_strDate(date.toString("dd/MM/yyyy"))
+    {
+        for (std::size_t i = 0; i < building.floors.size(); ++i) {
+            m_pictures.emplace_back(building, i, radiators, valves);
+        }
+        ChoosePaper();
+        AddTables({MakeTotalsTable(m_schedule)}, kTitleHeight);
+        for (std::size_t i = 0; i < m_pictures.size(); ++i) {
+            m_contents.emplace_back("Pianta: " + Text(building.floors[i].strName), m_pages.size());
+            m_pages.push_back([this, i](CReportSheet& sheet) { PaintFloor(sheet, i); });
+        }
+        AddTables({MakeScheduleTable(m_schedule), MakeOpenRoomsTable(m_schedule),
+                   MakeValveTable(m_schedule)},
+                  0.0);
+    }
+
+    QByteArray Paint() const
+    {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        {
+            QPdfWriter writer(&buffer);
+            writer.setResolution(CReportSheet::kDotsPerInch);
+            writer.setPageLayout(QPageLayout(m_paper, QPageLayout::Landscape, {}));
+            writer.setTitle(Text(m_building.strName));
+            QPainter painter(&writer);
+            CReportSheet sheet(painter);
+            for (std::size_t i = 0; i < m_pages.size(); ++i) {
+                if (i > 0) {
+                    writer.newPage();
+                }
+                m_pages[i](sheet);
+                PaintFoot(sheet, i);
+            }
+        }
+        return buffer.data();
+    }
+
+    int GetPages() const { return static_cast<int>(m_pages.size()); }
+
+private:
+    using Page = std::function<void(CReportSheet&)>;
+
+    /// Of the title's part on the first page.
+    static constexpr double kTitleHeight = 97.0;
+
+    /// The larger paper, if it shows any floor at a larger scale than the smaller one can.
+    void ChoosePaper()
+    {
+        const std::vector<int> small = ScalesOn(QPageSize::A4);
+        const std::vector<int> large = ScalesOn(QPageSize::A3);
+        for (std::size_t i = 0; i < small.size(); ++i) {
+            if (small[i] > kSmallPaperScale && large[i] < small[i]) {
+                return;
+            }
+        }
+        m_paper = QPageSize(QPageSize::A4);
+    }
+
+    /// Scales of the floors on that paper, which then is the report's.
+    std::vector<int> ScalesOn(QPageSize::PageSizeId paper)
+    {
+        m_paper = QPageSize(paper);
+        std::vector<int> scales;
+        for (const CPlanPicture& picture : m_pictures) {
+            scales.push_back(picture.GetScale(PlanArea().size()));
+        }
+        return scales;
+    }
+
+    /// What the margins leave.
+    QRectF Area() const
+    {
+        const QSizeF upright = m_paper.size(QPageSize::Millimeter);
+        return QRectF(0.0, 0.0, upright.height(), upright.width())
+            .adjusted(kMargin, kMargin, -kMargin, -kMargin - kFootHeight);
+    }
+
+    QRectF PlanArea() const { return Area().adjusted(0.0, kHeadHeight, 0.0, 0.0); }
+
+    /// Pages with tables, of which the first page of all leaves `above` to its title.
+    void AddTables(std::vector<CReportTable> tables, double above)
+    {
+        const QRectF area = Area().adjusted(0.0, above, 0.0, 0.0);
+        for (CReportTable& table : tables) {
+            FitColumns(table, area.width());
+        }
+        const auto shared = std::make_shared<std::vector<CReportTable>>(std::move(tables));
+        for (const std::vector<CTableLine>& lines : LayOutTables(*shared, area.height())) {
+            const bool isTitle = m_pages.empty();
+            AddContents(*shared, lines);
+            m_pages.push_back([=, this](CReportSheet& sheet) {
+                if (isTitle) {
+                    PaintTitle(sheet);
+                }
+                for (const CTableLine& line : lines) {
+                    PaintTableLine(sheet, area.topLeft(), (*shared)[line.nTable], line);
+                }
+            });
+        }
+    }
+
+    /// Notes the page that comes next for the tables that begin on it.
+    void AddContents(const std::vector<CReportTable>& tables, const std::vector<CTableLine>& lines)
+    {
+        for (const CTableLine& line : lines) {
+            if (line.kind == CTableLine::Kind::title && !line.bSegue && !m_pages.empty()) {
+                m_contents.emplace_back(tables[line.nTable].strTitel, m_pages.size());
+            }
+        }
+    }
+
+    void PaintTitle(CReportSheet& sheet) const
+    {
+        const QRectF area = Area();
+        sheet.Fill({area.left(), area.top(), 3.0, 26.0}, kAccent);
+        const QRectF text = area.adjusted(8.0, 0.0, 0.0, 0.0);
+        sheet.Text({text.left(), text.top(), text.width(), 14.0}, Text(m_building.strName),
+                   {30.0, true, kInk, Qt::AlignLeft});
+        sheet.Text({text.left(), text.top() + 15.0, text.width(), 10.0},
+                   "Progetto dei corpi scaldanti", {16.0, false, kGrey, Qt::AlignLeft});
+        double top = text.top() + 34.0;
+        for (const auto& [what, value] : Facts()) {
+            sheet.Text({text.left(), top, 60.0, 6.0}, what, {10.0, false, kGrey, Qt::AlignLeft});
+            sheet.Text({text.left() + 62.0, top, text.width() - 62.0, 6.0}, value,
+                       {10.0, true, kInk, Qt::AlignLeft});
+            top += 6.4;
+        }
+        PaintContents(sheet, {area.right() - 95.0, text.top() + 34.0});
+    }
+
+    /// As many lines as the title's part has space for.
+    void PaintContents(CReportSheet& sheet, QPointF corner) const
+    {
+        constexpr std::size_t kMost = 9;
+        for (std::size_t i = 0; i < std::min(m_contents.size(), kMost); ++i) {
+            const QRectF line(corner, QSizeF(95.0, 5.6));
+            sheet.Text(line.adjusted(0.0, 0.0, -20.0, 0.0), m_contents[i].first,
+                       {9.0, false, kInk, Qt::AlignLeft});
+            sheet.Text(line, "pagina " + QString::number(m_contents[i].second + 1),
+                       {9.0, false, kGrey, Qt::AlignRight});
+            corner.ry() += 5.6;
+        }
+    }
+
+    std::vector<std::pair<QString, QString>> Facts() const
+    {
+        const CScheduleTotals& totals = m_schedule.totals;
+        const CHeatingSystem& system = m_building.system;
+        return {{"Data", m_strDate},
+                {"Impianto", Degrees(system.vorlauf) + "/" + Degrees(system.ruecklauf) +
+                                 QStringLiteral(" °C (mandata/ritorno)")},
+                {"Piani", QString::number(m_building.floors.size())},
+                {"Locali", QString::number(totals.nRooms)},
+                {"Corpi scaldanti", QString::number(totals.nHeizkoerper)},
+                {"Fabbisogno", Watt(totals.bedarf)},
+                {"Richiesto ai corpi scaldanti", Watt(totals.required)},
+                {"Resa di progetto", Watt(totals.leistung)},
+                {"Locali aperti",
+                 totals.nOpen == 0 ? QString("nessuno") : QString::number(totals.nOpen)}};
+    }
+
+    void PaintFloor(CReportSheet& sheet, std::size_t floor) const
+    {
+        const QRectF area = Area();
+        const CScheduleTotals& totals = m_schedule.floors[floor].totals;
+        sheet.Text({area.left(), area.top(), area.width() / 2, 8.0},
+                   Text(m_building.floors[floor].strName), {16.0, true, kInk, Qt::AlignLeft});
+        sheet.Text({area.left(), area.top() + 7.5, area.width() - 20.0, 5.0},
+                   QString("Fabbisogno %1, richiesto %2, resa %3")
+                       .arg(Watt(totals.bedarf), Watt(totals.required), Watt(totals.leistung)),
+                   {8.0, false, kGrey, Qt::AlignLeft});
+        const QRectF plan = PlanArea();
+        m_pictures[floor].Paint(sheet, plan, m_pictures[floor].GetScale(plan.size()));
+    }
+
+    void PaintFoot(CReportSheet& sheet, std::size_t page) const
+    {
+        const QRectF area = Area();
+        const QRectF foot(area.left(), area.bottom() + 3.0, area.width(), kFootHeight - 3.0);
+        sheet.Line(foot.topLeft(), foot.topRight(), 0.15, kGrey);
+        sheet.Text(foot, Text(m_building.strName), {7.5, false, kGrey, Qt::AlignLeft});
+        sheet.Text(foot, m_strDate, {7.5, false, kGrey, Qt::AlignHCenter});
+        sheet.Text(foot, QString("Pagina %1 di %2").arg(page + 1).arg(m_pages.size()),
+                   {7.5, false, kGrey, Qt::AlignRight});
+    }
+
+    const CBuilding& m_building;
+    CSchedule m_schedule;
+    QString m_strDate;
+    QPageSize m_paper{QPageSize::A4};
+    std::vector<CPlanPicture> m_pictures;
+    std::vector<Page> m_pages;
+    /// What begins on which page, from 0.
+    std::vector<std::pair<QString, std::size_t>> m_contents;
+};
+
+} // namespace
+
+int WritePlanPdf(const CString& path, const CBuilding& building, const CDxfDrawing& radiators,
+                 const CBlockLibrary* valves, const QDate& date)
+{
+    const CPlanReport report(building, radiators, valves, date);
+    const QByteArray bytes = report.Paint();
+    CFile file(path, CFile::modeCreate | CFile::modeWrite);
+    file.Write(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    file.Close();
+    return report.GetPages();
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "workbench/report/report_sheet.h"
+
+#include <vector>
+
+struct CReportColumn
+{
+    QString strTitel;
+    /// In millimetres.
+    double dBreite = 0.0;
+    bool bRechts = false;
+};
+
+enum class RowLook
+{
+    plain,
+    /// Of a room that is still open.
+    warning,
+    /// Heads the rows behind it with its only cell, which takes the whole width.
+    group,
+    total,
+};
+
+struct CReportRow
+{
+    std::vector<QString> zellen;
+    RowLook look = RowLook::plain;
+};
+
+struct CReportTable
+{
+    QString strTitel;
+    std::vector<CReportColumn> columns;
+    std::vector<CReportRow> rows;
+};
+
+/// Widens or narrows all columns alike to a width in all.
+void FitColumns(CReportTable& table, double width);
+
+/// A line of a table at its place on a page.
+struct CTableLine
+{
+    enum class Kind
+    {
+        title,
+        headings,
+        row,
+    };
+
+    Kind kind = Kind::row;
+    std::size_t nTable = 0;
+    std::size_t nRow = 0;
+    /// Repeats what stood on the page before.
+    bool bSegue = false;
+    /// From the upper edge of the page's area, in millimetres.
+    double dTop = 0.0;
+};
+
+/// Tables one below the other over pages of a height in millimetres. Where one goes on to the next
+/// page its title, headings and the head of the group are repeated, and none of these is left alone
+/// at the foot of a page. Tables without rows are left out.
+std::vector<std::vector<CTableLine>> LayOutTables(const std::vector<CReportTable>& tables,
+                                                  double height);
+
+/// Paints a line of its table; `corner` is the upper left one of the page's area.
+void PaintTableLine(CReportSheet& sheet, const QPointF& corner, const CReportTable& table,
+                    const CTableLine& line);

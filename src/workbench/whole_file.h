@@ -1,0 +1,9 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <string_view>
+
+/// Writes a file of these bytes. Whatever happens meanwhile, it holds what it held or all of them.
+/// Raises CFileException.
+void WriteWholeFile(const CString& path, std::string_view bytes);

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "workbench/building.h"
+
+/// The rooms of a large building with their radiators (tools/make_building_samples.h), all on one
+/// floor, wing beside wing. Some radiators are too weak, and some rooms have none.
+CBuilding MakeLargeFloor(std::size_t rooms);
