@@ -4,12 +4,19 @@
 
 void CGridModel::Suspend(bool suspend)
 {
-    if (m_suspended && !suspend) {
-        beginResetModel();
-        m_shownRows = m_rows.GetRowCount();
-        endResetModel();
-    }
+    const bool resumed = m_suspended && !suspend;
     m_suspended = suspend;
+    if (!resumed) {
+        return;
+    }
+    if (m_shownRows == m_rows.GetRowCount()) {
+        // Views keep what they know of the rows' places, and their scroll bars as they are.
+        TellAllChanged();
+        return;
+    }
+    beginResetModel();
+    m_shownRows = m_rows.GetRowCount();
+    endResetModel();
 }
 
 void CGridModel::SetColumnCount(int count)

@@ -83,6 +83,7 @@ CGridView::CGridView(CUGCtrl& grid, CUGCtrl::Guard guard, QWidget* parent)
     setHorizontalScrollMode(ScrollPerPixel);
     // The view fills all of it, so nothing below needs painting.
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
+    setAutoScroll(false);
     m_side->SetThickness(0);
     SetRowHighlight(false);
     SetHeadingHeight(kHeadingHeight);
@@ -125,7 +126,9 @@ void CGridView::SetRedraw(bool redraw)
         HighlightCurrent();
     }
     m_model.Suspend(!redraw);
-    setUpdatesEnabled(redraw);
+    // The scroll bar and the headings see nothing of a suspended model, and painting them anew takes
+    // as long as painting many rows.
+    viewport()->setUpdatesEnabled(redraw);
 }
 
 int CGridView::AddCellType(GridCellKind kind)
@@ -193,6 +196,24 @@ void CGridView::HighlightCurrent()
     QItemSelectionModel::SelectionFlags flags = QItemSelectionModel::ClearAndSelect;
     flags.setFlag(QItemSelectionModel::Rows, selectionBehavior() == SelectRows);
     selectionModel()->setCurrentIndex(m_model.index(m_row, m_column), flags);
+    ShowCurrentSoon();
+}
+
+/// A rebuild moves to the first row and then to the best one; scrolling there and back would paint
+/// the scroll bar for nothing.
+void CGridView::ShowCurrentSoon()
+{
+    if (m_showsCurrentSoon) {
+        return;
+    }
+    m_showsCurrentSoon = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_showsCurrentSoon = false;
+            scrollTo(currentIndex());
+        },
+        Qt::QueuedConnection);
 }
 
 void CGridView::BestFit(int first, int count, int rows, bool headings)
@@ -220,6 +241,7 @@ void CGridView::Choose(int column, int row)
 {
     const int oldRow = m_row;
     GotoCell(column, row);
+    scrollTo(currentIndex());
     const int newRow = m_row;
     const bool sorted = std::exchange(m_sorted, false);
     if (sorted || newRow != oldRow) {

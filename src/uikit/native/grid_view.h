@@ -82,6 +82,7 @@ private:
     GridCellKind KindOf(const CUGCell& cell) const;
     void FontChanged();
     void HighlightCurrent();
+    void ShowCurrentSoon();
     void Choose(int column, int row);
     bool MoveByKey(GridKey key);
     void PressCell(int column, int row);
@@ -101,6 +102,7 @@ private:
     bool m_toolTips = true;
     int m_column = -1;
     int m_row = -1;
+    bool m_showsCurrentSoon = false;
     /// The rows were sorted since the user picked one last.
     bool m_sorted = false;
     QColor m_back;
