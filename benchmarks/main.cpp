@@ -56,6 +56,14 @@ int main(int argc, char** argv)
         {"dialog_keystroke", "keystroke to repainted grid, 2,000 rows", "painting the same rows",
          2.0, 16.0},
         {"dialog_opening", "opening the selection dialog, 2,000 rows", "", 0.0, 150.0},
+        {"plan_sizing", "sizing a building of 2,000 rooms", "", 0.0, 5000.0},
+        {"plan_sizing_again", "sizing it anew", "", 0.0, 5000.0},
+        {"plan_pan", "panning a plan of 2,000 rooms, a frame", "", 0.0, 16.0},
+        {"plan_pan_marked", "the same, every room marked", "", 0.0, 16.0},
+        {"plan_pan_near", "the same, near enough to read texts", "", 0.0, 16.0},
+        {"plan_zoom", "zooming there by a step", "", 0.0, 16.0},
+        {"plan_change", "showing a change to one of its rooms", "", 0.0, 5.0},
+        {"plan_floor", "showing it from nothing", "", 0.0, 500.0},
     };
 
     // Dialogs are painted without a screen, at the size of their templates.

@@ -3,6 +3,7 @@
 //   radsel_make_pictures <data folder> <picture folder>
 
 #include "tools/dialog_gallery.h"
+#include "tools/plan_gallery.h"
 #include "uikit/application.h"
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
@@ -91,5 +92,5 @@ int main(int argc, char** argv)
             TakePicture(entry, folder.filePath(name + view.suffix + ".png"), view);
         }
     }
-    return g_failed ? 1 : 0;
+    return WritePlanPictures(argv[1], folder) && !g_failed ? 0 : 1;
 }

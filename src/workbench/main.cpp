@@ -1,14 +1,68 @@
 #include "platform/encoding.h"
+#include "platform/environment.h"
 #include "workbench/arguments.h"
 #include "workbench/batch.h"
 #include "workbench/connection_list.h"
 #include "workbench/connection_run.h"
+#include "workbench/host_folders.h"
 #include "workbench/radiator_run.h"
 #include "workbench/tree_run.h"
+#include "workbench/window/window_run.h"
 
 #include <algorithm>
 #include <iostream>
 #include <iterator>
+
+namespace {
+
+bool Has(const std::vector<CString>& arguments, const CString& option)
+{
+    return std::ranges::find(arguments, option) != arguments.end();
+}
+
+bool HasScreen()
+{
+    return GetEnvironment(L"DISPLAY") || GetEnvironment(L"WAYLAND_DISPLAY");
+}
+
+/// The window is for whoever asks for nothing else and can see it.
+bool WantsWindow(const std::vector<CString>& arguments)
+{
+    return !Has(arguments, kBatchOption) && !Has(arguments, L"--help") &&
+           !Has(arguments, L"--valve-dialog") && HasScreen();
+}
+
+/// What was installed with the program stands in for what the user leaves out.
+void UseInstalled(std::vector<CString>& arguments)
+{
+    UseInstalledData();
+    if (const auto data = InstalledDataFolder()) {
+        const CString building = (*data / "buildings" / "villa-dei-tigli.json").wstring();
+        arguments.insert(arguments.begin(), {L"--building", building});
+    }
+}
+
+ExitCode Run(const std::vector<CString>& arguments)
+{
+    if (Has(arguments, L"--connection-dialog")) {
+        return RunConnectionDialog(arguments, std::cout, std::cerr);
+    }
+    if (Has(arguments, kTreeDialogOption)) {
+        return RunTreeDialog(arguments, std::cout, std::cerr);
+    }
+    if (Has(arguments, kRadiatorDialogOption)) {
+        return RunRadiatorDialog(arguments, std::cout, std::cerr);
+    }
+    const auto listing = std::ranges::find(arguments, L"--list-connections");
+    if (listing != arguments.end()) {
+        const auto file = std::next(listing);
+        return ListConnections(file == arguments.end() ? CString() : *file, std::cout, std::cerr);
+    }
+    return WantsWindow(arguments) ? RunWindow(arguments, std::cerr)
+                                  : RunBatch(arguments, std::cout, std::cerr);
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
@@ -16,20 +70,6 @@ int main(int argc, char* argv[])
     for (int i = 1; i < argc; ++i) {
         arguments.push_back(WideFromUtf8(argv[i]));
     }
-    if (std::ranges::find(arguments, L"--connection-dialog") != arguments.end()) {
-        return static_cast<int>(RunConnectionDialog(arguments, std::cout, std::cerr));
-    }
-    if (std::ranges::find(arguments, kTreeDialogOption) != arguments.end()) {
-        return static_cast<int>(RunTreeDialog(arguments, std::cout, std::cerr));
-    }
-    if (std::ranges::find(arguments, kRadiatorDialogOption) != arguments.end()) {
-        return static_cast<int>(RunRadiatorDialog(arguments, std::cout, std::cerr));
-    }
-    const auto listing = std::ranges::find(arguments, L"--list-connections");
-    if (listing == arguments.end()) {
-        return static_cast<int>(RunBatch(arguments, std::cout, std::cerr));
-    }
-    const auto file = std::next(listing);
-    return static_cast<int>(
-        ListConnections(file == arguments.end() ? CString() : *file, std::cout, std::cerr));
+    UseInstalled(arguments);
+    return static_cast<int>(Run(arguments));
 }

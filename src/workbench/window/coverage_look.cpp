@@ -1,0 +1,99 @@
+#include "workbench/window/coverage_look.h"
+
+#include <QPainterPath>
+
+namespace {
+
+/// Signs are drawn in a square of this side.
+constexpr double kGrid = 16.0;
+constexpr double kStroke = 2.4;
+
+QPen InkPen(Coverage coverage)
+{
+    return {InkOf(coverage), kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+void PaintWarning(QPainter& painter)
+{
+    const QPointF corners[] = {{8.0, 1.5}, {15.2, 14.5}, {0.8, 14.5}};
+    painter.setPen(QPen(InkOf(Coverage::lacking), 1.0, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(InkOf(Coverage::lacking));
+    painter.drawPolygon(corners, 3);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    painter.drawRect(QRectF(7.1, 5.4, 1.8, 4.8));
+    painter.drawRect(QRectF(7.1, 11.2, 1.8, 1.9));
+}
+
+} // namespace
+
+QColor FillOf(Coverage coverage)
+{
+    switch (coverage) {
+    case Coverage::covered:
+        return {222, 240, 228};
+    case Coverage::lacking:
+        return {250, 219, 210};
+    case Coverage::empty:
+        return {252, 240, 206};
+    case Coverage::notNeeded:
+        break;
+    }
+    return {234, 236, 239};
+}
+
+QColor InkOf(Coverage coverage)
+{
+    switch (coverage) {
+    case Coverage::covered:
+        return {22, 112, 72};
+    case Coverage::lacking:
+        return {178, 34, 20};
+    case Coverage::empty:
+        return {150, 98, 0};
+    case Coverage::notNeeded:
+        break;
+    }
+    return {104, 112, 122};
+}
+
+QString TextOf(Coverage coverage)
+{
+    switch (coverage) {
+    case Coverage::covered:
+        return QStringLiteral("Coperto");
+    case Coverage::lacking:
+        return QStringLiteral("Insufficiente");
+    case Coverage::empty:
+        return QStringLiteral("Manca il corpo scaldante");
+    case Coverage::notNeeded:
+        break;
+    }
+    return QStringLiteral("Nessun corpo scaldante necessario");
+}
+
+void PaintSign(QPainter& painter, Coverage coverage, const QRectF& square)
+{
+    painter.save();
+    painter.translate(square.topLeft());
+    painter.scale(square.width() / kGrid, square.height() / kGrid);
+    painter.setPen(InkPen(coverage));
+    painter.setBrush(Qt::NoBrush);
+    switch (coverage) {
+    case Coverage::covered: {
+        const QPointF tick[] = {{2.0, 8.6}, {6.2, 12.8}, {14.0, 3.4}};
+        painter.drawPolyline(tick, 3);
+        break;
+    }
+    case Coverage::lacking:
+        PaintWarning(painter);
+        break;
+    case Coverage::empty:
+        painter.drawEllipse(QRectF(2.2, 2.2, 11.6, 11.6));
+        break;
+    case Coverage::notNeeded:
+        painter.drawLine(QPointF(2.5, 8.0), QPointF(13.5, 8.0));
+        break;
+    }
+    painter.restore();
+}

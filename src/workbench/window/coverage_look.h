@@ -1,0 +1,23 @@
+#pragma once
+
+#include "workbench/plan/coverage.h"
+
+#include <QColor>
+#include <QPainter>
+#include <QString>
+
+/// How the plan shows at a glance whether a room's demand is met: by a soft fill, and for those who
+/// cannot tell the colours apart by a sign as well.
+
+/// Fill of the room's floor; dark text can be read on it.
+QColor FillOf(Coverage coverage);
+
+/// Strong form of the same colour, for signs and figures on that fill.
+QColor InkOf(Coverage coverage);
+
+/// In words, as lists and tool tips have it.
+QString TextOf(Coverage coverage);
+
+/// Paints the sign into a square, with y downwards: a tick, an exclamation mark in a triangle, a
+/// ring for a room without radiator, or a dash where nothing is asked.
+void PaintSign(QPainter& painter, Coverage coverage, const QRectF& square);

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <QObject>
+
+class CPlanDocument;
+class QWidget;
+struct CDrawingBlocks;
+struct CPrompts;
+
+/// What the designer does with files. What goes wrong is told to him with the file's name, and
+/// leaves building and files as they were.
+class CFileCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All outlive the commands. `window` is the parent of dialogs.
+    CFileCommands(CPlanDocument& document, const CDrawingBlocks& blocks, const CPrompts& prompts,
+                  QWidget& window);
+
+    /// Asks for a building and goes on with that.
+    void Open();
+
+    /// False if the user cancelled or the file could not be written.
+    bool Save();
+    bool SaveAs();
+
+    /// Asks whether to save what is not saved yet. False if the user wants to stay.
+    bool MayLeave();
+
+    void ExportCsv();
+    void ExportJson();
+    void ExportPdf();
+    void ExportDxf();
+
+    /// Asks for the folder of the radiator catalogues, which becomes the user's own, and tells
+    /// which of its files cannot be read.
+    void ChooseCatalogues();
+
+signals:
+    /// Something for the list of messages; may have several lines.
+    void Told(const QString& message);
+
+private:
+    bool SaveTo(const CString& path);
+    /// Asks for the file and lets `write` write it.
+    template <class WRITE>
+    void Export(const QString& title, const QString& filter, const CString& suffix, WRITE write);
+
+    CPlanDocument& m_document;
+    const CDrawingBlocks& m_blocks;
+    const CPrompts& m_prompts;
+    QWidget& m_window;
+};
+
+/// Reads all catalogues and tells in one text which cannot be read; empty if all can.
+QString DescribeCatalogueErrors();

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "workbench/plan/plan_edit.h"
+
+#include <optional>
+
+class CDrawer;
+
+/// The module's dialogs, opened on parts of a building as a CAD does. Each runs until the user
+/// closes it and gives the building with what he chose; nothing if he cancelled.
+
+/// A further radiator of a room, which must have a free place, or with `radiator` another one in
+/// place of that. Its product becomes that of the room, unless others stand there. The output is
+/// that at the building's heating system, whatever temperatures the user tried in the dialog.
+std::optional<CBuilding> ChooseRadiator(const CBuilding& building, const CRoomRef& room,
+                                        std::optional<std::size_t> radiator, CDrawer& drawer);
+
+/// Connection and valves of radiators, at least one. The dialog opens on those of the first and
+/// shows the connection points of all in the drawing.
+std::optional<CBuilding> ConnectRadiators(const CBuilding& building,
+                                          const std::vector<CRadiatorRef>& radiators,
+                                          CDrawer& drawer);
+
+/// The product that rooms, at least one, are to get; the radiators in them stay. The tree opens on
+/// the product of the first.
+std::optional<CBuilding> ChooseProduct(const CBuilding& building,
+                                       const std::vector<CRoomRef>& rooms);

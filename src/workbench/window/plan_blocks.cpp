@@ -1,0 +1,53 @@
+#include "workbench/window/plan_blocks.h"
+
+#include "workbench/drawing/block_path.h"
+#include "workbench/drawing/color_index.h"
+
+namespace {
+
+std::shared_ptr<const CPlanBlock>
+Find(const std::map<CString, std::shared_ptr<const CPlanBlock>>& blocks, const CString& name)
+{
+    const auto found = blocks.find(ToLower(name));
+    return found != blocks.end() ? found->second : nullptr;
+}
+
+} // namespace
+
+CPlanBlocks::CPlanBlocks(const CDxfDrawing& radiators, const CBlockLibrary* valves)
+{
+    for (const CDxfBlock& block : radiators.blocks) {
+        Add(m_radiators, radiators.layers, block);
+    }
+    if (valves == nullptr) {
+        return;
+    }
+    for (const CString& name : valves->GetNames()) {
+        const CBlockLibrary::CFound found = valves->Find(name);
+        Add(m_valves, *found.pLayers, *found.pBlock);
+    }
+}
+
+std::shared_ptr<const CPlanBlock> CPlanBlocks::FindRadiator(const CString& name) const
+{
+    return Find(m_radiators, name);
+}
+
+std::shared_ptr<const CPlanBlock> CPlanBlocks::FindValve(const CString& name) const
+{
+    return Find(m_valves, name);
+}
+
+void CPlanBlocks::Add(Blocks& blocks, const std::vector<CDxfLayer>& layers, const CDxfBlock& block)
+{
+    const std::vector<CColorPath> paths = MakeBlockPaths(layers, block);
+    CPlanBlock made;
+    made.bounds = BoundsOf(paths);
+    for (const CColorPath& path : paths) {
+        const QColor color(GetRValue(path.color), GetGValue(path.color), GetBValue(path.color));
+        made.parts.push_back({path.path, color, path.color == PaperColorFromIndex(kColorDefault)});
+    }
+    if (!made.parts.empty()) {
+        blocks.emplace(ToLower(block.strName), std::make_shared<const CPlanBlock>(std::move(made)));
+    }
+}

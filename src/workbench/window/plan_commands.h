@@ -1,0 +1,52 @@
+#pragma once
+
+#include "workbench/plan/plan_edit.h"
+
+#include <QObject>
+
+#include <optional>
+
+class CDrawer;
+class CPlanDocument;
+class QWidget;
+struct CPrompts;
+
+/// What the designer does with rooms and radiators. Each command is one step that can be undone,
+/// and none if the user cancels or nothing changes.
+class CPlanCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All outlive the commands. `window` is the parent of dialogs.
+    CPlanCommands(CPlanDocument& document, const CPrompts& prompts, QWidget& window);
+
+    /// The radiator of a room: a first one, or with `radiator` another one in its place.
+    void ChooseRadiator(const CRoomRef& room, std::optional<std::size_t> radiator, CDrawer& drawer);
+
+    /// One product for rooms, which are sized with it at once if the user wants so.
+    void ChooseProduct(const std::vector<CRoomRef>& rooms);
+
+    /// Sizes the rooms anew. `what` names the step.
+    void Size(const std::vector<CRoomRef>& rooms, const CString& what);
+
+    void Connect(const std::vector<CRadiatorRef>& radiators, CDrawer& drawer);
+    void Remove(const std::vector<CRadiatorRef>& radiators);
+
+    /// Asks for another heating system of the building.
+    void ChangeSystem();
+
+signals:
+    /// Something for the list of messages; may have several lines.
+    void Told(const QString& message);
+
+private:
+    void TellFaults(const CBuilding& building, const struct CSizingResult& result);
+
+    CPlanDocument& m_document;
+    const CPrompts& m_prompts;
+    QWidget& m_window;
+};
+
+/// The rooms that someone has to look after.
+std::vector<CRoomRef> OpenRooms(const CBuilding& building);

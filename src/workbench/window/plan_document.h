@@ -1,0 +1,62 @@
+#pragma once
+
+#include "workbench/plan/plan_history.h"
+#include "workbench/plan/recovery_file.h"
+
+#include <QObject>
+#include <QTimer>
+
+/// The building that the window works on: its states, its file, and the copy that survives a crash.
+class CPlanDocument : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `recovery` outlives the document; null keeps nothing for the case of a crash.
+    explicit CPlanDocument(const CRecoveryFile* recovery, QObject* parent = nullptr);
+
+    const CBuilding& Building() const { return m_history.Current(); }
+    const CPlanHistory& History() const { return m_history; }
+
+    /// File of the building; empty for one that has none yet.
+    const CString& Path() const { return m_strPath; }
+    bool IsSaved() const { return m_history.IsSaved(); }
+
+    /// Makes `next` the current state (CPlanHistory::Do).
+    void Do(const CString& what, CBuilding next);
+    void Undo();
+    void Redo();
+
+    /// Goes on with the building of a file, and forgets the one before. Raises CContentException,
+    /// and the document stays as it was.
+    void Open(const CString& path);
+
+    /// Goes on with work that a crash left behind, as work that is not saved.
+    void Recover(const CRecovery& recovery);
+
+    /// Writes the building to a file, which becomes its own. Raises CFileException, and the file
+    /// stays as it was.
+    void SaveAs(const CString& path);
+
+    /// Keeps work that is not saved for the case of a crash, which otherwise happens shortly after
+    /// a change. Where that fails, KeepingFailed() tells why.
+    void KeepNow();
+
+    /// Gives up what was kept, for a program that ends as it should.
+    void ForgetKept();
+
+signals:
+    /// The building, its file or its being saved is another than before.
+    void Changed();
+    /// `message` is for the user.
+    void KeepingFailed(const QString& message);
+
+private:
+    void Begin(CBuilding building, const CString& path);
+    void Announce();
+
+    CPlanHistory m_history;
+    CString m_strPath;
+    const CRecoveryFile* m_pRecovery;
+    QTimer m_keepTimer;
+};

@@ -1,0 +1,142 @@
+#include "workbench/window/plan_texts.h"
+
+#include "workbench/plan/coverage.h"
+#include "workbench/window/coverage_look.h"
+
+#include <QStringList>
+
+#include <cmath>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using Row = std::pair<QString, QString>;
+
+QString TextFrom(const CString& text)
+{
+    return QString::fromStdWString(text);
+}
+
+/// A number with a comma, as Italians write it, and without zeros that say nothing.
+QString Number(double value, int decimals)
+{
+    QString text = QString::number(value, 'f', decimals);
+    while (text.contains('.') && (text.endsWith('0') || text.endsWith('.'))) {
+        text.chop(1);
+    }
+    return text.replace('.', ',');
+}
+
+QString Millimetres(double value)
+{
+    return Number(value, 0) + " mm";
+}
+
+QString Joined(const QStringList& parts, const QString& separator)
+{
+    QStringList filled = parts;
+    filled.removeAll(QString());
+    return filled.join(separator);
+}
+
+QString Table(const QString& title, const std::vector<Row>& rows)
+{
+    QString html = "<b>" + title.toHtmlEscaped() + "</b><table>";
+    for (const auto& [what, value] : rows) {
+        if (!value.isEmpty()) {
+            html +=
+                "<tr><td>" + what + ":&nbsp;&nbsp;</td><td>" + value.toHtmlEscaped() + "</td></tr>";
+        }
+    }
+    return html + "</table>";
+}
+
+QString Area(const CFloorRect& rect)
+{
+    constexpr double kSquareMetre = 1e6;
+    return Number(rect.breite * rect.tiefe / kSquareMetre, 1) + QStringLiteral(" m²");
+}
+
+QString Valve(const std::optional<CValveKey>& key)
+{
+    return key ? TextFrom(key->strHersteller) + " " + TextFrom(key->strVentilNr) : QString();
+}
+
+QString Connection(const ConnValues& anschluss)
+{
+    if (anschluss.AnschlussAN.empty() && anschluss.AnschlussRI.empty()) {
+        return "da definire";
+    }
+    return anschluss.Name.empty() ? QString("definito") : TextFrom(anschluss.Name);
+}
+
+QString Place(const CRoom& room, const CPlacedRadiator& radiator)
+{
+    const CRadiatorPlace& place = room.plaetze[radiator.nPlatz];
+    return (place.art == PlaceKind::window ? "sotto la finestra, " : "a parete, ") +
+           Millimetres(place.breite);
+}
+
+} // namespace
+
+QString WattText(double value)
+{
+    const double rounded = std::round(value);
+    const QString sign = rounded < 0.0 ? QStringLiteral("\u2212") : QString();
+    return sign + QString::number(std::fabs(rounded), 'f', 0) + " W";
+}
+
+QString ShortLabelOf(const CPlacedRadiator& radiator)
+{
+    const HK_DATEN_VDI3805& daten = radiator.daten;
+    const QString type = TextFrom(radiator.strTyp);
+    const QString length = Number(daten.Laenge, 0);
+    // Most makers have the size in the type.
+    return type.contains(length)
+               ? type
+               : Joined({type, Number(daten.Hoehe, 0) + QStringLiteral("×") + length}, " ");
+}
+
+QString ToolTipOf(const CRoom& room)
+{
+    return Table(TextFrom(room.strName),
+                 {{"Temperatura", Number(room.raumtemperatur, 1) + QStringLiteral(" °C")},
+                  {"Superficie", Area(room.grundriss)},
+                  {"Fabbisogno", WattText(room.bedarf)},
+                  {"Altro riscaldamento", room.gedeckt != 0.0 ? WattText(room.gedeckt) : QString()},
+                  {"Corpi scaldanti",
+                   QString::number(room.heizkoerper.size()) + ", " + WattText(OutputOf(room))},
+                  {"Coperto", WattText(CoveredOf(room))},
+                  {"Resto", WattText(RemainderOf(room))},
+                  {"Stato", TextOf(CoverageOf(room))},
+                  {"Prodotto scelto", Joined({TextFrom(room.strHersteller), TextFrom(room.strArt),
+                                              TextFrom(room.strProdukt)},
+                                             ", ")}});
+}
+
+QString ToolTipOf(const CRoom& room, const CPlacedRadiator& radiator)
+{
+    const HK_DATEN_VDI3805& daten = radiator.daten;
+    const QString times = QStringLiteral(" × ");
+    return Table(
+        Joined({TextFrom(radiator.strProdukt), TextFrom(radiator.strTyp)}, ", "),
+        {{"Produttore", TextFrom(radiator.strHersteller)},
+         {"Tipo di corpo", TextFrom(radiator.strArt)},
+         {"Locale", TextFrom(room.strName)},
+         {"Posto", Place(room, radiator)},
+         {"Lunghezza × altezza × profondità", Number(daten.Laenge, 0) + times +
+                                                  Number(daten.Hoehe, 0) + times +
+                                                  Millimetres(daten.Tiefe)},
+         {"Elementi", daten.Elemente > 0.0 ? Number(daten.Elemente, 0) : QString()},
+         {"Potenza", WattText(daten.Leistung)},
+         {"Potenza EN 442", WattText(daten.LeistungEN442)},
+         {"Esponente", daten.Exponent > 0.0 ? Number(daten.Exponent, 4) : QString()},
+         {"Contenuto d'acqua", daten.Inhalt > 0.0 ? Number(daten.Inhalt, 2) + " l" : QString()},
+         {"Dalla parete", Number(radiator.abstandWand * 1000.0, 0) + " mm"},
+         {"Dal pavimento", Number(radiator.abstandBoden * 1000.0, 0) + " mm"},
+         {"Layer", TextFrom(radiator.strLayer)},
+         {"Attacco", Connection(radiator.anschluss)},
+         {"Valvola di mandata", Valve(radiator.ventile.vorlauf)},
+         {"Valvola di ritorno", Valve(radiator.ventile.ruecklauf)}});
+}

@@ -1,0 +1,90 @@
+#include "workbench/window/room_list.h"
+
+#include "workbench/window/room_table.h"
+
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+CRoomList::CRoomList(QWidget* parent)
+    : QWidget(parent), m_pOpenOnly(new QCheckBox("Solo i locali &da sistemare")),
+      m_pView(new QTableView), m_pTable(new CRoomTable(this))
+{
+    m_pView->setModel(m_pTable);
+    m_pView->setSelectionBehavior(QTableView::SelectRows);
+    m_pView->setSelectionMode(QTableView::ExtendedSelection);
+    m_pView->setSortingEnabled(true);
+    m_pView->sortByColumn(-1, Qt::AscendingOrder);
+    m_pView->setTabKeyNavigation(false);
+    m_pView->setShowGrid(false);
+    m_pView->setAlternatingRowColors(true);
+    m_pView->verticalHeader()->hide();
+    m_pView->verticalHeader()->setDefaultSectionSize(m_pView->fontMetrics().height() * 3 / 2);
+    m_pView->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_pView->horizontalHeader()->setSectionResizeMode(CRoomRows::room, QHeaderView::Stretch);
+    m_pView->setObjectName("rooms");
+    m_pOpenOnly->setObjectName("openOnly");
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->addWidget(m_pOpenOnly);
+    layout->addWidget(m_pView);
+
+    connect(m_pOpenOnly, &QCheckBox::toggled, m_pTable, &CRoomTable::ShowOpenOnly);
+    connect(m_pView->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (!m_bMarking) {
+            emit MarkChanged();
+        }
+    });
+    connect(m_pView, &QTableView::activated, this, [this](const QModelIndex& index) {
+        emit RoomActivated(m_pTable->Rows().RefOf(m_pTable->mapToSource(index).row()));
+    });
+}
+
+void CRoomList::ShowBuilding(const CBuilding& building)
+{
+    const std::vector<CRoomRef> marked = GetMarkedRooms();
+    m_bMarking = true;
+    m_pTable->Rows().Show(building);
+    m_bMarking = false;
+    MarkRooms(marked);
+}
+
+void CRoomList::MarkRooms(const std::vector<CRoomRef>& rooms)
+{
+    m_bMarking = true;
+    QItemSelection selection;
+    QModelIndex first;
+    for (int row = 0; row < m_pTable->rowCount(); ++row) {
+        const QModelIndex index = m_pTable->index(row, 0);
+        const CRoomRef& ref = m_pTable->Rows().RefOf(m_pTable->mapToSource(index).row());
+        if (std::ranges::binary_search(rooms, ref)) {
+            selection.select(index, m_pTable->index(row, CRoomRows::columns - 1));
+            first = first.isValid() ? first : index;
+        }
+    }
+    m_pView->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (first.isValid()) {
+        m_pView->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        m_pView->scrollTo(first);
+    }
+    m_bMarking = false;
+}
+
+std::vector<CRoomRef> CRoomList::GetMarkedRooms() const
+{
+    std::vector<CRoomRef> rooms;
+    for (const QModelIndex& index : m_pView->selectionModel()->selectedRows()) {
+        rooms.push_back(m_pTable->Rows().RefOf(m_pTable->mapToSource(index).row()));
+    }
+    std::ranges::sort(rooms);
+    return rooms;
+}
+
+void CRoomList::ShowOpenOnly(bool openOnly)
+{
+    m_pOpenOnly->setChecked(openOnly);
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "workbench/plan/sizing.h"
+
+class QWidget;
+
+/// Sizes rooms (SizeRooms) behind a bar that shows how far it is and lets the user cancel.
+CSizingResult SizeWithProgress(QWidget* parent, const CBuilding& building,
+                               const std::vector<CRoomRef>& rooms);

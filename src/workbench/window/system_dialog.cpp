@@ -1,0 +1,113 @@
+#include "workbench/window/system_dialog.h"
+
+#include "workbench/plan/coverage.h"
+#include "workbench/plan/plan_edit.h"
+#include "workbench/window/window_text.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace {
+
+/// Supply and return of systems that are built most, from the boiler of old to the heat pump.
+constexpr CHeatingSystem kCommon[] = {
+    {80.0, 60.0}, {75.0, 65.0}, {70.0, 55.0}, {65.0, 50.0}, {55.0, 45.0}, {45.0, 38.0},
+};
+
+QDoubleSpinBox* MakeTemperature(double value)
+{
+    auto* const box = new QDoubleSpinBox;
+    box->setRange(1.0, 110.0);
+    box->setDecimals(1);
+    box->setSuffix(" °C");
+    box->setValue(value);
+    return box;
+}
+
+std::size_t CountOpen(const CBuilding& building)
+{
+    const std::vector<CRoomRef> rooms = AllRooms(building);
+    return static_cast<std::size_t>(std::ranges::count_if(
+        rooms, [&](const CRoomRef& ref) { return IsOpen(CoverageOf(RoomOf(building, ref))); }));
+}
+
+} // namespace
+
+CSystemDialog::CSystemDialog(const CBuilding& building, QWidget* parent)
+    : QDialog(parent), m_building(building), m_pCommon(new QComboBox),
+      m_pVorlauf(MakeTemperature(building.system.vorlauf)),
+      m_pRuecklauf(MakeTemperature(building.system.ruecklauf)), m_pConsequence(new QLabel),
+      m_pButtons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
+{
+    setWindowTitle("Sistema di riscaldamento");
+    m_pVorlauf->setObjectName("supply");
+    m_pRuecklauf->setObjectName("return");
+    m_pConsequence->setObjectName("consequence");
+    m_pConsequence->setWordWrap(true);
+    m_pConsequence->setMinimumHeight(fontMetrics().height() * 3);
+    m_pButtons->button(QDialogButtonBox::Cancel)->setText("Annulla");
+
+    m_pCommon->addItem("Scegliere…");
+    for (const CHeatingSystem& system : kCommon) {
+        m_pCommon->addItem(QString("%1/%2 °C").arg(system.vorlauf).arg(system.ruecklauf));
+    }
+    auto* const form = new QFormLayout;
+    form->addRow("&Sistemi usuali:", m_pCommon);
+    form->addRow("&Mandata:", m_pVorlauf);
+    form->addRow("&Ritorno:", m_pRuecklauf);
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(form);
+    layout->addWidget(m_pConsequence);
+    layout->addStretch();
+    layout->addWidget(m_pButtons);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 56);
+
+    connect(m_pCommon, &QComboBox::activated, this, &CSystemDialog::TakeCommon);
+    connect(m_pVorlauf, &QDoubleSpinBox::valueChanged, this, &CSystemDialog::ShowConsequence);
+    connect(m_pRuecklauf, &QDoubleSpinBox::valueChanged, this, &CSystemDialog::ShowConsequence);
+    connect(m_pButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(m_pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    ShowConsequence();
+}
+
+CHeatingSystem CSystemDialog::GetSystem() const
+{
+    return {m_pVorlauf->value(), m_pRuecklauf->value()};
+}
+
+void CSystemDialog::TakeCommon(int index)
+{
+    if (index > 0) {
+        m_pVorlauf->setValue(kCommon[index - 1].vorlauf);
+        m_pRuecklauf->setValue(kCommon[index - 1].ruecklauf);
+    }
+}
+
+void CSystemDialog::ShowConsequence()
+{
+    QString text;
+    bool possible = false;
+    CBuilding changed = m_building;
+    changed.system = GetSystem();
+    if (!changed.system.IsPlausible()) {
+        text = "La temperatura di ritorno deve stare sotto quella di mandata.";
+    } else if (const CRoom* const room = FindRoomTooWarm(changed)) {
+        text = QString("Il ritorno non supera la temperatura del locale \"%1\".")
+                   .arg(ToQt(room->strName));
+    } else {
+        possible = true;
+        ChangeSystem(changed, changed.system);
+        text = QString("Locali da sistemare: %1 (ora %2).")
+                   .arg(CountOpen(changed))
+                   .arg(CountOpen(m_building));
+    }
+    m_pConsequence->setText(text);
+    m_pButtons->button(QDialogButtonBox::Ok)->setEnabled(possible);
+}

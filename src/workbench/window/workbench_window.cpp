@@ -1,0 +1,261 @@
+#include "workbench/window/workbench_window.h"
+
+#include "workbench/drawing/plan_view.h"
+#include "workbench/drawing/scene_drawer.h"
+#include "workbench/plan/coverage.h"
+#include "workbench/plan/placement.h"
+#include "workbench/window/floor_scene.h"
+#include "workbench/window/plan_texts.h"
+#include "workbench/window/room_list.h"
+#include "workbench/window/window_text.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr QSize kWindowSize(1240, 800);
+constexpr int kListWidth = 500;
+constexpr int kMessagesHeight = 120;
+
+} // namespace
+
+CWorkbenchWindow::CWorkbenchWindow(CPlanDocument& document, CDrawingBlocks blocks, CPrompts prompts)
+    : m_document(document), m_blocks(std::move(blocks)), m_prompts(std::move(prompts)),
+      m_commands(document, m_prompts, *this), m_files(document, m_blocks, m_prompts, *this),
+      m_pScene(new CFloorScene(this)), m_pView(new CPlanView(m_pScene)), m_pTabs(new QTabBar),
+      m_pRooms(new CRoomList), m_pMessages(new QPlainTextEdit), m_pTotals(new QLabel)
+{
+    m_pScene->SetBlocks(m_blocks.heizkoerper, m_blocks.Valves());
+    m_pDrawer = std::make_unique<CSceneDrawer>(*m_pScene, m_blocks.heizkoerper.layers);
+
+    auto* const plan = new QWidget;
+    auto* const layout = new QVBoxLayout(plan);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_pTabs);
+    layout->addWidget(m_pView);
+    setCentralWidget(plan);
+    m_pTabs->setObjectName("floors");
+    m_pTabs->setDocumentMode(true);
+    m_pTabs->setExpanding(false);
+    m_pView->setObjectName("plan");
+    m_pView->setFrameShape(QFrame::NoFrame);
+
+    statusBar()->addWidget(m_pTotals);
+    m_pTotals->setObjectName("totals");
+    MakeDocks();
+    MakeFileMenu();
+    MakeEditMenu();
+    MakeRadiatorMenu();
+    MakePlantMenu();
+    MakeViewMenu();
+    Connect();
+    resize(kWindowSize);
+    resizeDocks({m_pRoomDock}, {kListWidth}, Qt::Horizontal);
+    resizeDocks({m_pMessageDock}, {kMessagesHeight}, Qt::Vertical);
+    ShowBuilding();
+    m_pView->setFocus();
+}
+
+CWorkbenchWindow::~CWorkbenchWindow() = default;
+
+void CWorkbenchWindow::MakeDocks()
+{
+    m_pMessages->setObjectName("messages");
+    m_pMessages->setReadOnly(true);
+    m_pMessages->setMaximumBlockCount(5000);
+    m_pMessages->setTabChangesFocus(true);
+    const auto add = [this](const char* name, const QString& title, QWidget* content,
+                            Qt::DockWidgetArea area) {
+        auto* const dock = new QDockWidget(title, this);
+        dock->setObjectName(name);
+        dock->setWidget(content);
+        addDockWidget(area, dock);
+        return dock;
+    };
+    m_pRoomDock = add("roomDock", "Locali", m_pRooms, Qt::RightDockWidgetArea);
+    m_pMessageDock = add("messageDock", "Avvisi", m_pMessages, Qt::BottomDockWidgetArea);
+    m_pMessageDock->hide();
+}
+
+void CWorkbenchWindow::Connect()
+{
+    connect(&m_document, &CPlanDocument::Changed, this, &CWorkbenchWindow::ShowBuilding);
+    connect(&m_document, &CPlanDocument::KeepingFailed, this, [this](const QString& message) {
+        Tell("Il lavoro non salvato non è al sicuro da un arresto improvviso: " + message);
+    });
+    connect(&m_commands, &CPlanCommands::Told, this, &CWorkbenchWindow::Tell);
+    connect(&m_files, &CFileCommands::Told, this, &CWorkbenchWindow::Tell);
+    connect(m_pTabs, &QTabBar::currentChanged, this, &CWorkbenchWindow::ShowFloor);
+    connect(m_pScene, &CFloorScene::MarkChanged, this, &CWorkbenchWindow::MarkAsPlan);
+    connect(m_pScene, &CFloorScene::RoomActivated, this, &CWorkbenchWindow::ChooseFor);
+    connect(m_pScene, &CFloorScene::RadiatorActivated, this, &CWorkbenchWindow::ChooseForMarked);
+    connect(m_pRooms, &CRoomList::MarkChanged, this, &CWorkbenchWindow::MarkAsList);
+    connect(m_pRooms, &CRoomList::RoomActivated, this, &CWorkbenchWindow::ChooseFor);
+}
+
+void CWorkbenchWindow::ShowBuilding()
+{
+    ShowTabs();
+    ShowFloor(m_pTabs->currentIndex());
+    m_pRooms->ShowBuilding(m_document.Building());
+    ShowTotals();
+    ShowTitle();
+    EnableActions();
+}
+
+void CWorkbenchWindow::ShowTabs()
+{
+    const QSignalBlocker quiet(m_pTabs);
+    const std::vector<CFloor>& floors = m_document.Building().floors;
+    while (m_pTabs->count() > static_cast<int>(floors.size())) {
+        m_pTabs->removeTab(m_pTabs->count() - 1);
+    }
+    for (int i = 0; i < static_cast<int>(floors.size()); ++i) {
+        const QString name = ToQt(floors[static_cast<std::size_t>(i)].strName);
+        if (i < m_pTabs->count()) {
+            m_pTabs->setTabText(i, name);
+        } else {
+            m_pTabs->addTab(name);
+        }
+    }
+}
+
+void CWorkbenchWindow::ShowFloor(int floor)
+{
+    m_pScene->ShowFloor(m_document.Building(), static_cast<std::size_t>(std::max(floor, 0)));
+}
+
+void CWorkbenchWindow::ShowTotals()
+{
+    const CBuilding& building = m_document.Building();
+    double bedarf = 0.0;
+    double gedeckt = 0.0;
+    for (const CRoomRef& ref : AllRooms(building)) {
+        bedarf += RoomOf(building, ref).bedarf;
+        gedeckt += CoveredOf(RoomOf(building, ref));
+    }
+    m_pTotals->setText(QString("Sistema %1/%2 °C     Fabbisogno %3     Coperto %4     "
+                               "Locali da sistemare: %5")
+                           .arg(building.system.vorlauf)
+                           .arg(building.system.ruecklauf)
+                           .arg(WattText(bedarf), WattText(gedeckt))
+                           .arg(OpenRooms(building).size()));
+}
+
+void CWorkbenchWindow::ShowTitle()
+{
+    setWindowTitle(ToQt(m_document.Building().strName) + "[*] – radsel");
+    setWindowModified(!m_document.IsSaved());
+}
+
+void CWorkbenchWindow::MarkAsPlan()
+{
+    std::vector<CRoomRef> rooms = m_pScene->GetMarkedRooms();
+    for (const CRadiatorRef& radiator : m_pScene->GetMarkedRadiators()) {
+        rooms.push_back(radiator.room);
+    }
+    std::ranges::sort(rooms);
+    rooms.erase(std::unique(rooms.begin(), rooms.end()), rooms.end());
+    m_pRooms->MarkRooms(rooms);
+    EnableActions();
+}
+
+void CWorkbenchWindow::MarkAsList()
+{
+    const std::vector<CRoomRef> rooms = m_pRooms->GetMarkedRooms();
+    // The plan shows one floor: that of the rooms, unless they lie on several.
+    const QSignalBlocker quiet(m_pScene);
+    if (!rooms.empty() && rooms.front().nFloor == rooms.back().nFloor) {
+        m_pTabs->setCurrentIndex(static_cast<int>(rooms.front().nFloor));
+    }
+    m_pScene->MarkRooms(rooms);
+    EnableActions();
+}
+
+std::vector<CRoomRef> CWorkbenchWindow::MarkedRooms() const
+{
+    return m_pRooms->GetMarkedRooms();
+}
+
+/// The marked radiators, or all radiators of the marked rooms.
+std::vector<CRadiatorRef> CWorkbenchWindow::RadiatorsOfMark() const
+{
+    std::vector<CRadiatorRef> radiators = m_pScene->GetMarkedRadiators();
+    if (!radiators.empty()) {
+        return radiators;
+    }
+    for (const CRoomRef& ref : MarkedRooms()) {
+        const CRoom& room = RoomOf(m_document.Building(), ref);
+        for (std::size_t i = 0; i < room.heizkoerper.size(); ++i) {
+            radiators.push_back({ref, i});
+        }
+    }
+    return radiators;
+}
+
+void CWorkbenchWindow::ChooseFor(const CRoomRef& ref)
+{
+    const CRoom& room = RoomOf(m_document.Building(), ref);
+    const auto radiator = room.heizkoerper.empty() ? std::nullopt : std::optional<std::size_t>(0);
+    m_commands.ChooseRadiator(ref, radiator, *m_pDrawer);
+}
+
+void CWorkbenchWindow::ChooseForMarked()
+{
+    const std::vector<CRadiatorRef> radiators = m_pScene->GetMarkedRadiators();
+    if (!radiators.empty()) {
+        m_commands.ChooseRadiator(radiators.front().room, radiators.front().nRadiator, *m_pDrawer);
+    } else if (!MarkedRooms().empty()) {
+        ChooseFor(MarkedRooms().front());
+    }
+}
+
+void CWorkbenchWindow::AddToMarked()
+{
+    if (!MarkedRooms().empty()) {
+        m_commands.ChooseRadiator(MarkedRooms().front(), std::nullopt, *m_pDrawer);
+    }
+}
+
+void CWorkbenchWindow::ConnectMarked()
+{
+    m_pScene->ShowConnections(false);
+    m_commands.Connect(RadiatorsOfMark(), *m_pDrawer);
+    m_pDrawer->ClearPreview();
+    m_pScene->ShowConnections(true);
+}
+
+void CWorkbenchWindow::RemoveMarked()
+{
+    m_commands.Remove(RadiatorsOfMark());
+}
+
+void CWorkbenchWindow::Tell(const QString& message)
+{
+    m_pMessages->appendPlainText(message);
+    if (m_pMessageDock->isHidden()) {
+        m_pMessageDock->show();
+        resizeDocks({m_pMessageDock}, {kMessagesHeight}, Qt::Vertical);
+    }
+}
+
+void CWorkbenchWindow::closeEvent(QCloseEvent* event)
+{
+    if (!m_files.MayLeave()) {
+        event->ignore();
+        return;
+    }
+    m_document.ForgetKept();
+    event->accept();
+}
