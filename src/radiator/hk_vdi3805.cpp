@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -97,6 +98,10 @@ CHKVdi3805::CHKVdi3805(HK_DATEN_VDI3805_UEBERGABE* daten)
 CHKVdi3805::~CHKVdi3805()
 {
     FreeErgebnis();
+    while (m_pFrei != nullptr) {
+        const std::unique_ptr<HK_VDI3805_TYP> row(m_pFrei);
+        m_pFrei = row->pNext;
+    }
 }
 
 void CHKVdi3805::SetLeistungFilter(int filter)
@@ -148,10 +153,22 @@ void CHKVdi3805::UpdateLeistungsBand()
 
 void CHKVdi3805::FreeErgebnis()
 {
-    while (m_pErgebnis != nullptr) {
-        const std::unique_ptr<HK_VDI3805_TYP> row(m_pErgebnis);
-        m_pErgebnis = row->pNext;
+    HK_VDI3805_TYP** end = &m_pErgebnis;
+    while (*end != nullptr) {
+        end = &(*end)->pNext;
     }
+    *end = m_pFrei;
+    m_pFrei = std::exchange(m_pErgebnis, nullptr);
+}
+
+HK_VDI3805_TYP* CHKVdi3805::NewRow()
+{
+    if (m_pFrei == nullptr) {
+        return new HK_VDI3805_TYP;
+    }
+    HK_VDI3805_TYP* const row = m_pFrei;
+    m_pFrei = row->pNext;
+    return row;
 }
 
 void CHKVdi3805::FindPosition(double standardLeistung)
@@ -181,7 +198,7 @@ void CHKVdi3805::CollectRows()
         if (++count > kMaxRows) {
             return;
         }
-        auto* const result = new HK_VDI3805_TYP;
+        HK_VDI3805_TYP* const result = NewRow();
         *result = *row;
         result->pNext = nullptr;
         result->pPrev = last;

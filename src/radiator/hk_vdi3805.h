@@ -87,6 +87,7 @@ private:
 
     void UpdateLeistungsBand();
     void FreeErgebnis();
+    HK_VDI3805_TYP* NewRow();
     void FindPosition(double standardLeistung);
     void CollectRows();
     Outputs ComputeOutputs(const HK_DATEN_VDI3805& row) const;
@@ -95,6 +96,9 @@ private:
     bool PassesOutput(const HK_DATEN_VDI3805& row, double designOutput) const;
 
     HK_VDI3805_TYP* m_pErgebnis = nullptr;
+    /// Rows of an earlier pass, for the next one: a dialog runs a pass with each key, and making
+    /// thousands of rows takes longer than filling them.
+    HK_VDI3805_TYP* m_pFrei = nullptr;
     HK_DATEN_VDI3805_UEBERGABE* m_pDaten;
     CArray<double, double> m_Tiefen;
     CArray<double, double> m_Hoehen;

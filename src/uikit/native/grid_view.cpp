@@ -23,6 +23,13 @@ constexpr int kFitMargin = 2;
 /// Two lines of the templates' font.
 constexpr int kHeadingHeight = 32;
 
+/// Columns of sizes repeat a text over many rows.
+bool NeedsSameWidth(const CUGCell* above, const CUGCell& cell)
+{
+    return above != nullptr && above->GetCellType() == cell.GetCellType() &&
+           above->GetAlignment() == cell.GetAlignment() && above->GetText() == cell.GetText();
+}
+
 GridKey KeyOf(int key)
 {
     switch (key) {
@@ -223,16 +230,25 @@ void CGridView::BestFit(int first, int count, int rows, bool headings)
     const int lastRow = qMin(rows, m_model.Rows().GetRowCount());
     const int begin = qMax(first, 0);
     const int end = qMin(count, m_top->count());
-    std::vector<int> widths(static_cast<std::size_t>(qMax(end, 0)), kGridMinColumnWidth);
+    struct CFit
+    {
+        int nWidth = kGridMinColumnWidth;
+        const CUGCell* pAbove = nullptr;
+    };
+    std::vector<CFit> fits(static_cast<std::size_t>(qMax(end, 0)));
     for (int row = headings ? -1 : 0; row < lastRow; ++row) {
         for (int column = begin; column < end; ++column) {
             const CUGCell& cell = *m_model.Rows().Find(column, row);
-            int& width = widths[static_cast<std::size_t>(column)];
-            width = qMax(width, m_paint.CellWidth(cell, KindOf(cell)) + kFitMargin);
+            CFit& fit = fits[static_cast<std::size_t>(column)];
+            if (!NeedsSameWidth(fit.pAbove, cell)) {
+                const int width = m_paint.CellWidth(cell, KindOf(cell)) + kFitMargin;
+                fit.nWidth = qMax(fit.nWidth, width);
+            }
+            fit.pAbove = &cell;
         }
     }
     for (int column = begin; column < end; ++column) {
-        m_top->resizeSection(column, qMin(widths[static_cast<std::size_t>(column)], widest));
+        m_top->resizeSection(column, qMin(fits[static_cast<std::size_t>(column)].nWidth, widest));
     }
 }
 
