@@ -183,7 +183,8 @@ Codici di uscita:
   1  errore imprevisto
   2  argomenti errati
   3  edificio illeggibile o errato
-  4  catalogo o file di valvole danneggiato o illeggibile; gli altri locali sono calcolati ugualmente
+  4  catalogo, file di valvole o disegno di blocchi danneggiato o illeggibile; il resto è calcolato
+     ugualmente
   5  risultati non scrivibili
   6  finestra annullata
   7  nessuno schermo per mostrare la finestra

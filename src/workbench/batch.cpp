@@ -64,7 +64,7 @@ CResult Calculate(const CBuilding& building)
     return {isPlanned ? SchedulePlan(sized) : MakeSchedule(building), std::move(sized)};
 }
 
-void WriteFiles(const CResult& result, const CArguments& arguments)
+void WriteFiles(const CResult& result, const CDrawingBlocks& blocks, const CArguments& arguments)
 {
     const CString& folder = arguments.strOutput;
     std::error_code error;
@@ -74,7 +74,7 @@ void WriteFiles(const CResult& result, const CArguments& arguments)
     }
     WriteWholeFile(JoinPath(folder, kCsvName), Utf8FromWide(FormatScheduleCsv(result.schedule)));
     WriteWholeFile(JoinPath(folder, kJsonName), FormatScheduleJson(result.schedule));
-    WritePlanFiles(folder, result.building, ReadDrawingBlocks());
+    WritePlanFiles(folder, result.building, blocks);
     if (!arguments.strSave.empty()) {
         WriteBuilding(arguments.strSave, result.building);
     }
@@ -94,6 +94,16 @@ ExitCode Show(const CString& text, ExitCode code, std::ostream& out, std::ostrea
                : Report(err, L"l'uscita standard non è scrivibile", ExitCode::outputNotWritable);
 }
 
+/// Plans are drawn without the blocks that cannot be read.
+CDrawingBlocks ReadBlocks(ExitCode& code, std::ostream& err)
+{
+    CDrawingBlocks blocks = ReadDrawingBlocks();
+    for (const CDxfError& error : blocks.errors) {
+        code = Report(err, FormatDxfError(error), ExitCode::badCatalogue);
+    }
+    return blocks;
+}
+
 /// The files come first: a reader of `out` that goes away ends the process.
 ExitCode Deliver(const CResult& result, const CArguments& arguments, std::ostream& out,
                  std::ostream& err)
@@ -101,7 +111,7 @@ ExitCode Deliver(const CResult& result, const CArguments& arguments, std::ostrea
     ExitCode code = result.schedule.HasBadCatalogue() ? ExitCode::badCatalogue : ExitCode::ok;
     CString text = FormatScheduleText(result.schedule, arguments.bValves);
     try {
-        WriteFiles(result, arguments);
+        WriteFiles(result, ReadBlocks(code, err), arguments);
         text += L"Scritti " + CString(kCsvName) + L", " + kJsonName + L", " + kPdfName + L" e " +
                 kDxfName + L" in " + arguments.strOutput + L"\n";
     } catch (const CFileException& error) {

@@ -6,14 +6,12 @@
 #include "platform/format.h"
 #include "workbench/connection_list.h"
 #include "workbench/dialog_run.h"
+#include "workbench/drawing/beside_window.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/drawing/sample_plan.h"
 #include "workbench/drawing/scene_drawer.h"
 #include "workbench/host_prefs/host_settings.h"
 #include "workbench/text_columns.h"
-
-#include <QCoreApplication>
-#include <QEvent>
 
 #include <algorithm>
 #include <iterator>
@@ -25,30 +23,6 @@ namespace {
 const CDxfLayer kLayer = {L"RISCALDAMENTO", 1};
 
 constexpr QSize kPlanSize(520, 480);
-constexpr int kGap = 12;
-
-/// Puts dialogs that open beside a window, so that they do not hide what changes in it.
-class CBesideWindow : public QObject
-{
-public:
-    explicit CBesideWindow(const QWidget& window) : m_window(window)
-    {
-        QCoreApplication::instance()->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* object, QEvent* event) override
-    {
-        auto* dialog = qobject_cast<QWidget*>(object);
-        if (event->type() == QEvent::Show && dialog != nullptr && dialog->isModal() &&
-            dialog->geometry().intersects(m_window.frameGeometry())) {
-            dialog->move(m_window.frameGeometry().topRight() + QPoint(kGap, 0));
-        }
-        return false;
-    }
-
-private:
-    const QWidget& m_window;
-};
 
 /// Value of the last option of that name; empty if there is none.
 CString OptionOf(const std::vector<CString>& arguments, const CString& name)

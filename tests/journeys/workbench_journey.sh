@@ -67,13 +67,11 @@ size_all_and_undo() {
 }
 
 connect_all() {
-    keys ctrl+a F6
-    await "the connections" window_is_up 'ttacc'
-    local title
-    title=$(xdotool getwindowname "$window")
+    keys ctrl+a F6 # all rooms of the floor, of which eight have a radiator
+    await "the connections" window_is_up '^Parametri valvole e attacco'
     keys Return
-    xdotool key --clearmodifiers Return || true
-    back_to_plan "^$title\$"
+    back_to_plan '^Parametri valvole e attacco'
+    await "both points of every radiator" eval '[[ $(grep -c "\"point\": \"-\?0" <<<"$(kept)") -eq 16 ]]'
 }
 
 change_system_and_repair() {

@@ -1,7 +1,10 @@
 #include "workbench/batch.h"
 
 #include "platform/encoding.h"
+#include "support/setting_override.h"
 #include "support/temp_folder.h"
+#include "workbench/building_json.h"
+#include "workbench/drawing/dxf_blocks.h"
 #include "workbench/host_prefs/host_settings.h"
 #include "workbench/text_columns.h"
 
@@ -228,4 +231,28 @@ TEST_F(BatchTest, ScreenThatCannotBeWrittenIsAnError)
     m_out.setstate(std::ios::badbit);
     EXPECT_EQ(Run({}), ExitCode::outputNotWritable);
     EXPECT_TRUE(m_folder.Exists("out/corpi-scaldanti.csv"));
+}
+
+TEST_F(BatchTest, ThePlanIsDrawnAndTheBuildingKeptWithItsRadiators)
+{
+    ASSERT_EQ(Run({L"--save", m_folder.Path("casa.json")}), ExitCode::ok) << m_err.str();
+    EXPECT_EQ(m_folder.ReadBytes("out/progetto.pdf").substr(0, 5), "%PDF-");
+    const auto plan = ReadDxfFile(m_folder.Path("out/pianta.dxf"));
+    EXPECT_TRUE(std::holds_alternative<CDxfDrawing>(plan));
+    const CBuilding kept = ReadBuilding(m_folder.Path("casa.json"));
+    ASSERT_EQ(kept.floors[0].rooms[1]->heizkoerper.size(), 1u);
+
+    // The schedule of the kept building tells the radiators that stand in it.
+    const QJsonValue chosen = ReadJson()["floors"][0]["rooms"][1]["radiator"];
+    ASSERT_EQ(Run({L"--building", m_folder.Path("casa.json")}), ExitCode::ok) << m_err.str();
+    EXPECT_EQ(ReadJson()["floors"][0]["rooms"][1]["radiator"], chosen);
+}
+
+TEST_F(BatchTest, BlocksThatCannotBeReadAreToldAndTheRestIsDone)
+{
+    m_folder.WriteBytes("rotto.dxf", "0\nSECTION\nrotto\n");
+    const CSettingOverride blocks(kSettingHKBlockFolder, m_folder.Path("rotto.dxf"));
+    EXPECT_EQ(Run({}), ExitCode::badCatalogue);
+    EXPECT_NE(m_err.str().find("rotto.dxf: riga 3: "), std::string::npos) << m_err.str();
+    EXPECT_NE(m_out.str().find("pianta.dxf"), std::string::npos);
 }

@@ -1,6 +1,7 @@
 #include "workbench/drawing/drawing_blocks.h"
 
 #include "host/host_prefs.h"
+#include "platform/format.h"
 
 #include <utility>
 
@@ -22,4 +23,10 @@ CDrawingBlocks ReadDrawingBlocks()
         blocks.errors.insert(blocks.errors.end(), errors.begin(), errors.end());
     }
     return blocks;
+}
+
+CString FormatDxfError(const CDxfError& error)
+{
+    const CString line = error.nLine > 0 ? L": riga " + FormatInt(error.nLine) : CString();
+    return error.strFile + line + L": " + error.strMessage;
 }

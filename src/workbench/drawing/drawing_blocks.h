@@ -17,3 +17,6 @@ struct CDrawingBlocks
 };
 
 CDrawingBlocks ReadDrawingBlocks();
+
+/// File, line and reason in one line, as messages show it.
+CString FormatDxfError(const CDxfError& error);

@@ -68,8 +68,7 @@ CDrawingBlocks ReadBlocks(QStringList& messages)
 {
     CDrawingBlocks blocks = ReadDrawingBlocks();
     for (const CDxfError& error : blocks.errors) {
-        const QString line = error.nLine > 0 ? QString(": riga %1").arg(error.nLine) : QString();
-        messages += ToQt(error.strFile) + line + ": " + ToQt(error.strMessage);
+        messages += ToQt(FormatDxfError(error));
     }
     return blocks;
 }

@@ -1,5 +1,6 @@
 #include "workbench/window/workbench_window.h"
 
+#include "workbench/drawing/beside_window.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/drawing/scene_drawer.h"
 #include "workbench/plan/coverage.h"
@@ -230,6 +231,7 @@ void CWorkbenchWindow::AddToMarked()
 
 void CWorkbenchWindow::ConnectMarked()
 {
+    const CBesideWindow beside(*m_pView);
     m_pScene->ShowConnections(false);
     m_commands.Connect(RadiatorsOfMark(), *m_pDrawer);
     m_pDrawer->ClearPreview();
