@@ -133,8 +133,8 @@ void CGridView::SetRedraw(bool redraw)
         HighlightCurrent();
     }
     m_model.Suspend(!redraw);
-    // The scroll bar and the headings see nothing of a suspended model, and painting them anew takes
-    // as long as painting many rows.
+    // The scroll bar and the headings see nothing of a suspended model, and painting them anew
+    // takes as long as painting many rows.
     viewport()->setUpdatesEnabled(redraw);
 }
 
