@@ -124,6 +124,7 @@ public:
     /// Suspends all work for the screen during bulk changes; true makes up for it at once. Takes
     /// the place of CWnd::SetRedraw(), which would only hold the painting back.
     void SetRedraw(bool redraw);
+    /// Paints all cells anew. Headings show every change of theirs by themselves.
     void RedrawAll();
 
     /// Makes a cell the current one, highlights it and scrolls to it. A place outside is brought to

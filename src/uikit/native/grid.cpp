@@ -187,8 +187,6 @@ void CUGCtrl::RedrawAll()
 {
     if (CGridView* view = View()) {
         view->viewport()->update();
-        view->TopHeading().viewport()->update();
-        view->SideHeading().viewport()->update();
     }
 }
 

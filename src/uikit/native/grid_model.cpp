@@ -2,12 +2,17 @@
 
 #include "uikit/native/access.h"
 
+#include <utility>
+
 void CGridModel::Suspend(bool suspend)
 {
     const bool resumed = m_suspended && !suspend;
     m_suspended = suspend;
     if (!resumed) {
         return;
+    }
+    if (std::exchange(m_headingsChanged, false)) {
+        emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
     }
     if (m_shownRows == m_rows.GetRowCount()) {
         // Views keep what they know of the rows' places, and their scroll bars as they are.
@@ -61,6 +66,7 @@ bool CGridModel::SetCell(int column, int row, const CUGCell& cell)
     }
     *place = cell;
     if (m_suspended) {
+        m_headingsChanged = m_headingsChanged || row == -1;
         return true;
     }
     if (row == -1) {

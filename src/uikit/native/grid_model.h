@@ -34,4 +34,5 @@ private:
     CGridRows m_rows;
     int m_shownRows = 0;
     bool m_suspended = false;
+    bool m_headingsChanged = false;
 };
