@@ -1,12 +1,12 @@
 #include "workbench/connection_run.h"
 
 #include "frame/entry_points.h"
-#include "host/host_prefs.h"
 #include "platform/encoding.h"
 #include "platform/format.h"
 #include "workbench/connection_list.h"
 #include "workbench/dialog_run.h"
 #include "workbench/drawing/beside_window.h"
+#include "workbench/drawing/drawing_blocks.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/drawing/sample_plan.h"
 #include "workbench/drawing/scene_drawer.h"
@@ -62,14 +62,11 @@ void ApplyOptions(const std::vector<CString>& arguments)
 /// The blocks of radiators; without their drawing a plan shows plain rectangles.
 CDxfDrawing RadiatorBlocks(std::ostream& err)
 {
-    CString path;
-    lmGetDWGDefPath(LumoDWGDefsNames::heizkoerper, path);
-    auto result = ReadDxfFile(path);
-    if (const auto* error = std::get_if<CDxfError>(&result)) {
-        err << Utf8FromWide(error->strFile + L": " + error->strMessage) << '\n';
-        return {};
+    const CDrawingBlocks blocks = ReadDrawingBlocks();
+    for (const CDxfError& error : blocks.errors) {
+        err << Utf8FromWide(FormatDxfError(error)) << '\n';
     }
-    return std::get<CDxfDrawing>(std::move(result));
+    return blocks.heizkoerper;
 }
 
 bool Edit(CConnectionChoice& choice, std::ostream& err)

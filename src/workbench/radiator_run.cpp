@@ -8,7 +8,7 @@
 #include "workbench/batch.h"
 #include "workbench/building_json.h"
 #include "workbench/dialog_run.h"
-#include "workbench/drawing/dxf_blocks.h"
+#include "workbench/drawing/drawing_blocks.h"
 #include "workbench/drawing/scene_drawer.h"
 #include "workbench/host_folders.h"
 #include "workbench/json_fields.h"
@@ -68,15 +68,6 @@ CPlacedRoom FindRoom(const CBuilding& building, const CString& name)
                              name + L"\"");
 }
 
-std::vector<CDxfLayer> LayersOfBlocks()
-{
-    CString blocks;
-    lmGetDWGDefPath(LumoDWGDefsNames::heizkoerper, blocks);
-    auto read = ReadDxfFile(blocks);
-    const auto* drawing = std::get_if<CDxfDrawing>(&read);
-    return drawing != nullptr ? drawing->layers : std::vector<CDxfLayer>();
-}
-
 CString DescribeRadiator(const HK_DATEN_VDI3805_UEBERGABE& uebergabe, const CString& layer)
 {
     const HK_DATEN_VDI3805& daten = uebergabe.Daten;
@@ -100,7 +91,7 @@ bool Choose(const CRoomChoice& choice, std::ostream& out)
     SetWorkplace(choice.arguments);
     StartWindows();
     QGraphicsScene scene;
-    CSceneDrawer drawer(scene, LayersOfBlocks());
+    CSceneDrawer drawer(scene, ReadDrawingBlocks().heizkoerper.layers);
     const bool chosen =
         HeizkoerperauswahlVDI3805(&drawer, &uebergabe, layer, layerColor, true, true) == 0;
     Write(out, chosen ? DescribeRadiator(uebergabe, layer) : L"Nessun corpo scaldante scelto");

@@ -3,7 +3,7 @@
 #include "frame/entry_points.h"
 #include "host/host_catalog.h"
 #include "platform/format.h"
-#include "workbench/host_catalog/catalogue_errors.h"
+#include "workbench/catalogue_check.h"
 #include "workbench/plan/coverage.h"
 
 #include <algorithm>
@@ -154,8 +154,7 @@ CRoomOutcome ExplainEmptySearch(const CRoom& room)
         return unknown(L"i cataloghi non hanno il produttore \"" + room.strHersteller + L"\"");
     }
     if (const std::optional<CCatalogueError> error = GetCatalogueError(room.strHersteller)) {
-        const CString line = error->nLine > 0 ? L": riga " + FormatInt(error->nLine) : CString();
-        return {RoomStatus::badCatalogue, {}, error->strFile + line + L": " + error->strMessage};
+        return {RoomStatus::badCatalogue, {}, FormatCatalogueError(*error)};
     }
     HK_VDI3805_ART* kind = FindArt(maker, room.strArt);
     if (!kind) {

@@ -1,7 +1,6 @@
 #include "workbench/window/system_dialog.h"
 
-#include "workbench/plan/coverage.h"
-#include "workbench/plan/plan_edit.h"
+#include "workbench/window/plan_commands.h"
 #include "workbench/window/window_text.h"
 
 #include <QComboBox>
@@ -11,8 +10,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace {
 
@@ -29,13 +26,6 @@ QDoubleSpinBox* MakeTemperature(double value)
     box->setSuffix(" °C");
     box->setValue(value);
     return box;
-}
-
-std::size_t CountOpen(const CBuilding& building)
-{
-    const std::vector<CRoomRef> rooms = AllRooms(building);
-    return static_cast<std::size_t>(std::ranges::count_if(
-        rooms, [&](const CRoomRef& ref) { return IsOpen(CoverageOf(RoomOf(building, ref))); }));
 }
 
 } // namespace
@@ -105,8 +95,8 @@ void CSystemDialog::ShowConsequence()
         possible = true;
         ChangeSystem(changed, changed.system);
         text = QString("Locali da sistemare: %1 (ora %2).")
-                   .arg(CountOpen(changed))
-                   .arg(CountOpen(m_building));
+                   .arg(OpenRooms(changed).size())
+                   .arg(OpenRooms(m_building).size());
     }
     m_pConsequence->setText(text);
     m_pButtons->button(QDialogButtonBox::Ok)->setEnabled(possible);
