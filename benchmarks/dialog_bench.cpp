@@ -12,6 +12,7 @@
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
 
+#include "dialog_support/paint_counter.h"
 #include "support/setting_override.h"
 #include "support/temp_folder.h"
 
@@ -97,21 +98,6 @@ void CheckRows(benchmark::State& state, const QTableView& grid)
         state.SkipWithError("the grid shows another number of rows");
     }
 }
-
-/// Counts how often a widget is painted.
-class CPaintCounter : public QObject
-{
-public:
-    explicit CPaintCounter(QWidget& widget) { widget.installEventFilter(this); }
-
-    int nPaints = 0;
-
-    bool eventFilter(QObject* /*object*/, QEvent* event) override
-    {
-        nPaints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
 
 void KeystrokeMeasured(benchmark::State& state)
 {

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 namespace {
 
@@ -12,24 +13,59 @@ CString Widen(const char* first, const char* last)
     return CString(first, last);
 }
 
-/// True for the whole numbers that most measures and outputs are. Zero may have a sign to show.
-bool IsPlainWhole(double value)
+/// Above this, neighbouring doubles lie too far apart for the digits to be taken from a product.
+constexpr double kMostDigits = 1e15;
+constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
+
+/// The size of the number in units of its last place. None where the product, which is rounded
+/// itself, lies so near a half that it might go to the other side of it than the number does.
+std::optional<long long> InLastPlaces(double value, int decimals)
 {
-    constexpr double kLargest = 1e15;
-    return value != 0.0 && std::fabs(value) < kLargest && value == std::trunc(value);
+    constexpr double kCertain = 0.25;
+    const double scaled = std::fabs(value) * kPowersOfTen[decimals];
+    if (!(scaled < kMostDigits)) {
+        return std::nullopt;
+    }
+    const double whole = std::nearbyint(scaled);
+    if (std::fabs(scaled - whole) >= kCertain) {
+        return std::nullopt;
+    }
+    return static_cast<long long>(whole);
+}
+
+void AssignDigits(CString& text, long long lastPlaces, int decimals, bool isNegative)
+{
+    // 15 digits, a sign and a point; a number of zeros where all of them are decimals.
+    std::array<wchar_t, 20> buffer;
+    wchar_t* const end = buffer.data() + buffer.size();
+    wchar_t* first = end;
+    for (int digits = 0; lastPlaces != 0 || digits <= decimals; ++digits) {
+        if (digits == decimals && decimals > 0) {
+            *--first = L'.';
+        }
+        *--first = static_cast<wchar_t>(L'0' + lastPlaces % 10);
+        lastPlaces /= 10;
+    }
+    if (isNegative) {
+        *--first = L'-';
+    }
+    text.assign(first, static_cast<std::size_t>(end - first));
 }
 
 } // namespace
 
 void AssignFixed(CString& text, double value, int decimals)
 {
+    // Tables are full of numbers, and most of them are not near a half.
+    if (const auto lastPlaces = InLastPlaces(value, decimals)) {
+        AssignDigits(text, *lastPlaces, decimals, std::signbit(value));
+        return;
+    }
     // The longest double has 309 digits before the point; sign, point and nine decimals follow.
     std::array<char, 340> buffer;
     char* const last = buffer.data() + buffer.size();
     const auto result =
-        decimals == 0 && IsPlainWhole(value)
-            ? std::to_chars(buffer.data(), last, static_cast<long long>(value))
-            : std::to_chars(buffer.data(), last, value, std::chars_format::fixed, decimals);
+        std::to_chars(buffer.data(), last, value, std::chars_format::fixed, decimals);
     text.assign(buffer.data(), result.ptr);
 }
 

@@ -139,14 +139,11 @@ void CHKAuswahlVdi3805Grid::FuegeZeileHinzu(const ErgebnisTexte& texte)
 {
     AppendRow();
     const int zeile = GetRowCount() - 1;
-    CUGCell zelle;
     for (int spalte = 0; spalte < kErgebnisSpalten; ++spalte) {
-        zelle.SetText(texte[static_cast<std::size_t>(spalte)]);
-        if (spalte > 0) {
-            zelle.SetDataType(GridDataType::number);
-            zelle.SetAlignment(GridAlign::right);
-        }
-        SetCell(spalte, zeile, zelle);
+        m_zelle.SetText(texte[static_cast<std::size_t>(spalte)]);
+        m_zelle.SetDataType(spalte > 0 ? GridDataType::number : GridDataType::text);
+        m_zelle.SetAlignment(spalte > 0 ? GridAlign::right : GridAlign::left);
+        SetCell(spalte, zeile, m_zelle);
     }
 }
 

@@ -49,4 +49,6 @@ private:
     CErgebnisZeilen m_zeilen;
     /// Cell type of headings that show a direction.
     int m_nSortPfeil = kGridTextType;
+    /// One cell for all writes of a rebuild, which so asks for no memory.
+    CUGCell m_zelle;
 };

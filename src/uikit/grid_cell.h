@@ -3,7 +3,7 @@
 #include "platform/text.h"
 
 /// Where the text of a cell stands.
-enum class GridAlign
+enum class GridAlign : unsigned char
 {
     left,
     center,
@@ -11,7 +11,7 @@ enum class GridAlign
 };
 
 /// What the text of a cell means to a sort.
-enum class GridDataType
+enum class GridDataType : unsigned char
 {
     text,
     number,

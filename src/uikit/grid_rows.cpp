@@ -58,20 +58,6 @@ bool CGridRows::Delete(int row)
     return true;
 }
 
-const CUGCell* CGridRows::Find(int column, int row) const
-{
-    if (column < 0 || column >= GetColumnCount() || row < -1 || row >= GetRowCount()) {
-        return nullptr;
-    }
-    const Row& cells = row == -1 ? m_heading : m_rows[static_cast<std::size_t>(row)];
-    return &cells[static_cast<std::size_t>(column)];
-}
-
-CUGCell* CGridRows::Find(int column, int row)
-{
-    return const_cast<CUGCell*>(std::as_const(*this).Find(column, row));
-}
-
 void CGridRows::Sort(int column, const Order& order)
 {
     if (column < 0 || column >= GetColumnCount()) {

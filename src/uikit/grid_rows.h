@@ -4,11 +4,14 @@
 
 #include <deque>
 #include <functional>
+#include <utility>
 #include <vector>
 
 /// The cells of a grid: one row of headings, addressed as row -1, and any number of rows from 0.
 class CGridRows
 {
+    using Row = std::vector<CUGCell>;
+
 public:
     /// Cells that rows have beyond the new count are lost.
     void SetColumnCount(int count);
@@ -21,8 +24,18 @@ public:
     bool Delete(int row);
 
     /// Null outside the grid. The pointer holds until columns change or that row goes.
-    CUGCell* Find(int column, int row);
-    const CUGCell* Find(int column, int row) const;
+    const CUGCell* Find(int column, int row) const
+    {
+        if (column < 0 || column >= GetColumnCount() || row < -1 || row >= GetRowCount()) {
+            return nullptr;
+        }
+        const Row& cells = row == -1 ? m_heading : m_rows[static_cast<std::size_t>(row)];
+        return &cells[static_cast<std::size_t>(column)];
+    }
+    CUGCell* Find(int column, int row)
+    {
+        return const_cast<CUGCell*>(std::as_const(*this).Find(column, row));
+    }
 
     /// Above 0 if the first cell belongs behind the second.
     using Order = std::function<int(const CUGCell&, const CUGCell&)>;
@@ -32,8 +45,6 @@ public:
     void Sort(int column, const Order& order);
 
 private:
-    using Row = std::vector<CUGCell>;
-
     Row m_heading;
     /// Rebuilds delete the first row again and again, which a deque does in no time.
     std::deque<Row> m_rows;

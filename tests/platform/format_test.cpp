@@ -5,8 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdio>
+#include <cstring>
 #include <limits>
 #include <locale>
+#include <random>
 #include <string>
 #include <utility>
 
@@ -23,6 +26,25 @@ TEST(Format, FixedNumbersAreWrittenAsTheCLocaleDoes)
     EXPECT_EQ(FormatFixed(std::nan(""), 1), L"nan");
     EXPECT_EQ(FormatFixed(-std::numeric_limits<double>::infinity(), 1), L"-inf");
     EXPECT_EQ(FormatFixed(-std::numeric_limits<double>::max(), 9).size(), 1U + 309U + 1U + 9U);
+}
+
+TEST(Format, FixedNumbersAreTheDecimalsNearestToTheDouble)
+{
+    std::mt19937 random(7);
+    std::uniform_int_distribution<int> units(-2'000'000, 2'000'000);
+    char expected[64];
+    for (int i = 0; i < 20000; ++i) {
+        // Halves of the last place, the doubles beside them, and numbers anywhere.
+        const int decimals = i % 10;
+        const double half = units(random) / std::pow(10.0, decimals) / 2.0;
+        for (const double value : {half, std::nextafter(half, 1e9), std::nextafter(half, -1e9),
+                                   half / 7.0, half * 1e9}) {
+            std::snprintf(expected, sizeof expected, "%.*f", decimals, value);
+            ASSERT_EQ(FormatFixed(value, decimals),
+                      CString(expected, expected + std::strlen(expected)))
+                << FormatExact(value);
+        }
+    }
 }
 
 TEST(Format, NothingDependsOnTheLocale)

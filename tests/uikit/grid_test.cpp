@@ -2,6 +2,8 @@
 
 #include "uikit/native/access.h"
 
+#include "dialog_support/paint_counter.h"
+
 #include <QApplication>
 #include <QFontMetricsF>
 #include <QHeaderView>
@@ -319,6 +321,33 @@ TEST_F(GridTest, RebuildUnderSuspendedRedrawKeepsWidthsAndMovesNoUser)
     m_grid->GotoCell(0, 7);
     EXPECT_EQ(m_grid->GetCurrentRow(), -1);
     EXPECT_EQ(TakeLog(), Log{});
+}
+
+/// Headings take as long as many rows to paint, and most rebuilds leave them as they are.
+TEST_F(GridTest, ARebuildPaintsTheHeadingsOnlyForOtherWidths)
+{
+    Fill(4);
+    m_grid->SetColumnWidth(1, 60);
+    m_grid->GotoCell(0, 3);
+    CPaintCounter paints(*m_view->horizontalHeader()->viewport());
+    const auto rebuild = [&](int width) {
+        m_grid->GotoCell(0, 0);
+        m_grid->SetRedraw(false);
+        m_grid->BestFit(1, 2, 4, true);
+        EXPECT_EQ(m_grid->GetColumnWidth(1), 3) << "what was fitted is read at once";
+        m_grid->SetColumnWidth(1, width);
+        m_grid->SetColumnWidth(3, width);
+        m_grid->SetRedraw(true);
+        m_grid->GotoCell(0, 3);
+        QApplication::processEvents();
+        EXPECT_EQ(m_grid->GetColumnWidth(1), width);
+        EXPECT_EQ(m_view->columnWidth(1), width);
+        return std::exchange(paints.nPaints, 0);
+    };
+    QApplication::processEvents();
+    paints.nPaints = 0;
+    EXPECT_EQ(rebuild(60), 0);
+    EXPECT_EQ(rebuild(80), 1);
 }
 
 TEST_F(GridTest, HeadingTextsAreReadAsRowMinusOne)

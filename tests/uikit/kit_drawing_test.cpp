@@ -2,6 +2,8 @@
 
 #include "uikit/column_label.h"
 
+#include "dialog_support/paint_counter.h"
+
 #include <QApplication>
 #include <QHelpEvent>
 #include <QLineEdit>
@@ -118,33 +120,18 @@ TEST_F(KitDrawing, LabelsShortenOrStandOverColumns)
     });
 }
 
-/// Counts the paintings of a widget.
-class CPaintCount : public QObject
-{
-public:
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return QObject::eventFilter(watched, event);
-    }
-};
-
 TEST_F(KitDrawing, ControlsThatAreHeldBackPaintOnceAtTheEnd)
 {
     Run([&](CDialogUser& user) {
         QCoreApplication::processEvents();
-        CPaintCount paintings;
-        user.Widget(idText).installEventFilter(&paintings);
+        CPaintCounter paintings(user.Widget(idText));
         Item(idText).SetRedraw(false);
         Item(idText).SetWindowText(L"neu");
         Item(idText).UpdateWindow();
         QCoreApplication::processEvents();
-        EXPECT_EQ(paintings.count, 0);
+        EXPECT_EQ(paintings.nPaints, 0);
         Item(idText).SetRedraw(true);
-        EXPECT_TRUE(Until([&] { return paintings.count > 0; }));
+        EXPECT_TRUE(Until([&] { return paintings.nPaints > 0; }));
     });
 }
 

@@ -219,13 +219,13 @@ int CUGCtrl::GetCurrentColumn() const
 int CUGCtrl::GetColumnWidth(int column) const
 {
     CGridView* view = View();
-    return view != nullptr ? view->TopHeading().sectionSize(column) : 0;
+    return view != nullptr ? view->ColumnWidth(column) : 0;
 }
 
 void CUGCtrl::SetColumnWidth(int column, int width)
 {
     if (CGridView* view = View()) {
-        view->TopHeading().resizeSection(column, width);
+        view->SetColumnWidth(column, width);
     }
 }
 

@@ -51,10 +51,11 @@ void CGridHeader::paintEvent(QPaintEvent* event)
     const QColor back = m_view.BackColor(GridSection::topHeading);
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), back);
+    const QColor between = back.darker(115);
     const int bottom = viewport()->height() - 1;
     for (int column = 0; column < count(); ++column) {
         const QRect rect(sectionViewportPosition(column), 0, sectionSize(column), bottom);
-        painter.setPen(back.darker(115));
+        painter.setPen(between);
         painter.drawLine(rect.right(), rect.top() + 4, rect.right(), rect.bottom() - 4);
         painter.setPen(palette().color(QPalette::Text));
         m_view.DrawCell(painter, rect.adjusted(0, 0, -1, 0), column, -1);
@@ -169,4 +170,10 @@ bool CGridHeader::viewportEvent(QEvent* event)
                            section, GridSection::sideHeading);
     }
     return true;
+}
+
+/// The headings at the top show no selection, so that they need no painting when it moves.
+QRegion CGridHeader::visualRegionForSelection(const QItemSelection& selection) const
+{
+    return IsTop() ? QRegion() : QHeaderView::visualRegionForSelection(selection);
 }

@@ -130,6 +130,7 @@ void CGridView::SetRedraw(bool redraw)
 {
     if (redraw && m_model.IsSuspended()) {
         m_model.Suspend(false);
+        ApplyWidths();
         HighlightCurrent();
     }
     m_model.Suspend(!redraw);
@@ -223,6 +224,32 @@ void CGridView::ShowCurrentSoon()
         Qt::QueuedConnection);
 }
 
+int CGridView::ColumnWidth(int column) const
+{
+    const auto changed = m_newWidths.find(column);
+    return changed != m_newWidths.end() ? changed->second : m_top->sectionSize(column);
+}
+
+/// A fit and the corrections of its owner come one after the other, and the headings would be
+/// painted for each.
+void CGridView::SetColumnWidth(int column, int width)
+{
+    if (column < 0 || column >= m_top->count()) {
+        return;
+    }
+    m_newWidths[column] = width;
+    if (!m_model.IsSuspended()) {
+        ApplyWidths();
+    }
+}
+
+void CGridView::ApplyWidths()
+{
+    for (const auto& [column, width] : std::exchange(m_newWidths, {})) {
+        m_top->resizeSection(column, width);
+    }
+}
+
 void CGridView::BestFit(int first, int count, int rows, bool headings)
 {
     const int inside = contentsRect().width();
@@ -248,7 +275,7 @@ void CGridView::BestFit(int first, int count, int rows, bool headings)
         }
     }
     for (int column = begin; column < end; ++column) {
-        m_top->resizeSection(column, qMin(fits[static_cast<std::size_t>(column)].nWidth, widest));
+        SetColumnWidth(column, qMin(fits[static_cast<std::size_t>(column)].nWidth, widest));
     }
 }
 

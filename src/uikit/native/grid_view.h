@@ -6,6 +6,8 @@
 
 #include <QTableView>
 
+#include <map>
+
 class CGridHeader;
 class QKeyEvent;
 
@@ -52,6 +54,8 @@ public:
     int CurrentColumn() const { return m_column; }
     int CurrentRow() const { return m_row; }
 
+    int ColumnWidth(int column) const;
+    void SetColumnWidth(int column, int width);
     void BestFit(int first, int count, int rows, bool headings);
 
     QColor BackColor(GridSection section);
@@ -80,6 +84,7 @@ private:
     friend class CGridDelegate;
 
     GridCellKind KindOf(const CUGCell& cell) const;
+    void ApplyWidths();
     void FontChanged();
     void HighlightCurrent();
     void ShowCurrentSoon();
@@ -100,6 +105,8 @@ private:
     int m_headingHeight = 0;
     int m_mode = currentCellFocusRect | currentCellHighlight;
     bool m_toolTips = true;
+    /// Columns and their widths in pixels that were set while redraw is off.
+    std::map<int, int> m_newWidths;
     int m_column = -1;
     int m_row = -1;
     bool m_showsCurrentSoon = false;
