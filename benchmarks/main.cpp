@@ -1,6 +1,6 @@
 // Prints what has to be fast as ratios to a floor that is measured in the same run. The pairs run
-// interleaved, so that a drift of the machine's speed meets both sides. The table quotes medians of
-// CPU time. The exit code tells whether every ratio and every limit was reached.
+// interleaved, so that a drift of the machine's speed meets both sides. All times are CPU time. The
+// exit code tells whether every ratio and every limit was reached.
 
 #include "ratio_table.h"
 #include "valve_file.h"

@@ -2,7 +2,6 @@
 
 #include "uikit/grid_cell.h"
 
-#include <deque>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -10,27 +9,24 @@
 /// The cells of a grid: one row of headings, addressed as row -1, and any number of rows from 0.
 class CGridRows
 {
-    using Row = std::vector<CUGCell>;
-
 public:
     /// Cells that rows have beyond the new count are lost.
     void SetColumnCount(int count);
     int GetColumnCount() const { return static_cast<int>(m_heading.size()); }
-    int GetRowCount() const { return static_cast<int>(m_rows.size()); }
+    int GetRowCount() const { return m_count; }
 
     /// Adds a row of empty cells at the end.
     void Append();
     /// False if there is no such row.
     bool Delete(int row);
 
-    /// Null outside the grid. The pointer holds until columns change or that row goes.
+    /// Null outside the grid. The pointer holds until rows or columns come or go.
     const CUGCell* Find(int column, int row) const
     {
-        if (column < 0 || column >= GetColumnCount() || row < -1 || row >= GetRowCount()) {
+        if (column < 0 || column >= GetColumnCount() || row < -1 || row >= m_count) {
             return nullptr;
         }
-        const Row& cells = row == -1 ? m_heading : m_rows[static_cast<std::size_t>(row)];
-        return &cells[static_cast<std::size_t>(column)];
+        return (row == -1 ? m_heading.data() : &m_cells[At(row)]) + column;
     }
     CUGCell* Find(int column, int row)
     {
@@ -45,10 +41,21 @@ public:
     void Sort(int column, const Order& order);
 
 private:
-    Row m_heading;
-    /// Rebuilds delete the first row again and again, which a deque does in no time.
-    std::deque<Row> m_rows;
-    /// Rows that were deleted, for those that come next: a rebuild of thousands of rows would spend
-    /// half of its time on their memory.
-    std::vector<Row> m_spare;
+    std::size_t At(int row) const
+    {
+        return static_cast<std::size_t>(m_first + row) * m_heading.size();
+    }
+    std::vector<CUGCell>::iterator Row(int row)
+    {
+        return m_cells.begin() + static_cast<std::ptrdiff_t>(At(row));
+    }
+    void MakeRoom();
+
+    std::vector<CUGCell> m_heading;
+    /// The cells of all rows, row after row. Those of deleted rows stay before and behind them for
+    /// rows that come next: a rebuild of thousands of rows would spend half of its time on memory.
+    std::vector<CUGCell> m_cells;
+    /// Deleted rows before the first one: rebuilds delete the first row again and again.
+    int m_first = 0;
+    int m_count = 0;
 };

@@ -81,19 +81,50 @@ TEST(GridCell, NumberIsWhatTheRoundedTextSays)
     EXPECT_EQ(cell.GetNumber(), 0.0);
 }
 
-TEST(GridRows, DeletesFromTheTopUntilRefused)
+TEST(GridRows, CellsOutsideAreNull)
 {
-    CGridRows rows = RowsOf({5, 6, 7});
-    EXPECT_FALSE(rows.Delete(3));
-    EXPECT_FALSE(rows.Delete(-1));
-    EXPECT_TRUE(rows.Delete(0));
-    EXPECT_EQ(ColumnOf(rows, 0), (std::vector{6, 7}));
-    EXPECT_TRUE(rows.Delete(0));
-    EXPECT_TRUE(rows.Delete(0));
-    EXPECT_FALSE(rows.Delete(0));
+    CGridRows rows = RowsOf({5});
     EXPECT_NE(rows.Find(1, -1), nullptr);
-    EXPECT_EQ(rows.Find(1, 0), nullptr);
+    EXPECT_NE(rows.Find(1, 0), nullptr);
+    EXPECT_EQ(rows.Find(1, 1), nullptr);
     EXPECT_EQ(rows.Find(2, -1), nullptr);
+    EXPECT_EQ(rows.Find(-1, 0), nullptr);
+    EXPECT_EQ(rows.Find(0, -2), nullptr);
+    EXPECT_EQ(CGridRows().Find(0, -1), nullptr);
+}
+
+/// Every row, of whatever came and went before, holds its own cells and a new one none.
+TEST(GridRows, RowsComeAndGoAsInAPlainList)
+{
+    std::mt19937 random(3);
+    CGridRows rows = RowsOf({});
+    std::vector<int> wanted;
+    for (int step = 0; step < 5000; ++step) {
+        const std::size_t count = wanted.size();
+        const auto what = random() % 8;
+        if (what < 4) {
+            rows.Append();
+            ASSERT_EQ(rows.Find(0, rows.GetRowCount() - 1)->GetText(), L"");
+            rows.Find(0, rows.GetRowCount() - 1)->SetNumber(step);
+            wanted.push_back(step);
+        } else if (what < 6) {
+            ASSERT_EQ(rows.Delete(0), count > 0);
+            wanted.erase(wanted.begin(), wanted.begin() + (count > 0 ? 1 : 0));
+        } else if (what == 6) {
+            const auto row = static_cast<std::ptrdiff_t>(random() % (count + 1));
+            ASSERT_EQ(rows.Delete(static_cast<int>(row)), row < std::ssize(wanted));
+            wanted.erase(wanted.begin() + row,
+                         wanted.begin() + std::min(row + 1, std::ssize(wanted)));
+        } else if (random() % 50 == 0) {
+            rows.SetColumnCount(1 + static_cast<int>(random() % 3));
+        } else if (random() % 50 == 0) {
+            while (rows.Delete(0)) {
+            }
+            wanted.clear();
+        }
+        ASSERT_EQ(ColumnOf(rows, 0), wanted) << "step " << step;
+    }
+    EXPECT_FALSE(rows.Delete(-1));
 }
 
 TEST(GridRows, SortsAsAPlainInsertionDoes)
