@@ -28,9 +28,13 @@ void RunKurzliste(std::span<const std::uint8_t> bytes);
 
 /// The bytes as a DXF file: its blocks are sound, and written and read again the same.
 void RunDxfBlocks(std::span<const std::uint8_t> bytes);
+
 /// The bytes as the file of the heating systems: takes every entry apart, and none of those written
 /// gets lost.
 void RunHeizsysteme(std::span<const std::uint8_t> bytes);
+
+/// The bytes as the file of placements: a place kept in it comes back.
+void RunPlatzierung(std::span<const std::uint8_t> bytes);
 
 /// Throws std::logic_error with this text unless `holds`.
 void Require(bool holds, const char* what);

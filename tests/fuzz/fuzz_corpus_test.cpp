@@ -132,5 +132,6 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(CTarget{"ventil_katalog", RunVentilKatalog}, CTarget{"catalogue", RunCatalogue},
                     CTarget{"archive", RunArchive}, CTarget{"text_file", RunTextFile},
                     CTarget{"punkt_text", RunPunktText}, CTarget{"kurzliste", RunKurzliste},
-                    CTarget{"dxf_blocks", RunDxfBlocks}, CTarget{"heizsysteme", RunHeizsysteme}),
+                    CTarget{"dxf_blocks", RunDxfBlocks}, CTarget{"heizsysteme", RunHeizsysteme},
+                    CTarget{"platzierung", RunPlatzierung}),
     [](const auto& info) { return std::string(info.param.lpszName); });

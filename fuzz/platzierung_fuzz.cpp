@@ -1,0 +1,7 @@
+#include "fuzz/entries.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    RunPlatzierung({data, size});
+    return 0;
+}

@@ -1,0 +1,42 @@
+#include "common/text_file.h"
+#include "dialogs/platzierung_datei.h"
+#include "fuzz/entries.h"
+#include "support/setting_override.h"
+#include "support/temp_folder.h"
+
+#include <algorithm>
+#include <string>
+
+namespace {
+
+int LinesOf(const CString& path)
+{
+    CStringArray lines;
+    ReadTextFile(path, lines, CFile::modeRead, -1);
+    return lines.GetSize();
+}
+
+} // namespace
+
+void RunPlatzierung(std::span<const std::uint8_t> bytes)
+{
+    static const CTempFolder folder;
+    const CSettingOverride local(kSettingLocalPath, folder.Path());
+    const CSettingOverride name(kSettingWinposFile, L"fenster.txt");
+    folder.WriteBytes("fenster.txt", std::string(bytes.begin(), bytes.end()));
+    const CString path = folder.Path("fenster.txt");
+    const int before = LinesOf(path);
+    CRect rect;
+    const bool wasThere = LesePlatzierung(L"CHIAVE", rect, nullptr);
+
+    const CRect kept = {-5, 6, 700, 800};
+    int alpha = 255;
+    SchreibePlatzierung(L"CHIAVE", kept, 120);
+    const int added = LinesOf(path) - before;
+    // Other characters may make the file, written again, look like one of another encoding.
+    if (std::ranges::all_of(bytes, [](std::uint8_t byte) { return byte < 0x80; })) {
+        Require(added == 0 || (added == 1 && !wasThere), "the lines of other keys stay");
+        Require(LesePlatzierung(L"CHIAVE", rect, &alpha), "what is kept is found");
+        Require(rect == kept && alpha == 120, "the place comes back");
+    }
+}
