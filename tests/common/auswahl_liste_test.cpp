@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -12,12 +13,7 @@ using Texts = std::vector<CString>;
 
 TEST(SelectionList, SortingByNumberGivesAllTheDecimalsOfTheFirst)
 {
-    const struct
-    {
-        Texts before;
-        bool ascending;
-        Texts after;
-    } cases[] = {
+    const std::tuple<Texts, bool, Texts> cases[] = {
         {{L"1000", L"600", L"300"}, true, {L"300", L"600", L"1000"}},
         {{L"300", L"1000", L"600", L"300"}, false, {L"1000", L"600", L"300", L"300"}},
         {{L"1.5", L"2"}, true, {L"1.5", L"2.0"}},
@@ -26,13 +22,13 @@ TEST(SelectionList, SortingByNumberGivesAllTheDecimalsOfTheFirst)
         {{L"1.000,5", L"2"}, true, {L"1.00000", L"2.00000"}},
         {{L"1.0123456789ab"}, true, {L"1.012345679"}},
         {{L"abc", L"-1"}, true, {L"-1", L"0"}},
-        {{}, true, {}},
+        {Texts(), true, Texts()},
     };
-    for (const auto& c : cases) {
-        CTestListe list(c.before);
+    for (const auto& [before, ascending, after] : cases) {
+        CTestListe list(before);
         list.Waehlen(0);
-        EXPECT_TRUE(SortComboNumeric(list, c.ascending));
-        EXPECT_EQ(list.texte, c.after);
+        EXPECT_TRUE(SortComboNumeric(list, ascending));
+        EXPECT_EQ(list.texte, after);
         EXPECT_EQ(list.gewaehlt, -1);
     }
 }

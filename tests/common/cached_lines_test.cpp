@@ -1,4 +1,6 @@
 #include "common/cached_lines.h"
+
+#include "common/lines.h"
 #include "host/host_prefs.h"
 #include "support/temp_folder.h"
 
@@ -7,15 +9,6 @@
 #include <filesystem>
 
 namespace {
-
-CStringArray Lines(std::initializer_list<CString> lines)
-{
-    CStringArray array;
-    for (const CString& line : lines) {
-        array.Add(line);
-    }
-    return array;
-}
 
 TEST(CachedLines, AFileIsReadOnceInTheLifeOfTheProcess)
 {
@@ -53,14 +46,10 @@ TEST(CachedLines, WhatTheHostPutInTheCacheAnswersWithoutAFile)
     CSettingsCache& cache = *lmGetCacheObject();
     const CString path = folder.Path("only in the cache");
     CStringArray lines = Lines({L"left over"});
-    cache.GetCacheArray(path, lines);
-    EXPECT_TRUE(lines.IsEmpty());
-
     cache.AddFileToCache(path, Lines({L"old"}), false);
     cache.AddFileToCache(path, Lines({L"new"}), false);
     EXPECT_TRUE(ReadCachedLines(path, lines));
     EXPECT_EQ(lines, Lines({L"new"}));
-    EXPECT_FALSE(cache.IsFileInCache(path + L"x"));
 }
 
 } // namespace

@@ -3,18 +3,16 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 namespace {
 
 TEST(BildGeometrie, PointsLieInTheFrontViewWithTheirOffsetThreefold)
 {
     const CBildRect bild{12, 12, 212, 113}; // 200 x 101 around (112, 62)
-    struct Case
-    {
-        ConnVector position, offset;
-        CBildPunkt expected;
-    };
-    const Case cases[] = {
+    const std::tuple<ConnVector, ConnVector, CBildPunkt> cases[] = {
         {{0, 0, 0}, {0, 0, 0}, {112, 62}},
         // u = -0.5, v = 0.5 - 0.09 = 0.41: 101 * 0.41 = 41.41.
         {{-0.5, 0, 0.5}, {0, 0, -0.03}, {12, 21}},
@@ -24,8 +22,8 @@ TEST(BildGeometrie, PointsLieInTheFrontViewWithTheirOffsetThreefold)
         {{-0.003, 9, 0.006}, {0, 9, 0}, {112, 62}},
         {{NAN, 0, INFINITY}, {0, 0, 0}, {112, 62 - 1000000000}},
     };
-    for (const Case& c : cases) {
-        EXPECT_EQ(PunktAufBild(bild, c.position, c.offset), c.expected);
+    for (const auto& [position, offset, expected] : cases) {
+        EXPECT_EQ(PunktAufBild(bild, position, offset), expected);
     }
 }
 
@@ -64,50 +62,6 @@ TEST(BildGeometrie, AnArrowIsAShaftWithTwoBarbsAtItsHead)
     };
     for (const auto& [richtung, striche] : arrows) {
         EXPECT_EQ(PfeilStriche(richtung, {50, 80}), striche);
-    }
-}
-
-TEST(BildGeometrie, ScrollBarsAppearWhereThePictureIsLarger)
-{
-    struct Case
-    {
-        int width, height;
-        bool horizontal, vertical;
-        int restWidth, restHeight;
-    };
-    // A client area of 100 x 80 and bars of 16.
-    const Case cases[] = {
-        {100, 80, false, false, 100, 80}, {101, 64, true, false, 100, 64},
-        {101, 65, true, true, 84, 64},    {84, 81, false, true, 84, 80},
-        {85, 81, true, true, 84, 64},     {300, 300, true, true, 84, 64},
-    };
-    for (const Case& c : cases) {
-        const CScrollBedarf need = ScrollbalkenFuer(100, 80, c.width, c.height, 16);
-        EXPECT_EQ(need.horizontal, c.horizontal) << c.width << 'x' << c.height;
-        EXPECT_EQ(need.vertikal, c.vertical) << c.width << 'x' << c.height;
-        EXPECT_EQ(need.breite, c.restWidth) << c.width << 'x' << c.height;
-        EXPECT_EQ(need.hoehe, c.restHeight) << c.width << 'x' << c.height;
-    }
-}
-
-TEST(BildGeometrie, ScrollingMovesByPixelsPagesAndThumbWithinThePicture)
-{
-    struct Case
-    {
-        int position;
-        ScrollCode code;
-        int expected;
-    };
-    // A picture of 150 in an area of 100: positions 0 to 50. The thumb stands at 33.
-    const Case cases[] = {
-        {10, ScrollCode::zeileVor, 11},    {10, ScrollCode::zumEnde, 11},
-        {10, ScrollCode::zeileZurueck, 9}, {10, ScrollCode::zumAnfang, 9},
-        {10, ScrollCode::seiteVor, 30},    {40, ScrollCode::seiteVor, 50},
-        {10, ScrollCode::seiteZurueck, 0}, {0, ScrollCode::zeileZurueck, 0},
-        {50, ScrollCode::zeileVor, 50},    {10, ScrollCode::daumen, 33},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(NeueScrollPosition(c.position, c.code, 33, 150, 100), c.expected);
     }
 }
 

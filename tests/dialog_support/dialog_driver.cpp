@@ -5,9 +5,12 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include <stdexcept>
@@ -40,6 +43,14 @@ void ClickItem(QTreeWidget& tree, QTreeWidgetItem& item)
     tree.scrollToItem(&item);
     QTest::mouseClick(tree.viewport(), Qt::LeftButton, Qt::NoModifier,
                       tree.visualItemRect(&item).center());
+}
+
+void AddLines(const QTreeWidgetItem& parent, const CString& indent, std::vector<CString>& lines)
+{
+    for (int i = 0; i < parent.childCount(); ++i) {
+        lines.push_back(indent + FromNative(parent.child(i)->text(0)));
+        AddLines(*parent.child(i), indent + L" ", lines);
+    }
 }
 
 } // namespace
@@ -101,6 +112,8 @@ void CDialogUser::Choose(int id, const CString& text) const
 void CDialogUser::ChooseInTree(int id, const std::vector<CString>& path) const
 {
     auto& tree = As<QTreeWidget>(Widget(id), "tree");
+    // Clicks that come while an item slides open are lost.
+    tree.setAnimated(false);
     QTreeWidgetItem* item = tree.invisibleRootItem();
     for (const CString& text : path) {
         if (item != tree.invisibleRootItem() && !item->isExpanded()) {
@@ -113,6 +126,43 @@ void CDialogUser::ChooseInTree(int id, const std::vector<CString>& path) const
     ClickItem(tree, *item);
 }
 
+void CDialogUser::ChooseOpacity(int id, const std::vector<Qt::Key>& keys) const
+{
+    QTimer::singleShot(0, [keys] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        ASSERT_EQ(menu->actions().last()->text(), "Transparency...");
+        QTimer::singleShot(0, [keys] {
+            QWidget* choice = QApplication::activeModalWidget();
+            for (const Qt::Key key : keys) {
+                QTest::keyClick(choice->focusWidget(), key);
+            }
+        });
+        QTest::keyClick(menu, Qt::Key_Up);
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    Focus(id);
+    Press(Qt::Key_Space, Qt::AltModifier);
+}
+
+std::vector<CRect> CDialogUser::Grow(int dx, int dy, const std::vector<int>& ids) const
+{
+    std::vector<CRect> moves;
+    for (const int id : ids) {
+        moves.push_back(m_dialog.GetDlgItem(id).GetPlace());
+    }
+    CRect window = m_dialog.GetWindowRect();
+    window.right += dx;
+    window.bottom += dy;
+    m_dialog.MoveWindow(window);
+    for (std::size_t i = 0; i < ids.size(); ++i) {
+        const CRect now = m_dialog.GetDlgItem(ids[i]).GetPlace();
+        moves[i] = {now.left - moves[i].left, now.top - moves[i].top, now.right - moves[i].right,
+                    now.bottom - moves[i].bottom};
+    }
+    return moves;
+}
+
 void CDialogUser::Step(int id, int delta) const
 {
     QTest::keyClick(&Widget(id), delta < 1 ? Qt::Key_Down : Qt::Key_Up);
@@ -121,6 +171,15 @@ void CDialogUser::Step(int id, int delta) const
 CString CDialogUser::Text(int id) const
 {
     return m_dialog.GetDlgItem(id).GetWindowText();
+}
+
+std::vector<CString> CDialogUser::Texts(const std::vector<int>& ids) const
+{
+    std::vector<CString> texts;
+    for (const int id : ids) {
+        texts.push_back(Text(id));
+    }
+    return texts;
 }
 
 bool CDialogUser::IsEnabled(int id) const
@@ -146,6 +205,24 @@ std::vector<CString> CDialogUser::Items(int id) const
 int CDialogUser::Chosen(int id) const
 {
     return As<QComboBox>(Widget(id), "combo box").currentIndex();
+}
+
+std::vector<CString> CDialogUser::ChosenInTree(int id) const
+{
+    std::vector<CString> path;
+    const auto chosen = As<QTreeWidget>(Widget(id), "tree").selectedItems();
+    for (auto* item = chosen.isEmpty() ? nullptr : chosen.first(); item != nullptr;
+         item = item->parent()) {
+        path.insert(path.begin(), FromNative(item->text(0)));
+    }
+    return path;
+}
+
+std::vector<CString> CDialogUser::TreeLines(int id) const
+{
+    std::vector<CString> lines;
+    AddLines(*As<QTreeWidget>(Widget(id), "tree").invisibleRootItem(), L"", lines);
+    return lines;
 }
 
 CDialogDriver::CDialogDriver()

@@ -36,15 +36,25 @@ public:
     void Choose(int id, const CString& text) const;
     /// Clicks the tree item at the end of a path of texts, opening its parents by double click.
     void ChooseInTree(int id, const std::vector<CString>& path) const;
+    /// Opens the system menu from a control, chooses the opacity there, its last entry, and presses
+    /// keys in the dialog that opens.
+    void ChooseOpacity(int id, const std::vector<Qt::Key>& keys) const;
+    /// Makes the dialog larger and returns how far the edges of the controls went.
+    std::vector<CRect> Grow(int dx, int dy, const std::vector<int>& ids) const;
     /// One press of an arrow of a spin.
     void Step(int id, int delta) const;
 
     CString Text(int id) const;
+    std::vector<CString> Texts(const std::vector<int>& ids) const;
     bool IsEnabled(int id) const;
     bool IsChecked(int id) const;
     std::vector<CString> Items(int id) const;
     /// Index of the chosen item.
     int Chosen(int id) const;
+    /// Text of the selected tree item behind those of its parents; empty if none is selected.
+    std::vector<CString> ChosenInTree(int id) const;
+    /// All items of a tree, each behind as many blanks as it has parents.
+    std::vector<CString> TreeLines(int id) const;
 
 private:
     CDialog& m_dialog;

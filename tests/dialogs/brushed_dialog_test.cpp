@@ -1,20 +1,17 @@
 #include "dialogs/brushed_dialog.h"
 
-#include "dialog_support/dialog_driver.h"
+#include "dialog_support/dialog_test.h"
+#include "dialog_support/widget_look.h"
 #include "dialogs/banner.h"
 #include "dialogs/resizing_dialog.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
 #include "uikit/native/access.h"
 
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 
-#include <algorithm>
 #include <cstdlib>
 #include <functional>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -27,27 +24,24 @@ enum Ids
     idBild = 12,
 };
 
-const DialogTemplate& Template()
-{
-    using enum ControlKind;
-    static const DialogTemplate dialog = {idDialog,
-                                          L"Prova",
-                                          160,
-                                          120,
-                                          frameResizable,
-                                          {{kBannerId, canvas, L"", 0, 0, 16, 120},
-                                           {idErstes, edit, L"", 24, 4, 60, 13},
-                                           {idZweites, edit, L"", 24, 24, 60, 13},
-                                           {idBild, canvas, L"", 24, 44, 20, 20},
-                                           {kIdOk, defaultButton, L"OK", 24, 100, 50, 14},
-                                           {kIdCancel, button, L"Annulla", 80, 100, 50, 14}}};
-    return dialog;
-}
+using enum ControlKind;
+
+const DialogTemplate kTemplate = {idDialog,
+                                  L"Prova",
+                                  160,
+                                  120,
+                                  frameResizable,
+                                  {{kBannerId, canvas, L"", 0, 0, 16, 120},
+                                   {idErstes, edit, L"", 24, 4, 60, 13},
+                                   {idZweites, edit, L"", 24, 24, 60, 13},
+                                   {idBild, canvas, L"", 24, 44, 20, 20},
+                                   {kIdOk, defaultButton, L"OK", 24, 100, 50, 14},
+                                   {kIdCancel, button, L"Annulla", 80, 100, 50, 14}}};
 
 class CProbeDialog : public CResizingDialog
 {
 public:
-    CProbeDialog() : CResizingDialog(Template()) {}
+    CProbeDialog() : CResizingDialog(kTemplate) {}
 
     using CResizingDialog::OnCtlColor;
 
@@ -60,7 +54,7 @@ protected:
     }
 };
 
-class BrushedDialog : public testing::Test
+class BrushedDialog : public CDialogTest
 {
 protected:
     int Run(const std::function<void(CDialogUser&)>& script)
@@ -71,10 +65,6 @@ protected:
     }
 
     static QImage Picture(QWidget& widget) { return widget.grab().toImage(); }
-
-    CTempFolder m_folder;
-    CSettingOverride m_local{kSettingLocalPath, m_folder.Path()};
-    CDialogDriver m_driver;
 };
 
 TEST_F(BrushedDialog, EnterMovesOnWhereTheUserWantsThat)
@@ -212,21 +202,6 @@ bool IsNear(const QColor& color, int red, int green, int blue)
            std::abs(color.blue() - blue) <= kStep;
 }
 
-/// First and last row with ink of the text, which is darker than the gradient anywhere.
-std::pair<int, int> InkRows(const QImage& banner)
-{
-    constexpr int kDark = 0x50;
-    std::pair<int, int> rows = {banner.height(), -1};
-    for (int y = 0; y < banner.height(); ++y) {
-        for (int x = 0; x < banner.width(); ++x) {
-            if (banner.pixelColor(x, y).green() < kDark) {
-                rows = {std::min(rows.first, y), y};
-            }
-        }
-    }
-    return rows;
-}
-
 TEST_F(BrushedDialog, TheBannerFollowsTheHeightAndReadsUpwardFromTheBottom)
 {
     for (const CString themed : {L"0", L"1"}) {
@@ -247,11 +222,11 @@ TEST_F(BrushedDialog, TheBannerFollowsTheHeightAndReadsUpwardFromTheBottom)
                 EXPECT_TRUE(IsNear(banner.pixelColor(right, 0), 0x61, 0xE0, 0xFD));
                 EXPECT_TRUE(IsNear(banner.pixelColor(right, bottom / 2), 0xB0, 0xEF, 0xFE));
                 EXPECT_TRUE(IsNear(banner.pixelColor(right, bottom), 0xFF, 0xFF, 0xFF));
-                const auto [first, last] = InkRows(banner);
-                EXPECT_GT(first, bottom - 40) << "two letters, each higher than it is wide";
-                EXPECT_LT(first, last);
-                EXPECT_LE(last, bottom - 9);
-                EXPECT_GT(last, bottom - 16);
+                // The text is darker than the gradient anywhere.
+                const QRect ink = InkOf(banner, 0x50);
+                EXPECT_GT(ink.top(), bottom - 40) << "two letters, each higher than it is wide";
+                EXPECT_LE(ink.bottom(), bottom - 9);
+                EXPECT_GT(ink.bottom(), bottom - 16);
             }
             user.Press(Qt::Key_Escape);
         });

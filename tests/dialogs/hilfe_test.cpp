@@ -1,9 +1,7 @@
 #include "dialogs/hilfe_schalter.h"
 
-#include "dialog_support/dialog_driver.h"
+#include "dialog_support/dialog_test.h"
 #include "dialogs/brushed_dialog.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
 #include "uikit/native/access.h"
 #include "uikit/native/caption_bar.h"
 
@@ -36,7 +34,7 @@ const DialogTemplate kBoxes = {
 
 /// A working place with pages for two dialogs, and an opener that tells through a pipe which page
 /// it was given.
-class Hilfe : public testing::Test
+class Hilfe : public CDialogTest
 {
 protected:
     Hilfe()
@@ -79,11 +77,8 @@ protected:
                           bar.mapFromGlobal(QPoint(screen.x, screen.y)));
     }
 
-    CTempFolder m_folder;
-    CSettingOverride m_local{kSettingLocalPath, m_folder.Path()};
     CSettingOverride m_pages{kSettingHelpFolder, m_folder.Path()};
     CSettingOverride m_program{kSettingHelpProgram, m_folder.Path("opener")};
-    CDialogDriver m_driver;
     int m_pipe = -1;
 };
 

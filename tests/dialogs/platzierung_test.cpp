@@ -1,14 +1,12 @@
 #include "dialogs/platzierung.h"
 
 #include "common/text_file.h"
-#include "dialog_support/dialog_driver.h"
+#include "dialog_support/dialog_test.h"
 #include "dialogs/arbeits_ordner.h"
 #include "dialogs/platzierung_datei.h"
 #include "dialogs/resizing_dialog.h"
 #include "platform/environment.h"
 #include "support/file_size_limit.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -58,7 +56,7 @@ public:
 using CFesterDialog = CPlatzDialog<CBrushedDialog>;
 using CVariablerDialog = CPlatzDialog<CResizingDialog>;
 
-class Platzierung : public testing::Test
+class Platzierung : public CDialogTest
 {
 protected:
     /// Opens a dialog, has the work done, and leaves it with OK or Annulla.
@@ -89,10 +87,7 @@ protected:
         return {lines.begin(), lines.end()};
     }
 
-    CTempFolder m_folder;
-    CSettingOverride m_local{kSettingLocalPath, m_folder.Path()};
     CSettingOverride m_name{kSettingWinposFile, L"posti.txt"};
-    CDialogDriver m_driver;
 };
 
 TEST_F(Platzierung, TheFirstSaveMakesTheFileTheSecondOneKeepsThePlace)

@@ -1,9 +1,7 @@
 #include "dialogs/resizing_dialog.h"
 
-#include "dialog_support/dialog_driver.h"
+#include "dialog_support/dialog_test.h"
 #include "dialogs/platzierung.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
 #include "uikit/native/access.h"
 #include "uikit/native/size_grip.h"
 
@@ -25,27 +23,24 @@ enum Ids
 
 constexpr COLORREF kUnder = RGB(255, 0, 0);
 
-const DialogTemplate& Template()
-{
-    using enum ControlKind;
-    static const DialogTemplate dialog = {idDialog,
-                                          L"Prova",
-                                          161,
-                                          101,
-                                          frameResizable,
-                                          {{10, button, L"0", 4, 4, 30, 14},
-                                           {11, button, L"1", 40, 4, 31, 15},
-                                           {12, button, L"2", 4, 30, 32, 16},
-                                           {13, button, L"3", 40, 30, 33, 17},
-                                           {idUnten, button, L"", 131, 81, 30, 20}}};
-    return dialog;
-}
+using enum ControlKind;
+
+const DialogTemplate kTemplate = {idDialog,
+                                  L"Prova",
+                                  161,
+                                  101,
+                                  frameResizable,
+                                  {{10, button, L"0", 4, 4, 30, 14},
+                                   {11, button, L"1", 40, 4, 31, 15},
+                                   {12, button, L"2", 4, 30, 32, 16},
+                                   {13, button, L"3", 40, 30, 33, 17},
+                                   {idUnten, button, L"", 131, 81, 30, 20}}};
 
 class CProbeDialog : public CResizingDialog
 {
 public:
     explicit CProbeDialog(std::function<void(CProbeDialog&)> anchors = {})
-        : CResizingDialog(Template()), m_anchors(std::move(anchors))
+        : CResizingDialog(kTemplate), m_anchors(std::move(anchors))
     {
     }
 
@@ -86,7 +81,7 @@ private:
     std::function<void(CProbeDialog&)> m_anchors;
 };
 
-class ResizingDialog : public testing::Test
+class ResizingDialog : public CDialogTest
 {
 protected:
     void Run(CProbeDialog& dialog, const std::function<void()>& work)
@@ -97,10 +92,6 @@ protected:
         });
         dialog.DoModal();
     }
-
-    CTempFolder m_folder;
-    CSettingOverride m_local{kSettingLocalPath, m_folder.Path()};
-    CDialogDriver m_driver;
 };
 
 TEST_F(ResizingDialog, ControlsFollowByTheirAnchors)

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -134,17 +135,14 @@ TEST(BlockPath, TheBasePointIsTheOrigin)
 
 TEST(ColorIndex, IndexesAreTheColoursThatCadProgramsShow)
 {
-    const struct
-    {
-        int index;
-        COLORREF color;
-    } cases[] = {{1, RGB(255, 0, 0)},     {5, RGB(0, 0, 255)},      {7, RGB(255, 255, 255)},
-                 {10, RGB(255, 0, 0)},    {11, RGB(255, 127, 127)}, {14, RGB(127, 0, 0)},
-                 {30, RGB(255, 127, 0)},  {50, RGB(255, 255, 0)},   {90, RGB(0, 255, 0)},
-                 {170, RGB(0, 0, 255)},   {250, RGB(51, 51, 51)},   {255, RGB(255, 255, 255)},
-                 {0, RGB(255, 255, 255)}, {-1, RGB(255, 255, 255)}, {256, RGB(255, 255, 255)}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(ColorFromIndex(c.index), c.color) << c.index;
+    const std::pair<int, COLORREF> cases[] = {
+        {1, RGB(255, 0, 0)},     {5, RGB(0, 0, 255)},      {7, RGB(255, 255, 255)},
+        {10, RGB(255, 0, 0)},    {11, RGB(255, 127, 127)}, {14, RGB(127, 0, 0)},
+        {30, RGB(255, 127, 0)},  {50, RGB(255, 255, 0)},   {90, RGB(0, 255, 0)},
+        {170, RGB(0, 0, 255)},   {250, RGB(51, 51, 51)},   {255, RGB(255, 255, 255)},
+        {0, RGB(255, 255, 255)}, {-1, RGB(255, 255, 255)}, {256, RGB(255, 255, 255)}};
+    for (const auto& [index, color] : cases) {
+        EXPECT_EQ(ColorFromIndex(index), color) << index;
     }
     EXPECT_EQ(PaperColorFromIndex(7), RGB(0, 0, 0));
 }

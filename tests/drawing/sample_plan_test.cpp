@@ -15,6 +15,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -97,14 +98,11 @@ TEST(SamplePlan, RadiatorsAreHostRecordsWhereTheyAreDrawn)
     for (const QGraphicsItem* item : plan.GetScene().items()) {
         EXPECT_TRUE(QRectF(9.8, 18.9, 0.4, 2.2).contains(item->sceneBoundingRect()));
     }
-    const struct
-    {
-        const wchar_t* name;
-        double value;
-    } sizes[] = {{L"H_LAENGE", 2}, {L"H_TIEFE", 0.2}, {L"H_HOEHE", 0.6}};
-    for (const auto& size : sizes) {
-        ASSERT_NE(Find(first->Attribute, size.name), nullptr);
-        EXPECT_EQ(_wtof(Find(first->Attribute, size.name)->Wert), size.value);
+    const std::pair<const wchar_t*, double> sizes[] = {
+        {L"H_LAENGE", 2}, {L"H_TIEFE", 0.2}, {L"H_HOEHE", 0.6}};
+    for (const auto& [name, value] : sizes) {
+        ASSERT_NE(Find(first->Attribute, name), nullptr);
+        EXPECT_EQ(_wtof(Find(first->Attribute, name)->Wert), value);
     }
     LM_APUNKT points[kMaxAnschlussPunkte];
     ASSERT_EQ(lmGet_K_APUNKT_BLOCK_Wc(first->Attribute, points, &first->Trafo, 0, L""), 4);

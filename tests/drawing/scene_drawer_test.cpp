@@ -10,6 +10,7 @@
 
 #include <limits>
 #include <memory>
+#include <tuple>
 
 namespace {
 
@@ -176,18 +177,13 @@ TEST_F(CSceneDrawerTest, ArrowsCarryTheColourOfTheirTradeAboveTheDrawing)
 
 TEST_F(CSceneDrawerTest, UprightPipesAreRingsThatTellUpFromDown)
 {
-    const struct
-    {
-        double up;
-        TgaGewerk gewerk;
-        bool rises;
-    } cases[] = {{1, kGewerkVorlauf, false},
-                 {-1, kGewerkVorlauf, true},
-                 {1, kGewerkRuecklauf, true},
-                 {-1, kGewerkRuecklauf, false}};
-    for (const auto& c : cases) {
-        const double richtung[3] = {0, 0, c.up};
-        Preview(kOrigin, richtung, c.gewerk);
+    const std::tuple<double, TgaGewerk, bool> cases[] = {{1, kGewerkVorlauf, false},
+                                                         {-1, kGewerkVorlauf, true},
+                                                         {1, kGewerkRuecklauf, true},
+                                                         {-1, kGewerkRuecklauf, false}};
+    for (const auto& [up, gewerk, rises] : cases) {
+        const double richtung[3] = {0, 0, up};
+        Preview(kOrigin, richtung, gewerk);
         int dots = 0;
         int strokes = 0;
         for (const QGraphicsItem* item : m_scene.items()) {
@@ -195,8 +191,8 @@ TEST_F(CSceneDrawerTest, UprightPipesAreRingsThatTellUpFromDown)
             strokes += dynamic_cast<const CHairlineItem*>(item) ? 1 : 0;
         }
         // The ring, and a cross in it.
-        EXPECT_EQ(dots, c.rises ? 1 : 0);
-        EXPECT_EQ(strokes, c.rises ? 1 : 2);
+        EXPECT_EQ(dots, rises ? 1 : 0);
+        EXPECT_EQ(strokes, rises ? 1 : 2);
     }
 }
 

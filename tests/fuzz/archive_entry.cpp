@@ -1,52 +1,26 @@
 #include "frame/handover.h"
 #include "frame/ventil_kv.h"
 #include "fuzz/entries.h"
+#include "platform/archived.h"
 #include "platform/exception.h"
-
-#include <vector>
 
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-
-Bytes Framed(const Bytes& payload)
-{
-    CMemoryStream stream;
-    CArchive archive(stream, CArchive::Mode::store);
-    archive.Write(payload.data(), payload.size());
-    archive.Close();
-    return stream.GetBytes();
-}
-
+/// A record that loads is one that can be stored, and stores the same once it
+/// has been.
 template <class Record>
-Bytes Stored(Record& record)
-{
-    CMemoryStream stream;
-    CArchive archive(stream, CArchive::Mode::store);
-    record.Serialize(archive);
-    archive.Close();
-    return stream.GetBytes();
-}
-
-/// A record that loads is one that can be stored, and stores the same once it has been.
-template <class Record>
-void LoadAndStore(const Bytes& bytes)
+void LoadAndStore(const ArchiveBytes& bytes)
 {
     Record record;
-    CMemoryStream stream(bytes);
-    CArchive archive(stream, CArchive::Mode::load);
-    record.Serialize(archive);
-    const Bytes stored = Stored(record);
+    Load(bytes, record);
+    const ArchiveBytes stored = Stored(record);
 
     Record again;
-    CMemoryStream storedStream(stored);
-    CArchive storedArchive(storedStream, CArchive::Mode::load);
-    again.Serialize(storedArchive);
-    Require(storedArchive.GetRemaining() == 0, "a stored record is read to its end");
+    Require(Load(stored, again) == 0, "a stored record is read to its end");
     Require(Stored(again) == stored, "a record survives the archive");
 }
 
-void LoadObject(const Bytes& bytes)
+void LoadObject(const ArchiveBytes& bytes)
 {
     CMemoryStream stream(bytes);
     CArchive archive(stream, CArchive::Mode::load);
@@ -62,8 +36,8 @@ void RunArchive(std::span<const std::uint8_t> bytes)
         return;
     }
     const std::uint8_t choice = bytes[0];
-    const Bytes rest(bytes.begin() + 1, bytes.end());
-    const Bytes archive = choice % 2 == 0 ? Framed(rest) : rest;
+    const ArchiveBytes rest(bytes.begin() + 1, bytes.end());
+    const ArchiveBytes archive = choice % 2 == 0 ? Framed(rest) : rest;
     try {
         switch (choice / 2 % 3) {
         case 0:

@@ -1,7 +1,7 @@
 #include "connection/kurzliste.h"
 #include "connection/test_ansicht.h"
 #include "fuzz/entries.h"
-#include "host/host_fittings.h"
+#include "host/punkt_werte.h"
 #include "platform/encoding.h"
 #include "platform/environment.h"
 #include "platform/exception.h"
@@ -10,47 +10,20 @@
 #include <optional>
 #include <string>
 
-namespace {
-
-/// The numbers of a point text.
-struct Zahlen
-{
-    ConnVector position{};
-    ConnVector offset{};
-    ConnVector winkel{};
-    double seitAbstand = 0.0;
-    double kreuzAbstand = 0.0;
-    int kreuzTyp = 0;
-    double wandAbstand = 0.0;
-
-    friend bool operator==(const Zahlen&, const Zahlen&) = default;
-};
-
-int Read(const CString& text, Zahlen& zahlen)
-{
-    return lmGet_K_APUNKT_X(text, zahlen.position.data(), zahlen.offset.data(),
-                            zahlen.winkel.data(), zahlen.seitAbstand, zahlen.kreuzAbstand,
-                            zahlen.kreuzTyp, zahlen.wandAbstand);
-}
-
-} // namespace
-
 void RunPunktText(std::span<const std::uint8_t> bytes)
 {
     CString text;
     AppendCp1252(text, bytes);
-    Zahlen zahlen;
-    if (Read(text, zahlen) == 0) {
-        Require(zahlen == Zahlen(), "a text without a number touches nothing");
+    PunktWerte werte;
+    if (werte.Get(text) == 0) {
+        Require(werte == PunktWerte(), "a text without a number touches nothing");
         return;
     }
-    CString built;
-    lmSet_K_APUNKT_X(built, zahlen.position.data(), zahlen.offset.data(), zahlen.winkel.data(),
-                     zahlen.seitAbstand, zahlen.kreuzAbstand, zahlen.kreuzTyp, zahlen.wandAbstand);
+    const CString built = werte.Set();
     Require(built.size() < 512, "a text fits the exchange of points");
-    Zahlen again;
-    Require(Read(built, again) == 12, "a built text has all numbers");
-    Require(again == zahlen, "what is written reads back");
+    PunktWerte again;
+    Require(again.Get(built) == 12, "a built text has all numbers");
+    Require(again == werte, "what is written reads back");
 }
 
 void RunKurzliste(std::span<const std::uint8_t> bytes)

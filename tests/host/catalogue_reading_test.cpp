@@ -2,11 +2,10 @@
 
 #include <cstddef>
 #include <string>
+#include <tuple>
 
 namespace {
-class CCatalogueReadingTest : public CCatalogueTest
-{
-};
+using CCatalogueReadingTest = CCatalogueTest;
 
 constexpr char kHead[] = "010;200410;Prova;20240301\n";
 // The series' record and its sizes are lines 4 and 5 of OneProduct().
@@ -36,14 +35,11 @@ std::string Replaced(std::string text, const std::string& from, const std::strin
 TEST_F(CCatalogueReadingTest, AFaultIsToldWithItsLine)
 {
     const std::string good = std::string(kSeries) + kSize;
-    const struct
-    {
-        std::string bytes;
-        int line;
-        const wchar_t* message;
-    } cases[] = {
+    const std::tuple<std::string, int, const wchar_t*> cases[] = {
         {"", 0, L"testata"},
         {"\n\n999;x\n", 0, L"testata"},
+        // Empty and unknown lines count as lines.
+        {"\r\n;;\r\n999;x\r\n010;200410;Prova;20240301\r\n100;x;K\r\n", 5, L"campo 1"},
         {kHead, 0, L"categoria"},
         {"100;1;K\n", 1, L"testata"},
         {"\r\n\r\n010;200410\r\n", 3, L"nome del produttore"},
@@ -83,16 +79,16 @@ TEST_F(CCatalogueReadingTest, AFaultIsToldWithItsLine)
         {"\xEF\xBB\xBF" + OneProduct(good), 0, L"codifica"},
         {"\xFE\xFF" + OneProduct(good), 0, L"codifica"},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.bytes);
-        WriteCatalogue("Prova", c.bytes);
+    for (const auto& [bytes, line, message] : cases) {
+        SCOPED_TRACE(bytes);
+        WriteCatalogue("Prova", bytes);
         EXPECT_EQ(Read(L"Prova"), -1);
         EXPECT_EQ(FindHersteller(L"Prova")->pArt, nullptr);
         const auto error = GetCatalogueError(L"Prova");
         ASSERT_TRUE(error);
         EXPECT_EQ(error->strFile, m_folder.Path("Prova/hk.tga"));
-        EXPECT_EQ(error->nLine, c.line);
-        EXPECT_NE(error->strMessage.find(c.message), CString::npos)
+        EXPECT_EQ(error->nLine, line);
+        EXPECT_NE(error->strMessage.find(message), CString::npos)
             << testing::PrintToString(error->strMessage);
     }
 }
@@ -125,29 +121,5 @@ TEST_F(CCatalogueReadingTest, EncodingAndLineEndsMakeNoDifference)
         const HK_VDI3805_PRODUKT* produkt = Produkt(L"Prova", L"K\u00E4lte", L"P\u00F9");
         ASSERT_NE(produkt, nullptr);
         EXPECT_EQ(Rows(*produkt).back()->Daten.Laenge, 900);
-    }
-}
-
-TEST_F(CCatalogueReadingTest, EmptyAndUnknownLinesCountAsLines)
-{
-    WriteCatalogue("Prova", "\r\n;;\r\n999;x\r\n" + Replaced(OneProduct("700;1\n"), "\n", "\r\n"));
-    EXPECT_EQ(Read(L"Prova"), -1);
-    EXPECT_EQ(GetCatalogueError(L"Prova")->nLine, 7);
-}
-
-TEST_F(CCatalogueReadingTest, AFileCutShortAnywhereIsReadOrRefusedInPeace)
-{
-    const std::string whole =
-        OneProduct(std::string(kSeries) + kSize +
-                   "710.02;400;900;50\n700;2;U;S;600;102;65;1.3;0.9\n710.03;45;20;30\n"
-                   "800;2;8;ORD;Otto\n");
-    for (const std::string& bytes : {whole, Utf16(whole)}) {
-        for (std::size_t length = 0; length <= bytes.size(); ++length) {
-            WriteCatalogue("Prova", bytes.substr(0, length));
-            const int rows = Read(L"Prova");
-            EXPECT_EQ(rows > 0, FindHersteller(L"Prova")->pArt != nullptr);
-            EXPECT_EQ(rows < 0, GetCatalogueError(L"Prova").has_value());
-        }
-        EXPECT_GT(Read(L"Prova"), 0);
     }
 }

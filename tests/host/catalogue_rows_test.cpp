@@ -3,12 +3,11 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
-class CCatalogueRowsTest : public CCatalogueTest
-{
-};
+using CCatalogueRowsTest = CCatalogueTest;
 
 /// first, first + step ... last
 std::vector<double> Steps(int first, int last, int step)
@@ -40,12 +39,7 @@ constexpr char kSections[] = "700;1;G;S;600;101;65;1.28;0.9\n710.03;45;50;30\n";
 
 TEST_F(CCatalogueRowsTest, LengthsCutToMeasureLieAroundTheRequirement)
 {
-    const struct
-    {
-        double required;
-        int shortest;
-        int longest;
-    } cases[] = {
+    const std::tuple<double, int, int> cases[] = {
         {1000, 400, 1600},    // 40 % and 160 %, which is six steps each way as well
         {2000, 800, 3000},    // 800 W to 3200 W, but the product ends at 3000 mm
         {1250, 500, 2000},    // 500 W to 2000 W
@@ -58,29 +52,24 @@ TEST_F(CCatalogueRowsTest, LengthsCutToMeasureLieAroundTheRequirement)
         {std::nan(""), 400, 1600},
         {std::numeric_limits<double>::infinity(), 400, 1600},
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(Lengths(kCut, c.required), WithEnds(400, Steps(c.shortest, c.longest, 100), 3000))
-            << c.required;
+    for (const auto& [required, shortest, longest] : cases) {
+        EXPECT_EQ(Lengths(kCut, required), WithEnds(400, Steps(shortest, longest, 100), 3000))
+            << required;
     }
 }
 
 TEST_F(CCatalogueRowsTest, NumbersOfSectionsLieAroundTheRequirement)
 {
-    const struct
-    {
-        double required;
-        int fewest;
-        int most;
-    } cases[] = {
+    const std::tuple<double, int, int> cases[] = {
         {1000, 7, 24},   // 400 W / 65 W = 6.15 and 1600 W / 65 W = 24.6
         {260, 1, 13},    // four sections fit, so the thirteen smallest
         {3250, 20, 50},  // fifty fit; 40 % is twenty
         {20000, 38, 50}, // more than fifty give: the thirteen largest
     };
-    for (const auto& c : cases) {
-        EXPECT_EQ(Lengths(kSections, c.required),
-                  WithEnds(75, Steps(30 + 45 * c.fewest, 30 + 45 * c.most, 45), 2280))
-            << c.required;
+    for (const auto& [required, fewest, most] : cases) {
+        EXPECT_EQ(Lengths(kSections, required),
+                  WithEnds(75, Steps(30 + 45 * fewest, 30 + 45 * most, 45), 2280))
+            << required;
     }
 }
 
@@ -129,45 +118,36 @@ TEST_F(CCatalogueRowsTest, EachSeriesStartsShortAgainAndGivesItsSizesToTheProduc
 
 TEST_F(CCatalogueRowsTest, OutputStaysAsStatedAndContentIsThatOfTheRow)
 {
-    const struct
+    struct Row
     {
-        std::string series;
-        std::vector<double> outputs;
-        std::vector<double> contents;
-        std::vector<double> elements;
-        wchar_t bauart;
-    } cases[] = {
+        double output, content, elements;
+    };
+    const std::tuple<std::string, wchar_t, std::vector<Row>> cases[] = {
         // 6.3 l/m over 0.5 m and 2 m.
         {"700;1;T;M;600;102;1700;1.33;6.3\n710.01;1;500\n710.01;2;2000\n",
-         {1700, 1700},
-         {3.15, 12.6},
-         {0, 0},
-         L'M'},
-        {"700;1;T;m;600;102;1700;1.33;6.3\n710.01;1;500\n", {1700}, {3.15}, {0}, L'm'},
+         L'M',
+         {{1700, 3.15, 0}, {1700, 12.6, 0}}},
+        {"700;1;T;m;600;102;1700;1.33;6.3\n710.01;1;500\n", L'm', {{1700, 3.15, 0}}},
         // 0.4 l a section.
         {"700;1;T;S;580;97;130;1.3;0.4\n710.03;80;3\n",
-         {130, 130, 130},
-         {0.4, 0.8, 1.2},
-         {1, 2, 3},
-         L'S'},
-        {"700;1;T;s;580;97;130;1.3;0.4\n710.03;80;1\n", {130}, {0.4}, {1}, L's'},
+         L'S',
+         {{130, 0.4, 1}, {130, 0.8, 2}, {130, 1.2, 3}}},
+        {"700;1;T;s;580;97;130;1.3;0.4\n710.03;80;1\n", L's', {{130, 0.4, 1}}},
         // Units: what the size states, else what the series states; nothing is scaled.
         {"700;1;T;E;1180;32;500;1.25;5\n710.01;1;450\n710.01;2;600;640;6.2\n710.01;3;750;;7.5\n",
-         {500, 640, 500},
-         {5, 6.2, 7.5},
-         {0, 0, 0},
-         L'E'},
+         L'E',
+         {{500, 5, 0}, {640, 6.2, 0}, {500, 7.5, 0}}},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.series);
-        Lengths(c.series, 260);
+    for (const auto& [series, bauart, expected] : cases) {
+        SCOPED_TRACE(series);
+        Lengths(series, 260);
         const auto rows = Rows(*Produkt(L"Prova"));
-        ASSERT_EQ(rows.size(), c.outputs.size());
+        ASSERT_EQ(rows.size(), expected.size());
         for (std::size_t i = 0; i < rows.size(); ++i) {
-            EXPECT_EQ(rows[i]->Daten.LeistungEN442, c.outputs[i]);
-            EXPECT_DOUBLE_EQ(rows[i]->Daten.Inhalt, c.contents[i]);
-            EXPECT_EQ(rows[i]->Daten.Elemente, c.elements[i]);
-            EXPECT_EQ(rows[i]->Daten.Bauart, c.bauart);
+            EXPECT_EQ(rows[i]->Daten.LeistungEN442, expected[i].output);
+            EXPECT_DOUBLE_EQ(rows[i]->Daten.Inhalt, expected[i].content);
+            EXPECT_EQ(rows[i]->Daten.Elemente, expected[i].elements);
+            EXPECT_EQ(rows[i]->Daten.Bauart, bauart);
         }
     }
 }

@@ -62,10 +62,6 @@ double Watts(const HK_DATEN_VDI3805& daten)
     }
 }
 
-bool IsAscending(const OCArray<double>& sizes)
-{
-    return std::ranges::adjacent_find(sizes, std::greater_equal()) == sizes.end();
-}
 } // namespace
 
 TEST_F(CCatalogueSamplesTest, TheFilesAreWhatTheGeneratorMakes)
@@ -103,25 +99,6 @@ TEST_F(CCatalogueSamplesTest, ThereIsEnoughToChooseFrom)
     EXPECT_GE(rows, 4000u);
     // More than a filter pass takes.
     EXPECT_GT(longest, 2000u);
-}
-
-TEST_F(CCatalogueSamplesTest, RowsAreInOrderAndSizesAscending)
-{
-    for (const HK_VDI3805_PRODUKT* produkt : Products()) {
-        SCOPED_TRACE(Utf8FromWide(produkt->Name));
-        EXPECT_TRUE(IsAscending(produkt->Hoehen));
-        EXPECT_TRUE(IsAscending(produkt->Tiefen));
-        const HK_VDI3805_TYP* seriesStart = produkt->pTyp;
-        for (const HK_VDI3805_TYP* row = produkt->pTyp->pNext; row; row = row->pNext) {
-            const bool isSameSeries = row->Daten.Hoehe == seriesStart->Daten.Hoehe &&
-                                      row->Daten.Tiefe == seriesStart->Daten.Tiefe;
-            if (isSameSeries) {
-                EXPECT_GT(row->Daten.Laenge, seriesStart->Daten.Laenge);
-            } else {
-                seriesStart = row;
-            }
-        }
-    }
 }
 
 TEST_F(CCatalogueSamplesTest, PhysicalValuesAreBelievable)

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -51,20 +52,14 @@ TEST(ColorTable, EveryColourHasItsOwnPlaceWithinTheTable)
 
 TEST(ColorTable, MovesGoToTheNearestColourAndStopAtTheEdge)
 {
-    struct Case
-    {
-        int from;
-        ColorMove move;
-        int to;
-    };
-    const Case cases[] = {
+    const std::tuple<int, ColorMove, int> cases[] = {
         {0, ColorMove::up, 1},       {1, ColorMove::left, 1},   {9, ColorMove::right, 250},
         {250, ColorMove::left, 9},   {255, ColorMove::up, 255}, {255, ColorMove::down, 248},
         {10, ColorMove::right, 20},  {10, ColorMove::up, 12},   {10, ColorMove::down, 11},
         {19, ColorMove::down, 19},   {18, ColorMove::up, 1},    {118, ColorMove::up, 9},
         {240, ColorMove::right, 240}};
-    for (const Case& c : cases) {
-        EXPECT_EQ(NeighbourOf(c.from, c.move), c.to) << "from " << c.from;
+    for (const auto& [from, move, to] : cases) {
+        EXPECT_EQ(NeighbourOf(from, move), to) << "from " << from;
     }
 }
 

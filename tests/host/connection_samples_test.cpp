@@ -54,17 +54,4 @@ TEST(ConnectionSamples, EveryTypeIsReadUnderItsNameAndDiffersFromAllOthers)
     EXPECT_EQ(points.size(), ansicht.namen.size());
 }
 
-TEST(HostBase, TheServerPathIsTheSettingAndAnEmptyOneIsNone)
-{
-    CString path = L"before";
-    {
-        const CSettingOverride none{kSettingServerPath, L""};
-        EXPECT_FALSE(configGetWorkPathServer(path));
-        EXPECT_EQ(path, L"before");
-    }
-    const CSettingOverride setting{kSettingServerPath, L"\\\\server\\dati"};
-    EXPECT_TRUE(configGetWorkPathServer(path));
-    EXPECT_EQ(path, L"\\\\server\\dati");
-}
-
 } // namespace

@@ -223,14 +223,20 @@ TEST_F(HostSettings, ASkinColorIsDeliveredOnlyWhereOneIsSet)
     }
 }
 
-TEST_F(HostSettings, TheLocalWorkPathLeavesTheTargetAloneUntilItIsSet)
+TEST_F(HostSettings, AWorkPathLeavesTheTargetAloneUntilItIsSet)
 {
-    CString path = L"before";
-    EXPECT_FALSE(configGetWorkPathLocal(path));
-    EXPECT_EQ(path, L"before");
-    ASSERT_TRUE(StoreHostSetting(kSettingLocalPath, L"C:\\Locale"));
-    EXPECT_TRUE(configGetWorkPathLocal(path));
-    EXPECT_EQ(path, L"C:\\Locale");
+    using GetPath = bool (*)(CString&);
+    const std::pair<GetPath, const wchar_t*> paths[] = {
+        {configGetWorkPathLocal, kSettingLocalPath}, {configGetWorkPathServer, kSettingServerPath}};
+    for (const auto& [get, key] : paths) {
+        CString path = L"before";
+        ASSERT_TRUE(StoreHostSetting(key, L""));
+        EXPECT_FALSE(get(path));
+        EXPECT_EQ(path, L"before");
+        ASSERT_TRUE(StoreHostSetting(key, L"\\\\server\\dati"));
+        EXPECT_TRUE(get(path));
+        EXPECT_EQ(path, L"\\\\server\\dati");
+    }
 }
 
 TEST_F(HostSettings, TheLayerOfRadiatorsHasADefaultAndCanBeChosen)

@@ -1,3 +1,4 @@
+#include "common/lines.h"
 #include "host/host_prefs.h"
 
 #include <gtest/gtest.h>
@@ -17,10 +18,7 @@ TEST(SettingsCache, LinesComeBackAsTheyWereWhateverTheirCharacters)
         {L"\U00010000 first of the widest", L"plain", separateSurrogates},
     };
     for (const auto& texts : cases) {
-        CStringArray lines;
-        for (const CString& text : texts) {
-            lines.Add(text);
-        }
+        const CStringArray lines = Lines(texts);
         cache.AddFileToCache(L"settings-cache-test", lines, false);
         CStringArray held;
         held.Add(L"replaced");

@@ -6,29 +6,22 @@
 #include <QPushButton>
 #include <QSpinBox>
 
+#include <utility>
+
 namespace {
 
-TEST(ColorDialog, ArrowsMoveAndEnterConfirms)
+TEST(ColorDialog, ArrowsMoveAndEnterAloneConfirms)
 {
-    int index = 10;
-    OnNextDialog([](QWidget& dialog) {
-        PressKey(dialog, Qt::Key_Right);
-        PressKey(dialog, Qt::Key_Down);
-        PressKey(dialog, Qt::Key_Return);
-    });
-    EXPECT_TRUE(GetColorDlg(index));
-    EXPECT_EQ(index, 21);
-}
-
-TEST(ColorDialog, EscapeLeavesTheIndex)
-{
-    int index = 10;
-    OnNextDialog([](QWidget& dialog) {
-        PressKey(dialog, Qt::Key_Right);
-        PressKey(dialog, Qt::Key_Escape);
-    });
-    EXPECT_FALSE(GetColorDlg(index));
-    EXPECT_EQ(index, 10);
+    for (const auto& [key, chosen] : {std::pair(Qt::Key_Return, 21), {Qt::Key_Escape, 10}}) {
+        int index = 10;
+        OnNextDialog([pressed = key](QWidget& dialog) {
+            PressKey(dialog, Qt::Key_Right);
+            PressKey(dialog, Qt::Key_Down);
+            PressKey(dialog, pressed);
+        });
+        EXPECT_EQ(GetColorDlg(index), key == Qt::Key_Return);
+        EXPECT_EQ(index, chosen);
+    }
 }
 
 TEST(ColorDialog, WithoutAColourThereIsNothingToConfirmUntilANumberIsGiven)

@@ -1,4 +1,4 @@
-#include "host/drawer.h"
+#include "dialog_support/empty_drawer.h"
 #include "host/host_prompts.h"
 #include "host_dialogs/dialog_driver.h"
 
@@ -14,7 +14,7 @@
 namespace {
 
 /// A drawing of a few layers and nothing else.
-class CLayerDrawing : public CDrawer
+class CLayerDrawing : public CEmptyDrawer
 {
 public:
     void GetLayerNames(CStringArray& namen, int art) override
@@ -25,15 +25,6 @@ public:
         }
     }
     int GetLayerColor(const CString& layer) override { return m_layers.at(layer); }
-    void GetBlockNames(const CString&, CStringArray&, int) override {}
-    bool GetBlockPreview(const CString&, const CString&, CBitmap&, int, int) override
-    {
-        return false;
-    }
-    void ClearPreview() override {}
-    void BeginPreview() override {}
-    void EndPreview() override {}
-    void DrawConnectionPoint(const double*, const double*, double, int, bool) override {}
 
 private:
     std::map<CString, int> m_layers = {

@@ -7,7 +7,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <iostream>
-#include <vector>
 
 namespace {
 
@@ -70,15 +69,12 @@ void AskSizes(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
     Expect(HKGetMaxTiefe(uebergabe) == depths[depths.GetSize() - 1], "the largest comes last");
 
     constexpr int capacity = 20;
-    std::vector<short> sizes[3] = {std::vector<short>(capacity + 1),
-                                   std::vector<short>(capacity + 1),
-                                   std::vector<short>(capacity + 1)};
-    std::vector<double> contents(capacity);
-    Read_HK_Masse(uebergabe, sizes[0].data(), sizes[1].data(), sizes[2].data(), contents.data(),
-                  capacity);
+    short sizes[3][capacity + 1];
+    double contents[capacity];
+    Read_HK_Masse(uebergabe, sizes[0], sizes[1], sizes[2], contents, capacity);
     Expect(sizes[0][0] == static_cast<short>(heights[0]), "both forms agree on the heights");
     Expect(sizes[1][0] == static_cast<short>(depths[0]), "and on the depths");
-    Expect(sizes[1][static_cast<std::size_t>(depths.GetSize())] == -1, "no length is among them");
+    Expect(sizes[1][depths.GetSize()] == -1, "no length is among them");
     Expect(contents[0] == uebergabe.Typ.Daten.Inhalt, "the first content is that of Typ");
     Expect(GetHK_Inhalt(uebergabe, chosen.Hoehe / 1000.0, chosen.Tiefe / 1000.0,
                         chosen.Laenge / 1000.0) == chosen.Inhalt,

@@ -11,6 +11,7 @@
 #include <csignal>
 #include <filesystem>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <sys/wait.h>
@@ -20,12 +21,22 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr unsigned kCreate = CFile::modeCreate | CFile::modeWrite;
+
 class FileTest : public ::testing::Test
 {
 protected:
     static void Put(CFile& file, const std::string& bytes)
     {
         file.Write(bytes.data(), bytes.size());
+    }
+
+    /// Gives a file, new or not, this content.
+    static void Replace(const CString& path, const std::string& bytes)
+    {
+        CFile file(path, kCreate);
+        Put(file, bytes);
+        file.Close();
     }
 
     /// Names of all files in the folder: a temporary file left behind would show here.
@@ -45,7 +56,7 @@ protected:
 TEST_F(FileTest, ACreatedFileAppearsOnCloseAndNotBefore)
 {
     m_folder.WriteBytes("a.txt", "old content");
-    CFile file(m_folder.Path("a.txt"), CFile::modeCreate | CFile::modeWrite);
+    CFile file(m_folder.Path("a.txt"), kCreate);
     Put(file, "new");
     EXPECT_EQ(m_folder.ReadBytes("a.txt"), "old content");
     file.Close();
@@ -57,11 +68,11 @@ TEST_F(FileTest, WithoutCloseTheOldFileStays)
 {
     m_folder.WriteBytes("a.txt", "old");
     {
-        CFile file(m_folder.Path("a.txt"), CFile::modeCreate | CFile::modeWrite);
+        CFile file(m_folder.Path("a.txt"), kCreate);
         Put(file, "half of a new");
     }
     {
-        CFile file(m_folder.Path("b.txt"), CFile::modeCreate | CFile::modeWrite);
+        CFile file(m_folder.Path("b.txt"), kCreate);
     }
     EXPECT_EQ(m_folder.ReadBytes("a.txt"), "old");
     EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
@@ -87,10 +98,7 @@ TEST_F(FileTest, ReplacingKeepsPermissionsAndLinks)
     fs::permissions(real, fs::perms::owner_all);
     fs::create_symlink("real.txt", link);
 
-    CFile file(TextFromPath(link), CFile::modeCreate | CFile::modeWrite);
-    Put(file, "new");
-    file.Close();
-
+    Replace(TextFromPath(link), "new");
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(m_folder.ReadBytes("real.txt"), "new");
     EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_all);
@@ -100,32 +108,25 @@ TEST_F(FileTest, WhatCannotBeOpenedSaysWhy)
 {
     m_folder.WriteBytes("readonly.txt", "kept");
     fs::permissions(ResolvePath(m_folder.Path("readonly.txt")), fs::perms::owner_read);
-    const unsigned create = CFile::modeCreate | CFile::modeWrite;
-    struct Case
-    {
-        CString path;
-        unsigned flags;
-        CFileException::Cause cause;
-    };
-    const Case cases[] = {
+    const std::tuple<CString, unsigned, CFileException::Cause> cases[] = {
         {L"missing.txt", CFile::modeRead, CFileException::Cause::fileNotFound},
         {L"missing.txt", CFile::modeWrite, CFileException::Cause::fileNotFound},
-        {L"no\\folder.txt", create, CFileException::Cause::fileNotFound},
-        {L"readonly.txt\\x", create, CFileException::Cause::badPath},
+        {L"no\\folder.txt", kCreate, CFileException::Cause::fileNotFound},
+        {L"readonly.txt\\x", kCreate, CFileException::Cause::badPath},
         {L"", CFile::modeRead, CFileException::Cause::fileNotFound},
         {L".", CFile::modeRead, CFileException::Cause::accessDenied},
-        {L"", create, CFileException::Cause::fileNotFound},
-        {L"readonly.txt", create, CFileException::Cause::accessDenied},
+        {L"", kCreate, CFileException::Cause::fileNotFound},
+        {L"readonly.txt", kCreate, CFileException::Cause::accessDenied},
         {L"readonly.txt", CFile::modeReadWrite, CFileException::Cause::accessDenied},
     };
-    for (const Case& c : cases) {
-        const CString path = c.path.empty() ? c.path : JoinPath(m_folder.Path(), c.path);
-        EXPECT_FALSE(CFile().Open(path, c.flags)) << c.path << ' ' << c.flags;
+    for (const auto& [name, flags, cause] : cases) {
+        const CString path = name.empty() ? name : JoinPath(m_folder.Path(), name);
+        EXPECT_FALSE(CFile().Open(path, flags)) << path << ' ' << flags;
         try {
-            CFile file(path, c.flags);
-            ADD_FAILURE() << "opened " << c.path;
+            CFile file(path, flags);
+            ADD_FAILURE() << "opened " << path;
         } catch (const CFileException& exception) {
-            EXPECT_EQ(exception.GetCause(), c.cause) << c.path << ' ' << c.flags;
+            EXPECT_EQ(exception.GetCause(), cause) << path << ' ' << flags;
             EXPECT_EQ(exception.GetFileName(), path);
         }
     }
@@ -138,7 +139,7 @@ TEST_F(FileTest, AFullDiskLeavesTheOldFile)
     m_folder.WriteBytes("a.txt", "old");
     {
         const CFileSizeLimit limit(1000);
-        CFile file(m_folder.Path("a.txt"), CFile::modeCreate | CFile::modeWrite);
+        CFile file(m_folder.Path("a.txt"), kCreate);
         Put(file, std::string(900, 'x'));
         try {
             Put(file, std::string(900, 'y'));
@@ -156,7 +157,7 @@ TEST_F(FileTest, WhatAKilledWriterLeavesIsUsedUpByTheNext)
     m_folder.WriteBytes("a.txt", "old");
     const pid_t child = fork();
     if (child == 0) {
-        CFile file(m_folder.Path("a.txt"), CFile::modeCreate | CFile::modeWrite);
+        CFile file(m_folder.Path("a.txt"), kCreate);
         Put(file, "half of a long new content");
         raise(SIGKILL);
     }
@@ -164,17 +165,15 @@ TEST_F(FileTest, WhatAKilledWriterLeavesIsUsedUpByTheNext)
     EXPECT_EQ(m_folder.ReadBytes("a.txt"), "old");
     ASSERT_EQ(Names().size(), 2U);
 
-    CFile file(m_folder.Path("a.txt"), CFile::modeCreate | CFile::modeWrite);
-    Put(file, "new");
-    file.Close();
+    Replace(m_folder.Path("a.txt"), "new");
     EXPECT_EQ(m_folder.ReadBytes("a.txt"), "new");
     EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
 }
 
 TEST_F(FileTest, WritersOfOneTargetKeepOutOfEachOthersWay)
 {
-    CFile first(m_folder.Path("a.txt"), CFile::modeCreate | CFile::modeWrite);
-    CFile second(m_folder.Path("a.txt"), CFile::modeCreate | CFile::modeWrite);
+    CFile first(m_folder.Path("a.txt"), kCreate);
+    CFile second(m_folder.Path("a.txt"), kCreate);
     Put(first, "from the first");
     Put(second, "from the second");
     first.Close();
@@ -217,9 +216,8 @@ TEST_F(FileTest, PathsHoldBackslashesAndForgiveCase)
     EXPECT_EQ(ResolvePath(m_folder.Path("Heizung.TXT")).filename(), "HEIZUNG.TXT")
         << "then the first in alphabetical order";
 
-    CFile file(m_folder.Path("heizung/GRÖßE.txt"), CFile::modeCreate | CFile::modeWrite);
-    file.Close();
-    EXPECT_EQ(m_folder.ReadBytes("Heizung/Größe.TXT"), "") << "creating meets the same file";
+    Replace(m_folder.Path("heizung/GRÖßE.txt"), "new");
+    EXPECT_EQ(m_folder.ReadBytes("Heizung/Größe.TXT"), "new") << "creating meets the same file";
 
     EXPECT_EQ(JoinPath(L"C:\\x", L"y"), L"C:\\x\\y");
     EXPECT_EQ(JoinPath(L"C:\\x\\", L"y"), L"C:\\x\\y");

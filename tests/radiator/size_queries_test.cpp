@@ -143,15 +143,4 @@ TEST(SizeQueries, WaterContentIsFoundByWholeMillimetres)
     EXPECT_EQ(Inhalt(uebergabe, 0.6, 0.1, 1.2), 0.0);
 }
 
-TEST(SizeQueries, RowsBehindTheLimitAreNotFound)
-{
-    CMemoryCatalogue catalogue;
-    for (int i = 1; i <= 2001; ++i) {
-        catalogue.Add(L'E', 600, 100, i, 1000, 0, i);
-    }
-    auto uebergabe = catalogue.Uebergabe(1000);
-    EXPECT_EQ(Inhalt(uebergabe, 0.6, 0.1, 2.0), 2000.0);
-    EXPECT_EQ(Inhalt(uebergabe, 0.6, 0.1, 2.001), 0.0);
-}
-
 } // namespace

@@ -3,18 +3,13 @@
 
 #include "frame/hkauswahl_uebergabe.h"
 #include "frame/vdi6030_start.h"
-#include "host/host_catalog.h"
 #include "host/host_prefs.h"
-#include "platform/encoding.h"
 #include "platform/numbers.h"
 #include "selection/heizsysteme.h"
 #include "selection/test_dialog.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <memory>
 #include <random>
 #include <string>
@@ -24,23 +19,9 @@ namespace {
 using Texts = std::vector<CString>;
 
 /// Opens dialogs over the sample catalogues, with stores of the test's own.
-class KriterienTest : public ::testing::Test
+class KriterienTest : public CMusterAuswahlTest
 {
 protected:
-    KriterienTest()
-    {
-        std::filesystem::create_directories(m_folder.Root() / "HEIZUNG");
-        m_uebergabe = MusterUebergabe();
-    }
-
-    ~KriterienTest() override
-    {
-        // Tests that bring rows of their own want the makers unread.
-        for (auto* maker = ReadHKDaten(); maker != nullptr; maker = maker->pNext) {
-            maker->pArt = nullptr;
-        }
-    }
-
     CTestDialog& Open(bool mitProdukt = true)
     {
         m_dialog = std::make_unique<CTestDialog>(m_uebergabe);
@@ -49,19 +30,6 @@ protected:
         return *m_dialog;
     }
 
-    void Raum(double bedarf, double gedeckt)
-    {
-        m_uebergabe.Raumname = L"PT.Cucina";
-        m_uebergabe.RaumBedarf = bedarf;
-        m_uebergabe.RaumGedeckt = gedeckt;
-    }
-
-    CTempFolder m_folder;
-    CSettingOverride m_root{kSettingServerPath, m_folder.Path()};
-    CSettingOverride m_def{kSettingDefFolder, m_folder.Path()};
-    CSettingOverride m_hk{kSettingHKDir, WideFromUtf8(RADSEL_DATA_DIR "/catalogues")};
-    CSettingOverride m_template{kSettingHKLayer, L"HEIZ_$d"};
-    HK_DATEN_VDI3805_UEBERGABE m_uebergabe;
     std::unique_ptr<CTestDialog> m_dialog;
 };
 

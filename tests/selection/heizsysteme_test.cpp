@@ -195,7 +195,6 @@ TEST(HeizsystemText, EntriesAreTakenApartWithoutErrors)
         {L"70/55)", L"", 70, 55},
         {L"Nome (75)", L"Nome", 0, 0},
         {L"A/B (75", L"A/B", 0, 0},
-        {L"75", L"", 0, 75},
         {L"70 gradi", L"", 0, 70},
         {L"solo nome", L"", 0, 0},
         {L"a (75/", L"a", 75, 0},

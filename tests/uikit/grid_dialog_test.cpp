@@ -20,26 +20,25 @@ enum Id
     idBehind,
 };
 
-const DialogTemplate& Template()
-{
-    using enum ControlKind;
-    static const DialogTemplate dialog = {kDialog,
-                                          L"Griglia",
-                                          160,
-                                          100,
-                                          frameFixed,
-                                          {{idBefore, edit, L"", 4, 4, 60, 13},
-                                           {idGrid, placeholder, L"", 4, 20, 150, 56},
-                                           {idBehind, edit, L"", 70, 4, 60, 13},
-                                           {kIdOk, defaultButton, L"OK", 4, 82, 44, 14},
-                                           {kIdCancel, button, L"Annulla", 52, 82, 44, 14}}};
-    return dialog;
-}
+using enum ControlKind;
+
+const DialogTemplate kTemplate = {kDialog,
+                                  L"Griglia",
+                                  160,
+                                  100,
+                                  frameFixed,
+                                  {{idBefore, edit, L"", 4, 4, 60, 13},
+                                   {idGrid, placeholder, L"", 4, 20, 150, 56},
+                                   {idBehind, edit, L"", 70, 4, 60, 13},
+                                   {kIdOk, defaultButton, L"OK", 4, 82, 44, 14},
+                                   {kIdCancel, button, L"Annulla", 52, 82, 44, 14}}};
 
 class CChoosyGrid : public CUGCtrl
 {
 public:
     std::vector<int> rows;
+    std::vector<wchar_t> characters;
+    wchar_t processedCharacter = L'\0';
     bool fails = false;
 
 protected:
@@ -58,12 +57,17 @@ protected:
             throw std::runtime_error("row");
         }
     }
+    void OnCharTyped(wchar_t* character, bool& processed) override
+    {
+        characters.push_back(*character);
+        processed = *character == processedCharacter;
+    }
 };
 
 class CGridDialog : public CDialog
 {
 public:
-    CGridDialog() : CDialog(Template()) {}
+    CGridDialog() : CDialog(kTemplate) {}
 
     CChoosyGrid grid;
 
@@ -90,7 +94,7 @@ protected:
     CGridDialog m_dialog;
 };
 
-TEST_F(GridDialogTest, EnterAndEscInTheGridAreTheDialogs)
+TEST_F(GridDialogTest, EnterAndEscInTheGridAreTheDialogsUnlessProcessed)
 {
     for (const auto& [key, result] :
          {std::pair(Qt::Key_Return, kIdOk), std::pair(Qt::Key_Escape, kIdCancel)}) {
@@ -101,6 +105,14 @@ TEST_F(GridDialogTest, EnterAndEscInTheGridAreTheDialogs)
                   }),
                   result);
     }
+    m_dialog.grid.processedCharacter = 27;
+    EXPECT_EQ(Run([&](CDialogUser& user) {
+                  user.Focus(idGrid);
+                  user.Press(Qt::Key_Escape);
+                  user.Press(Qt::Key_Return);
+              }),
+              kIdOk);
+    EXPECT_EQ(m_dialog.grid.characters, (std::vector<wchar_t>{13, 27, 27, 13}));
     EXPECT_EQ(m_dialog.grid.rows, (std::vector<int>{1, 1}));
     EXPECT_EQ(m_dialog.grid.GetRowCount(), 0) << "its cells went with the window";
 }

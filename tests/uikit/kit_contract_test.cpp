@@ -204,12 +204,12 @@ TEST_F(KitContract, TimersTickUntilKilledAndDieWithTheWindow)
         ticks.clear();
         bool later = false;
         QTimer::singleShot(5, [&] { later = true; });
-        return Until([&] { return later; }) && ticks[id] > 0;
+        return QTest::qWaitFor([&] { return later; }) && ticks[id] > 0;
     };
     Run([&](CDialogUser&) {
         m_dialog.SetTimer(1, 1);
         m_dialog.SetTimer(2, 1);
-        EXPECT_TRUE(Until([&] { return ticks[1] > 2 && ticks[2] > 2; }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return ticks[1] > 2 && ticks[2] > 2; }));
         m_dialog.KillTimer(1);
         EXPECT_TRUE(ticksAgain(2));
         EXPECT_EQ(ticks[1], 0);
@@ -279,7 +279,7 @@ TEST_F(KitContract, FrameworkExceptionsAreShownAndAllOthersLeave)
     const auto script = [&](CDialogUser& user) {
         m_dialog.SetTimer(1, 1);
         user.Click(idButton);
-        EXPECT_TRUE(Until([&] { return !failure; })) << failing;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !failure; })) << failing;
     };
     for (const auto& [where, opens] : {std::pair("opening", false),
                                        {"first size", false},

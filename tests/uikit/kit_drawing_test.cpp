@@ -3,11 +3,9 @@
 #include "uikit/column_label.h"
 
 #include "dialog_support/paint_counter.h"
+#include "dialog_support/widget_look.h"
 
-#include <QApplication>
-#include <QHelpEvent>
 #include <QLineEdit>
-#include <QToolTip>
 
 #include <cstdlib>
 
@@ -20,19 +18,6 @@ bool IsNear(const QColor& a, COLORREF b)
     return std::abs(a.red() - GetRValue(b)) + std::abs(a.green() - GetGValue(b)) +
                std::abs(a.blue() - GetBValue(b)) <
            40;
-}
-
-QRect InkOf(const QImage& image, const QColor& paper)
-{
-    QRect ink;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixelColor(x, y).lightness() < paper.lightness() - 90) {
-                ink |= QRect(x, y, 1, 1);
-            }
-        }
-    }
-    return ink;
 }
 
 TEST_F(KitDrawing, DrawingsStayUntilTheCanvasIsInvalidated)
@@ -62,7 +47,8 @@ TEST_F(KitDrawing, DrawingsStayUntilTheCanvasIsInvalidated)
             EXPECT_EQ(drawn.pixelColor(39, 14), QColor(0, 128, 0));
             EXPECT_EQ(drawn.pixelColor(40, 15), paper);
             EXPECT_EQ(drawn.pixelColor(35, 10), paper);
-            const QRect ink = InkOf(drawn.copy(45, 0, 40, 45), paper).translated(45, 0);
+            const QRect ink =
+                InkOf(drawn.copy(45, 0, 40, 45), paper.lightness() - 90).translated(45, 0);
             EXPECT_GE(ink.left(), 50) << "text that rises stands right of its point";
             EXPECT_LE(ink.bottom(), 40);
             EXPECT_GT(ink.height(), ink.width());
@@ -99,22 +85,17 @@ TEST_F(KitDrawing, LabelsShortenOrStandOverColumns)
 {
     Run([&](CDialogUser& user) {
         QWidget& label = user.Widget(idLabel);
-        const auto tip = [&] {
-            QHelpEvent help(QEvent::ToolTip, {2, 2}, label.mapToGlobal(QPoint(2, 2)));
-            QApplication::sendEvent(&label, &help);
-            return QToolTip::isVisible() ? QToolTip::text() : QString();
-        };
         Item(idLabel).SetWindowText(L"Una");
-        EXPECT_NE(tip(), "Una");
+        EXPECT_NE(TipAt(label, {2, 2}), "Una");
         Item(idLabel).SetWindowText(L"Una didascalia lunga");
-        EXPECT_EQ(tip(), "Una didascalia lunga");
+        EXPECT_EQ(TipAt(label, {2, 2}), "Una didascalia lunga");
 
         Item(idLabel).SetWindowText(L"I I");
         const CFont rows = {L"Courier", 11, 400, false, true};
         CColumnLabel(Item(idLabel)).AlignTo(Item(idSorted), rows, {8, 12});
         const QImage columns = label.grab().toImage();
         const int column = QFontMetrics(ToNative(rows)).horizontalAdvance(QString(4, '0'));
-        const QRect ink = InkOf(columns, columns.pixelColor(0, 0));
+        const QRect ink = InkOf(columns, columns.pixelColor(0, 0).lightness() - 90);
         EXPECT_NEAR(ink.width(), column, 3) << "the words end a column apart";
         QToolTip::hideText();
     });
@@ -131,7 +112,7 @@ TEST_F(KitDrawing, ControlsThatAreHeldBackPaintOnceAtTheEnd)
         QCoreApplication::processEvents();
         EXPECT_EQ(paintings.nPaints, 0);
         Item(idText).SetRedraw(true);
-        EXPECT_TRUE(Until([&] { return paintings.nPaints > 0; }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return paintings.nPaints > 0; }));
     });
 }
 

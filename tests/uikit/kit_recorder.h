@@ -7,8 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
+#include <QTest>
 
 #include <functional>
 #include <string>
@@ -185,13 +184,3 @@ protected:
     CDialogDriver m_driver;
     CRecordingDialog m_dialog;
 };
-
-/// Handles events until something holds, for a few seconds at most.
-inline bool Until(const std::function<bool()>& holds)
-{
-    const QDeadlineTimer deadline(5000);
-    while (!holds() && !deadline.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-    }
-    return holds();
-}

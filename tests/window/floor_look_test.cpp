@@ -8,6 +8,7 @@
 #include <QFontMetricsF>
 
 #include <set>
+#include <tuple>
 
 namespace {
 
@@ -79,12 +80,7 @@ TEST(FloorLook, ValvesStandBeyondTheEndThatTheyAreConnectedTo)
     const wchar_t* const eastern = L"-0.5;0;0;0;0.5;0;180;0";
     const wchar_t* const western = L"0.5;0;0;0;0.5;0;0;0";
     const wchar_t* const fromBelow = L"0;0;0;0;-0.5;0;0;270";
-    const struct
-    {
-        const wchar_t* point;
-        const wchar_t* block;
-        Wall beyond;
-    } cases[] = {
+    const std::tuple<const wchar_t*, const wchar_t*, Wall> cases[] = {
         {eastern, L"VALVOLA_DIRITTA", Wall::ost},
         {eastern, L"VALVOLA_SQUADRA_SX", Wall::ost},
         {western, L"VALVOLA_SQUADRA_DX", Wall::west},
@@ -97,19 +93,19 @@ TEST(FloorLook, ValvesStandBeyondTheEndThatTheyAreConnectedTo)
     const CBlockLibrary valves(WideFromUtf8(RADSEL_DATA_DIR "/drawing/ventile.dxf"));
     const CPlanBlocks blocks({}, &valves);
     CSamplePlanRooms rooms;
-    for (const auto& c : cases) {
-        SCOPED_TRACE(Utf8FromWide(c.block));
+    for (const auto& [point, block, beyond] : cases) {
+        SCOPED_TRACE(Utf8FromWide(block));
         CPlacedRadiator radiator = RadiatorOf(rooms.building, kSudRadiator);
-        radiator.anschluss.AnschlussAN = c.point;
+        radiator.anschluss.AnschlussAN = point;
         radiator.anschluss.AnschlussRI.clear();
-        radiator.anschluss.GrafikAN = c.block;
+        radiator.anschluss.GrafikAN = block;
         ReplaceRadiator(rooms.building, kSudRadiator, radiator);
         const CRadiatorDrawing drawing(rooms.building, kSudRadiator, blocks);
         const QRectF& outline = drawing.GetOutline();
         const QRectF& bounds = drawing.GetBounds();
-        EXPECT_EQ(bounds.right() > outline.right() + 0.08, c.beyond == Wall::ost);
-        EXPECT_EQ(bounds.left() < outline.left() - 0.08, c.beyond == Wall::west);
-        EXPECT_EQ(bounds.top() < outline.top() - 0.08, c.beyond == Wall::sued);
+        EXPECT_EQ(bounds.right() > outline.right() + 0.08, beyond == Wall::ost);
+        EXPECT_EQ(bounds.left() < outline.left() - 0.08, beyond == Wall::west);
+        EXPECT_EQ(bounds.top() < outline.top() - 0.08, beyond == Wall::sued);
     }
 }
 

@@ -1,14 +1,14 @@
+#include "dialog_support/widget_look.h"
 #include "window/plan_window.h"
 
 #include <gtest/gtest.h>
 
-#include <QHelpEvent>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -240,21 +240,14 @@ TEST_F(FloorScene, ToolTipsHoldTheDataOfWhatLiesBelow)
     room.strName = L"Bar <A&B>";
     ReplaceRoom(rooms.building, kSud, room);
     scene.ShowFloor(rooms.building, 0);
-    const struct
-    {
-        QPointF place;
-        std::vector<const char*> texts;
-    } cases[] = {
+    const std::pair<QPointF, std::vector<const char*>> cases[] = {
         {kInSud, {"Bar &lt;A&amp;B&gt;", "1000 W", "500 W", "12 m²", "20 °C", "Insufficiente"}},
         {kOnSudRadiator, {"22/600", "1000 × 600 × 100 mm", "500 W", "sotto la finestra"}},
     };
-    for (const auto& c : cases) {
-        QHelpEvent event(QEvent::ToolTip, Pixel(c.place),
-                         view.viewport()->mapToGlobal(Pixel(c.place)));
-        QApplication::sendEvent(view.viewport(), &event);
-        for (const char* const text : c.texts) {
-            EXPECT_TRUE(QToolTip::text().contains(QString::fromUtf8(text)))
-                << text << " in " << qPrintable(QToolTip::text());
+    for (const auto& [place, texts] : cases) {
+        const QString tip = TipAt(*view.viewport(), Pixel(place));
+        for (const char* const text : texts) {
+            EXPECT_TRUE(tip.contains(QString::fromUtf8(text))) << text << " in " << qPrintable(tip);
         }
     }
 }

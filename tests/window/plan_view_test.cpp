@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 class PlanView : public testing::Test, public CPlanWindowTest
@@ -21,20 +23,16 @@ TEST_F(PlanView, KeysZoomAndMoveAndShowAll)
     EXPECT_GT(nearer, 1.3 * fitted);
     Key(Qt::Key_Minus);
     EXPECT_LT(Scale(), nearer);
-    const struct
-    {
-        Qt::Key key;
-        int dx, dy;
-    } arrows[] = {
+    const std::tuple<Qt::Key, int, int> arrows[] = {
         {Qt::Key_Left, 1, 0}, {Qt::Key_Right, -1, 0}, {Qt::Key_Up, 0, 1}, {Qt::Key_Down, 0, -1}};
-    for (const auto& arrow : arrows) {
+    for (const auto& [key, dx, dy] : arrows) {
         const QPoint before = Pixel(kInSud);
-        Key(arrow.key);
+        Key(key);
         const QPoint moved = Pixel(kInSud) - before;
-        EXPECT_EQ(moved.x() > 20, arrow.dx > 0);
-        EXPECT_EQ(moved.x() < -20, arrow.dx < 0);
-        EXPECT_EQ(moved.y() > 20, arrow.dy > 0);
-        EXPECT_EQ(moved.y() < -20, arrow.dy < 0);
+        EXPECT_EQ(moved.x() > 20, dx > 0);
+        EXPECT_EQ(moved.x() < -20, dx < 0);
+        EXPECT_EQ(moved.y() > 20, dy > 0);
+        EXPECT_EQ(moved.y() < -20, dy < 0);
     }
     Key(Qt::Key_Home);
     EXPECT_NEAR(Scale(), fitted, 1e-9);

@@ -27,6 +27,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <tuple>
 
 namespace {
 
@@ -280,26 +281,21 @@ TEST_F(WorkbenchWindow, KeepsUnsavedWorkForTheNextStart)
 TEST_F(WorkbenchWindow, ExportsWhatStandsInThePlan)
 {
     Do("sizeAll");
-    const struct
-    {
-        const char* action;
-        const char* file;
-        std::string begin;
-    } exports[] = {
+    const std::tuple<const char*, const char*, std::string> exports[] = {
         {"exportCsv", "distinta.csv", "Piano;Locale;"},
         {"exportJson", "distinta.json", "{"},
         {"exportPdf", "progetto.pdf", "%PDF-"},
         {"exportDxf", "pianta.dxf", "0\r\nSECTION\r\n"},
     };
-    for (const auto& one : exports) {
-        const fs::path path = m_path.parent_path() / one.file;
+    for (const auto& [action, file, begin] : exports) {
+        const fs::path path = m_path.parent_path() / file;
         m_answerPath = path.wstring();
-        Do(one.action);
-        EXPECT_EQ(BytesOf(path).find(one.begin), 0u) << one.action;
+        Do(action);
+        EXPECT_EQ(BytesOf(path).find(begin), 0u) << action;
         m_told.clear();
-        m_answerPath = (m_path.parent_path() / "manca" / one.file).wstring();
-        Do(one.action);
-        EXPECT_TRUE(m_told.contains("non è stato scritto")) << one.action;
+        m_answerPath = (m_path.parent_path() / "manca" / file).wstring();
+        Do(action);
+        EXPECT_TRUE(m_told.contains("non è stato scritto")) << action;
     }
 }
 

@@ -1,20 +1,10 @@
 #include "workbench/arguments.h"
 
+#include "platform/thrown.h"
+
 #include <gtest/gtest.h>
 
-namespace {
-
-std::optional<CString> ErrorOf(const std::vector<CString>& arguments)
-{
-    try {
-        ParseArguments(arguments);
-        return std::nullopt;
-    } catch (const CArgumentException& error) {
-        return error.GetErrorMessage();
-    }
-}
-
-} // namespace
+#include <tuple>
 
 TEST(Arguments, EveryOptionIsRead)
 {
@@ -47,35 +37,26 @@ TEST(Arguments, HelpNeedsNoBuilding)
 
 TEST(Arguments, TheValveDialogTakesUpToTwoTexts)
 {
-    const struct
-    {
-        std::vector<CString> behind;
-        CString maker;
-        CString number;
-    } cases[] = {
+    const std::tuple<std::vector<CString>, CString, CString> cases[] = {
         {{}, L"", L""},
         {{L"--workplace", L"posto"}, L"", L""},
         {{L"Rossi", L"--workplace", L"posto"}, L"Rossi", L""},
         {{L"Rossi", L"0123", L"--workplace=posto"}, L"Rossi", L"0123"},
     };
-    for (const auto& test : cases) {
+    for (const auto& [behind, maker, number] : cases) {
         std::vector<CString> arguments = {L"--valve-dialog"};
-        arguments.insert(arguments.end(), test.behind.begin(), test.behind.end());
+        arguments.insert(arguments.end(), behind.begin(), behind.end());
         const CArguments result = ParseArguments(arguments);
         EXPECT_TRUE(result.bValveDialog) << "and needs no building";
-        EXPECT_EQ(result.strMaker, test.maker);
-        EXPECT_EQ(result.strValveNumber, test.number);
-        EXPECT_EQ(result.strWorkplace, test.behind.empty() ? L"" : L"posto");
+        EXPECT_EQ(result.strMaker, maker);
+        EXPECT_EQ(result.strValveNumber, number);
+        EXPECT_EQ(result.strWorkplace, behind.empty() ? L"" : L"posto");
     }
 }
 
 TEST(Arguments, ErrorsNameTheArgument)
 {
-    const struct
-    {
-        std::vector<CString> arguments;
-        CString named;
-    } cases[] = {
+    const std::pair<std::vector<CString>, CString> cases[] = {
         {{}, L"--building"},
         {{L"--building"}, L"--building"},
         {{L"--valve-dialog", L"a", L"b", L"troppo"}, L"troppo"},
@@ -87,10 +68,10 @@ TEST(Arguments, ErrorsNameTheArgument)
         {{L"--building", L"a.json", L"--valve-catalogues"}, L"--valve-catalogues"},
         {{L"--building", L"a.json", L"--system", L"45/55"}, L"45/55"},
     };
-    for (const auto& test : cases) {
-        const std::optional<CString> error = ErrorOf(test.arguments);
-        ASSERT_TRUE(error) << testing::PrintToString(test.arguments);
-        EXPECT_NE(error->find(test.named), CString::npos) << testing::PrintToString(*error);
+    for (const auto& [arguments, named] : cases) {
+        const CString error =
+            MessageOf<CArgumentException>([&given = arguments] { ParseArguments(given); });
+        EXPECT_NE(error.find(named), CString::npos) << testing::PrintToString(error);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "workbench/batch.h"
 
+#include "common/text_file.h"
 #include "platform/encoding.h"
 #include "support/setting_override.h"
 #include "support/temp_folder.h"
@@ -17,22 +18,18 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <tuple>
 
 namespace {
 
 const CString kData = WideFromUtf8(RADSEL_DATA_DIR);
 const CString kSampleBuilding = kData + L"/buildings/villa-dei-tigli.json";
 
-std::vector<std::string> Split(const std::string& text, const std::string& separator)
+/// The lines of an output, or the fields of a line.
+CStringArray Split(const std::string& text, wchar_t separator)
 {
-    std::vector<std::string> parts;
-    std::size_t start = 0;
-    for (std::size_t end = text.find(separator); end != std::string::npos;
-         end = text.find(separator, start)) {
-        parts.push_back(text.substr(start, end - start));
-        start = end + separator.size();
-    }
-    parts.push_back(text.substr(start));
+    CStringArray parts;
+    SplitString(parts, WideFromUtf8(text), separator);
     return parts;
 }
 
@@ -112,13 +109,9 @@ TEST_F(BatchTest, SampleBuildingGivesFilesThatAgreeWithTheScreen)
     EXPECT_EQ(ordered, valves);
     EXPECT_EQ(json["totals"]["demand"].toDouble(), demand);
 
-    const std::vector<std::string> lines =
-        Split(m_folder.ReadBytes("out/corpi-scaldanti.csv"), "\r\n");
-    ASSERT_EQ(lines.size(), std::size_t(1 + 18 + 2 + 1 + 1)); // the last one is behind the last end
-    const std::size_t fields = Split(lines[0], ";").size();
-    const std::vector<std::string> total = Split(lines[21], ";");
-    ASSERT_EQ(total.size(), fields);
-    EXPECT_EQ(std::stod(total[15]), output);
+    const CStringArray lines = Split(m_folder.ReadBytes("out/corpi-scaldanti.csv"), L'\n');
+    ASSERT_EQ(lines.GetSize(), 1 + 18 + 2 + 1);
+    EXPECT_EQ(std::stod(Split(Utf8FromWide(lines[21]), L';')[15]), output);
 
     const std::string screen = m_out.str();
     const std::size_t totalLine = screen.find("Totale dell'edificio");
@@ -154,24 +147,20 @@ TEST_F(BatchTest, EachKindOfErrorHasItsOwnCodeAndMessage)
 {
     m_folder.WriteBytes("bad.json", "{\n}}");
     m_folder.WriteBytes("file", "");
-    const struct
-    {
-        std::vector<CString> arguments;
-        ExitCode code;
-        CString told;
-    } cases[] = {
+    const std::tuple<std::vector<CString>, ExitCode, CString> cases[] = {
         {{L"--colour"}, ExitCode::wrongArguments, L"--colour"},
         {{L"--room", L"Cantina"}, ExitCode::wrongArguments, L"\"Cantina\""},
         {{L"--system", L"40/22"}, ExitCode::wrongArguments, L"\"Bagno degli ospiti\""},
         {{L"--catalogues", m_folder.Path("none")}, ExitCode::wrongArguments, L"none"},
         {{L"--valve-catalogues", m_folder.Path("nope")}, ExitCode::wrongArguments, L"nope"},
         {{L"--building", m_folder.Path("none.json")}, ExitCode::badBuilding, L"none.json"},
+        {{L"--building", m_folder.Path()}, ExitCode::badBuilding, m_folder.Path()},
         {{L"--building", m_folder.Path("bad.json")}, ExitCode::badBuilding, L"bad.json: riga 2"},
         {{L"--output", m_folder.Path("file")}, ExitCode::outputNotWritable, L"file"},
     };
-    for (const auto& test : cases) {
-        EXPECT_EQ(Run(test.arguments), test.code) << testing::PrintToString(test.arguments);
-        EXPECT_NE(WideFromUtf8(m_err.str()).find(test.told), CString::npos) << m_err.str();
+    for (const auto& [arguments, code, told] : cases) {
+        EXPECT_EQ(Run(arguments), code) << testing::PrintToString(arguments);
+        EXPECT_NE(WideFromUtf8(m_err.str()).find(told), CString::npos) << m_err.str();
     }
     EXPECT_FALSE(m_folder.Exists("out"));
     EXPECT_NE(m_out.str().find("Totale dell'edificio"), std::string::npos)
@@ -219,9 +208,9 @@ TEST_F(BatchTest, DamagedValveFileLeavesTheOtherRoomsTheirs)
                                       L": riga 3: al record 110 manca il campo 2"));
     EXPECT_TRUE(find(m_out.str(), L"Valvole: 22; mancanti: 5."));
     EXPECT_TRUE(find(m_out.str(), L"Preregolazione  xp K  kv bypass m³/h  kv corpo m³/h  quota %"));
-    for (const std::string& line : Split(m_out.str(), "\n")) {
-        if (line.starts_with("    mandata: ") && !line.ends_with("manca il campo 2")) {
-            EXPECT_LE(GetDisplayWidth(WideFromUtf8(line)), 156) << line;
+    for (const CString& line : Split(m_out.str(), L'\n')) {
+        if (line.starts_with(L"    mandata: ") && !line.ends_with(L"manca il campo 2")) {
+            EXPECT_LE(GetDisplayWidth(line), 156) << Utf8FromWide(line);
         }
     }
 }

@@ -1,9 +1,6 @@
-#include "workbench/building_json.h"
+#include "workbench/building_fixture.h"
 
-#include "support/temp_folder.h"
-#include "workbench/json_fields.h"
-
-#include <gtest/gtest.h>
+#include <tuple>
 
 namespace {
 
@@ -26,36 +23,32 @@ const std::string kBuilding = R"({
 }
 )";
 
-std::string Replaced(const std::string& from, const std::string& to)
+const std::string kNumber36(36, '7');
+const std::string kNumber30(30, '3');
+
+std::string Valve(const std::string& maker, const std::string& number)
 {
-    std::string text = kBuilding;
-    const std::size_t at = text.find(from);
-    EXPECT_NE(at, std::string::npos) << from;
-    return text.replace(at, from.size(), to);
+    return R"({ "maker": ")" + maker + R"(", "number": ")" + number + "\" }";
 }
 
-/// What ReadBuilding complains about, without the path in front; empty if it does not.
-std::string ErrorOf(const std::string& content)
+class BuildingJson : public CBuildingFixture
 {
-    const CTempFolder folder;
-    folder.WriteBytes("casa.json", content);
-    const CString path = folder.Path("casa.json");
-    try {
-        ReadBuilding(path);
-        return {};
-    } catch (const CContentException& error) {
-        EXPECT_EQ(error.GetErrorMessage().find(path + L": "), 0u) << error.what();
-        return std::string(error.what()).substr(path.size() + 2);
+protected:
+    /// The building with valves of its own and for its first room; an empty text: none.
+    static std::string WithValves(const std::string& ofBuilding, const std::string& ofRoom)
+    {
+        std::string text = Replaced(kBuilding, "\"name\": \"Città\",",
+                                    "\"name\": \"Città\"," +
+                                        (ofRoom.empty() ? "" : "\"valves\": " + ofRoom + ","));
+        return text.insert(1, ofBuilding.empty() ? "" : "\"valves\": " + ofBuilding + ",");
     }
-}
+};
 
 } // namespace
 
-TEST(BuildingJson, LimitsFollowFromWindowOrWall)
+TEST_F(BuildingJson, LimitsFollowFromWindowOrWall)
 {
-    const CTempFolder folder;
-    folder.WriteBytes("casa.json", kBuilding);
-    const CBuilding building = ReadBuilding(folder.Path("casa.json"));
+    const CBuilding building = Read(kBuilding);
 
     EXPECT_EQ(building.strName, L"Casa");
     EXPECT_EQ(building.system.ruecklauf, 55.5);
@@ -77,12 +70,9 @@ TEST(BuildingJson, LimitsFollowFromWindowOrWall)
     EXPECT_GE(wall.grenzen.tiefeMax, 10000.0);
 }
 
-TEST(BuildingJson, WrongFieldsAreNamedWithTheirRoom)
+TEST_F(BuildingJson, WrongFieldsAreNamedWithTheirRoom)
 {
-    const struct
-    {
-        std::string from, to, message;
-    } cases[] = {
+    const std::tuple<std::string, std::string, std::string> cases[] = {
         {"\"version\": 1", "\"version\": 3",
          "campo \"version\": il file è di una versione più recente del programma"},
         {"\"name\": \"Casa\",", "", "campo \"name\": manca"},
@@ -95,9 +85,10 @@ TEST(BuildingJson, WrongFieldsAreNamedWithTheirRoom)
         {"Città", " ", "piano \"Terra\", locale 1: campo \"name\": il testo è vuoto"},
         {"Città", "a\\u001b[2J",
          "piano \"Terra\", locale 1: campo \"name\": il testo contiene caratteri di controllo"},
-        {"Città", "Atrio", "locale \"Atrio\": campo \"name\": il nome è già di un altro locale"},
         {"\"temperature\": 20", "\"temperature\": 55.5", // no radiator heats above its return
          "locale \"Città\": campo \"temperature\": 55.5 è fuori dall'intervallo da 0 a 40"},
+        {"\"supply\": 70, \"return\": 55.5", "\"supply\": 30, \"return\": 20",
+         "locale \"Città\": campo \"temperature\": deve essere minore del ritorno, 20 °C"},
         {"\"demand\": 1000", "\"demand\": \"1000\"",
          "locale \"Città\": campo \"demand\": atteso un numero"},
         {"\"demand\": 1000", "\"demand\": 1e300",
@@ -111,40 +102,12 @@ TEST(BuildingJson, WrongFieldsAreNamedWithTheirRoom)
          "locale \"Città\": campo \"depthMin\": supera \"depthMax\""},
         {"\"product\": \"P\"", "\"produkt\": \"P\"", "locale \"Città\": campo \"product\": manca"},
     };
-    for (const auto& test : cases) {
-        EXPECT_EQ(ErrorOf(Replaced(test.from, test.to)), test.message);
+    for (const auto& [from, to, message] : cases) {
+        EXPECT_EQ(ErrorOf(Replaced(kBuilding, from, to)), message);
     }
 }
 
-TEST(BuildingJson, RoomNotBelowTheReturnIsRefused)
-{
-    EXPECT_EQ(
-        ErrorOf(Replaced("\"supply\": 70, \"return\": 55.5", "\"supply\": 30, \"return\": 20")),
-        "locale \"Città\": campo \"temperature\": deve essere minore del ritorno, 20 °C");
-}
-
-namespace {
-
-const std::string kNumber36(36, '7');
-const std::string kNumber30(30, '3');
-
-std::string Valve(const std::string& maker, const std::string& number)
-{
-    return R"({ "maker": ")" + maker + R"(", "number": ")" + number + "\" }";
-}
-
-/// The building with valves of its own and for its first room; an empty text: none.
-std::string WithValves(const std::string& ofBuilding, const std::string& ofRoom)
-{
-    std::string text =
-        Replaced("\"name\": \"Città\",",
-                 "\"name\": \"Città\"," + (ofRoom.empty() ? "" : "\"valves\": " + ofRoom + ","));
-    return text.insert(1, ofBuilding.empty() ? "" : "\"valves\": " + ofBuilding + ",");
-}
-
-} // namespace
-
-TEST(BuildingJson, ValvesOfARoomWinPieceByPiece)
+TEST_F(BuildingJson, ValvesOfARoomWinPieceByPiece)
 {
     const std::string all =
         "{\"supply\": " + Valve("A", kNumber36) + ", \"return\": " + Valve("B", kNumber36) + "}";
@@ -159,9 +122,7 @@ TEST(BuildingJson, ValvesOfARoomWinPieceByPiece)
         {"", onlyReturn, L"", L"C"}, {all, "{\"supply\": null}", L"", L"B"},
     };
     for (const auto& test : cases) {
-        const CTempFolder folder;
-        folder.WriteBytes("casa.json", WithValves(test.building, test.room));
-        const CBuilding building = ReadBuilding(folder.Path("casa.json"));
+        const CBuilding building = Read(WithValves(test.building, test.room));
         const CValveKeys& first = building.floors[0].rooms[0]->ventile;
         const CValveKeys& second = building.floors[0].rooms[1]->ventile;
         EXPECT_EQ(first.vorlauf.value_or(CValveKey()).strHersteller, test.supply) << test.room;
@@ -171,12 +132,9 @@ TEST(BuildingJson, ValvesOfARoomWinPieceByPiece)
     }
 }
 
-TEST(BuildingJson, WrongValvesAreNamedWithTheirRoom)
+TEST_F(BuildingJson, WrongValvesAreNamedWithTheirRoom)
 {
-    const struct
-    {
-        std::string room, message;
-    } cases[] = {
+    const std::pair<std::string, std::string> cases[] = {
         {"[]", "campo \"valves\": atteso un oggetto { }"},
         {"{\"supply\": 1}", "campo \"supply\": atteso un oggetto { }"},
         {"{\"suply\": null}", "campo \"suply\": campo sconosciuto"},
@@ -185,35 +143,19 @@ TEST(BuildingJson, WrongValvesAreNamedWithTheirRoom)
         {"{\"return\": " + Valve("A", kNumber30.substr(1)) + "}",
          "campo \"number\": ha 29 caratteri, ne servono almeno 30"},
     };
-    for (const auto& test : cases) {
-        EXPECT_EQ(ErrorOf(WithValves("", test.room)), "locale \"Città\": " + test.message);
-        EXPECT_EQ(ErrorOf(WithValves(test.room, "")), test.message);
+    for (const auto& [room, message] : cases) {
+        EXPECT_EQ(ErrorOf(WithValves("", room)), "locale \"Città\": " + message);
+        EXPECT_EQ(ErrorOf(WithValves(room, "")), message);
     }
 }
 
-TEST(BuildingJson, DamagedFileIsToldByLineAndColumn)
+TEST_F(BuildingJson, DamagedFileIsToldByLineAndColumn)
 {
-    EXPECT_EQ(ErrorOf(Replaced("\"version\": 1,", "\"version\": 1")).substr(0, 6), "riga 3");
+    EXPECT_EQ(ErrorOf(Replaced(kBuilding, "\"version\": 1,", "\"version\": 1")).substr(0, 6),
+              "riga 3");
     // The accent is two bytes and one column.
     EXPECT_EQ(ErrorOf("{\n \"città\": tru }").substr(0, 18), "riga 2, colonna 15");
     EXPECT_EQ(ErrorOf(""), "riga 1, colonna 1: non è JSON valido");
     EXPECT_EQ(ErrorOf("[1]"), "atteso un oggetto { } al livello più alto");
-    EXPECT_EQ(ErrorOf(Replaced("Città", "Citt\xe0")).substr(0, 6), "riga 9");
-}
-
-TEST(BuildingJson, MissingFileIsAnErrorOfTheFile)
-{
-    const CTempFolder folder;
-    for (const CString& path : {folder.Path("nessuno.json"), folder.Path()}) {
-        EXPECT_THROW(ReadBuilding(path), CContentException);
-    }
-}
-
-TEST(BuildingJson, TruncatedFileIsRefused)
-{
-    const CTempFolder folder;
-    for (std::size_t length = 0; length < kBuilding.rfind('}'); length += 5) {
-        folder.WriteBytes("casa.json", kBuilding.substr(0, length));
-        EXPECT_THROW(ReadBuilding(folder.Path("casa.json")), CContentException) << length;
-    }
+    EXPECT_EQ(ErrorOf(Replaced(kBuilding, "Città", "Citt\xe0")).substr(0, 6), "riga 9");
 }

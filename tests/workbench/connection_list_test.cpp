@@ -1,12 +1,12 @@
 #include "workbench/connection_list.h"
 
+#include "common/lines.h"
 #include "common/text_file.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
-#include <vector>
 
 namespace {
 
@@ -17,13 +17,9 @@ struct Listing
     std::string err;
 };
 
-Listing List(const CTempFolder& folder, const std::vector<CString>& lines)
+Listing List(const CTempFolder& folder, std::initializer_list<CString> lines)
 {
-    CStringArray array;
-    for (const CString& line : lines) {
-        array.Add(line);
-    }
-    WriteTextFile(folder.Path("Vent.txt"), array, false, false, 0x1001);
+    WriteTextFile(folder.Path("Vent.txt"), Lines(lines), false, false, 0x1001);
     std::ostringstream out;
     std::ostringstream err;
     const ExitCode code = ListConnections(folder.Path("Vent.txt"), out, err);

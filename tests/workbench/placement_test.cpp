@@ -8,9 +8,7 @@
 
 namespace {
 
-class PlacementTest : public CPlanFixture
-{
-};
+using PlacementTest = CPlanFixture;
 
 } // namespace
 
@@ -107,17 +105,14 @@ TEST(RadiatorBlock, EveryProductOfTheSampleCataloguesHasItsBlock)
     }
     EXPECT_GT(products, 40);
 
-    const struct
-    {
-        const wchar_t *art, *produkt, *block;
-    } cases[] = {
+    const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {
         {L"Radiatori a piastra compatti", L"Tipo 11", L"RAD_PIASTRA_11_PIANTA"},
         {L"Flachheizkörper mit Einbauventil", L"Typ V 22", L"RAD_PIASTRA_22_PIANTA"},
         {L"Radiatori tubolari in acciaio", L"3 colonne", L"RAD_TUBOLARE_PIANTA"},
         {L"Badheizkörper", L"Badwärmer gerade", L"RAD_SCALDASALVIETTE_PIANTA"},
         {L"Altro", L"Tipo 22", L""},
     };
-    for (const auto& test : cases) {
-        EXPECT_EQ(BlockOf(test.art, test.produkt), test.block);
+    for (const auto& [art, produkt, block] : cases) {
+        EXPECT_EQ(BlockOf(art, produkt), block);
     }
 }

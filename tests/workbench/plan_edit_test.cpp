@@ -71,11 +71,12 @@ TEST_F(PlanEditTest, ANewSystemGivesTheOutputsOfASilentSelection)
     cold.heizkoerper = {Radiator(1500.0, 1500.0), foreign};
     Add(0, warm);
     Add(0, cold);
+    Add(1, warm);
     const CBuilding before = m_building;
     for (const CHeatingSystem& system : {CHeatingSystem{70.0, 55.0}, CHeatingSystem{55.0, 45.0}}) {
         ChangeSystem(m_building, system);
         EXPECT_EQ(m_building.system.vorlauf, system.vorlauf);
-        for (const CRoomRef& ref : {CRoomRef{0, 1}, CRoomRef{0, 2}}) {
+        for (const CRoomRef& ref : {CRoomRef{0, 1}, CRoomRef{0, 2}, CRoomRef{1, 1}}) {
             const CRoom& room = RoomOf(m_building, ref);
             for (const CPlacedRadiator& radiator : room.heizkoerper) {
                 if (radiator.strHersteller == L"Prova") {

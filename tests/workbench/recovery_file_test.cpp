@@ -1,6 +1,7 @@
 #include "workbench/plan/recovery_file.h"
 
 #include "platform/exception.h"
+#include "platform/thrown.h"
 #include "support/temp_folder.h"
 #include "tools/make_building_samples.h"
 #include "workbench/building_json.h"
@@ -93,14 +94,9 @@ TEST_F(RecoveryFileTest, WhatCannotBeReadIsKeptAside)
     std::vector<std::string> damaged = {"", good.substr(0, 500), later, undated, broken};
     for (const std::string& bytes : damaged) {
         m_folder.WriteBytes("recupero-1.json", bytes);
-        try {
-            file.Read();
-            ADD_FAILURE() << "read " << bytes;
-        } catch (const CContentException& error) {
-            EXPECT_NE(error.GetErrorMessage().find(m_folder.Path("recupero-1.json: ")),
-                      CString::npos);
-            EXPECT_NE(error.GetErrorMessage().find(L"recupero-1.json.illeggibile-"), CString::npos);
-        }
+        const CString message = MessageOf<CContentException>([&] { file.Read(); });
+        EXPECT_NE(message.find(m_folder.Path("recupero-1.json: ")), CString::npos);
+        EXPECT_NE(message.find(L"recupero-1.json.illeggibile-"), CString::npos);
         EXPECT_FALSE(file.Read());
     }
     std::sort(damaged.begin(), damaged.end());
@@ -111,11 +107,7 @@ TEST_F(RecoveryFileTest, AFolderThatCannotBeUsedIsNamed)
 {
     m_folder.WriteBytes("file", "");
     for (const CString& folder : {m_folder.Path("file"), CString(L"/proc/posto")}) {
-        try {
-            const CRecoveryFile file(folder);
-            ADD_FAILURE();
-        } catch (const CFileException& error) {
-            EXPECT_NE(error.GetErrorMessage().find(folder), CString::npos);
-        }
+        const CString message = MessageOf<CFileException>([&] { CRecoveryFile file(folder); });
+        EXPECT_NE(message.find(folder), CString::npos);
     }
 }

@@ -1,12 +1,13 @@
 #include "workbench/schedule.h"
 
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
+#include "workbench/plan_fixture.h"
 #include "workbench/schedule_csv.h"
 #include "workbench/schedule_text.h"
 #include "workbench/text_columns.h"
 
 #include <gtest/gtest.h>
+
+#include <tuple>
 
 namespace {
 
@@ -30,49 +31,23 @@ const char* const kCatalogue = "010;2010-05;Prova S.p.A.;2026-01\n"
                                "710.01;1;500\n"
                                "710.01;2;700;1000;4\n";
 
-const char* const kDamagedCatalogue = "010;2010-05;Rotto S.p.A.;2026-01\n"
-                                      "100;1;Piastre\n"
-                                      "110;1;P10\n"
-                                      "700;1;P10/600;M;seicento;60;1000;1.3;2\n";
-
 /// At 75/65 °C and 20 °C design conditions are the standard ones: the factor is 1.
 constexpr CHeatingSystem kStandard{75.0, 65.0};
 
-class ScheduleTest : public testing::Test
+class ScheduleTest : public CPlanFixture
 {
 protected:
-    ScheduleTest()
-    {
-        m_folder.WriteBytes("Prova/hk.tga", kCatalogue);
-        m_folder.WriteBytes("Rotto/hk.tga", kDamagedCatalogue);
-    }
-
-    static CFloor Floor(const CString& name, const std::vector<CRoom>& rooms)
-    {
-        CFloor floor;
-        floor.strName = name;
-        for (const CRoom& room : rooms) {
-            floor.rooms.push_back(std::make_shared<const CRoom>(room));
-        }
-        return floor;
-    }
+    ScheduleTest() { m_folder.WriteBytes("Prova/hk.tga", kCatalogue); }
 
     static CRoom Room(const CString& name, double bedarf, const CString& art,
                       const CString& produkt)
     {
-        CRoom room;
-        room.strName = name;
-        room.raumtemperatur = 20.0;
-        room.bedarf = bedarf;
-        room.grenzen = {720.0, 1200.0, 0.0, 200.0};
-        room.strHersteller = L"Prova";
+        CRoom room = CPlanFixture::Room(name, bedarf);
+        room.grenzen.laengeMax = 1200.0;
         room.strArt = art;
         room.strProdukt = produkt;
         return room;
     }
-
-    CTempFolder m_folder;
-    CSettingOverride m_catalogues{kSettingHKDir, m_folder.Path()};
 };
 
 } // namespace
@@ -130,12 +105,7 @@ TEST_F(ScheduleTest, UnfittingRoomsSayWhatTheNearestRadiatorLacks)
     lowest.grenzen.hoeheMax = 500.0;
     // At 55/45 °C the factor is 0.495: 1000 W become 495 W, 305 short of 800.
     const CRoom cold = Room(L"Freddo", 800.0, L"Piastre", L"P10");
-    const struct
-    {
-        CRoom room;
-        CHeatingSystem system;
-        CString note;
-    } cases[] = {
+    const std::tuple<CRoom, CHeatingSystem, CString> cases[] = {
         {low, kStandard,
          L"il più vicino è P10/600, 600 x 60 x 1000 mm, 1000 W: altezza 600 mm, consentiti 595 mm"},
         {narrow, kStandard,
@@ -151,10 +121,10 @@ TEST_F(ScheduleTest, UnfittingRoomsSayWhatTheNearestRadiatorLacks)
          {55.0, 45.0},
          L"il più vicino è P10/600, 600 x 60 x 1000 mm, 495 W: mancano 305 W (38.1 %)"},
     };
-    for (const auto& test : cases) {
-        const CRoomOutcome outcome = SelectRadiator(test.room, test.system);
+    for (const auto& [room, system, note] : cases) {
+        const CRoomOutcome outcome = SelectRadiator(room, system);
         EXPECT_EQ(outcome.status, RoomStatus::unfitting);
-        EXPECT_EQ(outcome.strNote, test.note);
+        EXPECT_EQ(outcome.strNote, note);
     }
 }
 
@@ -164,22 +134,17 @@ TEST_F(ScheduleTest, UnknownNamesAndDamagedCataloguesAreTold)
     maker.strHersteller = L"Nessuno";
     CRoom damaged = maker;
     damaged.strHersteller = L"Rotto";
-    const struct
-    {
-        CRoom room;
-        RoomStatus status;
-        CString told;
-    } cases[] = {
+    const std::tuple<CRoom, RoomStatus, CString> cases[] = {
         {maker, RoomStatus::unknownProduct, L"produttore \"Nessuno\""},
         {Room(L"b", 500.0, L"Altro", L"P10"), RoomStatus::unknownProduct, L"categoria \"Altro\""},
         {Room(L"c", 500.0, L"Piastre", L"P99"), RoomStatus::unknownProduct, L"prodotto \"P99\""},
         {damaged, RoomStatus::badCatalogue, m_folder.Path("Rotto/hk.tga") + L": riga 4: "},
     };
-    for (const auto& test : cases) {
-        const CRoomOutcome outcome = SelectRadiator(test.room, kStandard);
-        EXPECT_EQ(outcome.status, test.status);
+    for (const auto& [room, status, told] : cases) {
+        const CRoomOutcome outcome = SelectRadiator(room, kStandard);
+        EXPECT_EQ(outcome.status, status);
         EXPECT_FALSE(outcome.radiator);
-        EXPECT_NE(outcome.strNote.find(test.told), CString::npos)
+        EXPECT_NE(outcome.strNote.find(told), CString::npos)
             << testing::PrintToString(outcome.strNote);
     }
 }
@@ -192,12 +157,16 @@ TEST_F(ScheduleTest, TotalsCountChosenRadiatorsAndEveryDemand)
     damaged.strHersteller = L"Rotto";
     CRoom low = Room(L"Basso", 1000.0, L"Piastre", L"P10");
     low.grenzen.hoeheMax = 300.0;
-    const CRoom first = Room(L"Sala; \"grande\"", 1000.0, L"Piastre", L"P10");
+    const CRoom first = Room(L"Sala", 1000.0, L"Piastre", L"P10");
     const CRoom second = Room(L"Piccolo", 850.0, L"Elementi", L"E80");
-    CBuilding building;
-    building.system = kStandard;
-    building.floors = {Floor(L"Terra", {first, covered, damaged}), Floor(L"Primo", {second, low})};
-    const CSchedule schedule = MakeSchedule(building);
+    m_building.floors[0].rooms.clear();
+    m_building.floors[1].rooms.clear();
+    for (const CRoom& room : {first, covered, damaged}) {
+        Add(0, room);
+    }
+    Add(1, second);
+    Add(1, low);
+    const CSchedule schedule = MakeSchedule(m_building);
 
     // Chosen: 1000 W with 2 l, 800 W with 4 l. Required: 1000 + 0 + 400 + 850 + 1000.
     const CScheduleTotals& totals = schedule.totals;
@@ -210,21 +179,7 @@ TEST_F(ScheduleTest, TotalsCountChosenRadiatorsAndEveryDemand)
     EXPECT_EQ(totals.inhalt, 6.0);
     EXPECT_EQ(schedule.floors[1].totals.leistung, 800.0);
     EXPECT_TRUE(schedule.HasBadCatalogue());
-
-    const CString csv = FormatScheduleCsv(schedule);
-    EXPECT_NE(csv.find(L"Terra;\"Sala; \"\"grande\"\"\";scelto;20;1000;0;1000;Prova;Piastre;P10;"
-                       L"P10/600;600;60;1000;1000;1000;0.0;0;2.000;;;;;;;;;;;;;\r\n"),
-              CString::npos)
-        << testing::PrintToString(csv);
-    EXPECT_NE(
-        csv.find(L"\r\n;;totale dell'edificio;;3550;;3250;;;;;;;;1800;1800;-44.6;;6.000;;;;;;;;;;;"
-                 L";;\r\n"),
-        CString::npos)
-        << testing::PrintToString(csv);
-    EXPECT_NE(FormatScheduleText(schedule, false)
-                  .find(L"Locali: 5; con corpo scaldante: 2; già coperti: 1; senza corpo scaldante "
-                        L"adatto: 2."),
-              CString::npos);
+    EXPECT_EQ(FormatScheduleText(schedule, false).find(L"Valvole"), CString::npos) << "no bill";
 }
 
 TEST(ScheduleCsv, FieldsAreQuotedWhereTheyNeedIt)

@@ -3,8 +3,6 @@
 #include "frame/vdi6030_start.h"
 #include "host/host_prefs.h"
 #include "plan_fixture.h"
-#include "workbench/building_json.h"
-#include "workbench/plan/plan_history.h"
 #include "workbench/plan/room_request.h"
 
 namespace {
@@ -202,24 +200,6 @@ TEST_F(SizingTest, CancellingAtAnyMomentLeavesTheBuildingAsItWas)
             EXPECT_EQ(&RoomOf(result.building, ref), &RoomOf(m_building, ref));
         }
     }
-}
-
-TEST_F(SizingTest, UndoAndRedoGiveExactlyWhatStoodThere)
-{
-    CPlanHistory history(m_building);
-    history.Do(L"Dimensiona tutto", SizeAll().building);
-    CBuilding warmer = history.Current();
-    ChangeSystem(warmer, {80.0, 65.0});
-    history.Do(L"Sistema", warmer);
-    const std::string before = FormatBuilding(m_building);
-    const std::string after = FormatBuilding(warmer);
-    EXPECT_NE(before, after);
-    history.Undo();
-    history.Undo();
-    EXPECT_EQ(FormatBuilding(history.Current()), before);
-    history.Redo();
-    history.Redo();
-    EXPECT_EQ(FormatBuilding(history.Current()), after);
 }
 
 TEST_F(SizingTest, RequestsAskForWhatTheOtherRadiatorsLeave)

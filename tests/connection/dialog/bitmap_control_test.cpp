@@ -3,6 +3,7 @@
 #include "connection/bild_geometrie.h"
 #include "connection/bitmap_control.h"
 #include "dialog_support/dialog_driver.h"
+#include "dialog_support/widget_look.h"
 #include "support/temp_folder.h"
 #include "uikit/native/access.h"
 
@@ -18,11 +19,7 @@ constexpr int kDialog = 7001;
 constexpr CRect kPlace = {10, 10, 130, 90};
 constexpr QRgb kGrey = qRgb(128, 128, 128);
 
-const DialogTemplate& Template()
-{
-    static const DialogTemplate dialog = {kDialog, L"Immagine", 150, 80, frameFixed, {}};
-    return dialog;
-}
+const DialogTemplate kTemplate = {kDialog, L"Immagine", 150, 80, frameFixed, {}};
 
 /// Every pixel tells its place, from 1 on so that none is black.
 CBitmap Coded(int width, int height)
@@ -51,6 +48,7 @@ public:
     QRgb At(int x, int y) const { return m_image.pixel(x, y); }
     /// Place in the picture of the pixel at the left top corner.
     QPoint Corner() const { return {qRed(At(0, 0)) - 1, qGreen(At(0, 0)) - 1}; }
+    QRect InkIn(const QRect& part) const { return InkOf(m_image.copy(part), 60); }
     QSize Size() const { return m_image.size(); }
     bool HasBars(bool horizontal, bool vertical) const
     {
@@ -63,24 +61,12 @@ private:
     QImage m_image;
 };
 
-bool HasDarkPixel(const CShown& shown, const QRect& rect)
-{
-    for (int y = rect.top(); y <= rect.bottom(); ++y) {
-        for (int x = rect.left(); x <= rect.right(); ++x) {
-            if (qGray(shown.At(x, y)) < 60) {
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
 void ExpectNotFound(const CBitmapCtrl& control)
 {
     const CShown shown(control);
     EXPECT_TRUE(shown.HasBars(false, false));
-    EXPECT_TRUE(HasDarkPixel(shown, {0, 0, 60, 16})) << "text at the left top corner";
-    EXPECT_FALSE(HasDarkPixel(shown, {0, 20, 60, 40}));
+    EXPECT_TRUE(!shown.InkIn({0, 0, 60, 16}).isNull()) << "text at the left top corner";
+    EXPECT_TRUE(shown.InkIn({0, 20, 60, 40}).isNull());
     EXPECT_EQ(shown.At(shown.Size().width() - 1, shown.Size().height() - 1), kGrey);
 }
 
@@ -88,7 +74,7 @@ void ExpectNotFound(const CBitmapCtrl& control)
 void WithControl(const std::function<void(CBitmapCtrl&, QSize)>& script)
 {
     CDialogDriver driver;
-    CDialog dialog(Template());
+    CDialog dialog(kTemplate);
     driver.WhenOpens(kDialog, [&](CDialogUser& user) {
         CBitmapCtrl control;
         ASSERT_TRUE(control.Create(styleNone, kPlace, user.Dialog()));
@@ -208,7 +194,7 @@ TEST(BitmapControl, WindowAndObjectMayEndInEitherOrder)
     EXPECT_FALSE(survivor.Create(styleNone, kPlace, CWnd()));
 
     CDialogDriver driver;
-    CDialog dialog(Template());
+    CDialog dialog(kTemplate);
     driver.WhenOpens(kDialog, [&](CDialogUser& user) {
         ASSERT_TRUE(survivor.Create(styleHidden, kPlace, user.Dialog()));
         EXPECT_FALSE(survivor.Create(styleNone, kPlace, user.Dialog()));

@@ -2,36 +2,30 @@
 
 #include "connection/presets.h"
 #include "dialog_support/dialog_driver.h"
+#include "dialog_support/empty_drawer.h"
 #include "frame/conn_values.h"
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
-#include "host/drawer.h"
 #include "host/drawing_records.h"
 #include "platform/format.h"
 #include "valve/ventil_fixture.h"
 
-#include <QTest>
-
 #include <algorithm>
+#include <array>
 #include <deque>
 #include <filesystem>
+#include <tuple>
 
 /// A drawing that lists its blocks and notes what is drawn.
-class CTestDrawer : public CDrawer
+class CTestDrawer : public CEmptyDrawer
 {
 public:
-    void GetLayerNames(CStringArray&, int) override {}
-    int GetLayerColor(const CString&) override { return 0; }
     void GetBlockNames(const CString& ordner, CStringArray& namen, int art) override
     {
         gefragt = ordner + L"|" + FormatInt(art);
         for (const CString& block : bloecke) {
             namen.Add(block);
         }
-    }
-    bool GetBlockPreview(const CString&, const CString&, CBitmap&, int, int) override
-    {
-        return false;
     }
     void ClearPreview() override { aufrufe += "C"; }
     void BeginPreview() override { aufrufe += "B"; }
@@ -57,10 +51,10 @@ public:
 };
 
 /// The host's list, radiators of one metre beside each other.
-class CTestListe
+class CTestObjekte
 {
 public:
-    explicit CTestListe(int count) : m_objects(static_cast<std::size_t>(count))
+    explicit CTestObjekte(int count) : m_objects(static_cast<std::size_t>(count))
     {
         for (std::size_t i = 0; i < m_objects.size(); ++i) {
             m_objects[i].Trafo.Ursprung = {2.0 * double(i), 0.0, 0.0};
@@ -68,7 +62,7 @@ public:
             m_objects[i].pNext = i + 1 < m_objects.size() ? &m_objects[i + 1] : nullptr;
         }
     }
-    ~CTestListe()
+    ~CTestObjekte()
     {
         for (const TGA_LIST& object : m_objects) {
             for (ALIST* a = object.Attribute; a != nullptr;) {
@@ -76,8 +70,8 @@ public:
             }
         }
     }
-    CTestListe(const CTestListe&) = delete;
-    CTestListe& operator=(const CTestListe&) = delete;
+    CTestObjekte(const CTestObjekte&) = delete;
+    CTestObjekte& operator=(const CTestObjekte&) = delete;
 
     TGA_LIST* Head() { return m_objects.empty() ? nullptr : &m_objects.front(); }
     /// "NAME=value " of all attributes, in order.
@@ -110,8 +104,7 @@ protected:
                   "\r\nR" + P(15) + "\r\n[Dal basso]\r\nV" + P(3) + "\r\nR" + P(5) + "\r\n");
         // Diagonale, with everything that a record can hold.
         m_anschluss.Name = L"Mio";
-        SetzePunkte({-0.5, 0, 0.5}, {0, 0, -0.03}, {180, 0, 0}, {0.5, 0, -0.5}, {0, 0, 0.03},
-                    {0, 0, 0});
+        SetzePunkte({{{-0.5, 0, 0.5}, {0, 0, -0.03}, {180, 0, 0}, {0.5, 0, -0.5}, {0, 0, 0.03}}});
         m_anschluss.AnschlussAN = AnschlussPreset(0);
         m_anschluss.AnschlussRI = AnschlussPreset(15);
         m_anschluss.SeitAbstandAN = 0.2;
@@ -123,23 +116,22 @@ protected:
 
     static std::string P(int row) { return Utf8FromWide(AnschlussPreset(row)); }
     void Kurzliste(const std::string& text) { m_root.WriteBytes("HEIZUNG/Vent.txt", text); }
-    void SetzePunkte(const ConnVector& posAN, const ConnVector& offsetAN,
-                     const ConnVector& winkelAN, const ConnVector& posRI,
-                     const ConnVector& offsetRI, const ConnVector& winkelRI)
+    using Punkte = std::array<ConnVector, 6>;
+    static Punkte PunkteVon(const ConnValues& a)
     {
-        m_anschluss.PosAN = posAN;
-        m_anschluss.OffsetAN = offsetAN;
-        m_anschluss.WinkelAN = winkelAN;
-        m_anschluss.PosRI = posRI;
-        m_anschluss.OffsetRI = offsetRI;
-        m_anschluss.WinkelRI = winkelRI;
+        return {a.PosAN, a.OffsetAN, a.WinkelAN, a.PosRI, a.OffsetRI, a.WinkelRI};
+    }
+    void SetzePunkte(const Punkte& punkte)
+    {
+        ConnValues& a = m_anschluss;
+        std::tie(a.PosAN, a.OffsetAN, a.WinkelAN, a.PosRI, a.OffsetRI, a.WinkelRI) =
+            std::tuple_cat(punkte);
     }
 
     /// Opens the dialog on the members and leaves it by the button.
     bool Oeffne(const Script& script, int button = kIdOk)
     {
         m_driver.WhenOpens(kDialog, [&](CDialogUser& user) {
-            EXPECT_TRUE(QTest::qWaitForWindowActive(user.Widget(362).window()));
             script(user);
             user.Click(button);
         });
@@ -158,14 +150,6 @@ protected:
                 script(user);
             },
             button);
-    }
-    static std::vector<CString> Texte(const CDialogUser& user, const std::vector<int>& ids)
-    {
-        std::vector<CString> texts;
-        for (const int id : ids) {
-            texts.push_back(user.Text(id));
-        }
-        return texts;
     }
     static void ExpectEnabled(const CDialogUser& user, const std::vector<int>& ids, bool enabled)
     {

@@ -46,10 +46,10 @@ TEST_F(CVentDlgTest, OpensCollapsedOnWhatWasHandedIn)
         EXPECT_EQ(user.Dialog().GetWindowText(), L"Parametri valvole e attacco corpi scaldanti");
         EXPECT_EQ(user.Items(362), (Strings{L"Sinistra", L"Diagonale", L"Dal basso"}));
         EXPECT_EQ(user.Chosen(362), 1);
-        EXPECT_EQ(Texte(user, {18041, 18043, 18103, 18105, 18073, 371, 372}),
+        EXPECT_EQ(user.Texts({18041, 18043, 18103, 18105, 18073, 371, 372}),
                   (Strings{L"200.0", L"100.0", L"300.0", L"50.0", L"Mio", L"15", L"15"}));
-        EXPECT_EQ(Texte(user, {18042, 18044, 18046, 18047}), (Strings(4, L"mm")));
-        EXPECT_EQ(Texte(user, {363, 364, 370, 365, 366, 369}),
+        EXPECT_EQ(user.Texts({18042, 18044, 18046, 18047}), (Strings(4, L"mm")));
+        EXPECT_EQ(user.Texts({363, 364, 370, 365, 366, 369}),
                   (Strings{L"", L"", L"non regolabile", L"", L"", L"non regolabile"}));
         EXPECT_EQ(Chosen(user, {18104, 18100, 18101}), 18101);
         EXPECT_EQ(Chosen(user, Presets()), -1);
@@ -73,12 +73,7 @@ TEST_F(CVentDlgTest, OkStraightAwayChangesWhatTheDialogDecidesAndNothingElse)
     const ConnValues before = m_anschluss;
     Oeffne([](CDialogUser&) {});
     EXPECT_EQ(m_anschluss.Name, L"Mio");
-    EXPECT_EQ(m_anschluss.PosAN, before.PosAN);
-    EXPECT_EQ(m_anschluss.OffsetAN, before.OffsetAN);
-    EXPECT_EQ(m_anschluss.WinkelAN, before.WinkelAN);
-    EXPECT_EQ(m_anschluss.PosRI, before.PosRI);
-    EXPECT_EQ(m_anschluss.OffsetRI, before.OffsetRI);
-    EXPECT_EQ(m_anschluss.WinkelRI, before.WinkelRI);
+    EXPECT_EQ(PunkteVon(m_anschluss), PunkteVon(before));
     EXPECT_EQ(m_anschluss.SeitAbstandAN, 0.2);
     EXPECT_EQ(m_anschluss.SeitAbstandRI, 0.1);
     EXPECT_EQ(m_anschluss.KreuzTyp, 2);
@@ -110,7 +105,7 @@ TEST_F(CVentDlgTest, OkJudgesEachPointAlone)
 
 TEST_F(CVentDlgTest, CancelChangesNothingOfTheCallers)
 {
-    CTestListe list(1);
+    CTestObjekte list(1);
     CTestDrawer drawer;
     m_pListe = list.Head();
     m_pDrawer = &drawer;
@@ -164,15 +159,15 @@ TEST_F(CVentDlgTest, AChosenTypeReplacesAllButTheSideDistances)
         user.Choose(362, 0);
         EXPECT_FALSE(user.IsChecked(18040));
         EXPECT_EQ(user.Text(18073), L"Sinistra");
-        EXPECT_EQ(Texte(user, {18041, 18043}), (Strings{L"0.200", L"0.100"}));
+        EXPECT_EQ(user.Texts({18041, 18043}), (Strings{L"0.200", L"0.100"}));
         ExpectEnabled(user, kPunktFelder, false);
         user.Click(1025);
         ExpectEnabled(user, kPunktFelder, true);
-        EXPECT_EQ(Texte(user, kZahlen),
+        EXPECT_EQ(user.Texts(kZahlen),
                   (Strings{L"-0.5", L"0", L"-0.5", L"0", L"0", L"0.03", L"180", L"0"}));
         user.Choose(362, 2);
         ExpectEnabled(user, kPunktFelder, true);
-        EXPECT_EQ(Texte(user, kZahlen),
+        EXPECT_EQ(user.Texts(kZahlen),
                   (Strings{L"-0.5", L"0", L"-0.5", L"0.06", L"0", L"0", L"0", L"270"}));
         EXPECT_EQ(Chosen(user, Presets()), -1);
         user.Choose(362, 0);
@@ -212,10 +207,10 @@ TEST_F(CVentDlgTest, AnUnreadableShortListLeavesTheDialogUsable)
         Kurzliste(text);
         const ConnVector before = m_anschluss.PosRI;
         Oeffne([&](CDialogUser& user) {
-            EXPECT_EQ(Texte(user, {363, 364, 370, 365, 366, 369}), Strings(6, L"<...>"));
+            EXPECT_EQ(user.Texts({363, 364, 370, 365, 366, 369}), Strings(6, L"<...>"));
             EXPECT_EQ(user.Text(18041), L"0.200");
             user.Click(18095);
-            EXPECT_EQ(Texte(user, {363, 370, 369}),
+            EXPECT_EQ(user.Texts({363, 370, 369}),
                       (Strings{L"", L"non regolabile", L"non regolabile"}));
         });
         EXPECT_EQ(m_anschluss.PosRI, before);
@@ -257,16 +252,16 @@ TEST_F(CVentDlgTest, SideDistancesAreJudgedWhenTheyAreLeft)
 {
     m_anschluss.SeitAbstandAN = m_anschluss.SeitAbstandRI = 0.0;
     Oeffne([](CDialogUser& user) {
-        EXPECT_EQ(Texte(user, {18041, 18043}), (Strings{L"0.100", L"0.050"})) << "mirror positions";
+        EXPECT_EQ(user.Texts({18041, 18043}), (Strings{L"0.100", L"0.050"})) << "mirror positions";
         user.Choose(362, 0);
         user.Type(18041, L"0.3");
         QCoreApplication::processEvents();
         EXPECT_EQ(user.Text(18041), L"0.3") << "nothing is judged while the user types";
         user.Focus(18043);
-        EXPECT_EQ(Texte(user, {18041, 18043}), (Strings{L"0.3", L"0.050"}));
+        EXPECT_EQ(user.Texts({18041, 18043}), (Strings{L"0.3", L"0.050"}));
         user.Type(18043, L"0,3");
         user.Focus(362);
-        EXPECT_EQ(Texte(user, {18041, 18043}), (Strings{L"0.100", L"0.050"})) << "equal";
+        EXPECT_EQ(user.Texts({18041, 18043}), (Strings{L"0.100", L"0.050"})) << "equal";
     });
     EXPECT_EQ(m_anschluss.SeitAbstandAN, 0.1);
     EXPECT_EQ(m_anschluss.SeitAbstandRI, 0.05);
@@ -276,9 +271,9 @@ TEST_F(CVentDlgTest, InvertiExchangesThePointsAndNotTheFields)
 {
     OeffneErweitert([](CDialogUser& user) {
         user.Click(1024);
-        const Strings shown = Texte(user, kZahlen);
+        const Strings shown = user.Texts(kZahlen);
         user.Click(18040);
-        EXPECT_EQ(Texte(user, kZahlen), shown);
+        EXPECT_EQ(user.Texts(kZahlen), shown);
         user.Click(1024);
         EXPECT_EQ(user.Text(1013), L"0.5");
         user.Click(18040);
@@ -323,7 +318,7 @@ TEST_F(CVentDlgTest, EveryPresetShowsItsMarkerAndArrowOnBothPoints)
         {0.41, 0.5, {0, 1}},  {0.41, -0.5, {0, -1}},  {0.5, 0.41, {-1, 0}}, {0.5, -0.41, {-1, 0}},
     };
     for (const bool back : {false, true}) {
-        SetzePunkte({}, {}, {}, {0.01, 0, 0}, {}, {});
+        SetzePunkte({{{}, {}, {}, {0.01, 0, 0}}});
         Oeffne([&](CDialogUser& user) {
             user.Click(back ? 1025 : 1024);
             for (int row = 0; row < 16; ++row) {
@@ -403,7 +398,7 @@ TEST_F(CVentDlgTest, ASuperuserExpandsTheDialog)
 
 TEST_F(CVentDlgTest, PointFieldsWriteTheActivePoint)
 {
-    CTestListe list(1);
+    CTestObjekte list(1);
     CTestDrawer drawer;
     m_pListe = list.Head();
     m_pDrawer = &drawer;
@@ -430,18 +425,20 @@ TEST_F(CVentDlgTest, PointFieldsWriteTheActivePoint)
             {L"0", L"270"}, {L"0", L"90"}, {L"180", L"0"}, {L"0", L"0"}, {L"0", L"270"}};
         for (const Strings& pair : angles) {
             user.Step(18075, -1);
-            EXPECT_EQ(Texte(user, {1017, 1018}), pair);
+            EXPECT_EQ(user.Texts({1017, 1018}), pair);
         }
         user.Step(18075, 1);
-        EXPECT_EQ(Texte(user, {1017, 1018}), (Strings{L"0", L"0"})) << "round to the first";
+        EXPECT_EQ(user.Texts({1017, 1018}), (Strings{L"0", L"0"})) << "round to the first";
         EXPECT_EQ(list.Attribute(0).substr(list.Attribute(0).find(L"H_RL")),
                   L"H_RL_PUNKT=" + PunktText({0.45, 0.05, -0.45}, {0.1, -0.05, 0.08}, {0, 0, 0}) +
                       L" ");
     });
-    EXPECT_EQ(m_anschluss.PosRI, (ConnVector{0.45, 0.05, -0.45}));
-    EXPECT_EQ(m_anschluss.OffsetRI, (ConnVector{0.1, -0.05, 0.08}));
-    EXPECT_EQ(m_anschluss.WinkelRI, (ConnVector{0, 0, 0}));
-    EXPECT_EQ(m_anschluss.PosAN, (ConnVector{-0.5, 0, 0.5}));
+    EXPECT_EQ(PunkteVon(m_anschluss), (Punkte{{{-0.5, 0, 0.5},
+                                               {0, 0, -0.03},
+                                               {180, 0, 0},
+                                               {0.45, 0.05, -0.45},
+                                               {0.1, -0.05, 0.08},
+                                               {0, 0, 0}}}));
 }
 
 TEST_F(CVentDlgTest, AFieldWithoutANumberIsToldAndTheEventGoesOn)
@@ -463,7 +460,7 @@ TEST_F(CVentDlgTest, AFieldWithoutANumberIsToldAndTheEventGoesOn)
 TEST_F(CVentDlgTest, ThePreviewDrawsTheConnectionsOfEveryRadiator)
 {
     for (const int count : {1, 60}) {
-        CTestListe list(count);
+        CTestObjekte list(count);
         CTestDrawer drawer;
         m_pListe = list.Head();
         m_pDrawer = &drawer;
@@ -491,7 +488,7 @@ TEST_F(CVentDlgTest, ThePreviewDrawsTheConnectionsOfEveryRadiator)
     m_pDrawer = &drawer;
     Oeffne([](CDialogUser& user) { user.Choose(362, 0); });
     EXPECT_EQ(drawer.aufrufe, "C") << "without radiators there is no preview";
-    CTestListe list(1);
+    CTestObjekte list(1);
     m_pListe = list.Head();
     m_pDrawer = nullptr;
     Oeffne([](CDialogUser& user) { user.Choose(362, 0); });

@@ -27,7 +27,6 @@ protected:
     void Waehlt(int button = kIdOk)
     {
         m_driver.WhenOpens(18003, [button](CDialogUser& user) {
-            dynamic_cast<QWidget&>(user.Widget(18019)).setProperty("animated", false);
             user.ChooseInTree(18019, {L"Termostatiche", L"Serie A", L"Valvola 20"});
             user.Click(button);
         });
@@ -40,10 +39,10 @@ TEST_F(CVentVentileTest, FetchedValvesShow)
     m_an.VentilNr = WideFromUtf8(TgaNr("00", "0001"));
     Oeffne(
         [](CDialogUser& user) {
-            EXPECT_EQ(Texte(user, kTexteAN), (Strings{L"Serie A", L"A-20", L"regolabile", L"20"}));
-            EXPECT_EQ(Texte(user, kTexteRI), (Strings{L"", L"", L"non regolabile", L"15"}));
+            EXPECT_EQ(user.Texts(kTexteAN), (Strings{L"Serie A", L"A-20", L"regolabile", L"20"}));
+            EXPECT_EQ(user.Texts(kTexteRI), (Strings{L"", L"", L"non regolabile", L"15"}));
             user.Click(18095);
-            EXPECT_EQ(Texte(user, kTexteAN), (Strings{L"", L"", L"non regolabile", L"20"}))
+            EXPECT_EQ(user.Texts(kTexteAN), (Strings{L"", L"", L"non regolabile", L"20"}))
                 << "an emptied valve leaves its diameter standing";
         },
         kIdCancel);
@@ -69,11 +68,11 @@ TEST_F(CVentVentileTest, APickedValveFillsTheOtherSideOnceIfThatIsEmpty)
         Oeffne([&](CDialogUser& user) {
             Waehlt(kIdCancel);
             user.Click(side.pick);
-            EXPECT_EQ(Texte(user, side.own), (Strings{L"", L"", L"non regolabile", L"15"}));
+            EXPECT_EQ(user.Texts(side.own), (Strings{L"", L"", L"non regolabile", L"15"}));
             Waehlt();
             user.Click(side.pick);
-            EXPECT_EQ(Texte(user, side.own), picked);
-            EXPECT_EQ(Texte(user, side.other), picked) << "never the text that offers the copy";
+            EXPECT_EQ(user.Texts(side.own), picked);
+            EXPECT_EQ(user.Texts(side.other), picked) << "never the text that offers the copy";
 
             user.Click(side.clear);
             user.Click(side.other[2]);
@@ -93,7 +92,7 @@ TEST_F(CVentVentileTest, APickedValveLeavesTheOtherSidesOwn)
         Waehlt();
         user.Click(367);
         user.Click(369);
-        EXPECT_EQ(Texte(user, kTexteRI), (Strings{L"", L"Detentore", L"non regolabile", L"10"}));
+        EXPECT_EQ(user.Texts(kTexteRI), (Strings{L"", L"Detentore", L"non regolabile", L"10"}));
         user.Click(18077);
     });
     EXPECT_EQ(m_ri.Bezeichnung, L"Detentore");

@@ -1,13 +1,9 @@
 #pragma once
 
 #include "dialog_support/dialog_driver.h"
+#include "dialog_support/empty_drawer.h"
 #include "frame/entry_points.h"
-#include "host/drawer.h"
-#include "host/host_catalog.h"
-#include "platform/encoding.h"
 #include "selection/muster_uebergabe.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
 #include "uikit/native/access.h"
 
 #include <gtest/gtest.h>
@@ -79,7 +75,7 @@ inline void KlickeKopf(const CDialogUser& user, int column)
 }
 
 /// A drawing with three layers and some blocks, one of which has a preview.
-class CAuswahlDrawer : public CDrawer
+class CAuswahlDrawer : public CEmptyDrawer
 {
 public:
     void GetLayerNames(CStringArray& namen, int art) override
@@ -108,40 +104,20 @@ public:
         }
         return block == L"ABCD";
     }
-    void ClearPreview() override {}
-    void BeginPreview() override {}
-    void EndPreview() override {}
-    void DrawConnectionPoint(const double*, const double*, double, int, bool) override {}
-
     Texte bloecke{L"ZETA", L"ABCD"};
 };
 
 /// The selection dialog over the sample catalogues, with stores of the test's own.
-class CAuswahlDialogTest : public testing::Test
+class CAuswahlDialogTest : public CMusterAuswahlTest
 {
 protected:
     CAuswahlDialogTest()
     {
         setenv("XDG_CONFIG_HOME", m_folder.Root().c_str(), 1);
-        std::filesystem::create_directories(m_folder.Root() / "HEIZUNG");
-        m_uebergabe = MusterUebergabe();
         m_uebergabe.NeuLesen = 1;
     }
 
-    ~CAuswahlDialogTest() override
-    {
-        for (auto* maker = ReadHKDaten(); maker != nullptr; maker = maker->pNext) {
-            maker->pArt = nullptr;
-        }
-        unsetenv("XDG_CONFIG_HOME");
-    }
-
-    void Raum(double bedarf, double gedeckt)
-    {
-        m_uebergabe.Raumname = L"PT.Cucina";
-        m_uebergabe.RaumBedarf = bedarf;
-        m_uebergabe.RaumGedeckt = gedeckt;
-    }
+    ~CAuswahlDialogTest() override { unsetenv("XDG_CONFIG_HOME"); }
 
     /// Opens the dialog through the export and returns its result.
     int Oeffne(const CDialogDriver::Script& script, bool warnen = false)
@@ -149,22 +125,24 @@ protected:
         m_driver.WhenOpens(kAuswahlDialog, [script](CDialogUser& user) {
             // Without a screen nothing gives a second dialog the focus that the first one had.
             QApplication::setActiveWindow(CNativeAccess::Widget(user.Dialog()));
-            Baum(user).setAnimated(false);
             script(user);
         });
         return HeizkoerperauswahlVDI3805(m_pDrawer, &m_uebergabe, m_layer, m_farbe, true, warnen);
     }
 
-    CTempFolder m_folder;
-    CSettingOverride m_root{kSettingServerPath, m_folder.Path()};
-    CSettingOverride m_def{kSettingDefFolder, m_folder.Path()};
+    /// Opens the dialog and leaves it with Annulla after the script.
+    void Zeige(const CDialogDriver::Script& script)
+    {
+        Oeffne([&](CDialogUser& user) {
+            script(user);
+            user.Click(kIdCancel);
+        });
+    }
+
     CSettingOverride m_local{kSettingLocalPath, m_folder.Path()};
-    CSettingOverride m_hk{kSettingHKDir, WideFromUtf8(RADSEL_DATA_DIR "/catalogues")};
     CSettingOverride m_blocks{kSettingHKBlockFolder, L"blocchi"};
-    CSettingOverride m_template{kSettingHKLayer, L"HEIZ_$d"};
     CAuswahlDrawer m_drawer;
     CDrawer* m_pDrawer = &m_drawer;
-    HK_DATEN_VDI3805_UEBERGABE m_uebergabe;
     CString m_layer = L"HEIZ_$d__";
     int m_farbe = 5;
     CDialogDriver m_driver;

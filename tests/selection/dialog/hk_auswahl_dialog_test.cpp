@@ -13,16 +13,12 @@ TEST_F(CAuswahlDialogTest, OpensOnTheHandOver)
     m_uebergabe.LeistungMin = 999.0;
     EXPECT_EQ(Oeffne([&](CDialogUser& user) {
                   EXPECT_EQ(user.Text(18109), GetHKDir(false));
-                  ASSERT_EQ(Baum(user).selectedItems().size(), 1);
-                  EXPECT_EQ(Baum(user).selectedItems().front()->text(0), "Tipo 22");
-                  EXPECT_EQ(user.Text(18002) + L" " + user.Text(18003), L"400 3000");
-                  EXPECT_EQ(user.Text(18005), L"1500");
-                  EXPECT_EQ(user.Text(18012), L"3000");
-                  EXPECT_EQ(user.Text(18048), L"PT.Cucina");
-                  EXPECT_EQ(user.Text(18107), L"20");
+                  EXPECT_EQ(user.ChosenInTree(kBaum),
+                            (Texte{L"Valmorena", L"Radiatori a piastra compatti", L"Tipo 22"}));
+                  EXPECT_EQ(user.Texts({18002, 18003, 18005, 18012, 18048, 18107}),
+                            (Texte{L"400", L"3000", L"1500", L"3000", L"PT.Cucina", L"20"}));
                   EXPECT_EQ(m_uebergabe.Raumtemperatur, 20.5) << "showing does not round it";
-                  EXPECT_EQ(user.Text(7008) + L"/" + user.Text(7009), L"75.4/65.2");
-                  EXPECT_EQ(user.Text(7007), L"");
+                  EXPECT_EQ(user.Texts({7007, 7008, 7009}), (Texte{L"", L"75.4", L"65.2"}));
                   EXPECT_FALSE(user.IsChecked(18017) || user.IsChecked(18047));
                   EXPECT_TRUE(user.IsEnabled(18005) && user.IsEnabled(18011));
                   EXPECT_TRUE(Verbietet(user, {250, 3187, 18016}));
@@ -88,7 +84,7 @@ TEST_F(CAuswahlDialogTest, OkWithoutARowIsToldAndTheWarningComesOnce)
 TEST_F(CAuswahlDialogTest, FieldsRaiseTheirEvents)
 {
     Raum(3000.0, 4000.0);
-    Oeffne([&](CDialogUser& user) {
+    Zeige([&](CDialogUser& user) {
         EXPECT_EQ(user.Text(18005), L"-1000");
         user.Click(18047);
         EXPECT_EQ(user.Text(18005), L"0");
@@ -120,7 +116,6 @@ TEST_F(CAuswahlDialogTest, FieldsRaiseTheirEvents)
         EXPECT_TRUE(user.IsEnabled(18002));
         user.Type(18107, L"");
         EXPECT_EQ(m_uebergabe.Raumtemperatur, 0.0);
-        user.Click(kIdCancel);
     });
 }
 
@@ -158,10 +153,9 @@ TEST_F(CMassTest, TheListsShowTheLimitsOrTheWholeRange)
     for (const auto& c : cases) {
         m_uebergabe.TiefeMin = c.min;
         m_uebergabe.TiefeMax = c.max;
-        Oeffne([&](CDialogUser& user) {
+        Zeige([&](CDialogUser& user) {
             EXPECT_EQ(user.Text(18009) + L" " + user.Text(18010), c.von + L" " + c.bis)
                 << c.min << ' ' << c.max;
-            user.Click(kIdCancel);
         });
         EXPECT_EQ(m_uebergabe.TiefeMax, std::stod(c.bis)) << "as the lists have it, Cancel or not";
     }
@@ -183,11 +177,10 @@ TEST_F(CMassTest, EachListLimitsTheRows)
     };
     for (const auto& c : cases) {
         m_uebergabe = m_katalog.Uebergabe(1000.0);
-        Oeffne([&](CDialogUser& user) {
+        Zeige([&](CDialogUser& user) {
             EXPECT_EQ(GitterZeilen(user).size(), 6U);
             user.Choose(c.liste, c.text);
             EXPECT_EQ(GitterZeilen(user).size(), c.zeilen) << c.liste;
-            user.Click(kIdCancel);
         });
         EXPECT_EQ(m_uebergabe.*c.grenze, std::stod(c.text)) << "Cancel takes nothing back";
     }
@@ -208,28 +201,15 @@ TEST_F(CAuswahlDialogTest, NumbersShowPlainAndKeepWhatTheirTextCannotHold)
 
 TEST_F(CAuswahlDialogTest, InATallerDialogTreeAndGridGrow)
 {
-    constexpr int kMehr = 90;
-    Oeffne([](CDialogUser& user) {
-        const struct
-        {
-            int id, oben, unten;
-        } cases[] = {{kBaum, 0, kMehr},     {kGitter, 0, kMehr},       {563, 0, kMehr},
-                     {kIdOk, kMehr, kMehr}, {kIdCancel, kMehr, kMehr}, {7028, 0, 0},
-                     {18109, 0, 0}};
-        std::vector<CRect> vorher;
-        for (const auto& c : cases) {
-            vorher.push_back(user.Dialog().GetDlgItem(c.id).GetPlace());
+    Zeige([](CDialogUser& user) {
+        const std::pair<CRect, std::vector<int>> cases[] = {
+            {{0, 0, 0, 90}, {kBaum, kGitter, 563}},
+            {{0, 90, 0, 90}, {kIdOk, kIdCancel}},
+            {{}, {7028, 18109}},
+        };
+        for (const auto& [growth, ids] : cases) {
+            EXPECT_EQ(user.Grow(0, 90, ids), std::vector(ids.size(), growth)) << ids[0];
         }
-        CRect fenster = user.Dialog().GetWindowRect();
-        fenster.bottom += kMehr;
-        user.Dialog().MoveWindow(fenster);
-        for (std::size_t i = 0; i < vorher.size(); ++i) {
-            CRect erwartet = vorher[i];
-            erwartet.top += cases[i].oben;
-            erwartet.bottom += cases[i].unten;
-            EXPECT_EQ(user.Dialog().GetDlgItem(cases[i].id).GetPlace(), erwartet) << cases[i].id;
-        }
-        user.Click(kIdCancel);
     });
 }
 

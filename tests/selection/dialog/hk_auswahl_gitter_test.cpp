@@ -1,13 +1,12 @@
 // The result grid of the selection dialog under mouse and keys.
 
+#include "dialog_support/widget_look.h"
 #include "frame/vdi6030_start.h"
 #include "host/host_prefs.h"
 #include "selection/dialog/auswahl_fixture.h"
 #include "support/memory_catalogue.h"
 
-#include <QHelpEvent>
 #include <QPixmap>
-#include <QToolTip>
 
 namespace {
 
@@ -96,7 +95,7 @@ TEST_F(CAuswahlDialogTest, AfterASortTheRowThatIsPickedIsTheOneThatReturns)
 
 TEST_F(CAuswahlDialogTest, HeadingsShowTheDirectionOfTheirSortUntilTheNextOne)
 {
-    Oeffne([](CDialogUser& user) {
+    Zeige([](CDialogUser& user) {
         const auto kopf = [&] {
             return Gitter(user).horizontalHeader()->viewport()->grab().toImage();
         };
@@ -110,28 +109,22 @@ TEST_F(CAuswahlDialogTest, HeadingsShowTheDirectionOfTheirSortUntilTheNextOne)
         EXPECT_EQ(kopf(), absteigend) << "fresh rows are not sorted, and the arrow stays";
         KlickeKopf(user, 5);
         EXPECT_EQ(kopf(), vorher);
-        user.Click(kIdCancel);
     });
 }
 
 TEST_F(CAuswahlDialogTest, EveryCellOfAColumnExplainsIt)
 {
-    Oeffne([](CDialogUser& user) {
+    Zeige([](CDialogUser& user) {
         QHeaderView& kopf = *Gitter(user).horizontalHeader();
-        const auto tip = [](QWidget* on, const QPoint& at) {
-            QHelpEvent help(QEvent::ToolTip, at, on->mapToGlobal(at));
-            QApplication::sendEvent(on, &help);
-            return CString(QToolTip::text().toStdWString());
-        };
         for (const auto& [spalte, text] : {std::pair(0, L"Descrizione tipo del corpo scaldante"),
                                            {2, L"Profondità del corpo scaldante"},
                                            {7, L"Contenuto acqua corpi scaldanti"}}) {
             const int x = kopf.sectionViewportPosition(spalte) + 9;
-            EXPECT_EQ(tip(kopf.viewport(), {x, 9}), text);
-            EXPECT_EQ(tip(Gitter(user).viewport(), {x, MitteDerZeile(user, 1).y()}), text);
+            EXPECT_EQ(TipAt(*kopf.viewport(), {x, 9}).toStdWString(), text);
+            const QPoint place(x, MitteDerZeile(user, 1).y());
+            EXPECT_EQ(TipAt(*Gitter(user).viewport(), place).toStdWString(), text);
         }
         QToolTip::hideText();
-        user.Click(kIdCancel);
     });
 }
 

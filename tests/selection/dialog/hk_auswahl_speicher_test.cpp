@@ -5,28 +5,7 @@
 #include "selection/dialog/auswahl_fixture.h"
 #include "support/file_size_limit.h"
 
-#include <QMenu>
-#include <QTimer>
-
 namespace {
-
-/// Opens the system menu, chooses its last entry, and presses a key in the dialog that opens.
-void WaehleTransparenz(const CDialogUser& user, Qt::Key key)
-{
-    QTimer::singleShot(0, [key] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        QTimer::singleShot(0, [key] {
-            QWidget* choice = QApplication::activeModalWidget();
-            QTest::keyClick(choice->focusWidget(), Qt::Key_PageUp);
-            QTest::keyClick(choice->focusWidget(), key);
-        });
-        QTest::keyClick(menu, Qt::Key_Up);
-        QTest::keyClick(menu, Qt::Key_Return);
-    });
-    user.Focus(18109);
-    user.Press(Qt::Key_Space, Qt::AltModifier);
-}
 
 TEST_F(CAuswahlDialogTest, OkAloneKeepsPlacementAndFiles)
 {
@@ -42,9 +21,9 @@ TEST_F(CAuswahlDialogTest, OkAloneKeepsPlacementAndFiles)
             ort = user.Dialog().GetWindowRect();
             EXPECT_EQ(ort.Width(), vorher.Width()) << "grows in height alone";
             EXPECT_EQ(ort.Height(), vorher.Height() + 90);
-            WaehleTransparenz(user, Qt::Key_Escape);
+            user.ChooseOpacity(18109, {Qt::Key_PageUp, Qt::Key_Escape});
             EXPECT_EQ(user.Dialog().GetAlpha(), 255);
-            WaehleTransparenz(user, Qt::Key_Return);
+            user.ChooseOpacity(18109, {Qt::Key_PageUp, Qt::Key_Return});
             alpha = user.Dialog().GetAlpha();
             EXPECT_LT(alpha, 255);
             user.Click(schluss);
@@ -52,10 +31,9 @@ TEST_F(CAuswahlDialogTest, OkAloneKeepsPlacementAndFiles)
         EXPECT_EQ(m_folder.Exists("HEIZUNG/CmbData.txt"), schluss == kIdOk);
         EXPECT_EQ(m_folder.Exists("HkAuswahl.def"), schluss == kIdOk);
     }
-    Oeffne([&](CDialogUser& user) {
+    Zeige([&](CDialogUser& user) {
         EXPECT_EQ(user.Dialog().GetWindowRect(), ort);
         EXPECT_EQ(user.Dialog().GetAlpha(), alpha);
-        user.Click(kIdCancel);
     });
 }
 
@@ -84,9 +62,8 @@ TEST_F(CAuswahlDialogTest, TheFirstRunMakesTheListOfSystems)
         EXPECT_TRUE(user.Items(7006).empty());
         user.Click(kIdOk);
     });
-    Oeffne([&](CDialogUser& user) {
+    Zeige([&](CDialogUser& user) {
         EXPECT_TRUE(user.Items(7006).empty()) << "deleted, not missing";
-        user.Click(kIdCancel);
     });
 }
 
@@ -94,7 +71,7 @@ TEST_F(CAuswahlDialogTest, AnyTextMayStandInTheListOfSystems)
 {
     m_folder.WriteBytes("HEIZUNG/CmbData.txt",
                         "[VDI6030_HS]\r\nsolo nome|70 gradi|Standard (75/65)|\r\n");
-    Oeffne([&](CDialogUser& user) {
+    Zeige([&](CDialogUser& user) {
         for (const auto& [eintrag, ruecklauf] :
              {std::pair(L"solo nome", 0.0), {L"70 gradi", 70.0}}) {
             user.Choose(7006, CString(eintrag));
@@ -109,7 +86,6 @@ TEST_F(CAuswahlDialogTest, AnyTextMayStandInTheListOfSystems)
         EXPECT_EQ(user.Items(7006).size(), 3U) << "the entry is there already";
         EXPECT_EQ(user.Chosen(7006), 2);
         EXPECT_EQ(m_uebergabe.Vorlauf, 75.0);
-        user.Click(kIdCancel);
     });
 }
 
@@ -139,10 +115,7 @@ TEST_F(CAuswahlDialogTest, ValvesEditTheStartValuesOfConnectionAndValves)
                 user.Type(18105, L"0.3");
                 user.Click(schluss);
             });
-            Oeffne([](CDialogUser& user) {
-                user.Click(7028);
-                user.Click(kIdCancel);
-            });
+            Zeige([](CDialogUser& user) { user.Click(7028); });
             const VDI6030START* start = ReadDefFile_VDI6030START(false);
             ASSERT_EQ(start != nullptr, gespeichert || schluss == kIdOk);
             if (start != nullptr) {
@@ -160,11 +133,10 @@ TEST_F(CAuswahlDialogTest, WallDistancesAreStoredByTheirDialogAndReadByNobody)
         user.Type(1529, L"0.2");
         user.Click(kIdOk);
     });
-    Oeffne([&](CDialogUser& user) {
+    Zeige([&](CDialogUser& user) {
         const auto rows = GitterZeilen(user);
         user.Click(7022);
         EXPECT_EQ(GitterZeilen(user), rows);
-        user.Click(kIdCancel);
     });
     const VDI6030START* start = ReadDefFile_VDI6030START(false);
     ASSERT_NE(start, nullptr) << "Cancel takes nothing back";

@@ -59,7 +59,7 @@ TEST_F(CAuswahlDialogTest, TheSwatchShowsItsColourWhoeverManagesTheLayers)
 {
     for (const bool automatisch : {false, true}) {
         const CSettingOverride layer(kSettingAutoLayer, automatisch ? L"1" : L"0");
-        Oeffne([&](CDialogUser& user) {
+        Zeige([&](CDialogUser& user) {
             bool aktiv = automatisch;
             for (int klick = 0; klick < 3; ++klick) {
                 EXPECT_EQ(user.IsChecked(3144), aktiv);
@@ -69,7 +69,6 @@ TEST_F(CAuswahlDialogTest, TheSwatchShowsItsColourWhoeverManagesTheLayers)
                 user.Click(3144);
                 aktiv = !aktiv;
             }
-            user.Click(kIdCancel);
         });
     }
 }
@@ -81,10 +80,9 @@ TEST_F(CAuswahlDialogTest, ACallerWithoutALayerGetsTheOneKeptLast)
     letzte.LayerFarbe = 8;
     ASSERT_TRUE(WriteDefFile(&letzte, &HKAUSWAHL_UEBERGABE::GetThisClass(), L"HkAuswahl.def"));
     m_layer.clear();
-    Oeffne([](CDialogUser& user) {
+    Zeige([](CDialogUser& user) {
         EXPECT_EQ(user.Text(3187), L"MURI");
         EXPECT_EQ(user.Chosen(3187), 2);
-        user.Click(kIdCancel);
     });
     EXPECT_EQ(m_layer, L"MURI");
     EXPECT_EQ(m_farbe, 8);
@@ -106,9 +104,8 @@ TEST_F(CAuswahlDialogTest, TheListOpensOnTheBlockUsedLast)
     for (const auto& c : cases) {
         const CSettingOverride letzter(kSettingHKBlock, c.letzter);
         m_drawer.bloecke = c.bloecke;
-        Oeffne([&](CDialogUser& user) {
+        Zeige([&](CDialogUser& user) {
             EXPECT_EQ(user.Text(18080), c.gewaehlt) << Utf8FromWide(c.letzter);
-            user.Click(kIdCancel);
         });
     }
 }

@@ -7,15 +7,12 @@
 #include "platform/encoding.h"
 #include "uikit/native/access.h"
 
-#include "dialog_support/dialog_driver.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
+#include "dialog_support/dialog_test.h"
 
 #include <gtest/gtest.h>
 
 #include <QTreeWidget>
 
-#include <array>
 #include <vector>
 
 namespace {
@@ -39,9 +36,8 @@ const char kBeta[] = "010;2004;Beta;2024\n"
                      "100;2;Convettori\n"
                      "110;1;Comune\n700;1;K;E;200;80;300;1.3;1\n710.01;1;800\n";
 
-const Lines kAlfaRead = {L"Alfa",       L"  Piastre", L"    Tipo 22",
-                         L"    Tipo 2", L"  Bagno",   L"    Comune"};
-const Lines kBetaUnread = {L"Beta", L"  Dummy"};
+const Lines kAlfaRead = {L"Alfa", L" Piastre", L"  Tipo 22", L"  Tipo 2", L" Bagno", L"  Comune"};
+const Lines kBetaUnread = {L"Beta", L" Dummy"};
 
 Lines operator+(Lines first, const Lines& second)
 {
@@ -54,50 +50,18 @@ QTreeWidget& Tree(const CDialogUser& user)
     return dynamic_cast<QTreeWidget&>(user.Widget(kBaum));
 }
 
-void AddLines(const QTreeWidgetItem& item, const CString& indent, Lines& lines)
-{
-    lines.push_back(indent + FromNative(item.text(0)));
-    for (int i = 0; i < item.childCount(); ++i) {
-        AddLines(*item.child(i), indent + L"  ", lines);
-    }
-}
-
-Lines Shown(const CDialogUser& user)
-{
-    Lines lines;
-    for (int i = 0; i < Tree(user).topLevelItemCount(); ++i) {
-        AddLines(*Tree(user).topLevelItem(i), L"", lines);
-    }
-    return lines;
-}
-
-Path Selected(const CDialogUser& user)
-{
-    Path path;
-    const auto items = Tree(user).selectedItems();
-    for (auto* item = items.isEmpty() ? nullptr : items.first(); item != nullptr;
-         item = item->parent()) {
-        path.insert(path.begin(), FromNative(item->text(0)));
-    }
-    return path;
-}
-
-class TreeDialog : public testing::Test
+class TreeDialog : public CDialogTest
 {
 protected:
     TreeDialog()
     {
-        m_folder.WriteBytes("Alfa/hk.tga", kAlfa);
-        m_folder.WriteBytes("Beta/hk.tga", kBeta);
+        m_makers.WriteBytes("Alfa/hk.tga", kAlfa);
+        m_makers.WriteBytes("Beta/hk.tga", kBeta);
     }
 
     int Run(const CDialogDriver::Script& script)
     {
-        m_driver.WhenOpens(kDialog, [script](CDialogUser& user) {
-            // Clicks that come while an item slides open are lost.
-            Tree(user).setAnimated(false);
-            script(user);
-        });
+        m_driver.WhenOpens(kDialog, script);
         return HeizkoerperauswahlVDI3805Tree(&m_daten);
     }
 
@@ -110,24 +74,21 @@ protected:
 
     Path Chosen() const { return {m_daten.Hersteller, m_daten.Art, m_daten.Produkt}; }
 
-    CTempFolder m_folder;
-    CTempFolder m_workFolder;
-    CSettingOverride m_catalogues{kSettingHKDir, m_folder.Path()};
-    CSettingOverride m_workplace{kSettingLocalPath, m_workFolder.Path()};
+    CTempFolder m_makers;
+    CSettingOverride m_catalogues{kSettingHKDir, m_makers.Path()};
     HK_DATEN_VDI3805_UEBERGABE m_daten;
-    CDialogDriver m_driver;
 };
 
 TEST_F(TreeDialog, AManufacturersFileIsReadWhenItsItemIsFirstOpened)
 {
     const int result = Run([&](CDialogUser& user) {
-        EXPECT_EQ(Shown(user), (Lines{L"Alfa", L"  Dummy"}) + kBetaUnread);
-        EXPECT_TRUE(Selected(user).empty());
+        EXPECT_EQ(user.TreeLines(kBaum), (Lines{L"Alfa", L" Dummy"}) + kBetaUnread);
+        EXPECT_TRUE(user.ChosenInTree(kBaum).empty());
         user.ChooseInTree(kBaum, {L"Alfa"});
         EXPECT_EQ(FindHersteller(L"Alfa")->pArt, nullptr) << "selecting must not read";
         EXPECT_EQ(Chosen(), (Path{L"", L"", L""})) << "it is no product";
         user.ChooseInTree(kBaum, {L"Alfa", L"Bagno", L"Comune"});
-        EXPECT_EQ(Shown(user), kAlfaRead + kBetaUnread);
+        EXPECT_EQ(user.TreeLines(kBaum), kAlfaRead + kBetaUnread);
         EXPECT_EQ(FindHersteller(L"Beta")->pArt, nullptr);
         EXPECT_EQ(Chosen(), (Path{L"Alfa", L"Bagno", L"Comune"}));
         user.Click(kIdOk);
@@ -136,7 +97,7 @@ TEST_F(TreeDialog, AManufacturersFileIsReadWhenItsItemIsFirstOpened)
 
     Want(L"", L"", L"");
     Run([&](CDialogUser& user) {
-        EXPECT_EQ(Shown(user), kAlfaRead + kBetaUnread) << "what is read stays read";
+        EXPECT_EQ(user.TreeLines(kBaum), kAlfaRead + kBetaUnread) << "what is read stays read";
         user.Click(kIdCancel);
     });
 }
@@ -162,7 +123,7 @@ TEST_F(TreeDialog, ACancelledDialogLeavesTheLastSelectedProduct)
 {
     Want(L"Beta", L"Convettori", L"Comune");
     const int result = Run([&](CDialogUser& user) {
-        EXPECT_EQ(Selected(user), (Path{L"Beta", L"Convettori", L"Comune"}));
+        EXPECT_EQ(user.ChosenInTree(kBaum), (Path{L"Beta", L"Convettori", L"Comune"}));
         user.ChooseInTree(kBaum, {L"Beta", L"Colonne", L"Comune"});
         user.ChooseInTree(kBaum, {L"Beta", L"Convettori"});
         user.Click(kIdCancel);
@@ -195,7 +156,7 @@ TEST_F(TreeDialog, OpensOnWhatThreeSearchesFind)
     for (const Case& c : cases) {
         Want(c.wanted[0], c.wanted[1], c.wanted[2]);
         Run([&](CDialogUser& user) {
-            EXPECT_EQ(Selected(user), c.selected)
+            EXPECT_EQ(user.ChosenInTree(kBaum), c.selected)
                 << Utf8FromWide(c.wanted[0] + L"/" + c.wanted[1] + L"/" + c.wanted[2]);
             user.Click(kIdCancel);
         });
@@ -206,8 +167,8 @@ TEST_F(TreeDialog, ASearchThatFindsAPlaceholderReadsItsManufacturerAndSelectsNot
 {
     Want(L"", L"", L"umm");
     Run([&](CDialogUser& user) {
-        EXPECT_EQ(Shown(user), kAlfaRead + kBetaUnread);
-        EXPECT_TRUE(Selected(user).empty());
+        EXPECT_EQ(user.TreeLines(kBaum), kAlfaRead + kBetaUnread);
+        EXPECT_TRUE(user.ChosenInTree(kBaum).empty());
         user.Click(kIdCancel);
     });
     EXPECT_EQ(Chosen(), (Path{L"", L"", L"umm"}));
@@ -215,13 +176,14 @@ TEST_F(TreeDialog, ASearchThatFindsAPlaceholderReadsItsManufacturerAndSelectsNot
 
 TEST_F(TreeDialog, AManufacturerWhoseFileCannotBeReadBecomesALeafWithoutAWord)
 {
-    m_folder.WriteBytes("Guasto/hk.tga", "110;1;senza genere\n");
+    m_makers.WriteBytes("Guasto/hk.tga", "110;1;senza genere\n");
     Run([&](CDialogUser& user) {
         user.ChooseInTree(kBaum, {L"Guasto"});
         EXPECT_EQ(m_daten.Produkt, L"");
         for (int opening = 0; opening < 2; ++opening) {
             user.Press(Qt::Key_Right);
-            EXPECT_EQ(Shown(user), (Lines{L"Alfa", L"  Dummy"}) + kBetaUnread + Lines{L"Guasto"});
+            EXPECT_EQ(user.TreeLines(kBaum),
+                      (Lines{L"Alfa", L" Dummy"}) + kBetaUnread + Lines{L"Guasto"});
         }
         user.ChooseInTree(kBaum, {L"Alfa"});
         user.ChooseInTree(kBaum, {L"Guasto"});
@@ -252,15 +214,9 @@ TEST_F(TreeDialog, OpensWhereOkLeftItAndItsControlsFollow)
 {
     const CString key = L"RADSEL_HK_AUSWAHL_TREE";
     CRect place;
-    const auto places = [](CDialogUser& user) {
-        const auto at = [&](int id) { return user.Dialog().GetDlgItem(id).GetPlace(); };
-        return std::array{at(kBaum), at(kIdOk), at(kBanner)};
-    };
-    m_workFolder.WriteBytes("winpos.txt", "");
-    std::array<CRect, 3> small;
+    m_folder.WriteBytes("winpos.txt", "");
     Run([&](CDialogUser& user) {
         place = user.Dialog().GetWindowRect();
-        small = places(user);
         user.Click(kIdOk);
     });
     CRect kept;
@@ -274,12 +230,8 @@ TEST_F(TreeDialog, OpensWhereOkLeftItAndItsControlsFollow)
     Run([&](CDialogUser& user) {
         EXPECT_EQ(user.Dialog().GetWindowRect(), grown);
         EXPECT_EQ(user.Dialog().GetAlpha(), 255) << "this dialog is never translucent";
-        const auto [tree, ok, banner] = places(user);
-        EXPECT_EQ(tree,
-                  (CRect{small[0].left, small[0].top, small[0].right + 100, small[0].bottom + 60}));
-        EXPECT_EQ(ok, small[1].MovedBy(100, 60));
-        EXPECT_EQ(banner,
-                  (CRect{small[2].left, small[2].top, small[2].right, small[2].bottom + 60}));
+        EXPECT_EQ(user.Grow(100, 60, {kBaum, kIdOk, kBanner}),
+                  (std::vector<CRect>{{0, 0, 100, 60}, {100, 60, 100, 60}, {0, 0, 0, 60}}));
         user.Dialog().MoveWindow(place);
         user.Click(kIdCancel);
     });

@@ -3,9 +3,7 @@
 #include "connection/wand_ab_dlg.h"
 #include "host/host_prefs.h"
 
-#include "dialog_support/dialog_driver.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
+#include "dialog_support/dialog_test.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +15,7 @@ constexpr int kBoden = 1530;
 constexpr int kEinheitWand = 7020;
 constexpr int kEinheitBoden = 7023;
 
-class WandAb : public testing::Test
+class WandAb : public CDialogTest
 {
 protected:
     void Store(double wand, double boden)
@@ -30,16 +28,21 @@ protected:
         ASSERT_TRUE(WriteDefFile_VDI6030START(&start, false));
     }
 
+    /// What is stored; a missing record fails the test.
+    static VDI6030START Stored()
+    {
+        const VDI6030START* const record = ReadDefFile_VDI6030START(false);
+        EXPECT_NE(record, nullptr);
+        return record != nullptr ? *record : VDI6030START();
+    }
+
     int Run(const CDialogDriver::Script& script)
     {
         m_driver.WhenOpens(kDialog, script);
         return CWandAbDlg().DoModal();
     }
 
-    CTempFolder m_folder;
     CSettingOverride m_records{kSettingDefFolder, m_folder.Path("records")};
-    CSettingOverride m_workplace{kSettingLocalPath, m_folder.Path()};
-    CDialogDriver m_driver;
 };
 
 TEST_F(WandAb, ShowsTheStoredDistancesInTheUnitThatTheUserHasNow)
@@ -57,54 +60,39 @@ TEST_F(WandAb, ShowsTheStoredDistancesInTheUnitThatTheUserHasNow)
           Case{L"100", L"15.00", L"120.00", L"cm"}}) {
         const CSettingOverride unit(kSettingUserUnit, c.setting);
         Run([&](CDialogUser& user) {
-            EXPECT_EQ(user.Text(kWand), c.wand);
-            EXPECT_EQ(user.Text(kBoden), c.boden);
-            EXPECT_EQ(user.Text(kEinheitWand), c.unit);
-            EXPECT_EQ(user.Text(kEinheitBoden), c.unit);
+            EXPECT_EQ(user.Texts({kWand, kBoden, kEinheitWand, kEinheitBoden}),
+                      (std::vector<CString>{c.wand, c.boden, c.unit, c.unit}));
             EXPECT_EQ(user.Dialog().GetFocusId(), kWand);
             user.Click(kIdCancel);
         });
     }
 }
 
-TEST_F(WandAb, OkStoresTheDistancesAndKeepsTheRestOfTheRecord)
-{
-    Store(0.15, 1.2);
-    const CSettingOverride unit(kSettingUserUnit, L"1000");
-    EXPECT_EQ(Run([](CDialogUser& user) {
-                  user.Type(kWand, L"200");
-                  user.Click(kIdOk);
-              }),
-              kIdOk);
-    const VDI6030START* stored = ReadDefFile_VDI6030START(false);
-    ASSERT_NE(stored, nullptr);
-    EXPECT_DOUBLE_EQ(stored->AbstandWand, 0.2);
-    EXPECT_DOUBLE_EQ(stored->AbstandBoden, 1.2);
-    EXPECT_EQ(stored->SystemName, L"Piani alti");
-    EXPECT_EQ(stored->SystemVorlauf, 55);
-}
-
-TEST_F(WandAb, OkTakesWhateverWasTyped)
+TEST_F(WandAb, OkTakesWhateverWasTypedAndKeepsTheRestOfTheRecord)
 {
     struct Case
     {
+        const wchar_t* setting;
         CString wand;
         CString boden;
         double storedWand;
         double storedBoden;
     };
-    const CSettingOverride unit(kSettingUserUnit, L"1");
-    for (const Case& c : {Case{L"", L"0,25", 0.0, 0.25}, Case{L"-0.1", L"vicino", -0.1, 0.0}}) {
+    for (const Case& c :
+         {Case{L"1000", L"200", L"1200.0", 0.2, 1.2}, Case{L"1", L"", L"0,25", 0.0, 0.25},
+          Case{L"1", L"-0.1", L"vicino", -0.1, 0.0}}) {
+        const CSettingOverride unit(kSettingUserUnit, c.setting);
         Store(0.15, 1.2);
-        Run([&](CDialogUser& user) {
-            user.Type(kWand, c.wand);
-            user.Type(kBoden, c.boden);
-            user.Press(Qt::Key_Return);
-        });
-        const VDI6030START* stored = ReadDefFile_VDI6030START(false);
-        ASSERT_NE(stored, nullptr);
-        EXPECT_DOUBLE_EQ(stored->AbstandWand, c.storedWand);
-        EXPECT_DOUBLE_EQ(stored->AbstandBoden, c.storedBoden);
+        EXPECT_EQ(Run([&](CDialogUser& user) {
+                      user.Type(kWand, c.wand);
+                      user.Type(kBoden, c.boden);
+                      user.Press(Qt::Key_Return);
+                  }),
+                  kIdOk);
+        EXPECT_DOUBLE_EQ(Stored().AbstandWand, c.storedWand);
+        EXPECT_DOUBLE_EQ(Stored().AbstandBoden, c.storedBoden);
+        EXPECT_EQ(Stored().SystemName, L"Piani alti");
+        EXPECT_EQ(Stored().SystemVorlauf, 55);
     }
     EXPECT_TRUE(m_driver.Messages().empty());
 }
@@ -124,11 +112,9 @@ TEST_F(WandAb, OkCreatesTheRecordAndCancelStoresNothing)
         user.Type(kBoden, L"10");
         user.Click(kIdOk);
     });
-    const VDI6030START* stored = ReadDefFile_VDI6030START(false);
-    ASSERT_NE(stored, nullptr);
-    EXPECT_DOUBLE_EQ(stored->AbstandBoden, 0.1);
-    EXPECT_EQ(stored->AbstandWand, 0.0);
-    EXPECT_TRUE(stored->SystemName.empty());
+    EXPECT_DOUBLE_EQ(Stored().AbstandBoden, 0.1);
+    EXPECT_EQ(Stored().AbstandWand, 0.0);
+    EXPECT_TRUE(Stored().SystemName.empty());
 }
 
 } // namespace

@@ -8,11 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
-#include <QMenu>
-#include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 
 #include <optional>
@@ -76,46 +71,6 @@ CString Weit(const std::string& text)
 QTreeWidget& Baum(const CDialogUser& user)
 {
     return dynamic_cast<QTreeWidget&>(user.Widget(kBaum));
-}
-
-/// Text of the selected item behind those of its parents; empty if none is selected.
-Pfad Gewaehlt(const CDialogUser& user)
-{
-    Pfad path;
-    const auto chosen = Baum(user).selectedItems();
-    for (auto* item = chosen.isEmpty() ? nullptr : chosen.first(); item != nullptr;
-         item = item->parent()) {
-        path.insert(path.begin(), item->text(0).toStdWString());
-    }
-    return path;
-}
-
-/// All items of the tree, each behind as many blanks as it has parents.
-Texte Zeilen(const QTreeWidgetItem& parent, const CString& indent = {})
-{
-    Texte lines;
-    for (int i = 0; i < parent.childCount(); ++i) {
-        lines.push_back(indent + parent.child(i)->text(0).toStdWString());
-        const Texte below = Zeilen(*parent.child(i), indent + L" ");
-        lines.insert(lines.end(), below.begin(), below.end());
-    }
-    return lines;
-}
-
-/// Clicks an item as a user does who waits until its parents have opened.
-void Klicke(const CDialogUser& user, const Pfad& path)
-{
-    Baum(user).setAnimated(false);
-    user.ChooseInTree(kBaum, path);
-}
-
-Texte Felder(const CDialogUser& user, const std::vector<int>& ids)
-{
-    Texte texts;
-    for (const int id : ids) {
-        texts.push_back(user.Text(id));
-    }
-    return texts;
 }
 
 const std::vector<int> kKopfFelder = {18022, 18023, 18024};
@@ -196,15 +151,14 @@ TEST_F(CVentVdiDlgTest, OpensOnTheFirstMakerWithNothingSelected)
         EXPECT_EQ(user.Items(kHersteller), (Texte{L"Alfa", L"beta", L"Firma", L"Firma"}))
             << "folders only, without their extension";
         EXPECT_EQ(user.Chosen(kHersteller), 0);
-        EXPECT_EQ(Zeilen(*Baum(user).invisibleRootItem()),
+        EXPECT_EQ(user.TreeLines(kBaum),
                   (Texte{L"Termostatiche", L" Serie A", L"  Valvola 15", L"  Senza dati",
                          L"  Doppia uno", L" Serie B", L"  Valvola 15", L"  Doppia due",
                          L"Monotubo", L" Serie M", L"  Mono 10"}));
-        EXPECT_EQ(Gewaehlt(user), Pfad());
-        EXPECT_EQ(Felder(user, kKopfFelder),
-                  (Texte{L"Alfa Valvole S.p.A.", L"200410", L"20240301"}));
-        EXPECT_EQ(Felder(user, kVentilFelder), (Texte{L"<...>", L"<...>", L"<...>", L"<...>", L"",
-                                                      L"", L"", L"", L"", L"", L"0"}));
+        EXPECT_EQ(user.ChosenInTree(kBaum), Pfad());
+        EXPECT_EQ(user.Texts(kKopfFelder), (Texte{L"Alfa Valvole S.p.A.", L"200410", L"20240301"}));
+        EXPECT_EQ(user.Texts(kVentilFelder), (Texte{L"<...>", L"<...>", L"<...>", L"<...>", L"",
+                                                    L"", L"", L"", L"", L"", L"0"}));
         EXPECT_EQ(user.Text(18066), L"xp");
         EXPECT_EQ(user.Items(kKvListe), Texte());
         EXPECT_TRUE(user.IsEnabled(kIdOk)) << "nothing was selected yet";
@@ -218,18 +172,18 @@ TEST_F(CVentVdiDlgTest, AValveIsShownWithAllThatIsKnownOfIt)
 {
     Schreibe("Alfa", kAlfa);
     const auto ventil = Waehle([](CDialogUser& user) {
-        Klicke(user, kPfadMono);
+        user.ChooseInTree(kBaum, kPfadMono);
         EXPECT_EQ(
-            Felder(user, kVentilFelder),
+            user.Texts(kVentilFelder),
             (Texte{L"M-10", Weit(kNrMono), L"", L"Attacco monotubo per valvole C.S. a piastra",
                    L"...", L"...", L"...", L"10", L"100", L"0.500", L"23"}));
         EXPECT_TRUE(user.Text(18066).find(L"kv-Bypass") != CString::npos);
         EXPECT_EQ(user.Items(kKvListe), (Texte{L" 1.0    2.0:   0.850    0.850  50%",
                                                L" 1.5    1.0:   0.917    0.750  45%"}));
 
-        Klicke(user, kPfadA);
+        user.ChooseInTree(kBaum, kPfadA);
         EXPECT_EQ(
-            Felder(user, kVentilFelder),
+            user.Texts(kVentilFelder),
             (Texte{L"A-15", Weit(kNrA), L"DN-A15", L"preregolati e non preregolati (p.e. ritorno)",
                    L"Testa;", L"Squadra;", L"Ottone;", L"15", L"600", L"0.880", L"11"}));
         EXPECT_TRUE(user.IsChecked(kEinstellbar));
@@ -251,16 +205,16 @@ TEST_F(CVentVdiDlgTest, OnlyAValveCanBeConfirmed)
 {
     Schreibe("Alfa", kAlfa);
     const auto ventil = Waehle([](CDialogUser& user) {
-        Klicke(user, kPfadA);
-        const Texte shown = Felder(user, kVentilFelder);
+        user.ChooseInTree(kBaum, kPfadA);
+        const Texte shown = user.Texts(kVentilFelder);
         for (const Pfad& path : {Pfad{L"Monotubo"}, Pfad{L"Monotubo", L"Serie M"}}) {
-            Klicke(user, path);
+            user.ChooseInTree(kBaum, path);
             EXPECT_FALSE(user.IsEnabled(kIdOk));
             user.Press(Qt::Key_Return);
             EXPECT_FALSE(user.Dialog().HasEnded());
-            EXPECT_EQ(Felder(user, kVentilFelder), shown);
+            EXPECT_EQ(user.Texts(kVentilFelder), shown);
         }
-        Klicke(user, kPfadMono);
+        user.ChooseInTree(kBaum, kPfadMono);
         EXPECT_TRUE(user.IsEnabled(kIdOk));
     });
     EXPECT_EQ(ventil.Bezeichnung, L"Mono 10");
@@ -270,7 +224,7 @@ TEST_F(CVentVdiDlgTest, OfEqualNamesTheFirstIsShownAndTheClickedGroupKept)
 {
     Schreibe("Alfa", kAlfa);
     const auto ventil = Waehle([](CDialogUser& user) {
-        Klicke(user, {L"Termostatiche", L"Serie B", L"Valvola 15"});
+        user.ChooseInTree(kBaum, {L"Termostatiche", L"Serie B", L"Valvola 15"});
         EXPECT_EQ(user.Text(18025), L"A-15");
     });
     ExpectIdentitaet(ventil, {L"Termostatiche", L"Serie B", L"Valvola 15", L"Alfa", Weit(kNrA)});
@@ -280,13 +234,13 @@ TEST_F(CVentVdiDlgTest, AnArticleWithoutDataSetLeavesTheRestAsItStood)
 {
     Schreibe("Alfa", kAlfa);
     const auto ventil = Waehle([](CDialogUser& user) {
-        Klicke(user, kPfadA);
+        user.ChooseInTree(kBaum, kPfadA);
         const std::vector<int> rest = {18028, 18030, 18031, 18032, kDN, 18035, 18036};
-        const Texte before = Felder(user, rest);
-        Klicke(user, {L"Termostatiche", L"Serie A", L"Senza dati"});
-        EXPECT_EQ(Felder(user, {18025, kTga, 18027, 18043}),
+        const Texte before = user.Texts(rest);
+        user.ChooseInTree(kBaum, {L"Termostatiche", L"Serie A", L"Senza dati"});
+        EXPECT_EQ(user.Texts({18025, kTga, 18027, 18043}),
                   (Texte{L"A-99", Weit(kNrOhne), L"", L"12"}));
-        EXPECT_EQ(Felder(user, rest), before);
+        EXPECT_EQ(user.Texts(rest), before);
         EXPECT_EQ(user.Items(kKvListe).size(), 3U);
         EXPECT_TRUE(user.IsEnabled(kIdOk));
     });
@@ -299,7 +253,7 @@ TEST_F(CVentVdiDlgTest, TheCheckBoxHasNoSay)
     for (const auto& [path, einstellbar] :
          {std::pair{kPfadA, 1}, {Pfad{L"Termostatiche", L"Serie B", L"Doppia due"}, 0}}) {
         const auto ventil = Waehle([&, path = path](CDialogUser& user) {
-            Klicke(user, path);
+            user.ChooseInTree(kBaum, path);
             const bool before = user.IsChecked(kEinstellbar);
             dynamic_cast<QAbstractButton&>(user.Widget(kEinstellbar)).click();
             EXPECT_NE(user.IsChecked(kEinstellbar), before);
@@ -313,12 +267,12 @@ TEST_F(CVentVdiDlgTest, AnotherMakerKeepsTheValveUntilOneIsSelected)
     Schreibe("Alfa", kAlfa);
     Schreibe("Beta", kBeta);
     const auto ventil = Waehle([](CDialogUser& user) {
-        Klicke(user, kPfadA);
-        const Texte shown = Felder(user, kVentilFelder);
+        user.ChooseInTree(kBaum, kPfadA);
+        const Texte shown = user.Texts(kVentilFelder);
         user.Choose(kHersteller, L"Beta");
-        EXPECT_EQ(Zeilen(*Baum(user).invisibleRootItem()), (Texte{L"Uno", L" Due", L"  Beta 32"}));
-        EXPECT_EQ(Felder(user, kKopfFelder), (Texte{L"Beta N.V.", L"201001", L"20200101"}));
-        EXPECT_EQ(Felder(user, kVentilFelder), shown);
+        EXPECT_EQ(user.TreeLines(kBaum), (Texte{L"Uno", L" Due", L"  Beta 32"}));
+        EXPECT_EQ(user.Texts(kKopfFelder), (Texte{L"Beta N.V.", L"201001", L"20200101"}));
+        EXPECT_EQ(user.Texts(kVentilFelder), shown);
         EXPECT_EQ(user.Items(kKvListe).size(), 3U);
         EXPECT_TRUE(user.IsEnabled(kIdOk));
     });
@@ -327,12 +281,13 @@ TEST_F(CVentVdiDlgTest, AnotherMakerKeepsTheValveUntilOneIsSelected)
     const auto wieder = Waehle(
         [](CDialogUser& user) {
             user.Choose(kHersteller, L"Beta");
-            Klicke(user, {L"Uno", L"Due", L"Beta 32"});
-            Klicke(user, {L"Uno"});
+            user.ChooseInTree(kBaum, {L"Uno", L"Due", L"Beta 32"});
+            user.ChooseInTree(kBaum, {L"Uno"});
             user.Choose(kHersteller, L"Alfa");
             EXPECT_FALSE(user.IsEnabled(kIdOk)) << "no valve of this number here";
             user.Choose(kHersteller, L"Beta");
-            EXPECT_EQ(Gewaehlt(user), (Pfad{L"Uno", L"Due", L"Beta 32"})) << "the preset again";
+            EXPECT_EQ(user.ChosenInTree(kBaum), (Pfad{L"Uno", L"Due", L"Beta 32"}))
+                << "the preset again";
         },
         Weit(TgaNr("00", "0001", "04")), L"Alfa");
     EXPECT_EQ(wieder.Hersteller, L"Beta");
@@ -370,7 +325,7 @@ TEST_F(CVentVdiDlgTest, OpensOnThePresetValve)
         const auto ventil = Waehle(
             [&](CDialogUser& user) {
                 EXPECT_EQ(user.Chosen(kHersteller), test.maker);
-                EXPECT_EQ(Gewaehlt(user), test.selected);
+                EXPECT_EQ(user.ChosenInTree(kBaum), test.selected);
                 EXPECT_TRUE(user.IsEnabled(kIdOk));
                 EXPECT_EQ(user.Text(kTga), test.selected.empty() ? L"<...>" : test.nummer);
             },
@@ -426,7 +381,7 @@ TEST_F(CVentVdiDlgTest, ADamagedFirstFileStillOpensTheWholeDialog)
         EXPECT_EQ(user.Dialog().GetAlpha(), 200);
         EXPECT_EQ(user.Dialog().GetWindowRect(), (CRect{30, 20, 930, 720}));
         user.Choose(kHersteller, L"Beta");
-        Klicke(user, {L"Uno", L"Due", L"Beta 32"});
+        user.ChooseInTree(kBaum, {L"Uno", L"Due", L"Beta 32"});
     });
     EXPECT_EQ(ventil.DN, 32.0);
 }
@@ -437,10 +392,10 @@ TEST_F(CVentVdiDlgTest, ABadDataSetIsReportedAndCannotBeConfirmed)
                       ";N;;;Guasta;|700;2;2;15;0.8;0;0;1;;;;1;;|800;" + TgaNr("00", "0002") +
                       ";N;;;Sana;");
     const auto ventil = Waehle([&](CDialogUser& user) {
-        Klicke(user, {L"Uno", L"Due", L"Guasta"});
+        user.ChooseInTree(kBaum, {L"Uno", L"Due", L"Guasta"});
         EXPECT_EQ(m_driver.Messages().size(), 1U);
         EXPECT_FALSE(user.IsEnabled(kIdOk));
-        Klicke(user, {L"Uno", L"Due", L"Sana"});
+        user.ChooseInTree(kBaum, {L"Uno", L"Due", L"Sana"});
         EXPECT_TRUE(user.IsEnabled(kIdOk));
     });
     EXPECT_EQ(ventil.Bezeichnung, L"Sana");
@@ -464,42 +419,6 @@ TEST_F(CVentVdiDlgTest, ANameThatNoScreenCanShowIsNotShown)
     }));
 }
 
-TEST_F(CVentVdiDlgTest, ATableThatIsFullIsReported)
-{
-    std::string bytes = "100;1;Uno;|110;1;Due;|700;1;2;15;0.8;0;0;1;;;;1;;";
-    for (int i = 60; i > 0; --i) {
-        bytes += "|710.01;1;1;;;" + std::to_string(i) + ";;;0.5;0.5;";
-    }
-    Schreibe("A", bytes + "|800;" + TgaNr("00", "0001") + ";N;;;Lunga;");
-    Waehle([&](CDialogUser& user) {
-        Klicke(user, {L"Uno", L"Due", L"Lunga"});
-        ASSERT_EQ(m_driver.Messages().size(), 1U);
-        EXPECT_EQ(m_driver.Messages()[0].text, L"MAXKV");
-        EXPECT_EQ(user.Items(kKvListe).size(), 50U);
-        EXPECT_TRUE(user.IsEnabled(kIdOk));
-    });
-}
-
-/// Opens the system menu, chooses its last entry, and presses keys in the dialog that opens.
-void WaehleTransparenz(const CDialogUser& user, const std::vector<Qt::Key>& keys)
-{
-    QTimer::singleShot(0, [keys] {
-        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-        ASSERT_NE(menu, nullptr);
-        ASSERT_EQ(menu->actions().last()->text(), "Transparency...");
-        QTimer::singleShot(0, [keys] {
-            QWidget* choice = QApplication::activeModalWidget();
-            for (const Qt::Key key : keys) {
-                QTest::keyClick(choice->focusWidget(), key);
-            }
-        });
-        QTest::keyClick(menu, Qt::Key_Up);
-        QTest::keyClick(menu, Qt::Key_Return);
-    });
-    user.Focus(kDN);
-    user.Press(Qt::Key_Space, Qt::AltModifier);
-}
-
 TEST_F(CVentVdiDlgTest, PlaceAndOpacityAreKeptByOkAlone)
 {
     Schreibe("Alfa", kAlfa);
@@ -508,14 +427,14 @@ TEST_F(CVentVdiDlgTest, PlaceAndOpacityAreKeptByOkAlone)
     const auto change = [&](CDialogUser& user) {
         EXPECT_EQ(user.Dialog().GetAlpha(), 255);
         user.Dialog().MoveWindow(place);
-        WaehleTransparenz(user, {Qt::Key_Right, Qt::Key_Escape});
+        user.ChooseOpacity(kDN, {Qt::Key_Right, Qt::Key_Escape});
         EXPECT_EQ(user.Dialog().GetAlpha(), 255);
-        WaehleTransparenz(user, {Qt::Key_PageUp, Qt::Key_Return});
+        user.ChooseOpacity(kDN, {Qt::Key_PageUp, Qt::Key_Return});
         EXPECT_LT(user.Dialog().GetAlpha(), 255);
     };
     EXPECT_FALSE(Oeffne([&](CDialogUser& user) {
         change(user);
-        Klicke(user, kPfadA);
+        user.ChooseInTree(kBaum, kPfadA);
         user.Focus(kBaum);
         user.Press(Qt::Key_Escape);
     }));
@@ -537,53 +456,18 @@ TEST_F(CVentVdiDlgTest, ControlsFollowTheSizeOfTheWindow)
 {
     Schreibe("Alfa", kAlfa);
     EXPECT_FALSE(Oeffne([](CDialogUser& user) {
-        const struct
-        {
-            int id;
-            CRect growth;
-        } cases[] = {
-            {kIdOk, {100, 50, 100, 50}}, {kIdCancel, {100, 50, 100, 50}},
-            {kBaum, {0, 0, 100, 50}},    {18051, {100, 0, 100, 0}},
-            {18066, {100, 0, 100, 0}},   {18022, {100, 0, 100, 0}},
-            {18029, {100, 0, 100, 0}},   {18032, {100, 0, 100, 0}},
-            {371, {100, 0, 100, 0}},     {18035, {100, 0, 100, 0}},
-            {18037, {100, 0, 100, 0}},   {18039, {0, 0, 100, 0}},
-            {18043, {100, 0, 100, 0}},   {563, {0, 0, 0, 50}},
+        const std::pair<CRect, std::vector<int>> cases[] = {
+            {{100, 50, 100, 50}, {kIdOk, kIdCancel}},
+            {{0, 0, 100, 50}, {kBaum}},
+            {{100, 0, 100, 0}, {18051, 18066, 18022, 18029, 18032, kDN, 18035, 18037, 18043}},
+            {{0, 0, 100, 0}, {kHersteller}},
+            {{0, 0, 0, 50}, {563}},
         };
-        std::vector<CRect> before;
-        for (const auto& test : cases) {
-            before.push_back(user.Dialog().GetDlgItem(test.id).GetPlace());
-        }
-        CRect window = user.Dialog().GetWindowRect();
-        window.right += 100;
-        window.bottom += 50;
-        user.Dialog().MoveWindow(window);
-        for (std::size_t i = 0; i < before.size(); ++i) {
-            const CRect now = user.Dialog().GetDlgItem(cases[i].id).GetPlace();
-            EXPECT_EQ((CRect{now.left - before[i].left, now.top - before[i].top,
-                             now.right - before[i].right, now.bottom - before[i].bottom}),
-                      cases[i].growth)
-                << cases[i].id;
+        for (const auto& [growth, ids] : cases) {
+            EXPECT_EQ(user.Grow(100, 50, ids), std::vector(ids.size(), growth)) << ids[0];
         }
         user.Click(kIdCancel);
     }));
-}
-
-TEST_F(CVentVdiDlgTest, HundredOpeningsLeaveNothingBehind)
-{
-    Schreibe("Alfa", kAlfa);
-    Schreibe("Beta", kBeta);
-    for (int i = 0; i < 100; ++i) {
-        const bool ok = i % 2 == 0;
-        const auto ventil = Oeffne(
-            [&](CDialogUser& user) {
-                user.Choose(kHersteller, i % 3 == 0 ? L"Beta" : L"Alfa");
-                user.Click(ok ? kIdOk : kIdCancel);
-            },
-            Weit(kNrA), L"Alfa");
-        ASSERT_EQ(ventil.has_value(), ok);
-    }
-    EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
 }
 
 } // namespace

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "dialog_support/dialog_driver.h"
+#include "support/setting_override.h"
+#include "support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+/// Dialogs in the hands of a user, over a working place of the test's own.
+class CDialogTest : public testing::Test
+{
+protected:
+    CTempFolder m_folder;
+    CSettingOverride m_local{kSettingLocalPath, m_folder.Path()};
+    CDialogDriver m_driver;
+};
