@@ -107,9 +107,9 @@ public:
     /// Makes the best row of the result list current: -1 if there is none.
     void BesteZeileWaehlen();
 
-    /// The user has chosen another row: its radiator goes to the hand-over, found by the numbers
-    /// that the grid shows. A radiator whose measures are no whole millimetres is not found, and
-    /// the hand-over keeps the earlier choice.
+    /// The user has picked a row, another one or, after a sort, any: its radiator goes to the
+    /// hand-over, found by the numbers that the grid shows. A radiator whose measures are no whole
+    /// millimetres is not found, and the hand-over keeps the earlier choice.
     void ZeileGewechselt(int zeile);
 
     /// The user has clicked a heading: sorts by the column, against the direction of its last sort.

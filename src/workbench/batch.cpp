@@ -53,15 +53,19 @@ struct CResult
     CBuilding building;
 };
 
-/// A building that has no radiators yet is told room by room with what was tried; one that has some
-/// with what stands in it after they were sized.
+/// A building that has no radiators yet is told with what was tried where none was found; one that
+/// has some with what stands in it after they were sized.
 CResult Calculate(const CBuilding& building)
 {
     const std::vector<CRoomRef> rooms = AllRooms(building);
-    CBuilding sized = SizeRooms(building, rooms, {}).building;
+    CSizingResult sized = SizeRooms(building, rooms, {});
     const bool isPlanned = std::ranges::any_of(
         rooms, [&](const CRoomRef& room) { return !RoomOf(building, room).heizkoerper.empty(); });
-    return {isPlanned ? SchedulePlan(sized) : MakeSchedule(building), std::move(sized)};
+    if (isPlanned) {
+        sized.faults.clear();
+    }
+    CSchedule schedule = SchedulePlan(sized.building, sized.faults);
+    return {std::move(schedule), std::move(sized.building)};
 }
 
 void WriteFiles(const CResult& result, const CDrawingBlocks& blocks, const CArguments& arguments)

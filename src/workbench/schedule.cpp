@@ -9,38 +9,6 @@
 
 namespace {
 
-CScheduleRow MakeRow(const CRoom& room, const CHeatingSystem& system)
-{
-    CScheduleRow row{room, SelectRadiator(room, system), {}};
-    if (row.HasRadiator()) {
-        row.leistungRaum = row.outcome.radiator->daten.Leistung;
-        row.ventile = FetchValves(room.ventile);
-    }
-    return row;
-}
-
-/// Makes the schedule with the rows that `appendRows` appends for a room.
-template <class APPEND_ROWS>
-CSchedule MakeScheduleOf(const CBuilding& building, APPEND_ROWS appendRows)
-{
-    CSchedule schedule;
-    schedule.strBuilding = building.strName;
-    schedule.system = building.system;
-    for (const CFloor& floor : building.floors) {
-        CScheduleFloor result;
-        result.strName = floor.strName;
-        for (const auto& room : floor.rooms) {
-            appendRows(result.rows, *room);
-        }
-        for (const CScheduleRow& row : result.rows) {
-            result.totals.Add(row);
-        }
-        schedule.totals.Add(result.totals);
-        schedule.floors.push_back(std::move(result));
-    }
-    return schedule;
-}
-
 /// Most radiators of a building have the same valves.
 class CValveFetcher
 {
@@ -90,23 +58,54 @@ CRoomOutcome OutcomeOf(const CRoom& room)
     return {};
 }
 
-void AppendPlacedRows(std::vector<CScheduleRow>& rows, const CRoom& room, CValveFetcher& valves)
+/// Makes the rows of rooms.
+class CRowMaker
 {
-    CScheduleRow row{room, OutcomeOf(room), {}, true, OutputOf(room)};
-    row.room.heizkoerper.clear();
-    if (room.heizkoerper.empty()) {
-        rows.push_back(row);
-        return;
+public:
+    explicit CRowMaker(const std::vector<CSizingFault>& faults)
+    {
+        for (const CSizingFault& fault : faults) {
+            m_faults.emplace(fault.room, &fault.outcome);
+        }
     }
-    for (const CPlacedRadiator& radiator : room.heizkoerper) {
-        row.room.strHersteller = radiator.strHersteller;
-        row.room.strArt = radiator.strArt;
-        row.room.strProdukt = radiator.strProdukt;
-        row.outcome.radiator = CRadiator{radiator.strTyp, radiator.daten};
-        row.ventile = valves.Fetch(radiator.ventile);
-        rows.push_back(row);
-        row.bErster = false;
+
+    void AppendRows(std::vector<CScheduleRow>& rows, const CRoom& room, const CRoomRef& ref)
+    {
+        CScheduleRow row{room, OutcomeOf(room), {}, true, OutputOf(room)};
+        row.room.heizkoerper.clear();
+        if (room.heizkoerper.empty()) {
+            const auto fault = m_faults.find(ref);
+            row.outcome = fault != m_faults.end() ? *fault->second : row.outcome;
+            rows.push_back(row);
+            return;
+        }
+        for (const CPlacedRadiator& radiator : room.heizkoerper) {
+            row.room.strHersteller = radiator.strHersteller;
+            row.room.strArt = radiator.strArt;
+            row.room.strProdukt = radiator.strProdukt;
+            row.outcome.radiator = CRadiator{radiator.strTyp, radiator.daten};
+            row.ventile = m_valves.Fetch(radiator.ventile);
+            rows.push_back(row);
+            row.bErster = false;
+        }
     }
+
+private:
+    std::map<CRoomRef, const CRoomOutcome*> m_faults;
+    CValveFetcher m_valves;
+};
+
+CScheduleFloor MakeFloor(const CFloor& floor, std::size_t number, CRowMaker& rows)
+{
+    CScheduleFloor result;
+    result.strName = floor.strName;
+    for (std::size_t room = 0; room < floor.rooms.size(); ++room) {
+        rows.AppendRows(result.rows, *floor.rooms[room], {number, room});
+    }
+    for (const CScheduleRow& row : result.rows) {
+        result.totals.Add(row);
+    }
+    return result;
 }
 
 } // namespace
@@ -159,19 +158,17 @@ bool CSchedule::HasBadCatalogue() const
     });
 }
 
-CSchedule MakeSchedule(const CBuilding& building)
+CSchedule SchedulePlan(const CBuilding& building, const std::vector<CSizingFault>& faults)
 {
-    return MakeScheduleOf(building, [&](std::vector<CScheduleRow>& rows, const CRoom& room) {
-        rows.push_back(MakeRow(room, building.system));
-    });
-}
-
-CSchedule SchedulePlan(const CBuilding& building)
-{
-    CValveFetcher valves;
-    return MakeScheduleOf(building, [&](std::vector<CScheduleRow>& rows, const CRoom& room) {
-        AppendPlacedRows(rows, room, valves);
-    });
+    CSchedule schedule;
+    schedule.strBuilding = building.strName;
+    schedule.system = building.system;
+    CRowMaker rows(faults);
+    for (std::size_t floor = 0; floor < building.floors.size(); ++floor) {
+        schedule.floors.push_back(MakeFloor(building.floors[floor], floor, rows));
+        schedule.totals.Add(schedule.floors.back().totals);
+    }
+    return schedule;
 }
 
 bool IsOpen(RoomStatus status)

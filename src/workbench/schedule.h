@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/building.h"
+#include "workbench/plan/sizing.h"
 #include "workbench/room_selection.h"
 #include "workbench/valve_selection.h"
 
@@ -62,12 +63,10 @@ struct CSchedule
     bool HasBadCatalogue() const;
 };
 
-/// Chooses a radiator for every room of the building and fetches its valves.
-CSchedule MakeSchedule(const CBuilding& building);
-
 /// Lists the radiators that stand in the building, with their valves, a row each, and a row for
-/// each room without one. Rooms that are not covered say what is missing.
-CSchedule SchedulePlan(const CBuilding& building);
+/// each room without one. Rooms that are not covered say what is missing; those without radiator
+/// that are among `faults` say what their search came to.
+CSchedule SchedulePlan(const CBuilding& building, const std::vector<CSizingFault>& faults = {});
 
 /// True for a room that needs radiators and is not covered.
 bool IsOpen(RoomStatus status);

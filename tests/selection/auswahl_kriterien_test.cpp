@@ -60,6 +60,9 @@ TEST_F(KriterienTest, OpeningWithoutAProductLeavesTheGridEmpty)
     CTestDialog& dialog = Open(false);
     EXPECT_TRUE(dialog.aufbauten.empty());
     EXPECT_EQ(dialog.listen[18004].Anzahl(), 0);
+    dialog.Tippe(18003, L"2500");
+    EXPECT_EQ(m_uebergabe.HoeheMin, 300.0) << "empty lists leave the limits";
+    EXPECT_EQ(m_uebergabe.TiefeMax, 500.0);
 }
 
 TEST_F(KriterienTest, ALimitThatNoEntryBeginsWithOpensTheWholeRange)
@@ -257,6 +260,8 @@ TEST_F(KriterienTest, OkStoresWhatTheNextSelectionStartsWith)
     CTestDialog& dialog = Open();
     dialog.kriterien.m_nLayerFarbe = 5;
     dialog.kriterien.m_strLayer = L"";
+    dialog.Tippe(7007, L"Invernale");
+    dialog.Tippe(18003, L"2500"); // an event that reads the fields
     dialog.Tippe(7008, L"70");
     dialog.kriterien.Uebernehmen();
     EXPECT_EQ(m_uebergabe.Vorlauf, 75.4) << "typed last, read by no event";
@@ -265,6 +270,9 @@ TEST_F(KriterienTest, OkStoresWhatTheNextSelectionStartsWith)
     ASSERT_NE(start, nullptr);
     EXPECT_EQ(start->SystemVorlauf, 75);
     EXPECT_EQ(start->SystemRuecklauf, 65);
+    EXPECT_EQ(start->SystemName, L"Invernale");
+    EXPECT_EQ(start->Hersteller, L"Valmorena");
+    EXPECT_EQ(start->Art, L"Radiatori a piastra compatti");
     EXPECT_EQ(start->Produkt, L"Tipo 22");
     EXPECT_EQ(start->AbstandWand, 0.05);
     EXPECT_TRUE(m_folder.Exists("HEIZUNG/CmbData.txt"));
@@ -278,12 +286,42 @@ TEST_F(KriterienTest, OkStoresWhatTheNextSelectionStartsWith)
     EXPECT_EQ(m_dialog->kriterien.m_strLayer, L"HEIZ_PT") << "the stored one was empty";
     EXPECT_EQ(m_dialog->kriterien.m_nLayerFarbe, 1);
     m_dialog->kriterien.m_strLayer = L"CALDO";
+    m_dialog->kriterien.m_nLayerFarbe = 7;
     m_dialog->kriterien.Uebernehmen();
     m_dialog = std::make_unique<CTestDialog>(m_uebergabe);
     m_dialog->kriterien.m_strLayer.clear();
     m_dialog->Oeffnen();
     EXPECT_EQ(m_dialog->kriterien.m_strLayer, L"CALDO");
+    EXPECT_EQ(m_dialog->kriterien.m_nLayerFarbe, 7);
     EXPECT_EQ(Open().kriterien.m_strLayer, L"HEIZ_PT") << "a layer of the caller wins";
+}
+
+TEST_F(KriterienTest, TemperaturesThatAnyEventHasReadGoWithOk)
+{
+    CTestDialog& dialog = Open();
+    dialog.Tippe(7008, L"70.6");
+    dialog.Tippe(7009, L"55");
+    dialog.Tippe(18003, L"2500");
+    EXPECT_EQ(m_uebergabe.Vorlauf, 75.4) << "they are in no force yet";
+    dialog.kriterien.Uebernehmen();
+    EXPECT_EQ(m_uebergabe.Vorlauf, 70.6);
+    EXPECT_EQ(m_uebergabe.Ruecklauf, 55.0);
+    const VDI6030START* const start = ReadDefFile_VDI6030START(false);
+    EXPECT_EQ(start->SystemVorlauf, 70);
+    EXPECT_EQ(start->SystemRuecklauf, 55);
+}
+
+TEST_F(KriterienTest, OpeningSelectsTheSystemOfTheCallersTemperatures)
+{
+    m_folder.WriteBytes("HEIZUNG/CmbData.txt",
+                        "[VDI6030_HS]\r\nAlta (80/60)|Media (60/50)*|Bassa (45/35)|\r\n");
+    m_uebergabe.Vorlauf = 45.3;
+    m_uebergabe.Ruecklauf = 35.0;
+    EXPECT_EQ(Open().listen[7006].gewaehlt, 2) << "not the one that was selected last";
+    EXPECT_EQ(m_dialog->texte[7007], L"Bassa");
+    m_uebergabe.Ruecklauf = 34.0;
+    EXPECT_EQ(Open().listen[7006].gewaehlt, 0) << "none has these temperatures";
+    EXPECT_EQ(m_dialog->texte[7009], L"34");
 }
 
 /// Whatever the user does, the grid shows what a pass of its own over the record gives.

@@ -118,8 +118,11 @@ TEST_F(ErgebnisZeilenTest, HeadingsSortDescendingFirst)
     }
     dialog.zeilen.ErgebnisEntfernen();
     dialog.zeilen.UeberschriftGeklickt(1);
+    dialog.zeilen.ZeilenAufbauen(false);
+    dialog.zeilen.UeberschriftGeklickt(1);
     EXPECT_EQ(dialog.gitter.sortiert,
-              (std::vector<std::pair<int, bool>>{{5, false}, {5, true}, {0, false}}));
+              (std::vector<std::pair<int, bool>>{{5, false}, {5, true}, {0, false}, {1, false}}))
+        << "a click on the empty grid turns nothing round";
 }
 
 TEST_F(ErgebnisZeilenTest, WithoutARowTheUserIsToldOnceAndTheRangeGrows)

@@ -174,9 +174,10 @@ TEST_F(SizingTest, WhatCannotBeSizedIsToldAndTheRestGoesOn)
     ASSERT_EQ(result.faults.size(), std::size(expected));
     for (std::size_t i = 0; i < std::size(expected); ++i) {
         EXPECT_EQ(result.faults[i].room, (CRoomRef{0, first + i}));
-        EXPECT_EQ(result.faults[i].status, expected[i].status);
-        EXPECT_NE(result.faults[i].strNote.find(expected[i].note), CString::npos)
-            << testing::PrintToString(result.faults[i].strNote);
+        const CRoomOutcome& outcome = result.faults[i].outcome;
+        EXPECT_EQ(outcome.status, expected[i].status);
+        EXPECT_NE(outcome.strNote.find(expected[i].note), CString::npos)
+            << testing::PrintToString(outcome.strNote);
     }
 }
 

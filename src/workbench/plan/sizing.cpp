@@ -43,16 +43,13 @@ public:
     int GetSized() const { return m_nSized; }
 
     /// Why the room is still open; nothing if it is not.
-    std::optional<CSizingFault> FindFault(const CRoomRef& ref) const
+    std::optional<CRoomOutcome> FindFault() const
     {
         if (!IsOpen(CoverageOf(m_room))) {
             return std::nullopt;
         }
-        if (!m_failure) {
-            return CSizingFault{ref, RoomStatus::unfitting,
-                                L"mancano " + FormatFixed(RemainderOf(m_room), 0) + L" W"};
-        }
-        return CSizingFault{ref, m_failure->status, m_failure->strNote};
+        return m_failure.value_or(CRoomOutcome{
+            RoomStatus::unfitting, {}, L"mancano " + FormatFixed(RemainderOf(m_room), 0) + L" W"});
     }
 
 private:
@@ -124,8 +121,8 @@ void SizeRoom(CSizingResult& result, const CRoomRef& ref, const CRadiatorStart& 
         result.nSized += sizing.GetSized();
         ReplaceRoom(result.building, ref, sizing.GetRoom());
     }
-    if (std::optional<CSizingFault> fault = sizing.FindFault(ref)) {
-        result.faults.push_back(std::move(*fault));
+    if (std::optional<CRoomOutcome> outcome = sizing.FindFault()) {
+        result.faults.push_back({ref, std::move(*outcome)});
     }
 }
 

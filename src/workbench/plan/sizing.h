@@ -6,12 +6,11 @@
 
 #include <functional>
 
-/// A room that could not be given what it needs, and why in words.
+/// A room that could not be given what it needs, and what the first search of it came to.
 struct CSizingFault
 {
     CRoomRef room;
-    RoomStatus status = RoomStatus::unfitting;
-    CString strNote;
+    CRoomOutcome outcome;
 };
 
 struct CSizingResult

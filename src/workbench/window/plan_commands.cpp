@@ -82,7 +82,7 @@ void CPlanCommands::TellFaults(const CBuilding& building, const CSizingResult& r
     }
     for (const CSizingFault& fault : result.faults) {
         message += QString("\n%1: %2")
-                       .arg(ToQt(RoomOf(building, fault.room).strName), ToQt(fault.strNote));
+                       .arg(ToQt(RoomOf(building, fault.room).strName), ToQt(fault.outcome.strNote));
     }
     emit Told(message);
 }
