@@ -2,11 +2,26 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 #include <iterator>
+#include <utility>
+
+namespace {
+
+double Median(std::vector<double> values)
+{
+    const auto middle = values.begin() + std::ssize(values) / 2;
+    std::ranges::nth_element(values, middle);
+    return *middle;
+}
+
+} // namespace
 
 bool CRatioReporter::ReportContext(const Context& context)
 {
-    PrintBasicContext(&GetErrorStream(), context);
+    if (!std::exchange(m_hasContext, true)) {
+        PrintBasicContext(&GetErrorStream(), context);
+    }
     return true;
 }
 
@@ -25,24 +40,22 @@ void CRatioReporter::ReportRuns(const std::vector<Run>& runs)
     }
 }
 
-double CRatioReporter::Fastest(const std::string& name) const
+double CRatioReporter::MedianRatio(const std::string& key) const
 {
-    return std::ranges::min(m_times.at(name));
-}
-
-double CRatioReporter::Median(const std::string& name) const
-{
-    std::vector<double> times = m_times.at(name);
-    const auto middle = times.begin() + std::ssize(times) / 2;
-    std::ranges::nth_element(times, middle);
-    return *middle;
+    const std::vector<double>& floor = Times(key + "/floor");
+    std::vector<double> ratios = Times(key + "/measured");
+    std::ranges::transform(ratios, floor, ratios.begin(), std::divides());
+    return Median(std::move(ratios));
 }
 
 bool CRatioReporter::PrintTable(const std::vector<RatioLine>& lines) const
 {
+    if (m_failed) {
+        return false;
+    }
     std::printf("%-46s %-44s %14s %14s %7s %7s %8s\n", "what", "floor", "measured", "floor",
                 "ratio", "reach", "limit");
-    bool reached = !m_failed;
+    bool reached = true;
     for (const RatioLine& line : lines) {
         // A filter on the command line leaves some out.
         if (WasMeasured(line.key + "/measured") &&
@@ -55,20 +68,19 @@ bool CRatioReporter::PrintTable(const std::vector<RatioLine>& lines) const
 
 bool CRatioReporter::PrintLine(const RatioLine& line) const
 {
-    const std::string name = line.key + "/measured";
-    const double measured = line.floor.empty() ? Median(name) : Fastest(name);
+    const double measured = Median(Times(line.key + "/measured"));
     bool reached = true;
     std::printf("%-46s %-44s %11.1f us ", line.what.c_str(), line.floor.c_str(), measured / 1.0e3);
     if (line.floor.empty()) {
         std::printf("%14s %7s %7s", "", "", "");
     } else {
-        const double floor = Fastest(line.key + "/floor");
-        const double ratio = measured / floor;
+        const double floor = Median(Times(line.key + "/floor"));
+        const double ratio = MedianRatio(line.key);
         reached = ratio <= line.reach;
         std::printf("%11.1f us %6.2fx %6.2fx", floor / 1.0e3, ratio, line.reach);
     }
     if (line.milliseconds > 0.0) {
-        reached = reached && Median(name) <= line.milliseconds * 1.0e6;
+        reached = reached && measured <= line.milliseconds * 1.0e6;
         std::printf(" %5.0f ms", line.milliseconds);
     }
     std::printf("%s\n", reached ? "" : "  missed");

@@ -19,26 +19,27 @@ struct RatioLine
     double milliseconds = 0.0;
 };
 
-/// Collects the times of a run and prints them as ratios. Pairs are compared by the fastest
-/// repetition of either side: what makes the others slower is the machine, which may run at half
-/// its speed for seconds. Limits hold for the median.
+/// Collects the times of a run, which measures both sides of each line in round after round, and
+/// prints them as ratios. A ratio is the median of the rounds' own: the machine may run at a third
+/// of its speed for seconds, which meets both sides of a round alike.
 class CRatioReporter : public benchmark::BenchmarkReporter
 {
 public:
     bool ReportContext(const Context& context) override;
     void ReportRuns(const std::vector<Run>& runs) override;
 
-    /// Prints the table; false if a ratio or a time lies above what is to be reached, or if a
-    /// benchmark told of an error.
+    /// Prints the table, times as medians; false if a ratio or a time lies above what is to be
+    /// reached, or if a benchmark told of an error.
     bool PrintTable(const std::vector<RatioLine>& lines) const;
 
 private:
     bool PrintLine(const RatioLine& line) const;
+    const std::vector<double>& Times(const std::string& name) const { return m_times.at(name); }
     bool WasMeasured(const std::string& name) const { return m_times.contains(name); }
-    double Fastest(const std::string& name) const;
-    double Median(const std::string& name) const;
+    double MedianRatio(const std::string& key) const;
 
-    /// CPU times of the repetitions in nanoseconds by benchmark name.
+    /// CPU times of the rounds in nanoseconds by benchmark name.
     std::map<std::string, std::vector<double>> m_times;
+    bool m_hasContext = false;
     bool m_failed = false;
 };
