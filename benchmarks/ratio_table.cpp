@@ -48,20 +48,28 @@ double CRatioReporter::MedianRatio(const std::string& key) const
     return Median(std::move(ratios));
 }
 
+bool CRatioReporter::IsComplete(const RatioLine& line) const
+{
+    const auto rounds = [this](const std::string& name) {
+        const auto times = m_times.find(name);
+        return times != m_times.end() ? times->second.size() : 0;
+    };
+    const std::size_t measured = rounds(line.key + "/measured");
+    return measured > 0 && (line.floor.empty() || rounds(line.key + "/floor") == measured);
+}
+
 bool CRatioReporter::PrintTable(const std::vector<RatioLine>& lines) const
 {
-    if (m_failed) {
-        return false;
-    }
     std::printf("%-46s %-44s %14s %14s %7s %7s %8s\n", "what", "floor", "measured", "floor",
                 "ratio", "reach", "limit");
-    bool reached = true;
+    bool reached = !m_failed;
     for (const RatioLine& line : lines) {
-        // A filter on the command line leaves some out.
-        if (WasMeasured(line.key + "/measured") &&
-            (line.floor.empty() || WasMeasured(line.key + "/floor"))) {
-            reached = PrintLine(line) && reached;
+        if (!IsComplete(line)) {
+            std::printf("%-46s not measured\n", line.what.c_str());
+            reached = false;
+            continue;
         }
+        reached = PrintLine(line) && reached;
     }
     return reached;
 }

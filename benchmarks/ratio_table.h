@@ -29,13 +29,14 @@ public:
     void ReportRuns(const std::vector<Run>& runs) override;
 
     /// Prints the table, times as medians; false if a ratio or a time lies above what is to be
-    /// reached, or if a benchmark told of an error.
+    /// reached, if a line was not measured, or if a benchmark told of an error.
     bool PrintTable(const std::vector<RatioLine>& lines) const;
 
 private:
+    /// False if a side of the line is missing in any round.
+    bool IsComplete(const RatioLine& line) const;
     bool PrintLine(const RatioLine& line) const;
     const std::vector<double>& Times(const std::string& name) const { return m_times.at(name); }
-    bool WasMeasured(const std::string& name) const { return m_times.contains(name); }
     double MedianRatio(const std::string& key) const;
 
     /// CPU times of the rounds in nanoseconds by benchmark name.
