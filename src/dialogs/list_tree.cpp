@@ -1,12 +1,6 @@
 #include "dialogs/list_tree.h"
 
-#include "platform/format.h"
-#include "platform/numbers.h"
-
-#include <algorithm>
-#include <functional>
 #include <string_view>
-#include <vector>
 
 namespace {
 
@@ -90,16 +84,6 @@ HTREEITEM PrevItem(const CTreeCtrl& tree, HTREEITEM item)
     return parent != nullptr ? parent : DeepestLast(tree, LastRoot(tree));
 }
 
-/// The first item sets how all of them are written.
-int DecimalsOf(const CString& text)
-{
-    std::size_t mark = text.rfind(L'.');
-    if (mark == CString::npos) {
-        mark = text.rfind(L',');
-    }
-    return mark == CString::npos ? 0 : static_cast<int>(text.size() - mark - 1);
-}
-
 } // namespace
 
 HTREEITEM FindTreeItem(const CString& text, const CTreeCtrl& tree, const TreeSearch& search,
@@ -124,26 +108,6 @@ HTREEITEM FindTreeItem(const CString& text, const CTreeCtrl& tree, const TreeSea
         }
     }
     return nullptr;
-}
-
-bool SortComboNumeric(CComboBox& combo, bool ascending)
-{
-    constexpr int kMostDecimals = 9;
-    const int decimals = std::min(DecimalsOf(combo.GetItemText(0)), kMostDecimals);
-    std::vector<double> values;
-    for (int i = 0; i < combo.GetCount(); ++i) {
-        values.push_back(_wtof(combo.GetItemText(i)));
-    }
-    combo.ResetContent();
-    if (ascending) {
-        std::sort(values.begin(), values.end());
-    } else {
-        std::sort(values.begin(), values.end(), std::greater<>());
-    }
-    for (const double value : values) {
-        combo.AddString(FormatFixed(value, decimals));
-    }
-    return true;
 }
 
 COLORREF GetFixedColor(unsigned index)

@@ -2,7 +2,6 @@
 
 #include "platform/color.h"
 #include "platform/text.h"
-#include "uikit/combo_box.h"
 #include "uikit/tree_ctrl.h"
 #include "uikit/wnd.h"
 
@@ -24,11 +23,6 @@ struct TreeSearch
 /// neither, the walk begins with the first root item. Null if there is none or the text is empty.
 HTREEITEM FindTreeItem(const CString& text, const CTreeCtrl& tree, const TreeSearch& search,
                        HTREEITEM start);
-
-/// Sorts a list by the numbers at the start of its items and writes them anew, all with as many
-/// decimals as the first item showed, at most nine. A comma ends a number, though one in the first
-/// item sets the decimals if there is no point. Leaves nothing chosen. Returns true.
-bool SortComboNumeric(CComboBox& combo, bool ascending);
 
 /// The fixed colours of the dialogs by index; white for any that is not in use.
 COLORREF GetFixedColor(unsigned index);

@@ -15,15 +15,12 @@ enum Ids
 {
     idDialog = 7100,
     idBaum = 10,
-    idListe = 11,
 };
 
 using enum ControlKind;
 
-const DialogTemplate kTemplate = {
-    idDialog,   L"Prova",
-    120,        80,
-    frameFixed, {{idBaum, tree, L"", 4, 4, 100, 40}, {idListe, comboList, L"", 4, 50, 60, 13}}};
+const DialogTemplate kTemplate = {idDialog, L"Prova",   120,
+                                  80,       frameFixed, {{idBaum, tree, L"", 4, 4, 100, 40}}};
 
 class CListenDialog : public CDialog
 {
@@ -69,14 +66,9 @@ public:
     }
 
     CTreeCtrl m_baum;
-    CComboBox m_liste;
 
 protected:
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        DDX_Control(pDX, idBaum, m_baum);
-        DDX_Control(pDX, idListe, m_liste);
-    }
+    void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, idBaum, m_baum); }
 
 private:
     HTREEITEM Child(HTREEITEM parent, const CString& text) const
@@ -180,42 +172,6 @@ TEST(FindTreeItem, AWordCountsOnlyAtTheStartOfWhatRemains)
             EXPECT_EQ(FindTreeItem(L"tubo", dialog.m_baum, {false, true, true}, nullptr) != nullptr,
                       counts)
                 << testing::PrintToString(text);
-        }
-    });
-}
-
-TEST(SortComboNumeric, WritesAllNumbersAsTheFirstItemShowedIts)
-{
-    using Items = std::vector<CString>;
-    struct Case
-    {
-        Items items;
-        bool ascending;
-        Items sorted;
-    };
-    const Case cases[] = {
-        {{}, true, {}},
-        {{L"1000", L"600", L"300"}, true, {L"300", L"600", L"1000"}},
-        {{L"500", L"900", L"500", L"1600"}, false, {L"1600", L"900", L"500", L"500"}},
-        {{L"1.5", L"2"}, true, {L"1.5", L"2.0"}},
-        {{L"2", L"1.75"}, true, {L"2", L"2"}},
-        {{L"1,5", L"2,25", L"Tutti"}, true, {L"0.0", L"1.0", L"2.0"}},
-        {{L"1.5, 2", L"-10"}, true, {L"-10.0000", L"1.5000"}},
-        {{L"1,25.5", L"3"}, false, {L"3.0", L"1.0"}},
-    };
-    CListenDialog dialog;
-    dialog.Run([&] {
-        for (const auto& [items, ascending, expected] : cases) {
-            dialog.m_liste.ResetContent();
-            for (const CString& item : items) {
-                dialog.m_liste.AddString(item);
-            }
-            EXPECT_TRUE(SortComboNumeric(dialog.m_liste, ascending));
-            Items sorted;
-            for (int i = 0; i < dialog.m_liste.GetCount(); ++i) {
-                sorted.push_back(dialog.m_liste.GetItemText(i));
-            }
-            EXPECT_EQ(sorted, expected);
         }
     });
 }
