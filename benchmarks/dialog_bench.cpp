@@ -12,9 +12,9 @@
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
 
-#include "dialog_support/paint_counter.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
+#include "tests/dialog_support/paint_counter.h"
+#include "tests/support/setting_override.h"
+#include "tests/support/temp_folder.h"
 
 #include <benchmark/benchmark.h>
 

@@ -6,7 +6,7 @@
 
 #include "radiator/hk_vdi3805.h"
 
-#include "support/memory_catalogue.h"
+#include "tests/support/memory_catalogue.h"
 
 #include <benchmark/benchmark.h>
 

@@ -2,8 +2,8 @@
 // rounds. All times are CPU time. The exit code tells whether every ratio and every limit was
 // reached.
 
-#include "ratio_table.h"
-#include "valve_file.h"
+#include "benchmarks/ratio_table.h"
+#include "benchmarks/valve_file.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -4,8 +4,8 @@
 // plan_sizing_again: the same for a building that has its radiators.
 
 #include "platform/encoding.h"
+#include "reference_host/prefs/host_settings.h"
 #include "tools/make_building_samples.h"
-#include "workbench/host_prefs/host_settings.h"
 #include "workbench/plan/sizing.h"
 
 #include <benchmark/benchmark.h>

@@ -1,4 +1,4 @@
-#include "ratio_table.h"
+#include "benchmarks/ratio_table.h"
 
 #include <algorithm>
 #include <cstdio>

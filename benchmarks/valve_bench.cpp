@@ -4,13 +4,13 @@
 // cache of lines holds is given up between the runs, untimed. valve_fetch: a radiator with one kind
 // of valve in supply and return, fetched a second time.
 
+#include "benchmarks/valve_file.h"
 #include "host/host_prefs.h"
 #include "platform/encoding.h"
 #include "platform/file.h"
-#include "support/setting_override.h"
+#include "tests/support/setting_override.h"
 #include "valve/ventil_abruf.h"
 #include "valve/ventil_katalog.h"
-#include "valve_file.h"
 
 #include <benchmark/benchmark.h>
 

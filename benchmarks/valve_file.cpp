@@ -1,7 +1,7 @@
-#include "valve_file.h"
+#include "benchmarks/valve_file.h"
 
 #include "host/host_prefs.h"
-#include "support/setting_override.h"
+#include "tests/support/setting_override.h"
 #include "valve/ventil_katalog.h"
 
 #include <cstdio>

@@ -1,4 +1,4 @@
-#include "fuzz/entries.h"
+#include "tests/fuzz/entries.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

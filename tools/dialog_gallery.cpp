@@ -1,17 +1,17 @@
 #include "tools/dialog_gallery.h"
 
+#include "connection/dialog/wand_ab_dlg.h"
 #include "connection/presets.h"
-#include "connection/wand_ab_dlg.h"
 #include "frame/conn_values.h"
 #include "frame/entry_points.h"
 #include "frame/handover.h"
 #include "frame/ventil_kv.h"
 #include "platform/path.h"
+#include "reference_host/prefs/host_settings.h"
 #include "tools/radiator_gallery.h"
 #include "valve/ventil_bewertung.h"
 #include "valve/ventil_katalog.h"
 #include "workbench/drawing/scene_drawer.h"
-#include "workbench/host_prefs/host_settings.h"
 
 namespace {
 

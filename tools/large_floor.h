@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/building.h"
+#include "workbench/building/building.h"
 
 /// The rooms of a large building with their radiators (tools/make_building_samples.h), all on one
 /// floor, wing beside wing. Some radiators are too weak, and some rooms have none.

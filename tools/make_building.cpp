@@ -1,7 +1,7 @@
 #include "platform/encoding.h"
-#include "platform/numbers.h"
+#include "platform/number_scan.h"
 #include "tools/make_building_samples.h"
-#include "workbench/building_json.h"
+#include "workbench/building/building_json.h"
 
 #include <cstdlib>
 #include <exception>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/building.h"
+#include "workbench/building/building.h"
 
 /// A building of many rooms, for tests and measurements: up to 200 rooms a floor, in rows along
 /// corridors with courts between them, with demands, sizes, windows and products that differ. The

@@ -4,11 +4,11 @@
 
 #include "host/host_prefs.h"
 #include "platform/encoding.h"
+#include "reference_host/prefs/host_settings.h"
 #include "tools/dialog_gallery.h"
 #include "uikit/application.h"
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
-#include "workbench/host_prefs/host_settings.h"
 #include "workbench/plan/sizing.h"
 #include "workbench/window/floor_scene.h"
 #include "workbench/window/workbench_window.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/drawing/dxf_drawing.h"
+#include "workbench/dxf/dxf_drawing.h"
 
 /// The blocks of the sample radiators.
 CDxfDrawing MakeRadiatorBlocks();

@@ -2,7 +2,7 @@
 
 #include "tools/make_drawings_radiators.h"
 #include "tools/make_drawings_valves.h"
-#include "workbench/drawing/dxf_writer.h"
+#include "workbench/dxf/dxf_writer.h"
 
 std::vector<CSampleDrawing> MakeSampleDrawings()
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/drawing/dxf_drawing.h"
+#include "workbench/dxf/dxf_drawing.h"
 
 #include <initializer_list>
 

@@ -1,10 +1,10 @@
 #include "tools/plan_gallery.h"
 
+#include "reference_host/prefs/host_settings.h"
 #include "tools/large_floor.h"
-#include "workbench/building_json.h"
+#include "workbench/building/building_json.h"
+#include "workbench/building/radiator_records.h"
 #include "workbench/drawing/plan_view.h"
-#include "workbench/drawing/radiator_records.h"
-#include "workbench/host_prefs/host_settings.h"
 #include "workbench/plan/sizing.h"
 #include "workbench/window/floor_scene.h"
 

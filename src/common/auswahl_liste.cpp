@@ -1,7 +1,7 @@
 #include "common/auswahl_liste.h"
 
 #include "platform/format.h"
-#include "platform/numbers.h"
+#include "platform/number_scan.h"
 
 #include <algorithm>
 #include <functional>

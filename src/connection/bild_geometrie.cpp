@@ -37,7 +37,7 @@ double BildAbszisse(const ConnVector& position, const ConnVector& offset)
     return position[0] + kOffsetFaktor * offset[0];
 }
 
-CBildPunkt PunktAufBild(const CBildRect& bild, const ConnVector& position, const ConnVector& offset)
+CPoint PunktAufBild(const CRect& bild, const ConnVector& position, const ConnVector& offset)
 {
     const double u = BildAbszisse(position, offset);
     const double v = position[2] + kOffsetFaktor * offset[2];
@@ -56,7 +56,7 @@ Pfeil Pfeilrichtung(double winkel1, double winkel2, bool istVorlauf)
     return t > 90.0 && t <= 270.0 ? Pfeil::unten : Pfeil::oben;
 }
 
-std::vector<CStrich> PfeilStriche(Pfeil richtung, CBildPunkt ort)
+std::vector<CStrich> PfeilStriche(Pfeil richtung, CPoint ort)
 {
     const auto [x, y] = ort;
     switch (richtung) {
@@ -71,49 +71,4 @@ std::vector<CStrich> PfeilStriche(Pfeil richtung, CBildPunkt ort)
         return {{{x, y + 9}, {x, y - 9}, {x - 4, y - 4}}, {{x, y - 9}, {x + 4, y - 4}}};
     }
     return {};
-}
-
-CScrollBedarf ScrollbalkenFuer(int breite, int hoehe, int bildBreite, int bildHoehe,
-                               int balkenBreite)
-{
-    CScrollBedarf bedarf{false, false, breite, hoehe};
-    const auto pruefeBreite = [&] {
-        if (!bedarf.horizontal && bildBreite > bedarf.breite) {
-            bedarf.horizontal = true;
-            bedarf.hoehe -= balkenBreite;
-        }
-    };
-    pruefeBreite();
-    if (bildHoehe > bedarf.hoehe) {
-        bedarf.vertikal = true;
-        bedarf.breite -= balkenBreite;
-        pruefeBreite();
-    }
-    return bedarf;
-}
-
-int NeueScrollPosition(int position, ScrollCode code, int daumen, int bildGroesse, int groesse)
-{
-    constexpr int kSeite = 20;
-    int neu = position;
-    switch (code) {
-    case ScrollCode::zeileZurueck:
-    case ScrollCode::zumAnfang:
-        neu = position - 1;
-        break;
-    case ScrollCode::seiteZurueck:
-        neu = position - kSeite;
-        break;
-    case ScrollCode::zeileVor:
-    case ScrollCode::zumEnde:
-        neu = position + 1;
-        break;
-    case ScrollCode::seiteVor:
-        neu = position + kSeite;
-        break;
-    case ScrollCode::daumen:
-        neu = daumen;
-        break;
-    }
-    return std::min(std::max(neu, 0), bildGroesse - groesse);
 }

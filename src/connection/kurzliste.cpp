@@ -1,7 +1,7 @@
 #include "connection/kurzliste.h"
 
+#include "common/heizung_ordner.h"
 #include "common/text_file.h"
-#include "connection/heizung_ordner.h"
 #include "host/host_fittings.h"
 #include "platform/file.h"
 

@@ -1,8 +1,8 @@
 #include "dialogs/hilfe_schalter.h"
 
+#include "common/arbeits_ordner.h"
 #include "common/text_file.h"
-#include "dialogs/arbeits_ordner.h"
-#include "platform/numbers.h"
+#include "platform/number_scan.h"
 
 bool HilfeErlaubt(unsigned dialogId, bool& erlaubt)
 {

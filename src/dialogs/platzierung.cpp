@@ -1,7 +1,7 @@
 #include "dialogs/platzierung.h"
 
+#include "common/platzierung_datei.h"
 #include "dialogs/list_tree.h"
-#include "dialogs/platzierung_datei.h"
 #include "uikit/application.h"
 
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "frame/api.h"
 #include "frame/handover.h"
 #include "frame/lumo_error.h"
+#include "platform/export.h"
 
 /// What a host calls. One caller at a time, on the thread of the host's user interface. Unknown
 /// catalogue names are no error: they read as "nothing fits". Exceptions of the framework, and

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/api.h"
 #include "platform/archive.h"
+#include "platform/export.h"
 #include "platform/object.h"
 #include "platform/text.h"
 

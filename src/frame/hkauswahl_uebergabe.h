@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/api.h"
+#include "platform/export.h"
 #include "platform/object.h"
 #include "platform/text.h"
 

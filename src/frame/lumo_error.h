@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/api.h"
+#include "platform/export.h"
 
 #include <cstdint>
 

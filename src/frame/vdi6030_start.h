@@ -2,8 +2,8 @@
 
 #include "frame/conn_values.h"
 #include "frame/ventil_kv.h"
-#include "host/api.h"
 #include "platform/archive.h"
+#include "platform/export.h"
 #include "platform/text.h"
 
 #include <cstdint>

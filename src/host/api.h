@@ -1,4 +1,4 @@
 #pragma once
 
-/// Marks what one of the host's libraries offers to others.
-#define HOST_API __attribute__((visibility("default")))
+/// HOST_API, with which one of the host's libraries marks what it offers.
+#include "platform/export.h"

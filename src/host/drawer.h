@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/api.h"
 #include "platform/array.h"
 #include "platform/bitmap.h"
+#include "platform/export.h"
 #include "platform/text.h"
 
 /// The drawing of the host as a dialog sees it. The host owns the object, which outlives every call

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/api.h"
 #include "host/drawing_records.h"
 #include "platform/color.h"
+#include "platform/export.h"
 #include "platform/text.h"
 
 /// HostBase: what the host offers to all its modules.

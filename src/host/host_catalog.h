@@ -1,8 +1,8 @@
 #pragma once
 
 #include "frame/handover.h"
-#include "host/api.h"
 #include "host/image_loader.h"
+#include "platform/export.h"
 #include "platform/text.h"
 
 /// HostCatalog: the host's reader of radiator catalogues, its icons and its help. The tree belongs

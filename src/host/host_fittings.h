@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/api.h"
 #include "host/drawing_records.h"
+#include "platform/export.h"
 #include "platform/text.h"
 
 /// HostFittings: the host's library of connection points. A connection point text holds numbers

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/api.h"
 #include "platform/array.h"
+#include "platform/export.h"
 #include "platform/text.h"
 
 class CObject;

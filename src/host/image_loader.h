@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/api.h"
 #include "platform/bitmap.h"
+#include "platform/export.h"
 
 /// Numbers of the icons that the modules ask for.
 enum LumoIcons : int

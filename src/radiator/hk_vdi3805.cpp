@@ -1,7 +1,7 @@
 #include "radiator/hk_vdi3805.h"
 
-#include "common/numbers.h"
 #include "host/host_catalog.h"
+#include "platform/rounding.h"
 #include "radiator/output_conversion.h"
 
 #include <cmath>

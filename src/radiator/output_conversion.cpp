@@ -1,6 +1,6 @@
 #include "radiator/output_conversion.h"
 
-#include "common/numbers.h"
+#include "platform/rounding.h"
 
 #include <cmath>
 

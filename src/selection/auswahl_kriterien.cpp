@@ -5,7 +5,8 @@
 #include "host/host_catalog.h"
 #include "host/host_prefs.h"
 #include "platform/format.h"
-#include "platform/numbers.h"
+#include "platform/number_scan.h"
+#include "platform/rounding.h"
 #include "selection/auswahl_speicher.h"
 #include "selection/heizsysteme.h"
 

@@ -2,7 +2,7 @@
 
 #include "platform/format.h"
 #include "platform/message.h"
-#include "platform/numbers.h"
+#include "platform/number_scan.h"
 #include "radiator/size_queries.h"
 
 #include <iterator>

@@ -1,10 +1,10 @@
 #include "selection/heizsysteme.h"
 
+#include "common/heizung_ordner.h"
 #include "common/text_file.h"
-#include "connection/heizung_ordner.h"
 #include "platform/file.h"
 #include "platform/format.h"
-#include "platform/numbers.h"
+#include "platform/number_scan.h"
 
 #include <algorithm>
 #include <cerrno>

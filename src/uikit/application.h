@@ -1,6 +1,6 @@
 #pragma once
 
-#include "uikit/geometry.h"
+#include "platform/geometry.h"
 
 #include <functional>
 

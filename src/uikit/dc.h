@@ -2,9 +2,9 @@
 
 #include "platform/bitmap.h"
 #include "platform/color.h"
+#include "platform/geometry.h"
 #include "platform/text.h"
 #include "uikit/font.h"
-#include "uikit/geometry.h"
 #include "uikit/wnd.h"
 
 #include <memory>

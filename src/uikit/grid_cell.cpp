@@ -1,7 +1,7 @@
 #include "uikit/grid_cell.h"
 
 #include "platform/format.h"
-#include "platform/numbers.h"
+#include "platform/number_scan.h"
 
 void CUGCell::Clear()
 {

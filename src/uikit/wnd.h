@@ -1,8 +1,8 @@
 #pragma once
 
+#include "platform/geometry.h"
 #include "platform/text.h"
 #include "uikit/font.h"
-#include "uikit/geometry.h"
 
 #include <memory>
 

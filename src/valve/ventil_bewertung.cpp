@@ -1,10 +1,10 @@
 #include "valve/ventil_bewertung.h"
 
-#include "common/numbers.h"
 #include "common/text_file.h"
 #include "platform/format.h"
 #include "platform/message.h"
-#include "platform/numbers.h"
+#include "platform/number_scan.h"
+#include "platform/rounding.h"
 #include "valve/ventil_texte.h"
 
 #include <algorithm>

@@ -7,7 +7,7 @@
 #include "platform/file.h"
 #include "platform/format.h"
 #include "platform/message.h"
-#include "platform/numbers.h"
+#include "platform/number_scan.h"
 #include "platform/path.h"
 #include "valve/ventil_bewertung.h"
 

@@ -1,4 +1,4 @@
-#include "dialog_support/dialog_driver.h"
+#include "tests/dialog_support/dialog_driver.h"
 
 #include "uikit/native/access.h"
 

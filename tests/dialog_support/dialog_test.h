@@ -1,8 +1,8 @@
 #pragma once
 
-#include "dialog_support/dialog_driver.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
+#include "tests/dialog_support/dialog_driver.h"
+#include "tests/support/setting_override.h"
+#include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
 

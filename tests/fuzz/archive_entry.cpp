@@ -1,8 +1,8 @@
 #include "frame/handover.h"
 #include "frame/ventil_kv.h"
-#include "fuzz/entries.h"
-#include "platform/archived.h"
 #include "platform/exception.h"
+#include "tests/fuzz/entries.h"
+#include "tests/src/platform/archived.h"
 
 namespace {
 

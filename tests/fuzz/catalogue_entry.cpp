@@ -1,6 +1,6 @@
-#include "fuzz/entries.h"
-#include "workbench/host_catalog/catalogue_file.h"
-#include "workbench/host_catalog/row_builder.h"
+#include "reference_host/catalog/reader/catalogue_file.h"
+#include "reference_host/catalog/reader/row_builder.h"
+#include "tests/fuzz/entries.h"
 
 #include <cmath>
 #include <limits>

@@ -1,11 +1,11 @@
 #include "connection/kurzliste.h"
-#include "connection/test_ansicht.h"
-#include "fuzz/entries.h"
-#include "host/punkt_werte.h"
 #include "platform/encoding.h"
 #include "platform/environment.h"
 #include "platform/exception.h"
-#include "support/temp_folder.h"
+#include "tests/fuzz/entries.h"
+#include "tests/reference_host/fittings/punkt_werte.h"
+#include "tests/src/connection/test_ansicht.h"
+#include "tests/support/temp_folder.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
-#include "fuzz/entries.h"
 #include "platform/format.h"
-#include "workbench/drawing/dxf_blocks.h"
-#include "workbench/drawing/dxf_writer.h"
+#include "tests/fuzz/entries.h"
+#include "workbench/dxf/dxf_blocks.h"
+#include "workbench/dxf/dxf_writer.h"
 
 #include <algorithm>
 #include <cmath>

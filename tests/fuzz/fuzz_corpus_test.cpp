@@ -1,4 +1,4 @@
-#include "fuzz/entries.h"
+#include "tests/fuzz/entries.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
+#include "common/heizung_ordner.h"
 #include "common/text_file.h"
-#include "connection/heizung_ordner.h"
-#include "fuzz/entries.h"
 #include "selection/heizsysteme.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
-#include "support/test_liste.h"
+#include "tests/fuzz/entries.h"
+#include "tests/support/setting_override.h"
+#include "tests/support/temp_folder.h"
+#include "tests/support/test_liste.h"
 
 #include <string>
 

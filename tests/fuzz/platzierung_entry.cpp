@@ -1,8 +1,8 @@
+#include "common/platzierung_datei.h"
 #include "common/text_file.h"
-#include "dialogs/platzierung_datei.h"
-#include "fuzz/entries.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
+#include "tests/fuzz/entries.h"
+#include "tests/support/setting_override.h"
+#include "tests/support/temp_folder.h"
 
 #include <algorithm>
 #include <string>

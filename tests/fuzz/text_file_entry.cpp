@@ -1,6 +1,6 @@
 #include "common/text_file.h"
-#include "fuzz/entries.h"
-#include "support/temp_folder.h"
+#include "tests/fuzz/entries.h"
+#include "tests/support/temp_folder.h"
 
 #include <string>
 

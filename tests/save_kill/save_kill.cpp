@@ -2,7 +2,7 @@
 
 #include "platform/encoding.h"
 #include "tools/make_building_samples.h"
-#include "workbench/building_json.h"
+#include "workbench/building/building_json.h"
 
 #include <cstdlib>
 #include <exception>

@@ -1,6 +1,6 @@
-#include "support/memory_catalogue.h"
+#include "tests/support/memory_catalogue.h"
 
-#include "workbench/host_prefs/host_settings.h"
+#include "reference_host/prefs/host_settings.h"
 
 namespace {
 

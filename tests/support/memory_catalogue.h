@@ -2,8 +2,8 @@
 
 #include "frame/handover.h"
 #include "host/host_catalog.h"
-#include "support/setting_override.h"
-#include "support/temp_folder.h"
+#include "tests/support/setting_override.h"
+#include "tests/support/temp_folder.h"
 
 #include <deque>
 

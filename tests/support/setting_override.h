@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/host_prefs/host_settings.h"
+#include "reference_host/prefs/host_settings.h"
 
 /// Overrides a setting of the host for the life of the object.
 class CSettingOverride

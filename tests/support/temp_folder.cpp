@@ -1,4 +1,4 @@
-#include "support/temp_folder.h"
+#include "tests/support/temp_folder.h"
 
 #include "platform/path.h"
 

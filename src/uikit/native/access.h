@@ -2,8 +2,8 @@
 
 #include "platform/bitmap.h"
 #include "platform/color.h"
+#include "platform/geometry.h"
 #include "uikit/font.h"
-#include "uikit/geometry.h"
 #include "uikit/wnd.h"
 
 #include <QColor>

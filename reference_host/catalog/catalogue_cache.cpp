@@ -1,0 +1,64 @@
+#include "reference_host/catalog/catalogue_cache.h"
+
+#include "platform/exception.h"
+#include "platform/file.h"
+#include "platform/path.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace {
+std::optional<struct stat> StatusOf(const std::filesystem::path& path)
+{
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0) {
+        return std::nullopt;
+    }
+    return status;
+}
+
+bool IsSameTime(const timespec& a, const timespec& b)
+{
+    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+}
+
+/// The time of the last change of state counts as well: copying tools set the other one back.
+bool IsSameState(const struct stat& a, const struct stat& b)
+{
+    return a.st_dev == b.st_dev && a.st_ino == b.st_ino && a.st_size == b.st_size &&
+           IsSameTime(a.st_mtim, b.st_mtim) && IsSameTime(a.st_ctim, b.st_ctim);
+}
+
+std::vector<std::uint8_t> ReadAll(CFile& file)
+{
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(file.GetLength()));
+    bytes.resize(file.Read(bytes.data(), bytes.size()));
+    return bytes;
+}
+
+CCatalogueCache::CResult ReadCatalogue(const std::filesystem::path& path)
+{
+    try {
+        CFile file(TextFromPath(path), CFile::modeRead | CFile::shareDenyWrite);
+        if (file.GetLength() > kMaxCatalogueBytes) {
+            return CCatalogueFault{0, L"Il file è troppo grande per un catalogo."};
+        }
+        return ParseCatalogue(ReadAll(file));
+    } catch (const CFileException& error) {
+        return CCatalogueFault{0, L"Il catalogo non si può leggere: " + error.GetErrorMessage()};
+    }
+}
+} // namespace
+
+const CCatalogueCache::CResult& CCatalogueCache::Get(const std::filesystem::path& path)
+{
+    CEntry& entry = m_entries[path];
+    // Taken before the reading, so that a change during it shows next time.
+    const std::optional<struct stat> status = StatusOf(path);
+    if (!status || !entry.status || !IsSameState(*status, *entry.status)) {
+        entry.result = ReadCatalogue(path);
+        entry.status = status;
+    }
+    return entry.result;
+}

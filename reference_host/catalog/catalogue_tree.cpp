@@ -1,0 +1,121 @@
+#include "reference_host/catalog/catalogue_tree.h"
+
+#include "reference_host/catalog/reader/row_builder.h"
+
+#include <cstddef>
+#include <set>
+
+namespace {
+void AssignSizes(OCArray<double>& target, const std::set<double>& sizes)
+{
+    target.RemoveAll();
+    for (const double size : sizes) {
+        target.Add(size);
+    }
+}
+
+void Chain(std::vector<HK_VDI3805_TYP>& rows)
+{
+    for (std::size_t i = 1; i < rows.size(); ++i) {
+        rows[i - 1].pNext = &rows[i];
+    }
+}
+} // namespace
+
+void CCatalogueTree::ListHersteller(const CString& folder, const std::vector<CString>& names)
+{
+    std::set<const CManufacturer*> formerlyListed;
+    for (auto& [key, hersteller] : m_hersteller) {
+        if (hersteller.bListed) {
+            formerlyListed.insert(&hersteller);
+        }
+        hersteller.bListed = false;
+        hersteller.node.pNext = nullptr;
+    }
+
+    HK_VDI3805_HERSTELLER** link = &m_pFirst;
+    for (const CString& name : names) {
+        CManufacturer& hersteller = Find(folder, name);
+        if (!formerlyListed.contains(&hersteller)) {
+            hersteller.node.pArt = nullptr;
+        }
+        hersteller.bListed = true;
+        *link = &hersteller.node;
+        link = &hersteller.node.pNext;
+    }
+    *link = nullptr;
+}
+
+HK_VDI3805_ART* CCatalogueTree::Hang(const CString& folder, const CString& hersteller,
+                                     const CCatalogue& katalog, double requiredOutput,
+                                     int& rowCount)
+{
+    CManufacturer& owner = Find(folder, hersteller);
+    Unhang(owner);
+
+    rowCount = 0;
+    HK_VDI3805_ART* first = nullptr;
+    HK_VDI3805_ART** link = &first;
+    for (const CCatalogueKind& model : katalog.arten) {
+        CKind& art = owner.arten[model.strName];
+        art.node.Name = model.strName;
+        rowCount += Fill(art, model, requiredOutput);
+        *link = &art.node;
+        link = &art.node.pNext;
+    }
+    return first;
+}
+
+CCatalogueTree::CManufacturer& CCatalogueTree::Find(const CString& folder,
+                                                    const CString& hersteller)
+{
+    CManufacturer& found = m_hersteller[{folder, hersteller}];
+    found.node.Name = hersteller;
+    return found;
+}
+
+void CCatalogueTree::Unhang(CManufacturer& hersteller)
+{
+    for (auto& [artName, art] : hersteller.arten) {
+        art.node.pNext = nullptr;
+        art.node.pProdukt = nullptr;
+        for (auto& [produktName, produkt] : art.produkte) {
+            produkt.node.pNext = nullptr;
+            produkt.node.pTyp = nullptr;
+            produkt.node.Hoehen.RemoveAll();
+            produkt.node.Tiefen.RemoveAll();
+            produkt.rows.clear();
+        }
+    }
+}
+
+int CCatalogueTree::Fill(CKind& art, const CCatalogueKind& model, double requiredOutput)
+{
+    int rowCount = 0;
+    HK_VDI3805_PRODUKT** link = &art.node.pProdukt;
+    for (const CCatalogueProduct& produktModel : model.produkte) {
+        CProduct& produkt = art.produkte[produktModel.strName];
+        produkt.node.Name = produktModel.strName;
+        Fill(produkt, produktModel, requiredOutput);
+        rowCount += static_cast<int>(produkt.rows.size());
+        *link = &produkt.node;
+        link = &produkt.node.pNext;
+    }
+    return rowCount;
+}
+
+void CCatalogueTree::Fill(CProduct& produkt, const CCatalogueProduct& model, double requiredOutput)
+{
+    std::set<double> hoehen;
+    std::set<double> tiefen;
+    for (const CCatalogueSeries& serie : model.serien) {
+        hoehen.insert(serie.dHoehe);
+        tiefen.insert(serie.dTiefe);
+    }
+    AssignSizes(produkt.node.Hoehen, hoehen);
+    AssignSizes(produkt.node.Tiefen, tiefen);
+
+    produkt.rows = BuildRows(model, requiredOutput);
+    Chain(produkt.rows);
+    produkt.node.pTyp = produkt.rows.data();
+}

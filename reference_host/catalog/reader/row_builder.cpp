@@ -1,0 +1,156 @@
+#include "reference_host/catalog/reader/row_builder.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <iterator>
+
+namespace {
+constexpr double kSmallestShare = 0.4;
+constexpr double kLargestShare = 1.6;
+constexpr double kNeighbours = 6.0;
+
+/// One row before its texts and the data of its series are added.
+struct CSize
+{
+    double dLaenge = 0.0;
+    double dElemente = 0.0;
+    /// As the series states it.
+    double dLeistung = 0.0;
+    /// Of this size as a whole.
+    double dInhalt = 0.0;
+};
+
+/// Which sizes to offer out of `count` whose outputs rise from `first` by `increment`: those around
+/// the requirement, and the ends of the series. By its ends a reader of the row chain tells where
+/// one series stops and the next begins, and how far this one goes.
+std::vector<int> SizesAround(double requiredOutput, double first, double increment, int count)
+{
+    const auto place = [&](double output) { return (output - first) / increment; };
+    const double fitting = std::round(place(requiredOutput));
+    const double from =
+        std::min(std::ceil(place(kSmallestShare * requiredOutput)), fitting - kNeighbours);
+    const double to =
+        std::max(std::floor(place(kLargestShare * requiredOutput)), fitting + kNeighbours);
+
+    const double last = count - 1;
+    const double spread = std::min(2.0 * kNeighbours, last);
+    const int lowest = static_cast<int>(std::clamp(from, 0.0, last - spread));
+    const int highest = static_cast<int>(std::clamp(to, spread, last));
+
+    std::vector<int> sizes;
+    if (lowest > 0) {
+        sizes.push_back(0);
+    }
+    for (int i = lowest; i <= highest; ++i) {
+        sizes.push_back(i);
+    }
+    if (highest < count - 1) {
+        sizes.push_back(count - 1);
+    }
+    return sizes;
+}
+
+double ScaledInhalt(const CCatalogueSeries& serie, double inhalt, double laenge)
+{
+    return serie.IsPerMetre() ? inhalt * laenge / 1000.0 : inhalt;
+}
+
+std::vector<CSize> StandardSizes(const CCatalogueSeries& serie)
+{
+    std::vector<CSize> sizes;
+    sizes.reserve(serie.normLaengen.size());
+    for (const CStandardLength& norm : serie.normLaengen) {
+        sizes.push_back(
+            {norm.dLaenge, 0.0, norm.dLeistung, ScaledInhalt(serie, norm.dInhalt, norm.dLaenge)});
+    }
+    return sizes;
+}
+
+std::vector<CSize> CutSizes(const CCatalogueSeries& serie, double requiredOutput)
+{
+    const CCutToLength& cut = *serie.zuschnitt;
+    const double wattsPerMm = serie.dLeistung / 1000.0;
+    std::vector<CSize> sizes;
+    for (const int i :
+         SizesAround(requiredOutput, wattsPerMm * cut.dVon, wattsPerMm * cut.dStufe, cut.nAnzahl)) {
+        const double laenge = cut.dVon + i * cut.dStufe;
+        sizes.push_back({laenge, 0.0, serie.dLeistung, ScaledInhalt(serie, serie.dInhalt, laenge)});
+    }
+    return sizes;
+}
+
+std::vector<CSize> SectionSizes(const CCatalogueSeries& serie, double requiredOutput)
+{
+    const CSections& glieder = *serie.glieder;
+    std::vector<CSize> sizes;
+    for (const int i :
+         SizesAround(requiredOutput, serie.dLeistung, serie.dLeistung, glieder.nMax)) {
+        const int count = i + 1;
+        sizes.push_back({count * glieder.dGliedLaenge + glieder.dZugabe, static_cast<double>(count),
+                         serie.dLeistung, count * serie.dInhalt});
+    }
+    return sizes;
+}
+
+/// Both in one rising order. Where they share a length the standard one stays.
+std::vector<CSize> Merged(const std::vector<CSize>& standard, const std::vector<CSize>& cut)
+{
+    std::vector<CSize> sizes;
+    std::ranges::merge(standard, cut, std::back_inserter(sizes), {}, &CSize::dLaenge,
+                       &CSize::dLaenge);
+    const auto isSameLength = [](const CSize& a, const CSize& b) { return a.dLaenge == b.dLaenge; };
+    sizes.erase(std::unique(sizes.begin(), sizes.end(), isSameLength), sizes.end());
+    return sizes;
+}
+
+std::vector<CSize> SizesOf(const CCatalogueSeries& serie, double requiredOutput)
+{
+    if (serie.glieder) {
+        return SectionSizes(serie, requiredOutput);
+    }
+    const std::vector<CSize> standard = StandardSizes(serie);
+    return serie.zuschnitt ? Merged(standard, CutSizes(serie, requiredOutput)) : standard;
+}
+
+const CString& TypeText(const CCatalogueSeries& serie, const CSize& size)
+{
+    const auto own = serie.typTexte.find(serie.IsPerSection() ? size.dElemente : size.dLaenge);
+    return own == serie.typTexte.end() ? serie.strTyp : own->second;
+}
+
+void FillRow(HK_VDI3805_TYP& row, const CCatalogueSeries& serie, const CSize& size)
+{
+    row.Name = TypeText(serie, size);
+    row.Daten.Hoehe = serie.dHoehe;
+    row.Daten.Tiefe = serie.dTiefe;
+    row.Daten.Laenge = size.dLaenge;
+    row.Daten.LeistungEN442 = size.dLeistung;
+    row.Daten.Elemente = size.dElemente;
+    row.Daten.Bauart = serie.cBauart;
+    row.Daten.Exponent = serie.dExponent;
+    row.Daten.Inhalt = size.dInhalt;
+}
+} // namespace
+
+std::vector<HK_VDI3805_TYP> BuildRows(const CCatalogueProduct& produkt, double requiredOutput)
+{
+    const double required =
+        std::isfinite(requiredOutput) && requiredOutput > 0.0 ? requiredOutput : 0.0;
+
+    std::vector<std::vector<CSize>> sizes;
+    std::size_t count = 0;
+    for (const CCatalogueSeries& serie : produkt.serien) {
+        sizes.push_back(SizesOf(serie, required));
+        count += sizes.back().size();
+    }
+
+    std::vector<HK_VDI3805_TYP> rows(count);
+    auto row = rows.begin();
+    for (std::size_t i = 0; i < sizes.size(); ++i) {
+        for (const CSize& size : sizes[i]) {
+            FillRow(*row++, produkt.serien[i], size);
+        }
+    }
+    return rows;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "frame/handover.h"
+#include "reference_host/catalog/reader/catalogue_file.h"
+
+#include <vector>
+
+/// The rows of a product for a required output at standard conditions (watts), series after series,
+/// each in rising lengths. Standard lengths are all there whatever the requirement. Lengths cut to
+/// measure and numbers of sections are those that give 40 % to 160 % of the requirement, and at
+/// least six sizes below and above the one that fits best, as far as the product goes; for a
+/// requirement beyond its ends, the thirteen sizes at that end. A requirement that is no positive
+/// finite number gives the short end. The rows are not linked yet.
+std::vector<HK_VDI3805_TYP> BuildRows(const CCatalogueProduct& produkt, double requiredOutput);

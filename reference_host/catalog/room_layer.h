@@ -1,0 +1,8 @@
+#pragma once
+
+#include "host/api.h"
+#include "platform/text.h"
+
+/// The layer that a template of the settings gives for what stands in a room: "$d" becomes the name
+/// of the room's floor. The module's selection dialog makes the same of it.
+HOST_API CString LayerOfRoom(const CString& layerTemplate, const CString& roomId);

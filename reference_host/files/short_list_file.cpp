@@ -1,0 +1,16 @@
+#include "reference_host/files/short_list_file.h"
+
+#include "common/heizung_ordner.h"
+#include "common/text_file.h"
+#include "platform/file.h"
+#include "platform/path.h"
+
+CShortListFile ReadShortList(const CString& path)
+{
+    const CString file = path.empty() ? HeizungPfad(L"Vent.txt") : path;
+    CShortListFile list;
+    list.strFile = TextFromPath(ResolvePath(file));
+    CFile stream(file, CFile::modeRead);
+    ReadTextLines(stream, list.lines, -1);
+    return list;
+}

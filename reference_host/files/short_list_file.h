@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/array.h"
+#include "platform/text.h"
+
+/// A short list of connection types as it stands in its file.
+struct CShortListFile
+{
+    /// The file, as a system path.
+    CString strFile;
+    /// Its lines, cut and counted as the module cuts them.
+    CStringArray lines;
+};
+
+/// Reads the short list in a file; an empty path stands for the list of the data root, the one that
+/// the connection dialog offers. Raises CFileException if the file cannot be read.
+CShortListFile ReadShortList(const CString& path);

@@ -1,0 +1,126 @@
+#include "reference_host/files/valve_file_check.h"
+
+#include "common/text_file.h"
+#include "platform/file.h"
+#include "platform/format.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <set>
+#include <span>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using Fields = std::vector<std::wstring_view>;
+
+constexpr std::wstring_view kNewHead = L"000";
+constexpr std::wstring_view kArticle = L"800";
+
+struct RecordRule
+{
+    std::wstring_view type;
+    /// The record type that must have come before; empty: none.
+    std::wstring_view parent;
+    /// How many fields the line must have, the record type included.
+    std::size_t nFields;
+};
+
+/// What the reader asks of a line.
+constexpr RecordRule kReadingRules[] = {
+    {L"010", L"", 4},       {L"100", L"", 3},       {L"110", L"100", 3},    {L"160", L"110", 2},
+    {L"200", L"110", 2},    {L"400", L"110", 2},    {L"700", L"110", 1},    {L"710.01", L"110", 1},
+    {L"710.02", L"110", 1}, {L"710.03", L"110", 1}, {L"710.04", L"110", 1}, {L"710.05", L"110", 1},
+    {L"720.01", L"700", 9}, {L"720.02", L"700", 1}, {L"720.03", L"700", 1}, {kArticle, L"110", 2},
+};
+
+/// What fetching a valve asks of its data set, beyond the reader.
+constexpr RecordRule kDataRules[] = {{L"700", L"110", 13}, {L"710.01", L"110", 9}};
+
+Fields Split(const CString& line)
+{
+    Fields fields;
+    SplitFields(fields, line, L';');
+    return fields;
+}
+
+/// Fields are told by their number from 0, as the format counts them.
+CString DescribeMissing(const RecordRule& rule, std::size_t count)
+{
+    const CString first = FormatInt(static_cast<long long>(count));
+    const CString last = FormatInt(static_cast<long long>(rule.nFields) - 1);
+    return L"al record " + CString(rule.type) +
+           (first == last ? L" manca il campo " + last
+                          : L" mancano i campi da " + first + L" a " + last);
+}
+
+std::optional<CValveFileFault> FindFault(const CStringArray& lines,
+                                         std::span<const RecordRule> rules)
+{
+    std::set<std::wstring_view> seen;
+    int number = 0;
+    for (const CString& line : lines) {
+        ++number;
+        const Fields fields = Split(line);
+        if (fields.empty()) {
+            continue;
+        }
+        const auto rule = std::find_if(rules.begin(), rules.end(), [&](const RecordRule& known) {
+            return known.type == fields[0];
+        });
+        seen.insert(fields[0]);
+        if (rule == rules.end()) {
+            continue;
+        }
+        if (!rule->parent.empty() && !seen.contains(rule->parent)) {
+            return CValveFileFault{number, L"il record " + CString(rule->type) +
+                                               L" non ha un record " + CString(rule->parent) +
+                                               L" sopra di sé"};
+        }
+        if (fields.size() < rule->nFields) {
+            return CValveFileFault{number, DescribeMissing(*rule, fields.size())};
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+CValveFileCheck::CValveFileCheck(const CString& path)
+{
+    CFile file(path, CFile::modeRead | CFile::shareDenyWrite);
+    ReadTextLines(file, m_lines, -1);
+}
+
+std::optional<CValveFileFault> CValveFileCheck::FindReadingFault() const
+{
+    if (!m_lines.IsEmpty()) {
+        const Fields head = Split(m_lines[0]);
+        if (!head.empty() && head[0] == kNewHead) {
+            return CValveFileFault{1, L"la testata 000 è di un altro tipo di file"};
+        }
+    }
+    return FindFault(m_lines, kReadingRules);
+}
+
+std::optional<CValveFileFault> CValveFileCheck::FindDataFault() const
+{
+    return FindFault(m_lines, kDataRules);
+}
+
+std::optional<CValveFileFault> CValveFileCheck::FindArticle(const CString& ventilNr) const
+{
+    int number = 0;
+    for (const CString& line : m_lines) {
+        ++number;
+        const Fields fields = Split(line);
+        if (fields.size() > 1 && fields[0] == kArticle && fields[1] == ventilNr) {
+            return CValveFileFault{number, L"alla valvola " + ventilNr +
+                                               L" manca il numero d'ordine o il record 700 a cui "
+                                               L"rimanda"};
+        }
+    }
+    return std::nullopt;
+}

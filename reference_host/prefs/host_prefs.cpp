@@ -1,0 +1,99 @@
+#include "host/host_prefs.h"
+
+#include "platform/environment.h"
+#include "platform/number_scan.h"
+#include "reference_host/prefs/host_settings.h"
+
+namespace {
+
+constexpr wchar_t kMeter[] = L"1";
+constexpr wchar_t kHKLayer[] = L"HEIZ_HK_$d";
+constexpr wchar_t kRed[] = L"1";
+
+/// A choice of yes or no, kept as 1 or 0.
+bool GetFlag(const wchar_t* setting, bool fallback)
+{
+    return _wtoi(GetHostSetting(setting, fallback ? L"1" : L"0")) != 0;
+}
+
+bool TakeUnlessEmpty(const CString& text, CString& target)
+{
+    if (text.empty()) {
+        return false;
+    }
+    target = text;
+    return true;
+}
+
+/// A folder from the settings, else from an environment variable, else an empty text.
+CString GetFolder(const wchar_t* setting, const wchar_t* variable)
+{
+    return GetHostSetting(setting, GetEnvironment(variable).value_or(CString()));
+}
+
+} // namespace
+
+CString GetHKDir(bool /*projectCopy*/)
+{
+    return GetFolder(kSettingHKDir, L"RADSEL_HKDIR");
+}
+
+CString GetVEDir(bool /*projectCopy*/)
+{
+    return GetFolder(kSettingVEDir, L"RADSEL_VEDIR");
+}
+
+void lmGetDimension2(int& code)
+{
+    code = _wtoi(GetHostSetting(kSettingDrawingUnit, kMeter));
+}
+
+int lmGetDimensionUsr()
+{
+    return _wtoi(GetHostSetting(kSettingUserUnit, kMeter));
+}
+
+void lmGetHKLayer(CString& layer)
+{
+    layer = GetHostSetting(kSettingHKLayer, kHKLayer);
+}
+
+void lmGetHKLayerColor(int& farbe)
+{
+    farbe = _wtoi(GetHostSetting(kSettingHKLayerColor, kRed));
+}
+
+void lmGetAutoLayerManagement(bool& automatisch, bool vorgabe)
+{
+    automatisch = GetFlag(kSettingAutoLayer, vorgabe);
+}
+
+bool lmGetDWGDefPath(const LumoDWGDefsNames& name, CString& path)
+{
+    CString folder;
+    switch (name) {
+    case LumoDWGDefsNames::heizkoerper:
+        folder = GetFolder(kSettingHKBlockFolder, L"RADSEL_HKBLOCKDIR");
+        break;
+    case LumoDWGDefsNames::ventile:
+        folder = GetFolder(kSettingValveBlockFolder, L"RADSEL_VEBLOCKDIR");
+        break;
+    }
+    return TakeUnlessEmpty(folder, path);
+}
+
+bool lmGetHKBlock(CString& block)
+{
+    return TakeUnlessEmpty(GetHostSetting(kSettingHKBlock, {}), block);
+}
+
+void lmSetHKBlock(const CString& block)
+{
+    StoreHostSetting(kSettingHKBlock, block);
+}
+
+bool lmGetGlobalSuperUser(bool& superUser)
+{
+    superUser = GetFlag(kSettingSuperUser, false);
+    return true;
+}

@@ -1,0 +1,84 @@
+#include "reference_host/prefs/host_settings.h"
+
+#include "platform/environment.h"
+#include "platform/path.h"
+#include "reference_host/prefs/settings_file.h"
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <system_error>
+
+namespace {
+
+std::map<CString, CString>& Overrides()
+{
+    static std::map<CString, CString> overrides;
+    return overrides;
+}
+
+CString SettingsPath(const CString& folder)
+{
+    return JoinPath(folder, L"settings.txt");
+}
+
+bool HoldsLineEnd(const CString& text)
+{
+    return text.find_first_of(L"\r\n") != CString::npos;
+}
+
+bool IsStorable(const CString& key, const CString& value)
+{
+    return !HoldsLineEnd(key) && !HoldsLineEnd(value) && key.find(L'=') == CString::npos;
+}
+
+} // namespace
+
+std::optional<CString> ConfigurationFolder()
+{
+    const std::optional<CString> chosen = GetEnvironment(L"XDG_CONFIG_HOME");
+    // A relative folder would make the settings depend on where the program was started.
+    if (chosen && chosen->starts_with(L'/')) {
+        return JoinPath(*chosen, L"radsel");
+    }
+    const std::optional<CString> home = GetEnvironment(L"HOME");
+    if (home && home->starts_with(L'/')) {
+        return JoinPath(*home, L".config\\radsel");
+    }
+    return std::nullopt;
+}
+
+CString GetHostSetting(const CString& key, const CString& fallback)
+{
+    const auto found = Overrides().find(key);
+    if (found != Overrides().end()) {
+        return found->second;
+    }
+    const std::optional<CString> folder = ConfigurationFolder();
+    if (!folder) {
+        return fallback;
+    }
+    // Read afresh each time: the file is small, and another process may have stored something.
+    return CSettingsFile(SettingsPath(*folder)).Find(key).value_or(fallback);
+}
+
+void OverrideHostSetting(const CString& key, const CString& value)
+{
+    Overrides()[key] = value;
+}
+
+void ClearHostSettingOverride(const CString& key)
+{
+    Overrides().erase(key);
+}
+
+bool StoreHostSetting(const CString& key, const CString& value)
+{
+    const std::optional<CString> folder = ConfigurationFolder();
+    if (!folder || !IsStorable(key, value)) {
+        return false;
+    }
+    std::error_code error;
+    std::filesystem::create_directories(ResolvePath(*folder), error);
+    return !error && CSettingsFile(SettingsPath(*folder)).Store(key, value);
+}

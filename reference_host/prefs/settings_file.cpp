@@ -1,0 +1,130 @@
+#include "reference_host/prefs/settings_file.h"
+
+#include "platform/encoding.h"
+#include "platform/exception.h"
+#include "platform/file.h"
+#include "platform/path.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <iterator>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace {
+
+constexpr std::string_view kVersionHead = "radsel-settings ";
+constexpr std::string_view kVersion = "1";
+
+std::string HeadOf(const CString& key)
+{
+    return Utf8FromWide(key) + '=';
+}
+
+std::string ReadAll(CFile& file)
+{
+    std::string bytes(static_cast<std::size_t>(file.GetLength()), '\0');
+    bytes.resize(file.Read(bytes.data(), bytes.size()));
+    return bytes;
+}
+
+std::vector<std::string> LinesOf(std::string_view bytes)
+{
+    std::vector<std::string> lines;
+    while (!bytes.empty()) {
+        const std::size_t end = std::min(bytes.find('\n'), bytes.size());
+        std::string_view line = bytes.substr(0, end);
+        if (line.ends_with('\r')) {
+            line.remove_suffix(1);
+        }
+        lines.emplace_back(line);
+        bytes.remove_prefix(std::min(end + 1, bytes.size()));
+    }
+    return lines;
+}
+
+} // namespace
+
+CSettingsFile::CSettingsFile(CString path) : m_path(std::move(path)), m_state(Load()) {}
+
+CSettingsFile::State CSettingsFile::Load()
+{
+    std::vector<std::string> lines;
+    try {
+        CFile file;
+        if (!file.Open(m_path, CFile::modeRead)) {
+            return file.GetOpenError() == ENOENT ? State::missing : State::untouchable;
+        }
+        lines = LinesOf(ReadAll(file));
+    } catch (const CFileException&) {
+        return State::untouchable;
+    }
+
+    if (lines.empty() || !lines.front().starts_with(kVersionHead)) {
+        return State::damaged;
+    }
+    if (lines.front().substr(kVersionHead.size()) != kVersion) {
+        return State::untouchable;
+    }
+    m_lines.assign(std::next(lines.begin()), lines.end());
+    return State::read;
+}
+
+std::size_t CSettingsFile::FindLine(const std::string& head) const
+{
+    const auto found = std::ranges::find_if(
+        m_lines, [&](const std::string& line) { return line.starts_with(head); });
+    return static_cast<std::size_t>(found - m_lines.begin());
+}
+
+std::optional<CString> CSettingsFile::Find(const CString& key) const
+{
+    const std::string head = HeadOf(key);
+    const std::size_t index = FindLine(head);
+    if (index == m_lines.size()) {
+        return std::nullopt;
+    }
+    return WideFromUtf8(std::string_view(m_lines[index]).substr(head.size()));
+}
+
+bool CSettingsFile::Store(const CString& key, const CString& value)
+{
+    if (m_state == State::untouchable || (m_state == State::damaged && !PutAside())) {
+        return false;
+    }
+    const std::string head = HeadOf(key);
+    const std::size_t index = FindLine(head);
+    if (index == m_lines.size()) {
+        m_lines.emplace_back();
+    }
+    m_lines[index] = head + Utf8FromWide(value);
+    try {
+        Write();
+    } catch (const CFileException&) {
+        return false;
+    }
+    m_state = State::read;
+    return true;
+}
+
+bool CSettingsFile::PutAside() const
+{
+    std::error_code error;
+    std::filesystem::copy_file(ResolvePath(m_path), ResolvePath(m_path + L".damaged"),
+                               std::filesystem::copy_options::overwrite_existing, error);
+    return !error;
+}
+
+void CSettingsFile::Write() const
+{
+    std::string bytes;
+    bytes.append(kVersionHead).append(kVersion).append("\n");
+    for (const std::string& line : m_lines) {
+        bytes.append(line).append("\n");
+    }
+    CFile file(m_path, CFile::modeCreate | CFile::modeWrite);
+    file.Write(bytes.data(), bytes.size());
+    file.Close();
+}

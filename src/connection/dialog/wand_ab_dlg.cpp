@@ -1,0 +1,69 @@
+#include "connection/dialog/wand_ab_dlg.h"
+
+#include "common/units.h"
+#include "connection/dialog/wand_ab_template.h"
+#include "host/host_prefs.h"
+
+namespace {
+
+enum Control
+{
+    idWand = 1529,
+    idBoden = 1530,
+    idEinheitWand = 7020,
+    idEinheitBoden = 7023,
+};
+
+} // namespace
+
+CWandAbDlg::CWandAbDlg() : CBrushedDialog(WandAbTemplate()) {}
+
+CWandAbDlg::~CWandAbDlg() = default;
+
+const CMessageMap& CWandAbDlg::GetMessageMap() const
+{
+    static const CMessageMap map(
+        &CBrushedDialog::GetMessageMap(),
+        {
+            On(ControlEvent::textChanged, idWand, &CWandAbDlg::OnTextGeaendert),
+            On(ControlEvent::textChanged, idBoden, &CWandAbDlg::OnTextGeaendert),
+        });
+    return map;
+}
+
+void CWandAbDlg::DoDataExchange(CDataExchange* pDX)
+{
+    CBrushedDialog::DoDataExchange(pDX);
+    DDX_Text(pDX, idWand, m_TextWand);
+    DDX_Text(pDX, idBoden, m_TextBoden);
+}
+
+bool CWandAbDlg::OnInitDialog()
+{
+    CBrushedDialog::OnInitDialog();
+    ResetUnits();
+    if (const VDI6030START* start = ReadDefFile_VDI6030START(false)) {
+        m_Start = *start;
+    }
+    const CString einheit = GetUnitText(false);
+    GetDlgItem(idEinheitWand).SetWindowText(einheit);
+    GetDlgItem(idEinheitBoden).SetWindowText(einheit);
+    m_TextWand = MeterToText(m_Start.AbstandWand);
+    m_TextBoden = MeterToText(m_Start.AbstandBoden);
+    UpdateData(false);
+    GetDlgItem(idWand).SetFocus();
+    return false;
+}
+
+void CWandAbDlg::OnTextGeaendert()
+{
+    UpdateData(true);
+}
+
+void CWandAbDlg::OnOK()
+{
+    m_Start.AbstandWand = TextToMeter(m_TextWand);
+    m_Start.AbstandBoden = TextToMeter(m_TextBoden);
+    WriteDefFile_VDI6030START(&m_Start, false);
+    CBrushedDialog::OnOK();
+}

@@ -1,0 +1,63 @@
+#include "frame/entry_points.h"
+
+#include "connection/dialog/vent_dlg.h"
+#include "frame/ventil_kv.h"
+#include "host/host_prefs.h"
+#include "module/resource_context.h"
+#include "valve/dialog/vent_vdi_dlg.h"
+#include "valve/ventil_abruf.h"
+
+bool ShowVentDlg(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilVorlauf,
+                 VDI3805_VENTIL_KV& ventilRuecklauf, bool& gruppenWaehlbar, bool& ventile,
+                 bool& typ, bool& fanCoil, TGA_LIST* heizkoerper, CDrawer* drawer)
+{
+    const CResourceContext context;
+    CVentDlg dialog;
+    bool superUser = false;
+    lmGetGlobalSuperUser(superUser);
+    VDI3805GetVentilDaten(ventilVorlauf, ventilRuecklauf);
+    dialog.SetzeEingang(anschluss, ventilVorlauf, ventilRuecklauf);
+    dialog.SetzeZeichnung(heizkoerper, drawer);
+    dialog.SetzeRechte(superUser, gruppenWaehlbar);
+    dialog.SetzeFanCoil(fanCoil);
+    if (dialog.DoModal() != kIdOk) {
+        return false;
+    }
+    dialog.HoleErgebnis(anschluss, ventilVorlauf, ventilRuecklauf);
+    ventile = dialog.VentileAktiv();
+    typ = dialog.TypAktiv();
+    fanCoil = dialog.FanCoil();
+    return true;
+}
+
+bool ShowVentVDI3805Dlg(const CString& ventilNr, const CString& hersteller,
+                        VDI3805_VENTIL_KV& ventil)
+{
+    const CResourceContext context;
+    CVentVdiDlg dialog;
+    if (!ventilNr.empty() && !hersteller.empty()) {
+        dialog.SetzeVorgabe(ventilNr, hersteller);
+    }
+    if (dialog.DoModal() != kIdOk) {
+        return false;
+    }
+    dialog.HoleErgebnis(ventil);
+    return true;
+}
+
+bool VDI3805GetVentilDaten(VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2)
+{
+    const CResourceContext context;
+    return HoleVentilDaten(ventil1, ventil2);
+}
+
+void VDI3805GetVentil(const CString& hersteller1, const CString& ventilNr1,
+                      const CString& hersteller2, const CString& ventilNr2,
+                      VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2)
+{
+    ventil1.Hersteller = hersteller1;
+    ventil1.VentilNr = ventilNr1;
+    ventil2.Hersteller = hersteller2;
+    ventil2.VentilNr = ventilNr2;
+    VDI3805GetVentilDaten(ventil1, ventil2);
+}

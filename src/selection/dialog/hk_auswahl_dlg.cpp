@@ -1,0 +1,457 @@
+#include "selection/dialog/hk_auswahl_dlg.h"
+
+#include "common/units.h"
+#include "connection/dialog/wand_ab_dlg.h"
+#include "dialogs/banner.h"
+#include "dialogs/list_tree.h"
+#include "dialogs/platzierung.h"
+#include "frame/entry_points.h"
+#include "frame/vdi6030_start.h"
+#include "host/host_base.h"
+#include "host/host_prefs.h"
+#include "host/host_prompts.h"
+#include "host/image_loader.h"
+#include "platform/format.h"
+#include "platform/number_scan.h"
+#include "selection/dialog/hk_auswahl_template.h"
+#include "uikit/button.h"
+
+#include <utility>
+
+namespace {
+
+constexpr wchar_t kPlatzierung[] = L"RADSEL_HK_AUSWAHL";
+constexpr int kIconKante = 16;
+constexpr int kTimerBesteZeile = 1;
+constexpr int kTimerMillisekunden = 100;
+
+/// Layers that the user may draw on; blocks of every kind; a preview of the host's own size.
+constexpr int kZeichenLayer = 2;
+constexpr int kAlleBloecke = 0;
+constexpr int kGroesseDesHosts = 0;
+
+/// For hosts that draw radiators without blocks: no block and preview, and where the host does not
+/// manage layers, its large layer dialog in place of the swatch.
+constexpr bool kOhneBlock = false;
+
+enum Control
+{
+    idFarbe = 250,
+    idSpeichern = 268,
+    idLoeschen = 269,
+    idLayerAktiv = 3144,
+    idLayer = 3187,
+    idLayerDialog = 3232,
+    idVentile = 7028,
+    idAbstaende = 7022,
+    idVorschau = 16022,
+    idBaum = 18000,
+    idGitter = 18001,
+    idAbweichung = 18015,
+    idLeistungAngabe = 18017,
+    idAlleAnzeigen = 18019,
+    idRest = 18047,
+    idProzentAngabe = 18049,
+    idBlockTitel = 18051,
+    idBloecke = 18080,
+    idRaumtemperatur = 18107,
+};
+
+constexpr int kListen[] = {kListeSystem,   kListeHoeheVon, kListeHoeheBis, kListeTiefeVon,
+                           kListeTiefeBis, idLayer,        idBloecke};
+
+/// A number that the exchange leaves alone until its text was changed, since it runs many times
+/// between two inputs and a text may have fewer digits than the number. A text without a number
+/// reads as 0.0 and is no error: the user may be typing still.
+void DDX_Zahl(CDataExchange* pDX, int id, double& value)
+{
+    const CString shown = FormatPlain(value);
+    CString text = shown;
+    DDX_Text(pDX, id, text);
+    if (pDX->m_bSaveAndValidate && text != shown) {
+        value = _wtof(text);
+    }
+}
+
+/// Passes an event of a range of controls on to the criteria.
+MessageEntry Zu(ControlEvent event, int erste, int letzte, void (CAuswahlKriterien::*operation)())
+{
+    return {event, erste, letzte, [operation](CDialog& dialog, CNotify&) {
+                (static_cast<CHKAuswahlVdi3805Dlg&>(dialog).Kriterien().*operation)();
+            }};
+}
+
+CString BlockOrdner()
+{
+    CString ordner;
+    lmGetDWGDefPath(LumoDWGDefsNames::heizkoerper, ordner);
+    return ordner;
+}
+
+VDI6030START LeseStart()
+{
+    VDI6030START start;
+    if (const VDI6030START* gespeichert = ReadDefFile_VDI6030START(false)) {
+        start = *gespeichert;
+    }
+    return start;
+}
+
+} // namespace
+
+CHKAuswahlVdi3805Dlg::CHKAuswahlVdi3805Dlg(CHKVdi3805& katalog, bool treffer, bool warnen)
+    : CResizingDialog(HKAuswahlTemplate()), m_kriterien(*this, treffer), m_nTransparenz(kDeckend)
+{
+    m_kriterien.m_pVdi = &katalog;
+    m_kriterien.m_bWarnen = warnen;
+}
+
+CHKAuswahlVdi3805Dlg::~CHKAuswahlVdi3805Dlg() = default;
+
+void CHKAuswahlVdi3805Dlg::LayerSetzen(const CString& name, const int& farbe)
+{
+    m_kriterien.m_strLayer = name;
+    m_kriterien.m_nLayerFarbe = farbe;
+}
+
+void CHKAuswahlVdi3805Dlg::LayerHolen(CString& name, int& farbe) const
+{
+    name = m_kriterien.m_strLayer;
+    farbe = m_kriterien.m_nLayerFarbe;
+}
+
+void CHKAuswahlVdi3805Dlg::DrawerSetzen(CDrawer* drawer)
+{
+    m_pDrawer = drawer;
+}
+
+const CMessageMap& CHKAuswahlVdi3805Dlg::GetMessageMap() const
+{
+    using enum ControlEvent;
+    using Dlg = CHKAuswahlVdi3805Dlg;
+    using K = CAuswahlKriterien;
+    static const CMessageMap map(
+        &CResizingDialog::GetMessageMap(),
+        {
+            On(treeItemExpanding, idBaum, &Dlg::OnBaumItemExpanding),
+            On(treeSelectionChanged, idBaum, &Dlg::OnBaumSelChanged),
+            Zu(textChanged, kFeldLaengeVon, kFeldLaengeVon, &K::NeuberechnenWennBereit),
+            Zu(textChanged, kFeldLaengeBis, kFeldLaengeBis, &K::NeuberechnenWennBereit),
+            Zu(textChanged, kFeldLeistungSoll, kFeldLeistungSoll, &K::NeuberechnenWennBereit),
+            Zu(selectionEnded, kListeHoeheVon, kListeHoeheVon, &K::NeuberechnenWennBereit),
+            Zu(selectionEnded, kListeHoeheBis, kListeTiefeBis, &K::NeuberechnenWennBereit),
+            Zu(clicked, idLeistungAngabe, idLeistungAngabe, &K::LeistungAngabeGeklickt),
+            Zu(clicked, idAlleAnzeigen, idAlleAnzeigen, &K::AlleAnzeigenGeklickt),
+            Zu(clicked, idRest, idRest, &K::RestGeklickt),
+            Zu(clicked, idProzentAngabe, idProzentAngabe, &K::ProzentGeaendert),
+            Zu(textChanged, idAbweichung, kFeldProzent, &K::ProzentGeaendert),
+            Zu(textChanged, idRaumtemperatur, idRaumtemperatur, &K::RaumtemperaturGeaendert),
+            Zu(focusLost, idRaumtemperatur, idRaumtemperatur, &K::RaumtemperaturVerlassen),
+            Zu(selectionEnded, kListeSystem, kListeSystem, &K::SystemGewaehlt),
+            Zu(clicked, idSpeichern, idSpeichern, &K::SystemSpeichern),
+            Zu(clicked, idLoeschen, idLoeschen, &K::SystemLoeschen),
+            On(clicked, idLayerAktiv, &Dlg::WendeLayerAktivAn),
+            On(editChanged, idLayer, &Dlg::OnLayerGetippt),
+            On(selectionEnded, idLayer, &Dlg::OnLayerGewaehlt),
+            On(clicked, idFarbe, &Dlg::OnLayerFarbe),
+            On(clicked, idLayerDialog, &Dlg::OnLayerDialog),
+            On(selectionEnded, idBloecke, &Dlg::OnBlockGewaehlt),
+            On(clicked, idVentile, &Dlg::OnVentile),
+            On(clicked, idAbstaende, &Dlg::OnAbstaende),
+        });
+    return map;
+}
+
+/// Texts in the order of their numbers: their change events arrive in the same.
+void CHKAuswahlVdi3805Dlg::DoDataExchange(CDataExchange* pDX)
+{
+    CResizingDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, idBaum, m_baum);
+    for (const int id : kListen) {
+        DDX_Control(pDX, id, m_listen[id]);
+    }
+    CAuswahlKriterien& k = m_kriterien;
+    DDX_Check(pDX, idLayerAktiv, k.m_bLayerAktiv);
+    DDX_Check(pDX, idLeistungAngabe, k.m_bLeistungAngabe);
+    DDX_Check(pDX, idAlleAnzeigen, k.m_bAlleAnzeigen);
+    DDX_Check(pDX, idRest, k.m_bRest);
+    DDX_Check(pDX, idProzentAngabe, k.m_bProzent);
+    DDX_CBIndex(pDX, kListeSystem, k.m_nHeizsystem);
+    DDX_CBIndex(pDX, kListeHoeheVon, k.m_nHoeheVon);
+    DDX_CBIndex(pDX, kListeHoeheBis, k.m_nHoeheBis);
+    DDX_CBIndex(pDX, kListeTiefeVon, k.m_nTiefeVon);
+    DDX_CBIndex(pDX, kListeTiefeBis, k.m_nTiefeBis);
+    DDX_Text(pDX, idLayer, k.m_strLayerEingabe);
+    DDX_Text(pDX, 7007, k.m_strSystemName);
+    DDX_Zahl(pDX, 7008, k.m_Vorlauf);
+    DDX_Zahl(pDX, 7009, k.m_Ruecklauf);
+    DDX_Text(pDX, kFeldLaengeVon, k.m_strLaengeVon);
+    DDX_Text(pDX, kFeldLaengeBis, k.m_strLaengeBis);
+    DDX_Text(pDX, kFeldLeistungSoll, k.m_strLeistungSoll);
+    DDX_Text(pDX, kFeldLeistungIst, k.m_strLeistungIst);
+    DDX_Zahl(pDX, 18012, k.m_RaumBedarf);
+    DDX_Text(pDX, idAbweichung, k.m_strAbweichung);
+    DDX_Zahl(pDX, kFeldProzent, k.m_Prozent);
+    DDX_Text(pDX, 18018, k.m_strExponent);
+    DDX_Text(pDX, 18048, k.m_strRaum);
+    DDX_Text(pDX, idRaumtemperatur, k.m_strRaumtemperatur);
+    DDX_Text(pDX, 18109, m_strPfad);
+}
+
+bool CHKAuswahlVdi3805Dlg::OnInitDialog()
+{
+    CResizingDialog::OnInitDialog();
+    LadeIcons();
+    ResetUnits();
+    m_baum.Fuelle(*m_kriterien.m_pVdi);
+    m_strPfad = GetHKDir(false);
+    m_kriterien.LeistungFilterAus();
+    GitterAnlegen();
+    VorschauAnlegen();
+    FuelleZeichnungsListen();
+    SetzeAnker();
+    PlatzierungLaden(*this, kPlatzierung, &m_nTransparenz, false);
+    m_kriterien.UebergabeLesen();
+    m_baum.WaehleVorgabe();
+    SetExplorerTheme(m_baum);
+    m_kriterien.LayerLesen(m_listen.at(idLayer));
+    m_kriterien.FelderAnzeigen();
+    WendeLayerAktivAn();
+    if (kOhneBlock) {
+        ZeigeOhneBlock();
+    }
+    UpdateData(false);
+    SetTimer(kTimerBesteZeile, kTimerMillisekunden);
+    m_kriterien.m_bInitialisiert = true;
+    return true;
+}
+
+void CHKAuswahlVdi3805Dlg::LadeIcons()
+{
+    const CImageLoader lader;
+    const auto setze = [&](int id, int nummer) {
+        CButton(GetDlgItem(id)).SetIcon(lader.LoadLumoIcon(nummer, kIconKante, kIconKante));
+    };
+    setze(idLoeschen, iconLoeschen);
+    setze(idSpeichern, iconSpeichern);
+}
+
+void CHKAuswahlVdi3805Dlg::GitterAnlegen()
+{
+    m_pGrid = std::make_unique<CHKAuswahlVdi3805Grid>(*this);
+    m_pGrid->AttachTo(GetDlgItem(idGitter),
+                      [this](const std::function<void()>& work) { Guard(work); });
+}
+
+void CHKAuswahlVdi3805Dlg::VorschauAnlegen()
+{
+    if (!kOhneBlock) {
+        m_vorschauBild.Create(styleNone, GetDlgItem(idVorschau).GetPlace(), *this);
+    }
+}
+
+void CHKAuswahlVdi3805Dlg::FuelleZeichnungsListen()
+{
+    if (m_pDrawer == nullptr) {
+        return;
+    }
+    CStringArray namen;
+    m_pDrawer->GetLayerNames(namen, kZeichenLayer);
+    for (const CString& name : namen) {
+        m_listen.at(idLayer).AddString(name);
+    }
+    namen.RemoveAll();
+    m_pDrawer->GetBlockNames(BlockOrdner(), namen, kAlleBloecke);
+    CComboListe& bloecke = m_listen.at(idBloecke);
+    for (const CString& name : namen) {
+        bloecke.AddString(name);
+    }
+    CString letzter;
+    bloecke.SetCurSel(lmGetHKBlock(letzter) ? SucheAnfang(bloecke, letzter) : 0);
+}
+
+void CHKAuswahlVdi3805Dlg::SetzeAnker()
+{
+    GroesseErlauben(false, true);
+    AnkerSetzen(idGitter, ankerStrecken, ankerStrecken, false);
+    AnkerSetzen(idBaum, ankerFest, ankerStrecken, false);
+    AnkerSetzen(kIdOk, ankerMitte, ankerMitgehen, false);
+    AnkerSetzen(kIdCancel, ankerMitte, ankerMitgehen, false);
+    AnkerSetzen(kBannerId, ankerFest, ankerStrecken, false);
+}
+
+void CHKAuswahlVdi3805Dlg::ZeigeOhneBlock()
+{
+    for (const int id : {idBlockTitel, idBloecke, idVorschau}) {
+        GetDlgItem(id).ShowWindow(false);
+    }
+    bool automatisch = false;
+    lmGetAutoLayerManagement(automatisch, false);
+    if (!automatisch) {
+        GetDlgItem(idLayerAktiv).ShowWindow(false);
+        GetDlgItem(idFarbe).ShowWindow(false);
+        m_kriterien.m_bLayerAktiv = 1;
+        GetDlgItem(idLayerDialog).ShowWindow(true);
+    }
+}
+
+void CHKAuswahlVdi3805Dlg::EnableControl(int id, bool enable)
+{
+    GetDlgItem(id).EnableWindow(enable);
+}
+
+void CHKAuswahlVdi3805Dlg::ZeilenAufbauen(bool filtern)
+{
+    m_pGrid->Zeilen().ZeilenAufbauen(filtern);
+}
+
+void CHKAuswahlVdi3805Dlg::OnTimer(int id)
+{
+    if (id == kTimerBesteZeile) {
+        m_pGrid->Zeilen().BesteZeileWaehlen();
+        KillTimer(kTimerBesteZeile);
+    }
+    CResizingDialog::OnTimer(id);
+}
+
+void CHKAuswahlVdi3805Dlg::OnBaumItemExpanding(CNotify& notify)
+{
+    m_baum.LeseHersteller(notify.item);
+}
+
+void CHKAuswahlVdi3805Dlg::OnBaumSelChanged(CNotify& notify)
+{
+    if (m_baum.LeseProdukt(notify.item)) {
+        m_kriterien.NeuesProdukt();
+    } else if (notify.item != nullptr) {
+        m_pGrid->Zeilen().ErgebnisEntfernen();
+    }
+}
+
+void CHKAuswahlVdi3805Dlg::WendeLayerAktivAn()
+{
+    UpdateData(true);
+    const bool aktiv = m_kriterien.m_bLayerAktiv != 0;
+    EnableControl(idLayer, aktiv);
+    EnableControl(idFarbe, aktiv);
+    if (aktiv) {
+        ZeichneFarbe();
+    }
+}
+
+void CHKAuswahlVdi3805Dlg::OnLayerGetippt()
+{
+    UpdateData(true);
+    m_kriterien.m_strLayer = m_kriterien.m_strLayerEingabe;
+}
+
+void CHKAuswahlVdi3805Dlg::OnLayerGewaehlt()
+{
+    const CComboListe& layer = m_listen.at(idLayer);
+    if (layer.GetCurSel() < 0 || m_pDrawer == nullptr) {
+        return;
+    }
+    m_kriterien.m_strLayer = layer.GetItemText(layer.GetCurSel());
+    m_kriterien.m_nLayerFarbe = m_pDrawer->GetLayerColor(m_kriterien.m_strLayer);
+    // Or the next showing of the fields would bring the former layer back.
+    m_kriterien.m_strLayerEingabe = m_kriterien.m_strLayer;
+    ZeichneFarbe();
+}
+
+void CHKAuswahlVdi3805Dlg::OnLayerFarbe()
+{
+    int farbe = m_kriterien.m_nLayerFarbe;
+    if (GetColorDlg(farbe)) {
+        m_kriterien.m_nLayerFarbe = farbe;
+    }
+    ZeichneFarbe();
+}
+
+void CHKAuswahlVdi3805Dlg::OnLayerDialog()
+{
+    CString layer = m_kriterien.m_strLayer;
+    int farbe = m_kriterien.m_nLayerFarbe;
+    if (ShowBigLayerDlg(m_pDrawer, layer, farbe)) {
+        m_kriterien.m_strLayer = layer;
+        UpdateData(false);
+    }
+}
+
+/// The block is kept at once, as drawings go on with it whatever becomes of this dialog.
+void CHKAuswahlVdi3805Dlg::OnBlockGewaehlt()
+{
+    const CComboListe& bloecke = m_listen.at(idBloecke);
+    const int index = bloecke.GetCurSel();
+    m_vorschau = {};
+    if (index >= 0) {
+        const CString block = bloecke.GetItemText(index);
+        LadeVorschau(block);
+        if (!block.empty()) {
+            lmSetHKBlock(block);
+        }
+    }
+    // A block without a picture is no fault that the user should read of.
+    m_vorschauBild.SetBitmap(&m_vorschau);
+}
+
+void CHKAuswahlVdi3805Dlg::LadeVorschau(const CString& block)
+{
+    CBitmap bild;
+    if (m_pDrawer != nullptr && m_pDrawer->GetBlockPreview(BlockOrdner(), block, bild,
+                                                           kGroesseDesHosts, kGroesseDesHosts)) {
+        m_vorschau = std::move(bild);
+    }
+}
+
+void CHKAuswahlVdi3805Dlg::ZeichneFarbe()
+{
+    FarbfeldZeichnen(GetDlgItem(idFarbe), GetRGBFromColor(m_kriterien.m_nLayerFarbe));
+}
+
+void CHKAuswahlVdi3805Dlg::OnVentile()
+{
+    VDI6030START start = LeseStart();
+    bool gruppenWaehlbar = false;
+    bool ventile = true;
+    bool typ = true;
+    bool fanCoil = false;
+    if (ShowVentDlg(start.Anschluss, start.VentilVorlauf, start.VentilRuecklauf, gruppenWaehlbar,
+                    ventile, typ, fanCoil, nullptr, m_pDrawer)) {
+        WriteDefFile_VDI6030START(&start, false);
+    }
+}
+
+void CHKAuswahlVdi3805Dlg::OnAbstaende()
+{
+    CWandAbDlg().DoModal();
+}
+
+void CHKAuswahlVdi3805Dlg::OnPaint()
+{
+    CResizingDialog::OnPaint();
+    ZeichneFarbe();
+}
+
+void CHKAuswahlVdi3805Dlg::OnSysCommand(unsigned id)
+{
+    if ((id & kSysCommandMaske) != kMenuTransparenz) {
+        CResizingDialog::OnSysCommand(id);
+        return;
+    }
+    if (ShowTransDlg(m_nTransparenz)) {
+        SetWindowAlpha(*this, m_nTransparenz);
+    }
+}
+
+void CHKAuswahlVdi3805Dlg::OnOK()
+{
+    PlatzierungSpeichern(*this, kPlatzierung, &m_nTransparenz);
+    m_kriterien.Uebernehmen();
+    CResizingDialog::OnOK();
+}
+
+void CHKAuswahlVdi3805Dlg::OnDestroy()
+{
+    m_pGrid.reset();
+    CResizingDialog::OnDestroy();
+}

@@ -1,0 +1,77 @@
+#include "selection/dialog/hk_auswahl_tree_dlg.h"
+
+#include "dialogs/list_tree.h"
+#include "dialogs/platzierung.h"
+#include "selection/dialog/hk_auswahl_tree_template.h"
+#include "uikit/application.h"
+
+namespace {
+
+constexpr wchar_t kPlatzierung[] = L"RADSEL_HK_AUSWAHL_TREE";
+constexpr int idBaum = 18000;
+
+} // namespace
+
+CHKAuswahlVdi3805TreeDlg::CHKAuswahlVdi3805TreeDlg(CHKVdi3805* vdi)
+    : CResizingDialog(HKAuswahlTreeTemplate()), m_pVdi(vdi)
+{
+}
+
+CHKAuswahlVdi3805TreeDlg::~CHKAuswahlVdi3805TreeDlg() = default;
+
+const CMessageMap& CHKAuswahlVdi3805TreeDlg::GetMessageMap() const
+{
+    using Dlg = CHKAuswahlVdi3805TreeDlg;
+    static const CMessageMap map(
+        &CResizingDialog::GetMessageMap(),
+        {
+            On(ControlEvent::treeItemExpanding, idBaum, &Dlg::OnBaumItemExpanding),
+            On(ControlEvent::treeSelectionChanged, idBaum, &Dlg::OnBaumSelChanged),
+        });
+    return map;
+}
+
+void CHKAuswahlVdi3805TreeDlg::DoDataExchange(CDataExchange* pDX)
+{
+    CResizingDialog::DoDataExchange(pDX);
+    DDX_Control(pDX, idBaum, m_baum);
+}
+
+bool CHKAuswahlVdi3805TreeDlg::OnInitDialog()
+{
+    CResizingDialog::OnInitDialog();
+    m_baum.Fuelle(*m_pVdi);
+    SetzeAnker();
+    PlatzierungLaden(*this, kPlatzierung, nullptr, false);
+    m_baum.WaehleVorgabe();
+    SetExplorerTheme(m_baum);
+    return true;
+}
+
+void CHKAuswahlVdi3805TreeDlg::SetzeAnker()
+{
+    GroesseErlauben(true, true);
+    AnkerSetzen(idBaum, ankerStrecken, ankerStrecken, false);
+    AnkerSetzen(kIdOk, ankerMitgehen, ankerMitgehen, false);
+    AnkerSetzen(kIdCancel, ankerMitgehen, ankerMitgehen, false);
+    AnkerSetzen(kBannerId, ankerFest, ankerStrecken, false);
+}
+
+void CHKAuswahlVdi3805TreeDlg::OnBaumItemExpanding(CNotify& notify)
+{
+    if (m_baum.IstUngelesen(notify.item)) {
+        const CWaitCursor warten;
+        m_baum.LeseHersteller(notify.item);
+    }
+}
+
+void CHKAuswahlVdi3805TreeDlg::OnBaumSelChanged(CNotify& notify)
+{
+    m_baum.LeseProdukt(notify.item);
+}
+
+void CHKAuswahlVdi3805TreeDlg::OnOK()
+{
+    PlatzierungSpeichern(*this, kPlatzierung, &kDeckend);
+    CResizingDialog::OnOK();
+}

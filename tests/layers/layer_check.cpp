@@ -1,0 +1,163 @@
+#include "tests/layers/layer_check.h"
+
+#include <algorithm>
+#include <fstream>
+#include <map>
+#include <optional>
+#include <regex>
+#include <set>
+#include <sstream>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct CRoom
+{
+    std::string strToolkit;
+    std::vector<std::string> uses;
+    /// All that it may include, by way of the rooms it uses as well.
+    std::set<std::string> reach;
+};
+
+class CLayerCheck
+{
+public:
+    CLayerCheck(const fs::path& root, const std::string& table) : m_root(root)
+    {
+        std::istringstream lines(table);
+        for (std::string line; std::getline(lines, line);) {
+            std::istringstream words(line);
+            std::string folder;
+            CRoom room;
+            words >> folder >> room.strToolkit;
+            for (std::string used; words >> used;) {
+                room.uses.push_back(used);
+            }
+            m_rooms[folder] = std::move(room);
+        }
+    }
+
+    std::vector<std::string> Run()
+    {
+        for (auto& [folder, room] : m_rooms) {
+            Follow(folder, room.reach);
+            if (room.reach.contains(folder)) {
+                m_faults.push_back("table: " + folder + " uses itself by way of what it uses");
+            }
+        }
+        std::set<std::string> houses;
+        for (const auto& [folder, room] : m_rooms) {
+            houses.insert(folder.substr(0, folder.find('/')));
+        }
+        for (const std::string& house : houses) {
+            for (const auto& entry : fs::recursive_directory_iterator(m_root / house)) {
+                const std::string kind = entry.path().extension();
+                if (kind == ".h" || kind == ".cpp") {
+                    CheckFile(fs::relative(entry.path(), m_root));
+                }
+            }
+        }
+        std::ranges::sort(m_faults);
+        return m_faults;
+    }
+
+private:
+    void Follow(const std::string& folder, std::set<std::string>& reach) const
+    {
+        const auto room = m_rooms.find(folder);
+        if (room == m_rooms.end()) {
+            return;
+        }
+        for (const std::string& used : room->second.uses) {
+            if (reach.insert(used).second) {
+                Follow(used, reach);
+            }
+        }
+    }
+
+    std::optional<std::string> RoomOf(const fs::path& file) const
+    {
+        for (fs::path folder = file.parent_path(); !folder.empty(); folder = folder.parent_path()) {
+            if (m_rooms.contains(folder.generic_string())) {
+                return folder.generic_string();
+            }
+        }
+        return std::nullopt;
+    }
+
+    /// Files of the module are named from its own folder, all others from the root.
+    std::optional<fs::path> Resolve(const std::string& included) const
+    {
+        for (const fs::path& candidate : {fs::path("src") / included, fs::path(included)}) {
+            if (fs::is_regular_file(m_root / candidate)) {
+                return candidate;
+            }
+        }
+        return std::nullopt;
+    }
+
+    void CheckFile(const fs::path& file)
+    {
+        const auto folder = RoomOf(file);
+        if (!folder) {
+            m_faults.push_back(file.generic_string() + ": its folder is no room");
+            return;
+        }
+        const CRoom& room = m_rooms.at(*folder);
+        const bool open = room.strToolkit == "toolkit=open" ||
+                          (room.strToolkit == "toolkit=inside" &&
+                           (file.extension() == ".cpp" || file.parent_path() != *folder));
+        std::ifstream stream(m_root / file);
+        int number = 0;
+        for (std::string line; std::getline(stream, line);) {
+            ++number;
+            const std::string place = file.generic_string() + ':' + std::to_string(number) + ": ";
+            CheckInclude(place, line, *folder, room);
+            CheckToolkit(place, line, *folder, room, open);
+        }
+    }
+
+    void CheckInclude(const std::string& place, const std::string& line, const std::string& folder,
+                      const CRoom& room)
+    {
+        static const std::regex own(R"re(^\s*#\s*include\s*"([^"]+)")re");
+        std::smatch match;
+        if (!std::regex_search(line, match, own)) {
+            return;
+        }
+        const auto target = Resolve(match[1]);
+        const auto targetRoom = target ? RoomOf(*target) : std::nullopt;
+        if (!targetRoom) {
+            m_faults.push_back(place + match[1].str() + " is in no room");
+        } else if (*targetRoom != folder && !room.reach.contains(*targetRoom)) {
+            m_faults.push_back(place + folder + " may not include " + *targetRoom);
+        }
+    }
+
+    void CheckToolkit(const std::string& place, const std::string& line, const std::string& folder,
+                      const CRoom& room, bool open)
+    {
+        static const std::regex header(R"(^\s*#\s*include\s*[<"]Q[A-Za-z/]+)");
+        static const std::regex name(R"(^[^/"]*\bQ[A-Z][a-z]+)");
+        if (open) {
+            return;
+        }
+        if (std::regex_search(line, header)) {
+            m_faults.push_back(place + folder + " is free of the toolkit");
+        } else if (room.strToolkit == "toolkit=inside" && std::regex_search(line, name)) {
+            m_faults.push_back(place + "a header of " + folder + " shows the toolkit");
+        }
+    }
+
+    fs::path m_root;
+    std::map<std::string, CRoom> m_rooms;
+    std::vector<std::string> m_faults;
+};
+
+} // namespace
+
+std::vector<std::string> FindLayerFaults(const fs::path& root, const std::string& table)
+{
+    return CLayerCheck(root, table).Run();
+}

@@ -1,0 +1,223 @@
+#include "host/host_catalog.h"
+
+#include "reference_host/prefs/host_settings.h"
+#include "tests/reference_host/catalog/catalogue_fixture.h"
+
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+class CHostCatalogTest : public CCatalogueTest
+{
+protected:
+    /// A file with one standard length in each of these products of kind "K".
+    static std::string Products(const std::vector<std::string>& names, double length = 500)
+    {
+        std::string bytes = "010;200410;Prova;20240301\n100;1;K\n";
+        for (const std::string& name : names) {
+            bytes += "110;1;" + name + "\n700;1;T;M;600;102;1000;1.3;6.3\n710.01;1;" +
+                     std::to_string(length) + "\n";
+        }
+        return bytes;
+    }
+
+    static std::vector<CString> Makers()
+    {
+        std::vector<CString> names;
+        for (auto* maker = ReadHKDaten(); maker; maker = maker->pNext) {
+            names.push_back(maker->Name);
+        }
+        return names;
+    }
+};
+} // namespace
+
+TEST_F(CHostCatalogTest, MakersAreTheSubFoldersWithACatalogue)
+{
+    EXPECT_TRUE(Makers().empty());
+    for (const char* file : {"beta/hk.tga", "Gamma/HK.TGA", "Alfa/Hk.Tga", "Delta/ha.tga", "hk.tga",
+                             "T\xC3\xBCr/hk.tga"}) {
+        m_folder.WriteBytes(file, "");
+    }
+    std::filesystem::create_directories(m_folder.Root() / "Epsilon" / "hk.tga");
+    EXPECT_EQ(Makers(), (std::vector<CString>{L"Alfa", L"beta", L"Gamma", L"T\u00FCr"}));
+    EXPECT_EQ(FindHersteller(L"beta")->pArt, nullptr);
+    EXPECT_EQ(FindHersteller(L"Beta"), nullptr);
+
+    OverrideHostSetting(kSettingHKDir, m_folder.Path("nowhere"));
+    EXPECT_TRUE(Makers().empty());
+    EXPECT_EQ(FindHersteller(L"beta"), nullptr);
+}
+
+TEST_F(CHostCatalogTest, NamesAreLookedUpExactlyAndNullHasNothingBelow)
+{
+    WriteCatalogue("Alfa", Products({"P", "Q"}));
+    ASSERT_EQ(Read(L"Alfa"), 2);
+    HK_VDI3805_ART* const art = FindArt(FindHersteller(L"Alfa"), L"K");
+    ASSERT_NE(art, nullptr);
+    EXPECT_EQ(FindProdukt(art, L"Q")->Name, L"Q");
+    EXPECT_EQ(FindProdukt(art, L"q"), nullptr);
+    EXPECT_EQ(FindArt(FindHersteller(L"Alfa"), L""), nullptr);
+    EXPECT_EQ(FindArt(nullptr, L"K"), nullptr);
+    EXPECT_EQ(FindProdukt(nullptr, L"P"), nullptr);
+}
+
+TEST_F(CHostCatalogTest, ListingAgainKeepsWhatWasRead)
+{
+    WriteCatalogue("Alfa", Products({"P"}));
+    ASSERT_EQ(Read(L"Alfa"), 1);
+    HK_VDI3805_HERSTELLER* const alfa = FindHersteller(L"Alfa");
+    const HK_VDI3805_TYP* const row = Produkt(L"Alfa")->pTyp;
+
+    WriteCatalogue("Aaa", Products({"P"}));
+    EXPECT_EQ(Makers(), (std::vector<CString>{L"Aaa", L"Alfa"}));
+    EXPECT_EQ(FindHersteller(L"Alfa"), alfa);
+    EXPECT_EQ(Produkt(L"Alfa")->pTyp, row);
+}
+
+TEST_F(CHostCatalogTest, AMakerThatVanishesIsUnlistedButStaysAllocated)
+{
+    WriteCatalogue("Alfa", Products({"P"}));
+    WriteCatalogue("Beta", Products({"P"}));
+    ASSERT_EQ(Read(L"Alfa"), 1);
+    HK_VDI3805_HERSTELLER* const alfa = FindHersteller(L"Alfa");
+    std::filesystem::remove_all(m_folder.Root() / "Alfa");
+    EXPECT_EQ(Makers(), (std::vector<CString>{L"Beta"}));
+    EXPECT_EQ(alfa->Name, L"Alfa");
+    EXPECT_EQ(alfa->pNext, nullptr);
+    EXPECT_EQ(FindProdukt(FindArt(alfa, L"K"), L"P")->pTyp->Daten.Laenge, 500);
+
+    // Back again it is the same node, unread.
+    WriteCatalogue("Alfa", Products({"P"}, 700));
+    ReadHKDaten();
+    EXPECT_EQ(FindHersteller(L"Alfa"), alfa);
+    EXPECT_EQ(alfa->pArt, nullptr);
+}
+
+TEST_F(CHostCatalogTest, AnotherFolderHasMakersOfItsOwn)
+{
+    WriteCatalogue("Alfa", Products({"P"}));
+    ASSERT_EQ(Read(L"Alfa"), 1);
+    HK_VDI3805_HERSTELLER* const before = FindHersteller(L"Alfa");
+
+    const CTempFolder other;
+    other.WriteBytes("Alfa/hk.tga", Products({"P"}, 900));
+    OverrideHostSetting(kSettingHKDir, other.Path());
+    ReadHKDaten();
+    ASSERT_NE(FindHersteller(L"Alfa"), before);
+    EXPECT_EQ(FindHersteller(L"Alfa")->pArt, nullptr);
+    ASSERT_EQ(Read(L"Alfa"), 1);
+    EXPECT_EQ(Produkt(L"Alfa")->pTyp->Daten.Laenge, 900);
+    EXPECT_EQ(FindProdukt(FindArt(before, L"K"), L"P")->pTyp->Daten.Laenge, 500);
+}
+
+TEST_F(CHostCatalogTest, AChangedRequirementGivesOtherRowsBelowTheSameNodes)
+{
+    WriteCatalogue("Alfa", OneProduct("700;1;T;S;600;101;65;1.28;0.9\n710.03;45;50\n"));
+    // 7 to 24 sections, and the ends of the series, 1 and 50.
+    ASSERT_EQ(Read(L"Alfa", 1000), 20);
+    HK_VDI3805_ART* const art = FindHersteller(L"Alfa")->pArt;
+    HK_VDI3805_PRODUKT* const produkt = Produkt(L"Alfa");
+    EXPECT_EQ(produkt->pTyp->pNext->Daten.Elemente, 7);
+    ASSERT_EQ(Read(L"Alfa", 3250), 32);
+    EXPECT_EQ(FindHersteller(L"Alfa")->pArt, art);
+    EXPECT_EQ(Produkt(L"Alfa"), produkt);
+    EXPECT_EQ(produkt->pTyp->pNext->Daten.Elemente, 20);
+    EXPECT_EQ(produkt->Hoehen.GetSize(), 1);
+}
+
+TEST_F(CHostCatalogTest, AFileThatShrinksKeepsItsNodesAndRetiresTheRest)
+{
+    WriteCatalogue("Alfa", Products({"P", "Q", "R"}));
+    ASSERT_EQ(Read(L"Alfa"), 3);
+    HK_VDI3805_PRODUKT* const p = Produkt(L"Alfa");
+    HK_VDI3805_PRODUKT* const q = Produkt(L"Alfa", L"K", L"Q");
+
+    WriteCatalogue("Alfa", Products({"R", "P"}));
+    ASSERT_EQ(Read(L"Alfa"), 2);
+    EXPECT_EQ(Produkt(L"Alfa"), p);
+    EXPECT_EQ(p->pNext, nullptr);
+    EXPECT_EQ(Produkt(L"Alfa", L"K", L"Q"), nullptr);
+    EXPECT_EQ(q->Name, L"Q");
+    EXPECT_EQ(q->pTyp, nullptr);
+    EXPECT_EQ(q->pNext, nullptr);
+
+    WriteCatalogue("Alfa", Products({"Q"}, 1234));
+    ASSERT_EQ(Read(L"Alfa"), 1);
+    EXPECT_EQ(Produkt(L"Alfa", L"K", L"Q"), q);
+    EXPECT_EQ(q->pTyp->Daten.Laenge, 1234);
+}
+
+TEST_F(CHostCatalogTest, AFileThatVanishesOrBreaksLeavesTheMakerUnread)
+{
+    WriteCatalogue("Alfa", Products({"P"}));
+    ASSERT_EQ(Read(L"Alfa"), 1);
+    HK_VDI3805_HERSTELLER* const alfa = FindHersteller(L"Alfa");
+    HK_VDI3805_PRODUKT* const produkt = Produkt(L"Alfa");
+
+    std::filesystem::remove(m_folder.Root() / "Alfa" / "hk.tga");
+    EXPECT_EQ(ReadVdiFile(L"Alfa", &alfa->pArt, 1000), -1);
+    EXPECT_EQ(alfa->pArt, nullptr);
+    EXPECT_EQ(GetCatalogueError(L"Alfa")->nLine, 0);
+    EXPECT_EQ(produkt->pTyp->Daten.Laenge, 500);
+
+    WriteCatalogue("Alfa", Products({"P"}, 800));
+    EXPECT_EQ(ReadVdiFile(L"Alfa", &alfa->pArt, 1000), 1);
+    EXPECT_FALSE(GetCatalogueError(L"Alfa"));
+    EXPECT_EQ(Produkt(L"Alfa"), produkt);
+    EXPECT_EQ(produkt->pTyp->Daten.Laenge, 800);
+}
+
+TEST_F(CHostCatalogTest, NamesThatLeaveTheFolderAreNoMakers)
+{
+    m_folder.WriteBytes("inside/Alfa/hk.tga", "");
+    m_folder.WriteBytes("hk.tga", Products({"P"}));
+    m_folder.WriteBytes("Outside/hk.tga", Products({"P"}));
+    OverrideHostSetting(kSettingHKDir, m_folder.Path("inside"));
+    for (const CString name : {L"", L".", L"..", L"..\\Outside", L"../Outside", L"nobody"}) {
+        HK_VDI3805_ART* art = nullptr;
+        EXPECT_EQ(ReadVdiFile(name, &art, 1000), -1) << testing::PrintToString(name);
+        EXPECT_TRUE(GetCatalogueError(name));
+    }
+    EXPECT_EQ(ReadVdiFile(L"Alfa", nullptr, 1000), -1);
+}
+
+TEST_F(CHostCatalogTest, NodesThatAHostHungBelowAMakerAreLeftToTheHost)
+{
+    WriteCatalogue("Alfa", Products({"P"}));
+    ReadHKDaten();
+    HK_VDI3805_ART art;
+    HK_VDI3805_PRODUKT produkt;
+    HK_VDI3805_TYP row;
+    art.Name = L"mine";
+    art.pProdukt = &produkt;
+    produkt.pTyp = &row;
+    FindHersteller(L"Alfa")->pArt = &art;
+    ReadHKDaten();
+    EXPECT_EQ(FindArt(FindHersteller(L"Alfa"), L"mine"), &art);
+
+    ASSERT_EQ(Read(L"Alfa"), 1);
+    EXPECT_EQ(FindArt(FindHersteller(L"Alfa"), L"mine"), nullptr);
+    EXPECT_EQ(produkt.pTyp, &row);
+
+    Produkt(L"Alfa")->pTyp = &row;
+    Produkt(L"Alfa")->pNext = &produkt;
+    ASSERT_EQ(Read(L"Alfa"), 1);
+    EXPECT_EQ(Produkt(L"Alfa")->pNext, nullptr);
+    EXPECT_EQ(row.pNext, nullptr);
+}
+
+TEST(RoomTools, TheFloorStandsBeforeTheFirstPoint)
+{
+    const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+        {L"1.05", L"1"},     {L"Piano terra.Cucina", L"Piano terra"},
+        {L" 1 .05.b", L"1"}, {L"Cucina", L""},
+        {L".Cucina", L""},   {L"  .Cucina", L""},
+        {L"", L""},
+    };
+    for (const auto& [raum, geschoss] : cases) {
+        EXPECT_EQ(CRoomTools::GetFloorName(raum), geschoss);
+    }
+}

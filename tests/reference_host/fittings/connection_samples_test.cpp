@@ -1,0 +1,57 @@
+#include "connection/kurzliste.h"
+#include "host/host_base.h"
+#include "host/host_fittings.h"
+#include "platform/encoding.h"
+#include "tests/src/connection/test_ansicht.h"
+#include "tests/support/setting_override.h"
+#include "tools/make_connections_samples.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <tuple>
+
+namespace {
+
+const std::string kRoot = RADSEL_DATA_DIR "/root";
+
+TEST(ConnectionSamples, TheFileIsWhatTheGeneratorMakes)
+{
+    std::ifstream file(kRoot + "/HEIZUNG/Vent.txt", std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_TRUE(bytes == MakeSampleConnections());
+}
+
+TEST(ConnectionSamples, EveryTypeIsReadUnderItsNameAndDiffersFromAllOthers)
+{
+    const CSettingOverride setting{kSettingServerPath, WideFromUtf8(kRoot)};
+    CAnschlussZustand zustand;
+    CTestAnsicht ansicht;
+    ASSERT_TRUE(LeseVentTxt(zustand, ansicht));
+    const Anschlussliste& liste = zustand.m_Anschlussliste;
+    EXPECT_GE(liste.GetSize(), 12);
+    ASSERT_EQ(ansicht.namen.size(), static_cast<std::size_t>(liste.GetSize()));
+
+    std::set<CString> names;
+    // What the search for a record's type compares.
+    std::set<std::tuple<ConnVector, ConnVector, ConnVector, ConnVector, ConnVector>> points;
+    for (int i = 0; i < liste.GetSize(); ++i) {
+        const ConnValues& typ = liste[i];
+        EXPECT_EQ(typ.Name, ansicht.namen[static_cast<std::size_t>(i)]);
+        names.insert(typ.Name);
+        points.emplace(typ.PosAN, typ.OffsetAN, typ.PosRI, typ.OffsetRI, typ.WinkelRI);
+        for (const CString& text : {typ.AnschlussAN, typ.AnschlussRI}) {
+            ConnVector v;
+            double d = 0;
+            int k = 0;
+            EXPECT_EQ(lmGet_K_APUNKT_X(text, v.data(), v.data(), v.data(), d, d, k, d), 8)
+                << Utf8FromWide(typ.Name);
+        }
+    }
+    EXPECT_EQ(names.size(), ansicht.namen.size());
+    EXPECT_EQ(points.size(), ansicht.namen.size());
+}
+
+} // namespace

@@ -1,0 +1,190 @@
+#include "connection/kurzliste.h"
+
+#include "common/heizung_ordner.h"
+#include "common/text_file.h"
+#include "platform/environment.h"
+#include "platform/exception.h"
+#include "platform/message.h"
+#include "tests/src/connection/test_ansicht.h"
+#include "tests/support/setting_override.h"
+#include "tests/support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace {
+
+constexpr wchar_t kPunkt[] = L"-0.5; 0.0;  0;0; 0.5; -0.03; 180;0";
+
+class KurzlisteTest : public ::testing::Test
+{
+protected:
+    KurzlisteTest()
+    {
+        SetEnvironmentReader([this](const CString& name) -> std::optional<CString> {
+            const auto found = m_variables.find(name);
+            return found != m_variables.end() ? std::optional(found->second) : std::nullopt;
+        });
+        m_vorher = std::filesystem::current_path();
+        std::filesystem::create_directory(m_folder.Root() / "cwd");
+        std::filesystem::current_path(m_folder.Root() / "cwd");
+    }
+
+    ~KurzlisteTest() override
+    {
+        std::filesystem::current_path(m_vorher);
+        SetEnvironmentReader({});
+    }
+
+    void Schreibe(const std::vector<CString>& lines)
+    {
+        CStringArray array;
+        for (const CString& line : lines) {
+            array.Add(line);
+        }
+        std::filesystem::create_directories(m_folder.Root() / "HEIZUNG");
+        ASSERT_TRUE(WriteTextFile(HeizungPfad(L"Vent.txt"), array, false, false, 0x1001));
+    }
+
+    CTempFolder m_folder;
+    std::map<CString, CString> m_variables{{L"TGA_DATA_SINGLE", m_folder.Path()}};
+    std::filesystem::path m_vorher;
+    /// Whatever the user of this machine has in his settings.
+    CSettingOverride m_server{kSettingServerPath, L""};
+    CAnschlussZustand m_zustand;
+    CTestAnsicht m_ansicht;
+};
+
+TEST_F(KurzlisteTest, NamesAndEntriesFollowTheirLinesAlone)
+{
+    const CString punkt = kPunkt;
+    struct Case
+    {
+        const char* what;
+        std::vector<CString> lines, names, entries;
+    };
+    const Case cases[] = {
+        {"one type", {L"[Eckventil]", L"V" + punkt, L"R" + punkt}, {L"Eckventil"}, {L"Eckventil"}},
+        {"no closing bracket", {L"[abc", L"V" + punkt, L"R" + punkt}, {L"ab"}, {L"ab"}},
+        {"a bracket alone", {L"[", L"V" + punkt, L"R" + punkt}, {L""}, {L""}},
+        {"two names in a row", {L"[a]", L"[b]", L"V" + punkt, L"R" + punkt}, {L"a", L"b"}, {L"b"}},
+        {"two pairs behind one name",
+         {L"[a]", L"V" + punkt, L"R" + punkt, L"V" + punkt, L"R" + punkt},
+         {L"a"},
+         {L"a", L"a"}},
+        {"too few numbers", {L"[a]", L"V" + punkt, L"R1;2"}, {L"a"}, {}},
+        {"three numbers are enough", {L"[a]", L"V1;2;3", L"R1;2;3"}, {L"a"}, {L"a"}},
+        {"no flow line", {L"[a]", L"v" + punkt, L"R" + punkt}, {L"a"}, {}},
+        {"a name in the place of the return",
+         {L"[a]", L"V" + punkt, L"[b]", L"x", L"y"},
+         {L"a"},
+         {}},
+        {"blank lines count", {L"[a]", L"", L"V" + punkt, L"R" + punkt, L"y"}, {L"a"}, {}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        Schreibe(c.lines);
+        m_zustand = {};
+        m_ansicht = {};
+        EXPECT_TRUE(LeseVentTxt(m_zustand, m_ansicht));
+        EXPECT_EQ(m_ansicht.namen, c.names);
+        std::vector<CString> entries;
+        for (const ConnValues& eintrag : m_zustand.m_Anschlussliste) {
+            entries.push_back(eintrag.Name);
+            EXPECT_EQ(eintrag.PosAN, eintrag.PosRI);
+        }
+        EXPECT_EQ(entries, c.entries);
+    }
+}
+
+TEST_F(KurzlisteTest, AMissingOrEmptyFileIsNoListAndAHalfPairRaises)
+{
+    EXPECT_FALSE(LeseVentTxt(m_zustand, m_ansicht));
+    Schreibe({});
+    EXPECT_FALSE(LeseVentTxt(m_zustand, m_ansicht));
+    Schreibe({L"[a]", CString(L"V") + kPunkt});
+    EXPECT_THROW(LeseVentTxt(m_zustand, m_ansicht), CInvalidArgException);
+    EXPECT_EQ(m_ansicht.namen, std::vector<CString>{L"a"});
+}
+
+TEST_F(KurzlisteTest, DistancesOfAnEntryComeInTheOrderOfTheText)
+{
+    Anschlussliste liste;
+    ASSERT_TRUE(NeuerEintrag(liste, L"a", CString(kPunkt) + L";0.1;0.2;1;0.3",
+                             CString(kPunkt) + L";0.4;0.5;2;0.6"));
+    EXPECT_EQ(liste[0].SeitAbstandAN, 0.1);
+    EXPECT_EQ(liste[0].SeitAbstandRI, 0.4);
+    EXPECT_EQ(liste[0].KreuzAbstand, 0.5) << "the return is read last";
+    EXPECT_EQ(liste[0].KreuzTyp, 2);
+    EXPECT_EQ(liste[0].WandAbstand, 0.6);
+}
+
+TEST_F(KurzlisteTest, StoringChangesTheListInMemoryAndNeverVentTxt)
+{
+    const CString punkt = kPunkt;
+    const CString ritorno = L"0.5;0;0;0;-0.5;0.03;0;0";
+    Schreibe({L"[a]", L"V" + punkt, L"R" + ritorno, L"[b]", L"V" + punkt, L"R" + ritorno});
+    const std::string before = m_folder.ReadBytes("HEIZUNG/Vent.txt");
+    LeseVentTxt(m_zustand, m_ansicht);
+    m_zustand.m_Aktuell = m_zustand.m_Anschlussliste[0];
+    m_zustand.m_TextName = L"nuovo";
+
+    SchreibeVentTxt(m_zustand, m_ansicht);
+    EXPECT_EQ(m_zustand.m_Anschlussliste[0].Name, L"a") << "nothing selected, nothing stored";
+
+    m_ansicht.gewaehlt = 0;
+    m_zustand.m_TextName = L"vecchio";
+    m_ansicht.beimLesen = [this] { m_zustand.m_TextName = L"nuovo"; };
+    SchreibeVentTxt(m_zustand, m_ansicht);
+    m_ansicht.beimLesen = {};
+    EXPECT_EQ(m_ansicht.aufrufe, "Read ");
+    EXPECT_EQ(m_zustand.m_Anschlussliste[0].Name, L"nuovo");
+    EXPECT_EQ(m_ansicht.namen.size(), 2U) << "overwritten, the name stays";
+
+    m_zustand.m_bNeu = true;
+    m_zustand.m_TextName = L"terzo";
+    SchreibeVentTxt(m_zustand, m_ansicht);
+    EXPECT_EQ(m_zustand.m_Anschlussliste.GetSize(), 3);
+    EXPECT_EQ(m_zustand.m_Anschlussliste[2].Name, L"terzo");
+    EXPECT_EQ(m_ansicht.namen.back(), L"terzo");
+    EXPECT_EQ(m_ansicht.gewaehlt, 2);
+
+    m_zustand.m_bNeu = false;
+    m_ansicht.gewaehlt = 3;
+    EXPECT_THROW(SchreibeVentTxt(m_zustand, m_ansicht), CInvalidArgException);
+
+    EXPECT_EQ(m_folder.ReadBytes("HEIZUNG/Vent.txt"), before);
+    CStringArray written;
+    ReadTextFile(L"R" + ritorno, written, 0, -1);
+    ASSERT_EQ(written.GetSize(), 9) << "a file of the last line's name in the current folder";
+    EXPECT_EQ(written[6], L"[terzo]");
+    EXPECT_EQ(written[7], L"V" + punkt);
+    EXPECT_EQ(written[8], L"R" + ritorno);
+}
+
+TEST_F(KurzlisteTest, TheDataRootIsLookedForInOrderAndMissedOnce)
+{
+    EXPECT_EQ(HeizungPfad(L"Vent.txt"), m_folder.Path() + L"\\HEIZUNG\\Vent.txt");
+    m_variables[L"TGA_DATA_SINGLE_S"] = L"S:";
+    EXPECT_EQ(HeizungPfad(L"Vent.txt"), L"S:\\HEIZUNG\\Vent.txt");
+    OverrideHostSetting(kSettingServerPath, L"\\\\server\\tga");
+    EXPECT_EQ(HeizungPfad(L"Vent.txt"), L"\\\\server\\tga\\HEIZUNG\\Vent.txt");
+    OverrideHostSetting(kSettingServerPath, L"");
+
+    m_variables.clear();
+    std::vector<MessageBoxText> messages;
+    SetMessageHandler([&](const MessageBoxText& message) { messages.push_back(message); });
+    EXPECT_EQ(HeizungPfad(L"Vent.txt"), L"\\HEIZUNG\\Vent.txt");
+    EXPECT_EQ(HeizungPfad(L"Vent.txt"), L"\\HEIZUNG\\Vent.txt");
+    SetMessageHandler({});
+    ASSERT_EQ(messages.size(), 1U) << "once per process";
+    EXPECT_EQ(messages[0].text, L"Install-Error");
+    EXPECT_EQ(messages[0].caption, L"Missing Environmental-Variable: TGA_DATA_SINGLE");
+    EXPECT_EQ(messages[0].icon, MessageIcon::stop);
+}
+
+} // namespace

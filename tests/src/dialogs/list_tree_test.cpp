@@ -1,0 +1,200 @@
+#include "dialogs/list_tree.h"
+
+#include "tests/dialog_support/dialog_driver.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <functional>
+#include <utility>
+#include <vector>
+
+namespace {
+
+enum Ids
+{
+    idDialog = 7100,
+    idBaum = 10,
+};
+
+using enum ControlKind;
+
+const DialogTemplate kTemplate = {idDialog, L"Prova",   120,
+                                  80,       frameFixed, {{idBaum, tree, L"", 4, 4, 100, 40}}};
+
+class CListenDialog : public CDialog
+{
+public:
+    CListenDialog() : CDialog(kTemplate) {}
+
+    /// Opens the dialog and has the work done on its controls.
+    void Run(const std::function<void()>& work)
+    {
+        m_driver.WhenOpens(idDialog, [&](CDialogUser&) {
+            work();
+            EndDialog(kIdOk);
+        });
+        DoModal();
+    }
+
+    /// Adds the last text of a path below the others, which are there.
+    void Add(const std::vector<CString>& path)
+    {
+        HTREEITEM parent = nullptr;
+        for (std::size_t i = 0; i + 1 < path.size(); ++i) {
+            parent = Child(parent, path[i]);
+        }
+        m_baum.InsertItem(path.back(), -1, -1, parent);
+    }
+
+    HTREEITEM Item(const std::vector<CString>& path) const
+    {
+        HTREEITEM item = nullptr;
+        for (const CString& text : path) {
+            item = Child(item, text);
+        }
+        return item;
+    }
+
+    std::vector<CString> Path(HTREEITEM item) const
+    {
+        std::vector<CString> path;
+        for (; item != nullptr; item = m_baum.GetParentItem(item)) {
+            path.insert(path.begin(), m_baum.GetItemText(item));
+        }
+        return path;
+    }
+
+    CTreeCtrl m_baum;
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, idBaum, m_baum); }
+
+private:
+    HTREEITEM Child(HTREEITEM parent, const CString& text) const
+    {
+        HTREEITEM item = parent != nullptr ? m_baum.GetChildItem(parent) : m_baum.GetRootItem();
+        while (item != nullptr && m_baum.GetItemText(item) != text) {
+            item = m_baum.GetNextSiblingItem(item);
+        }
+        return item;
+    }
+
+    CDialogDriver m_driver;
+};
+
+constexpr TreeSearch kForward;
+constexpr TreeSearch kBackward = {false, false};
+
+/// Two makers with a kind and products, one that has not been read.
+void Fill(CListenDialog& dialog)
+{
+    for (const std::vector<CString>& path :
+         std::vector<std::vector<CString>>{{L"Alfa Nord"},
+                                           {L"Alfa Nord", L"Piastre"},
+                                           {L"Alfa Nord", L"Piastre", L"Uno"},
+                                           {L"Alfa Nord", L"Piastre", L"Due"},
+                                           {L"Beta"},
+                                           {L"Beta", L"..."},
+                                           {L"Alfa"},
+                                           {L"Alfa", L"Piastre"},
+                                           {L"Alfa", L"Piastre", L"Uno"}}) {
+        dialog.Add(path);
+    }
+}
+
+TEST(FindTreeItem, WalksFromBehindTheStartAndAroundTheEnds)
+{
+    struct Case
+    {
+        std::vector<CString> start;
+        CString text;
+        TreeSearch search;
+        std::vector<CString> found;
+    };
+    const std::vector<Case> cases = {
+        {{}, L"alfa nord", kForward, {L"Alfa Nord"}},
+        {{L"Alfa Nord"}, L"alfa", kForward, {L"Alfa"}},
+        {{L"Alfa Nord", L"Piastre", L"Due"}, L"e", kForward, {L"Beta"}},
+        {{L"Alfa", L"Piastre", L"Uno"}, L"uno", kForward, {L"Alfa Nord", L"Piastre", L"Uno"}},
+        {{L"Beta"}, L"beta", kForward, {}},
+        {{L"Beta"}, L"manca", kForward, {}},
+        {{L"Beta"}, L"", kForward, {}},
+        {{L"Alfa"}, L"piastre", {true}, {}},
+        {{L"Alfa"}, L"Piastre", {true}, {L"Alfa", L"Piastre"}},
+        {{L"Beta"}, L"e", kBackward, {L"Alfa Nord", L"Piastre", L"Due"}},
+        {{L"Alfa Nord", L"Piastre", L"Uno"}, L"a", kBackward, {L"Alfa Nord", L"Piastre"}},
+        {{L"Alfa Nord"}, L"a", kBackward, {L"Alfa", L"Piastre"}},
+        {{L"Alfa Nord"}, L"uno", kBackward, {L"Alfa", L"Piastre", L"Uno"}},
+        {{L"Beta"}, L"ALF", {false, true, false, true}, {}},
+        {{L"Beta"}, L"ALFA", {false, true, false, true}, {L"Alfa"}},
+    };
+    CListenDialog dialog;
+    dialog.Run([&] {
+        EXPECT_EQ(FindTreeItem(L"a", dialog.m_baum, kForward, nullptr), nullptr) << "empty tree";
+        Fill(dialog);
+        for (const Case& c : cases) {
+            const HTREEITEM found =
+                FindTreeItem(c.text, dialog.m_baum, c.search, dialog.Item(c.start));
+            EXPECT_EQ(dialog.Path(found), c.found) << testing::PrintToString(c.text);
+        }
+    });
+}
+
+TEST(FindTreeItem, BeginsAtTheSelectionWhereNoStartIsGiven)
+{
+    CListenDialog dialog;
+    dialog.Run([&] {
+        dialog.Add({L"Alfa"});
+        EXPECT_EQ(FindTreeItem(L"alfa", dialog.m_baum, kForward, nullptr), dialog.Item({L"Alfa"}))
+            << "nothing is selected, so that the first item is looked at";
+        dialog.m_baum.SelectItem(dialog.Item({L"Alfa"}));
+        EXPECT_EQ(FindTreeItem(L"alfa", dialog.m_baum, kForward, nullptr), nullptr);
+        dialog.Add({L"Alfa 2"});
+        EXPECT_EQ(FindTreeItem(L"alfa", dialog.m_baum, kForward, nullptr),
+                  dialog.Item({L"Alfa 2"}));
+    });
+}
+
+TEST(FindTreeItem, AWordCountsOnlyAtTheStartOfWhatRemains)
+{
+    const std::vector<std::pair<CString, bool>> cases = {
+        {L"tubo", true},       {L"tubo 2", true},      {L"tubo2", true},     {L"Tubo, lungo", true},
+        {L"tubo\u00B0", true}, {L"tubo\u00E0", false}, {L"tubo_2", false},   {L"tubol", false},
+        {L"un tubo", false},   {L"un tubo x", false},  {L"xtubotubo", true}, {L"xtubo tubo", false},
+        {L"tuboltubo", false},
+    };
+    CListenDialog dialog;
+    dialog.Run([&] {
+        for (const auto& [text, counts] : cases) {
+            dialog.m_baum.DeleteAllItems();
+            dialog.Add({text});
+            EXPECT_EQ(FindTreeItem(L"tubo", dialog.m_baum, {false, true, true}, nullptr) != nullptr,
+                      counts)
+                << testing::PrintToString(text);
+        }
+    });
+}
+
+TEST(FixedColor, EveryIndexHasItsColour)
+{
+    const COLORREF white = RGB(255, 255, 255);
+    const std::vector<std::pair<unsigned, COLORREF>> cases = {
+        {0, white},
+        {1, RGB(51, 102, 153)},
+        {2, RGB(255, 255, 0)},
+        {4, RGB(255, 0, 0)},
+        {5, RGB(0, 0, 0)},
+        {6, RGB(183, 207, 192)},
+        {7, RGB(254, 254, 200)},
+        {8, RGB(0, 255, 255)},
+        {20, RGB(220, 220, 220)},
+        {21, RGB(240, 240, 240)},
+        {0xFFFFFFFF, white},
+    };
+    for (const auto& [index, color] : cases) {
+        EXPECT_EQ(GetFixedColor(index), color) << index;
+    }
+}
+
+} // namespace

@@ -1,0 +1,226 @@
+#include "platform/file.h"
+
+#include "platform/exception.h"
+#include "platform/path.h"
+#include "tests/support/file_size_limit.h"
+#include "tests/support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr unsigned kCreate = CFile::modeCreate | CFile::modeWrite;
+
+class FileTest : public ::testing::Test
+{
+protected:
+    static void Put(CFile& file, const std::string& bytes)
+    {
+        file.Write(bytes.data(), bytes.size());
+    }
+
+    /// Gives a file, new or not, this content.
+    static void Replace(const CString& path, const std::string& bytes)
+    {
+        CFile file(path, kCreate);
+        Put(file, bytes);
+        file.Close();
+    }
+
+    /// Names of all files in the folder: a temporary file left behind would show here.
+    std::vector<std::string> Names() const
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(ResolvePath(m_folder.Path()))) {
+            names.push_back(entry.path().filename().string());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    CTempFolder m_folder;
+};
+
+TEST_F(FileTest, ACreatedFileAppearsOnCloseAndNotBefore)
+{
+    m_folder.WriteBytes("a.txt", "old content");
+    CFile file(m_folder.Path("a.txt"), kCreate);
+    Put(file, "new");
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "old content");
+    file.Close();
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "new");
+    EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
+}
+
+TEST_F(FileTest, WithoutCloseTheOldFileStays)
+{
+    m_folder.WriteBytes("a.txt", "old");
+    {
+        CFile file(m_folder.Path("a.txt"), kCreate);
+        Put(file, "half of a new");
+    }
+    {
+        CFile file(m_folder.Path("b.txt"), kCreate);
+    }
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "old");
+    EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
+}
+
+TEST_F(FileTest, NoTruncateKeepsTheContentForAppending)
+{
+    m_folder.WriteBytes("a.txt", "one");
+    CFile file(m_folder.Path("a.txt"),
+               CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite);
+    EXPECT_EQ(file.GetPosition(), 0U);
+    EXPECT_EQ(file.SeekToEnd(), 3U);
+    Put(file, " two");
+    file.Close();
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "one two");
+}
+
+TEST_F(FileTest, ReplacingKeepsPermissionsAndLinks)
+{
+    m_folder.WriteBytes("real.txt", "old");
+    const fs::path real = ResolvePath(m_folder.Path("real.txt"));
+    const fs::path link = real.parent_path() / "link.txt";
+    fs::permissions(real, fs::perms::owner_all);
+    fs::create_symlink("real.txt", link);
+
+    Replace(TextFromPath(link), "new");
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(m_folder.ReadBytes("real.txt"), "new");
+    EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_all);
+}
+
+TEST_F(FileTest, WhatCannotBeOpenedSaysWhy)
+{
+    m_folder.WriteBytes("readonly.txt", "kept");
+    fs::permissions(ResolvePath(m_folder.Path("readonly.txt")), fs::perms::owner_read);
+    const std::tuple<CString, unsigned, CFileException::Cause> cases[] = {
+        {L"missing.txt", CFile::modeRead, CFileException::Cause::fileNotFound},
+        {L"missing.txt", CFile::modeWrite, CFileException::Cause::fileNotFound},
+        {L"no\\folder.txt", kCreate, CFileException::Cause::fileNotFound},
+        {L"readonly.txt\\x", kCreate, CFileException::Cause::badPath},
+        {L"", CFile::modeRead, CFileException::Cause::fileNotFound},
+        {L".", CFile::modeRead, CFileException::Cause::accessDenied},
+        {L"", kCreate, CFileException::Cause::fileNotFound},
+        {L"readonly.txt", kCreate, CFileException::Cause::accessDenied},
+        {L"readonly.txt", CFile::modeReadWrite, CFileException::Cause::accessDenied},
+    };
+    for (const auto& [name, flags, cause] : cases) {
+        const CString path = name.empty() ? name : JoinPath(m_folder.Path(), name);
+        EXPECT_FALSE(CFile().Open(path, flags)) << path << ' ' << flags;
+        try {
+            CFile file(path, flags);
+            ADD_FAILURE() << "opened " << path;
+        } catch (const CFileException& exception) {
+            EXPECT_EQ(exception.GetCause(), cause) << path << ' ' << flags;
+            EXPECT_EQ(exception.GetFileName(), path);
+        }
+    }
+    EXPECT_EQ(m_folder.ReadBytes("readonly.txt"), "kept");
+    EXPECT_EQ(Names(), std::vector<std::string>{"readonly.txt"});
+}
+
+TEST_F(FileTest, AFullDiskLeavesTheOldFile)
+{
+    m_folder.WriteBytes("a.txt", "old");
+    {
+        const CFileSizeLimit limit(1000);
+        CFile file(m_folder.Path("a.txt"), kCreate);
+        Put(file, std::string(900, 'x'));
+        try {
+            Put(file, std::string(900, 'y'));
+            ADD_FAILURE() << "wrote beyond the limit";
+        } catch (const CFileException& exception) {
+            EXPECT_EQ(exception.GetCause(), CFileException::Cause::diskFull);
+        }
+    }
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "old");
+    EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
+}
+
+TEST_F(FileTest, WhatAKilledWriterLeavesIsUsedUpByTheNext)
+{
+    m_folder.WriteBytes("a.txt", "old");
+    const pid_t child = fork();
+    if (child == 0) {
+        CFile file(m_folder.Path("a.txt"), kCreate);
+        Put(file, "half of a long new content");
+        raise(SIGKILL);
+    }
+    waitpid(child, nullptr, 0);
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "old");
+    ASSERT_EQ(Names().size(), 2U);
+
+    Replace(m_folder.Path("a.txt"), "new");
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "new");
+    EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
+}
+
+TEST_F(FileTest, WritersOfOneTargetKeepOutOfEachOthersWay)
+{
+    CFile first(m_folder.Path("a.txt"), kCreate);
+    CFile second(m_folder.Path("a.txt"), kCreate);
+    Put(first, "from the first");
+    Put(second, "from the second");
+    first.Close();
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "from the first");
+    second.Close();
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "from the second");
+    EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
+}
+
+TEST_F(FileTest, ExistingFilesAreReadAndChangedInPlace)
+{
+    m_folder.WriteBytes("a.txt", "abcdef");
+    CFile file(m_folder.Path("a.txt"), CFile::modeReadWrite);
+    EXPECT_EQ(file.GetLength(), 6U);
+    char buffer[10] = {};
+    EXPECT_EQ(file.Read(buffer, 3), 3U);
+    EXPECT_EQ(file.Read(buffer, sizeof buffer), 3U) << "fewer only at the end";
+    file.Seek(1);
+    Put(file, "X");
+    file.SetLength(4);
+    file.Close();
+    file.Close();
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "aXcd");
+}
+
+TEST_F(FileTest, PathsHoldBackslashesAndForgiveCase)
+{
+    m_folder.WriteBytes("Heizung/Größe.TXT", "x");
+    const auto opens = [this](const CString& path) {
+        return CFile().Open(JoinPath(m_folder.Path(), path), CFile::modeRead);
+    };
+    EXPECT_TRUE(opens(L"Heizung\\Größe.TXT"));
+    EXPECT_TRUE(opens(L"HEIZUNG\\GRÖßE.txt"));
+    EXPECT_TRUE(opens(L"heizung/größe.txt"));
+    EXPECT_FALSE(opens(L"HEIZUNG\\GRÖSSE.txt"));
+
+    m_folder.WriteBytes("heizung.txt", "lower");
+    m_folder.WriteBytes("HEIZUNG.TXT", "upper");
+    EXPECT_EQ(m_folder.ReadBytes("heizung.txt"), "lower") << "the exact name goes first";
+    EXPECT_EQ(ResolvePath(m_folder.Path("Heizung.TXT")).filename(), "HEIZUNG.TXT")
+        << "then the first in alphabetical order";
+
+    Replace(m_folder.Path("heizung/GRÖßE.txt"), "new");
+    EXPECT_EQ(m_folder.ReadBytes("Heizung/Größe.TXT"), "new") << "creating meets the same file";
+
+    EXPECT_EQ(JoinPath(L"C:\\x", L"y"), L"C:\\x\\y");
+    EXPECT_EQ(JoinPath(L"C:\\x\\", L"y"), L"C:\\x\\y");
+}
+
+} // namespace

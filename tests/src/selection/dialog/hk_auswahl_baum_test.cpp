@@ -1,0 +1,119 @@
+// The catalogue tree of the selection dialog.
+
+#include "tests/src/selection/dialog/auswahl_fixture.h"
+
+namespace {
+
+TEST_F(CAuswahlDialogTest, TheTreeReadsMakersWhenTheyOpen)
+{
+    Zeige([&](CDialogUser& user) {
+        const QTreeWidgetItem& erster = *Baum(user).topLevelItem(0);
+        ASSERT_EQ(erster.childCount(), 1);
+        EXPECT_EQ(erster.child(0)->text(0), "Dummy");
+        const CString maker = erster.text(0).toStdWString();
+        user.ChooseInTree(18000, {maker});
+        EXPECT_TRUE(GitterZeilen(user).empty()) << "no product";
+        EXPECT_EQ(m_uebergabe.Produkt, L"Tipo 22");
+        EXPECT_EQ(user.Text(18002), L"400");
+        user.ChooseInTree(18000, {maker, L"Radiatori tubolari in acciaio", L"3 colonne"});
+        EXPECT_EQ(m_uebergabe.Hersteller + L"|" + m_uebergabe.Art + L"|" + m_uebergabe.Produkt,
+                  maker + L"|Radiatori tubolari in acciaio|3 colonne");
+        EXPECT_FALSE(GitterZeilen(user).empty());
+        const Texte hoehen = user.Items(18004);
+        EXPECT_TRUE(std::ranges::is_sorted(hoehen, {},
+                                           [](const CString& text) { return std::stoi(text); }));
+        EXPECT_EQ(hoehen, user.Items(18008));
+    });
+}
+
+TEST_F(CAuswahlDialogTest, AFolderTakesTheRowsAwayAndNothingElse)
+{
+    for (const bool tippen : {false, true}) {
+        EXPECT_EQ(Oeffne([&](CDialogUser& user) {
+                      const auto rows = GitterZeilen(user);
+                      KlickeZeile(user, 2);
+                      user.ChooseInTree(kBaum, {L"Valmorena"});
+                      EXPECT_TRUE(GitterZeilen(user).empty());
+                      if (tippen) {
+                          user.Type(18003, L"3001");
+                          EXPECT_EQ(GitterZeilen(user), rows);
+                          KlickeZeile(user, 2);
+                      }
+                      user.Click(kIdOk);
+                  }),
+                  0);
+        EXPECT_EQ(m_uebergabe.Produkt, L"Tipo 22");
+        EXPECT_EQ(m_uebergabe.Leistung, m_uebergabe.Daten.Leistung) << "the former radiator";
+    }
+}
+
+/// The selection over two makers of the test's own, of which one cannot be read.
+class CEigenerKatalogTest : public CAuswahlDialogTest
+{
+protected:
+    CEigenerKatalogTest()
+    {
+        SchreibeAlfa();
+        m_maker.WriteBytes("Guasto/hk.tga", "110;1;senza genere\n");
+        m_uebergabe.Hersteller = L"Alfa";
+        m_uebergabe.Art = L"Piastre";
+    }
+
+    void SchreibeAlfa() const
+    {
+        m_maker.WriteBytes("Alfa/hk.tga",
+                           "010;2004;Alfa;2024\n"
+                           "100;1;Piastre\n"
+                           "110;1;Tipo 22\n700;1;P;E;600;100;1000;1.3;5\n710.01;1;1000\n"
+                           "100;2;Bagno\n"
+                           "110;1;Comune\n700;1;B;E;1200;40;600;1.3;5\n710.01;1;500\n");
+    }
+
+    CTempFolder m_maker;
+    CSettingOverride m_eigene{kSettingHKDir, m_maker.Path()};
+};
+
+TEST_F(CEigenerKatalogTest, AMakerWhoseFileFailsOnTheNextReadingKeepsItsItems)
+{
+    for (const bool wiederDa : {false, true}) {
+        Zeige([&](CDialogUser& user) {
+            QTreeWidgetItem& alfa = *Baum(user).topLevelItem(0);
+            const Texte vorher = user.TreeLines(kBaum);
+            std::filesystem::remove(m_maker.Root() / "Alfa/hk.tga");
+            user.Click(18017);
+            ASSERT_EQ(FindHersteller(L"Alfa")->pArt, nullptr) << "the click read the file again";
+            if (wiederDa) {
+                SchreibeAlfa();
+            }
+            alfa.setExpanded(false);
+            QTest::mouseDClick(Baum(user).viewport(), Qt::LeftButton, {},
+                               Baum(user).visualItemRect(&alfa).center());
+            EXPECT_TRUE(alfa.isExpanded());
+            EXPECT_EQ(user.TreeLines(kBaum), vorher);
+            EXPECT_EQ(user.ChosenInTree(kBaum), (Texte{L"Alfa", L"Piastre", L"Tipo 22"}));
+        });
+        EXPECT_EQ(m_uebergabe.Produkt, L"Tipo 22") << "nothing was selected on the way";
+        SchreibeAlfa();
+    }
+}
+
+TEST_F(CEigenerKatalogTest, AMakerWithoutAReadableFileCountsAsAProductOnceItWasOpened)
+{
+    EXPECT_EQ(Oeffne([&](CDialogUser& user) {
+                  user.ChooseInTree(kBaum, {L"Guasto"});
+                  EXPECT_EQ(m_uebergabe.Produkt, L"Tipo 22");
+                  user.Press(Qt::Key_Right);
+                  EXPECT_EQ(Baum(user).topLevelItem(1)->childCount(), 0);
+                  user.ChooseInTree(kBaum, {L"Alfa"});
+                  user.ChooseInTree(kBaum, {L"Guasto"});
+                  EXPECT_TRUE(GitterZeilen(user).empty());
+                  EXPECT_TRUE(user.Items(18004).empty());
+                  user.Click(kIdOk);
+              }),
+              -1);
+    EXPECT_EQ(m_uebergabe.Hersteller + L"|" + m_uebergabe.Art + L"|" + m_uebergabe.Produkt,
+              L"||Guasto");
+    EXPECT_TRUE(m_driver.Messages().empty());
+}
+
+} // namespace

@@ -1,0 +1,321 @@
+#include "tests/dialog_support/dialog_driver.h"
+#include "tests/support/message_log.h"
+#include "tests/support/setting_override.h"
+#include "tests/support/temp_folder.h"
+#include "tools/dialog_gallery.h"
+#include "uikit/application.h"
+#include "uikit/dialog.h"
+#include "uikit/native/access.h"
+#include "uikit/native/dialog_window.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyleOptionButton>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+using Complaints = std::vector<std::string>;
+
+/// A control that shows, with what its template says of it.
+struct Part
+{
+    const ControlTemplate& control;
+    QWidget* widget;
+    QRect place;
+};
+
+std::string Name(const Part& part)
+{
+    return std::to_string(part.control.id) + " \"" + ToNative(part.control.caption).toStdString() +
+           '"';
+}
+
+bool IsGroup(const Part& part)
+{
+    return part.control.kind == ControlKind::groupBox;
+}
+
+/// Controls stand in the focus chain as they were made, those without an id too.
+std::vector<Part> PartsOf(const CDialog& dialog)
+{
+    std::vector<Part> parts;
+    QWidget& client = WindowOf(dialog)->Client();
+    QWidget* widget = &client;
+    for (const ControlTemplate& control : dialog.GetTemplate().controls) {
+        do {
+            widget = widget->nextInFocusChain();
+        } while (widget->parentWidget() != &client);
+        if (widget->isVisible()) {
+            parts.push_back({control, widget, widget->geometry()});
+        }
+    }
+    return parts;
+}
+
+/// The area that a control has for its caption.
+QSize RoomForCaption(const Part& part)
+{
+    constexpr int kTitleEnds = 22;
+    QStyleOptionButton option;
+    option.initFrom(part.widget);
+    const auto inside = [&](QStyle::SubElement element) {
+        return part.widget->style()->subElementRect(element, &option, part.widget).size();
+    };
+    switch (part.control.kind) {
+    case ControlKind::button:
+    case ControlKind::defaultButton:
+        return inside(QStyle::SE_PushButtonContents);
+    case ControlKind::checkBox:
+        return inside(QStyle::SE_CheckBoxContents);
+    case ControlKind::radioButton:
+        return inside(QStyle::SE_RadioButtonContents);
+    case ControlKind::groupBox:
+        return part.place.size() - QSize(kTitleEnds, 0);
+    default:
+        return part.widget->contentsRect().size();
+    }
+}
+
+/// Texts that the dialog put there are data, which may be shortened.
+void CheckCaptions(const std::vector<Part>& parts, Complaints& complaints)
+{
+    for (const Part& part : parts) {
+        CWnd handle;
+        CNativeAccess::Attach(handle, part.widget);
+        const CString caption = part.control.caption;
+        if (caption.empty() || handle.GetWindowText() != caption) {
+            continue;
+        }
+        const QSize needed =
+            part.widget->fontMetrics().size(Qt::TextShowMnemonic, ToNative(caption));
+        const QSize room = RoomForCaption(part);
+        // A check box without any room for its caption has its words in the controls around it.
+        if (part.control.kind == ControlKind::checkBox && room.width() <= 0) {
+            continue;
+        }
+        if (needed.width() > room.width() || needed.height() > room.height()) {
+            complaints.push_back("caption does not fit: " + Name(part));
+        }
+    }
+}
+
+/// A check box or label may stand on the top line of a frame without a title.
+bool Heads(const Part& part, const Part& group)
+{
+    const QRect line(group.place.topLeft(),
+                     QSize(group.place.width(), group.widget->fontMetrics().height()));
+    return *group.control.caption == L'\0' && line.contains(part.place.center()) &&
+           part.place.left() > line.left() && part.place.right() < line.right();
+}
+
+bool Holds(const Part& group, const Part& part)
+{
+    const int title = *group.control.caption == L'\0' ? 1 : group.widget->fontMetrics().height();
+    return IsGroup(group) && &group.control != &part.control &&
+           (group.place.adjusted(1, title, -1, -1).contains(part.place) || Heads(part, group));
+}
+
+void CheckPlaces(const CDialog& dialog, const std::vector<Part>& parts, Complaints& complaints)
+{
+    const CRect client = dialog.GetClientRect();
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        const Part& part = parts[i];
+        // What a collapsed dialog keeps below its edge is out of reach.
+        const bool putAway = !part.widget->isEnabled() && !ToNative(client).intersects(part.place);
+        if (!putAway && !ToNative(client).contains(part.place)) {
+            complaints.push_back("outside: " + Name(part));
+        }
+        for (std::size_t k = 0; k < i; ++k) {
+            const Part& other = parts[k];
+            if (part.place.intersects(other.place) && !Holds(part, other) && !Holds(other, part)) {
+                complaints.push_back("overlap: " + Name(other) + " and " + Name(part));
+            }
+        }
+    }
+}
+
+bool IsTabStop(const Part& part)
+{
+    switch (part.control.kind) {
+    case ControlKind::label:
+    case ControlKind::sunkenLabel:
+    case ControlKind::groupBox:
+    case ControlKind::canvas:
+    case ControlKind::sizeGrip:
+        return false;
+    case ControlKind::radioButton:
+        // The chosen one of a group stands for all of them.
+        if ((part.widget->focusPolicy() & Qt::TabFocus) == 0) {
+            return false;
+        }
+        break;
+    default:
+        break;
+    }
+    return (part.control.style & styleNoTabStop) == 0 && part.widget->isEnabled();
+}
+
+/// The frames around a control, from the outermost inwards, and the control itself.
+std::vector<const Part*> Surroundings(const Part& part, const std::vector<Part>& parts)
+{
+    std::vector<const Part*> chain;
+    for (const Part& group : parts) {
+        if (Holds(group, part)) {
+            chain.push_back(&group);
+        }
+    }
+    std::ranges::sort(chain, std::greater(), [](const Part* group) {
+        return group->place.width() * group->place.height();
+    });
+    chain.push_back(&part);
+    return chain;
+}
+
+/// Reading goes down or to the right, where the next column may begin further up; a frame is read
+/// to its end.
+bool IsReadNext(const Part& part, const Part& next, const std::vector<Part>& parts)
+{
+    const auto before = Surroundings(part, parts);
+    const auto behind = Surroundings(next, parts);
+    const auto [a, b] = std::ranges::mismatch(before, behind);
+    const QRect& from = (*a)->place;
+    const QRect& to = (*b)->place;
+    return to.top() > from.center().y() || to.left() > from.right();
+}
+
+void CheckKeyboard(const CDialog& dialog, const std::vector<Part>& parts, Complaints& complaints)
+{
+    const QWidget* window = CNativeAccess::Widget(dialog);
+    std::vector<const Part*> stops;
+    for (const Part& part : parts) {
+        const auto* button = qobject_cast<QAbstractButton*>(part.widget);
+        const bool tells = button != nullptr && !button->text().isEmpty();
+        if (tells && qobject_cast<QRadioButton*>(part.widget) == nullptr &&
+            (part.widget->focusPolicy() & Qt::TabFocus) == 0) {
+            complaints.push_back("no way in by keyboard: " + Name(part));
+        }
+        if (IsTabStop(part)) {
+            stops.push_back(&part);
+        }
+    }
+    if (stops.empty()) {
+        return;
+    }
+    stops.front()->widget->setFocus(Qt::TabFocusReason);
+    for (std::size_t i = 0; i < stops.size(); ++i) {
+        QWidget* focus = window->focusWidget();
+        const QWidget* expected = stops[i]->widget;
+        if (focus == nullptr || (focus != expected && focus != expected->focusProxy())) {
+            complaints.push_back("Tab does not come to " + Name(*stops[i]));
+            return;
+        }
+        if (i > 0 && !IsReadNext(*stops[i - 1], *stops[i], parts)) {
+            complaints.push_back("read before " + Name(*stops[i - 1]) + ": " + Name(*stops[i]));
+        }
+        QTest::keyClick(focus, Qt::Key_Tab);
+    }
+}
+
+Complaints Check(const CDialog& dialog)
+{
+    const std::vector<Part> parts = PartsOf(dialog);
+    Complaints complaints;
+    CheckCaptions(parts, complaints);
+    CheckPlaces(dialog, parts, complaints);
+    CheckKeyboard(dialog, parts, complaints);
+    return complaints;
+}
+
+/// Checks every dialog that opens, then cancels it.
+class AllDialogs : public ::testing::TestWithParam<double>
+{
+protected:
+    AllDialogs()
+        : m_before(SetDialogObserver([this](CDialog& dialog) {
+              ++m_opened;
+              for (const int id : m_presses) {
+                  CDialogUser(dialog).Click(id);
+              }
+              m_complaints = Check(dialog);
+              dialog.EndDialog(kIdCancel);
+          }))
+    {
+        SetDialogFontSize(GetParam());
+    }
+    ~AllDialogs() override
+    {
+        SetDialogObserver(m_before);
+        SetDialogFontSize(8);
+    }
+
+    CMessageLog m_messages;
+    Complaints m_complaints;
+    int m_opened = 0;
+    std::vector<int> m_presses;
+    DialogObserver m_before;
+};
+
+TEST_P(AllDialogs, FitTheirCaptionsAndWorkByKeyboard)
+{
+    const CTempFolder workplace;
+    const CSettingOverride valves(kSettingVEDir, L"");
+    const CSettingOverride catalogues(kSettingHKDir, L"");
+    const CSettingOverride root(kSettingServerPath, L"");
+    const CSettingOverride local(kSettingLocalPath, L"");
+    const std::vector<GalleryEntry> gallery = DialogGallery(RADSEL_DATA_DIR);
+    // Opening and cancelling is not to touch the sample data.
+    OverrideHostSetting(kSettingLocalPath, workplace.Path());
+    for (const GalleryEntry& entry : gallery) {
+        const int opened = m_opened;
+        m_presses = entry.presses;
+        entry.open();
+        EXPECT_EQ(m_opened, opened + 1) << entry.name;
+        EXPECT_EQ(m_complaints, Complaints{}) << entry.name;
+    }
+}
+
+TEST_P(AllDialogs, FaultsAreFound)
+{
+    using enum ControlKind;
+    static const DialogTemplate dialog = {
+        7002,
+        L"Guasta",
+        200,
+        100,
+        frameFixed,
+        {{10, label, L"Una didascalia troppo lunga", 4, 4, 30, 9},
+         {11, button, L"Un pulsante troppo lungo", 4, 16, 50, 14},
+         {12, label, L"Bassa", 100, 4, 40, 5},
+         {20, groupBox, L"Cornice", 4, 34, 90, 40},
+         {21, edit, L"", 8, 36, 40, 13},
+         {22, edit, L"", 80, 52, 40, 13},
+         {23, groupBox, L"", 130, 34, 66, 40},
+         {24, checkBox, L"sì", 134, 30, 30, 10},
+         {25, edit, L"", 134, 56, 40, 13},
+         {26, edit, L"", 134, 42, 40, 13},
+         {kIdOk, defaultButton, L"OK", 4, 80, 44, 14},
+         {kIdCancel, button, L"No", 180, 90, 44, 14, styleNoTabStop},
+         {30, button, L"Ancora", 60, 80, 44, 14, styleDisabled}},
+    };
+    CDialog(dialog).DoModal();
+    EXPECT_EQ(m_complaints, (Complaints{
+                                "caption does not fit: 10 \"Una didascalia troppo lunga\"",
+                                "caption does not fit: 11 \"Un pulsante troppo lungo\"",
+                                "caption does not fit: 12 \"Bassa\"",
+                                "overlap: 20 \"Cornice\" and 21 \"\"",
+                                "overlap: 20 \"Cornice\" and 22 \"\"",
+                                "outside: 2 \"No\"",
+                                "no way in by keyboard: 2 \"No\"",
+                                "read before 25 \"\": 26 \"\"",
+                            }));
+}
+
+INSTANTIATE_TEST_SUITE_P(FontSizes, AllDialogs, ::testing::Values(8.0, 12.0));
+
+} // namespace

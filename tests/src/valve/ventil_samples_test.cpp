@@ -1,0 +1,126 @@
+#include "tests/src/valve/ventil_fixture.h"
+#include "tests/support/message_log.h"
+#include "tools/make_valves_samples.h"
+#include "valve/ventil_abruf.h"
+#include "valve/ventil_bewertung.h"
+#include "valve/ventil_texte.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <set>
+
+namespace {
+
+const std::string kFolder = RADSEL_DATA_DIR "/valves";
+
+/// The valve files of the repository.
+class CVentilSamplesTest : public testing::Test
+{
+protected:
+    template <class Take>
+    void ForEachArticle(Take take)
+    {
+        for (const CSampleValves& sample : MakeSampleValves()) {
+            SCOPED_TRACE(Utf8FromWide(sample.strHersteller));
+            CVentVdiKatalog katalog;
+            ASSERT_TRUE(katalog.LadeHersteller(sample.strHersteller));
+            ForEachArtikel(katalog, [&](const auto& gruppe, const auto& artikel) {
+                SCOPED_TRACE(Utf8FromWide(artikel.BestellNr));
+                take(sample.strHersteller, gruppe, artikel);
+            });
+        }
+    }
+
+private:
+    CSettingOverride m_setting{kSettingVEDir, WideFromUtf8(kFolder)};
+};
+
+bool Between(double value, double low, double high)
+{
+    return value >= low && value <= high;
+}
+
+/// True if each of the first values is above the next.
+bool Falls(const VDI3805_VENTIL_KV::Table& table, int count)
+{
+    return std::is_sorted(table.begin(), table.begin() + count, std::greater_equal<>());
+}
+
+void ExpectBelievable(const VDI3805_VENTIL_KV& ventil)
+{
+    EXPECT_TRUE(Between(ventil.AnzahlKv, 1, 50)) << ventil.AnzahlKv;
+    EXPECT_TRUE(Between(ventil.DN, 10, 25)) << ventil.DN;
+    EXPECT_TRUE(Between(ventil.Kvs, 0.2, 3.0)) << ventil.Kvs;
+    EXPECT_TRUE(Between(ventil.DruckMax, 100, 2000));
+    EXPECT_TRUE(ventil.Einstellbar == 1 || ventil.AnzahlKv == 1);
+    EXPECT_NE(VentilArtText(ventil.VentilArt), L"");
+    EXPECT_TRUE(Falls(ventil.KvsTab, ventil.AnzahlKv));
+    EXPECT_TRUE(Falls(ventil.Kv, ventil.AnzahlKv));
+    EXPECT_TRUE(Falls(ventil.Einstellung, ventil.AnzahlKv));
+    for (std::size_t i = 0; i < static_cast<std::size_t>(ventil.AnzahlKv); ++i) {
+        EXPECT_EQ(ventil.Xp[i], 2.0F);
+        EXPECT_TRUE(Between(ventil.Kv[i], 0.01, 3.0)) << ventil.Kv[i];
+        EXPECT_TRUE(Between(ventil.KvsTab[i], ventil.Kv[i], ventil.Kvs + 0.0005F));
+        EXPECT_EQ(ventil.AnteilHK[i] > 0.0F, ventil.VentilTyp == 1);
+        EXPECT_TRUE(Between(ventil.AnteilHK[i], 0, 60));
+    }
+}
+
+} // namespace
+
+TEST_F(CVentilSamplesTest, TheFilesAreWhatTheGeneratorMakes)
+{
+    std::set<std::string> makers;
+    for (const CSampleValves& sample : MakeSampleValves()) {
+        const std::string name = Utf8FromWide(sample.strHersteller);
+        makers.insert(name);
+        std::ifstream file(kFolder + "/" + name + "/ha.tga", std::ios::binary);
+        const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+        EXPECT_TRUE(bytes == sample.strBytes) << name;
+    }
+    for (const auto& entry : std::filesystem::directory_iterator(kFolder)) {
+        if (entry.is_directory()) {
+            EXPECT_TRUE(makers.contains(entry.path().filename().string())) << entry.path();
+        }
+    }
+}
+
+TEST_F(CVentilSamplesTest, EveryArticleIsFoundByItsKeyAndHasABelievableTable)
+{
+    const CMessageLog messages;
+    int articles = 0;
+    int bypasses = 0;
+    std::set<int> counts;
+    ForEachArticle([&](const CString& maker, const auto&, const VENT_VDI3805_ARTIKEL& artikel) {
+        ASSERT_EQ(artikel.TgaNr.size(), 36U);
+        VDI3805_VENTIL_KV ventil;
+        CVentVdiKatalog katalog;
+        ASSERT_TRUE(katalog.SucheVentil(maker, artikel.TgaNr, ventil));
+        EXPECT_EQ(ventil.Bezeichnung, artikel.BestellNr) << "another article has the same number";
+        ExpectBelievable(ventil);
+        ++articles;
+        bypasses += ventil.VentilTyp == 1 ? 1 : 0;
+        counts.insert(ventil.AnzahlKv);
+    });
+    EXPECT_GE(articles, 300);
+    EXPECT_GE(bypasses, 10);
+    EXPECT_GE(counts.size(), 8U) << "tables of many lengths";
+    EXPECT_EQ(messages.Texts(), std::vector<CString>{L"MAXKV"}) << "one article is too long";
+}
+
+TEST_F(CVentilSamplesTest, EveryArticleHasItsTexts)
+{
+    ForEachArticle(
+        [](const CString&, const VENT_VDI3805_GRUPPE& gruppe, const VENT_VDI3805_ARTIKEL& artikel) {
+            const VentilTexte texte = SucheTexte(gruppe, artikel);
+            for (const CString& text : {texte.Antrieb, texte.Bauform, texte.Werkstoff}) {
+                EXPECT_NE(text, L"...");
+                EXPECT_GT(text.find(L';'), 3U) << Utf8FromWide(text);
+            }
+            const CString finish = texte.Werkstoff.substr(0, texte.Werkstoff.find(L';'));
+            EXPECT_TRUE(artikel.Bezeichnung.ends_with(finish) || artikel.BestellNr == L"KG-E25-N");
+        });
+}

@@ -1,0 +1,186 @@
+#include "platform/exception.h"
+#include "tests/src/valve/ventil_fixture.h"
+#include "tests/support/message_log.h"
+#include "valve/ventil_abruf.h"
+#include "valve/ventil_bewertung.h"
+
+#include <filesystem>
+
+namespace {
+
+const std::string kRows = "700;1;2;15;0.9;;;;;;;1;;|710.01;1;2;;;1;;;0.25|";
+const CString kNr = WideFromUtf8(TgaNr("02", "0001"));
+
+/// A file of one valve of this kvs, the number of its data set apart.
+std::string Datei(const std::string& kvs, const std::string& tgaNr = TgaNr("02", "0001"))
+{
+    return Saetze("100;1;Haupt|110;1;Gruppe|700;1;2;15;" + kvs + ";;;;;;;1;;|800;" + tgaNr +
+                  ";Bestell;D;T;Name");
+}
+
+VDI3805_VENTIL_KV MitSchluessel(const CString& hersteller, const CString& ventilNr)
+{
+    VDI3805_VENTIL_KV ventil;
+    ventil.Hersteller = hersteller;
+    ventil.VentilNr = ventilNr;
+    ventil.Kvs = 77.0F;
+    return ventil;
+}
+
+class CVentilSucheTest : public CVentilTest
+{
+protected:
+    CVentVdiKatalog katalog;
+    VDI3805_VENTIL_KV ventil;
+};
+
+/// The kept first record outlives a test, so that no two tests may use the same maker.
+class CVentilAbrufTest : public CVentilTest
+{
+protected:
+    CVentilAbrufTest()
+    {
+        static int count = 0;
+        const std::string suffix = std::to_string(++count);
+        a = WideFromUtf8("AbrufA" + suffix);
+        b = WideFromUtf8("AbrufB" + suffix);
+        Schreibe(Utf8FromWide(a), Datei("1"));
+        Schreibe(Utf8FromWide(b), Datei("2"));
+    }
+
+    CString a;
+    CString b;
+};
+
+} // namespace
+
+TEST_F(CVentilSucheTest, AValveIsFilledWithKeyAndNames)
+{
+    const CString maker = NeuerHersteller(Datei("0.9"));
+    ASSERT_TRUE(katalog.SucheVentil(maker, kNr, ventil));
+    EXPECT_EQ(ventil.Hauptgruppe, L"Haupt");
+    EXPECT_EQ(ventil.Gruppe, L"Gruppe");
+    EXPECT_EQ(ventil.Bezeichnung, L"Bestell") << "the order number, not the name";
+    EXPECT_EQ(ventil.Hersteller, maker);
+    EXPECT_EQ(ventil.VentilNr, kNr);
+    EXPECT_EQ(ventil.Kvs, 0.9F);
+}
+
+TEST_F(CVentilSucheTest, TheFirstArticleWithExactlyThisNumberCounts)
+{
+    const std::string nr = TgaNr("02", "0001");
+    const std::string other = TgaNr("02", "0002");
+    const struct
+    {
+        const char* what;
+        std::string records;
+        CString searched;
+        const wchar_t* found; // order number, null if none
+    } cases[] = {
+        {"two of them", "110;1;B|" + kRows + "800;" + nr + ";1|800;" + nr + ";2", kNr, L"1"},
+        {"in a later group", "110;1;B|800;" + other + ";1|110;2;C|" + kRows + "800;" + nr + ";2",
+         kNr, L"2"},
+        {"in a later main group", "110;1;B|100;2;D|100;3;E|110;1;F|" + kRows + "800;" + nr + ";3",
+         kNr, L"3"},
+        {"articles stand before the data", "110;1;B|800;" + nr + ";1|" + kRows, kNr, L"1"},
+        {"the first data set of the number counts",
+         "110;1;B|700;2|710.01;1|" + kRows + "700;1|800;" + nr + ";1", kNr, L"1"},
+        {"a row is no data set", "110;1;B|710.01;1|" + kRows + "800;" + nr + ";1", kNr, L"1"},
+        {"the data set of another group does not count",
+         "110;1;B|" + kRows + "110;2;C|800;" + nr + ";1", kNr, nullptr},
+        {"no data at all", "110;1;B|800;" + nr + ";1", kNr, nullptr},
+        {"no data set, though a later article has one",
+         "110;1;B|800;" + nr + ";1|110;2;C|" + kRows + "800;" + nr + ";2", kNr, nullptr},
+        {"no such article", "110;1;B|" + kRows + "800;" + other + ";1", kNr, nullptr},
+        {"a blank makes another number", "110;1;B|" + kRows + "800;" + nr + " ;1", kNr, nullptr},
+        {"29 characters are no key", "110;1;B|" + kRows + "800;" + nr.substr(0, 29) + ";1",
+         kNr.substr(0, 29), nullptr},
+        // 30 characters end before group 15, which is -1 then.
+        {"30 characters are one", "110;1;B|700;-1;2;15;;;;;;;;;;|800;" + nr.substr(0, 30) + ";1",
+         kNr.substr(0, 30), L"1"},
+        {"the newer head", "000;x", kNr, nullptr},
+        {"a record without parent", "800;" + nr + ";1|110;1;B", kNr, nullptr},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        ventil = MitSchluessel(L"x", L"y");
+        const std::string head = c.records.starts_with("000") ? "" : "100;1;A|";
+        const CString maker = NeuerHersteller(Saetze(head + c.records));
+        EXPECT_EQ(katalog.SucheVentil(maker, c.searched, ventil), c.found != nullptr);
+        EXPECT_EQ(ventil.Bezeichnung, c.found ? c.found : L"");
+        EXPECT_EQ(ventil.VentilNr, c.found ? c.searched : L"y");
+    }
+}
+
+TEST_F(CVentilSucheTest, WithoutAFileNothingIsFound)
+{
+    ventil = MitSchluessel(L"x", L"y");
+    EXPECT_FALSE(katalog.SucheVentil(L"Nessuno", kNr, ventil));
+    EXPECT_EQ(ventil.VentilNr, L"y");
+    EXPECT_EQ(katalog.DateiPfad, m_folder.Path() + L"\\Nessuno\\ha.tga");
+    EXPECT_FALSE(katalog.SucheVentil(L"Altro", kNr.substr(0, 29), ventil));
+    EXPECT_EQ(katalog.DateiPfad, m_folder.Path() + L"\\Nessuno\\ha.tga") << "nothing was read";
+}
+
+TEST_F(CVentilSucheTest, TheKeyMayBeThatOfTheRecordItself)
+{
+    ventil = MitSchluessel(NeuerHersteller(Datei("0.9")), kNr);
+    ASSERT_TRUE(katalog.SucheVentil(ventil.Hersteller, ventil.VentilNr, ventil));
+    EXPECT_EQ(ventil.VentilNr, kNr);
+}
+
+TEST_F(CVentilSucheTest, ABadLinePassesThrough)
+{
+    const std::string article = "800;" + TgaNr("02", "0001") + ";B";
+    for (const std::string& records :
+         {"100;1;A|110;1;B|" + kRows + article + "|110", "100;1;A|110;1;B|700;1|" + article}) {
+        SCOPED_TRACE(records);
+        const CString maker = NeuerHersteller(Saetze(records));
+        EXPECT_THROW(katalog.SucheVentil(maker, kNr, ventil), CInvalidArgException);
+        EXPECT_EQ(ventil.VentilNr, L"");
+    }
+}
+
+TEST_F(CVentilAbrufTest, TwoValvesOfDifferentMakersAreFetched)
+{
+    VDI3805_VENTIL_KV first = MitSchluessel(a, kNr);
+    VDI3805_VENTIL_KV second = MitSchluessel(b, kNr);
+    EXPECT_TRUE(HoleVentilDaten(first, second));
+    EXPECT_EQ(first.Kvs, 1.0F);
+    EXPECT_EQ(second.Kvs, 2.0F);
+    EXPECT_EQ(second.Bezeichnung, L"Bestell");
+}
+
+TEST_F(CVentilAbrufTest, AFailedSearchIsKeptToo)
+{
+    const CString missing = a + L"x";
+    VDI3805_VENTIL_KV first = MitSchluessel(missing, kNr);
+    VDI3805_VENTIL_KV second = MitSchluessel(missing, kNr);
+    second.Kvs = 5.0F;
+    EXPECT_TRUE(HoleVentilDaten(first, second));
+    EXPECT_EQ(first.Kvs, 77.0F);
+    EXPECT_EQ(second.Kvs, 77.0F) << "the first record as it came";
+
+    Schreibe(Utf8FromWide(missing), Datei("3"));
+    first.Kvs = 5.0F;
+    EXPECT_TRUE(HoleVentilDaten(first, second));
+    EXPECT_EQ(first.Kvs, 77.0F) << "no search for a kept key";
+
+    VDI3805_VENTIL_KV other = MitSchluessel(b, kNr);
+    EXPECT_TRUE(HoleVentilDaten(other, first));
+    EXPECT_EQ(first.Kvs, 3.0F);
+}
+
+TEST_F(CVentilAbrufTest, ABadLineRaisesAndKeepsNothing)
+{
+    const CString bad = a + L"bad";
+    Schreibe(Utf8FromWide(bad), Datei("1") + "110\r\n");
+    VDI3805_VENTIL_KV first = MitSchluessel(bad, kNr);
+    VDI3805_VENTIL_KV second;
+    EXPECT_THROW(HoleVentilDaten(first, second), CInvalidArgException);
+    EXPECT_THROW(HoleVentilDaten(first, second), CInvalidArgException);
+
+    VDI3805_VENTIL_KV good = MitSchluessel(a, kNr);
+    EXPECT_THROW(HoleVentilDaten(good, first), CInvalidArgException);
+    EXPECT_EQ(good.Kvs, 1.0F);
+}

@@ -1,0 +1,347 @@
+#include "platform/encoding.h"
+#include "platform/exception.h"
+#include "tests/reference_host/prefs/filled_records.h"
+#include "tests/src/platform/archived.h"
+#include "tests/src/platform/thrown.h"
+#include "tests/support/file_size_limit.h"
+#include "tests/workbench/building/building_fixture.h"
+
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <tuple>
+
+namespace {
+
+/// A control character, a surrogate without its partner, a character beyond 16 bits, and the code
+/// of a byte that is no UTF-8.
+const CString kOddText = L"a\"\\\n\x1b\x85\xd83d\U0001F525\xf7e0z";
+
+CPlacedRadiator OddRadiator()
+{
+    CPlacedRadiator radiator;
+    radiator.strHersteller = L"M";
+    radiator.strArt = L"";
+    radiator.strProdukt = kOddText;
+    radiator.strTyp = L"22/600x1000";
+    radiator.daten = Filled<HK_DATEN_VDI3805>();
+    radiator.daten.Hoehe = 100.1;
+    radiator.nPlatz = 1;
+    radiator.abstandWand = 0.043;
+    radiator.abstandBoden = 0.12;
+    radiator.strLayer = L"H_HK";
+    radiator.nFarbe = -7;
+    radiator.strBlock = L"HK-Ö";
+    radiator.anschluss = Filled<ConnValues>();
+    radiator.anschluss.Name = kOddText;
+    radiator.anschluss.PosAN = {0.1 + 0.2, 1.0 / 3.0, 5e-324};
+    radiator.anschluss.OffsetAN = {1e300, -1e-7, 123456789.0};
+    radiator.ventile.ruecklauf = CValveKey{L"R", L"12"};
+    return radiator;
+}
+
+CRoom OddRoom()
+{
+    CRoom room;
+    room.strName = L"Città";
+    room.raumtemperatur = 20.5;
+    room.bedarf = 1234.5;
+    room.gedeckt = 0.1;
+    room.grundriss = {-100.25, 1e6 + 0.1, 4000.0, 3000.0};
+    room.plaetze = {{PlaceKind::window, 900.0, 1200.0, Wall::nord, 100.5},
+                    {PlaceKind::wall, 2000.0, 600.0, Wall::west, 2400.0}};
+    room.grenzen = {720.0, 1200.0, 50.0, 120.0}; // 900 - 100 - 80 high
+    room.strHersteller = L"M";
+    room.strArt = L"K";
+    room.strProdukt = kOddText;
+    room.ventile.vorlauf = CValveKey{L"V", CString(36, L'7')};
+    room.heizkoerper = {OddRadiator(), CPlacedRadiator()};
+    room.strNotiz = L"{\"a\":[1,null,\"è\"]}";
+    return room;
+}
+
+CBuilding OddBuilding()
+{
+    CBuilding building;
+    building.strName = L"Casa";
+    building.system = {70.0, 55.5};
+    building.abstaende = {100.0, 80.0};
+    building.ventile = {CValveKey{L"A", CString(36, L'1')}, CValveKey{L"B", CString(30, L'2')}};
+    building.strNotiz = L"[\"uno\",\"due\"]";
+    CRoom empty = OddRoom();
+    empty.strName = L"Vuoto";
+    empty.heizkoerper.clear();
+    empty.ventile = building.ventile;
+    empty.strNotiz.clear();
+    building.floors = {{L"Terra", {std::make_shared<const CRoom>(OddRoom())}, L"\"nota\""},
+                       {L"Primo", {std::make_shared<const CRoom>(empty)}, {}}};
+    return building;
+}
+
+std::vector<CString> Texts(const CValveKeys& keys)
+{
+    std::vector<CString> texts;
+    for (const auto& key : {keys.vorlauf, keys.ruecklauf}) {
+        texts.push_back(key ? key->strHersteller : L"-");
+        texts.push_back(key ? key->strVentilNr : L"-");
+    }
+    return texts;
+}
+
+void ExpectSame(const CPlacedRadiator& a, const CPlacedRadiator& b)
+{
+    const auto fields = [](const CPlacedRadiator& radiator) {
+        return std::tie(radiator.strHersteller, radiator.strArt, radiator.strProdukt,
+                        radiator.strTyp, radiator.nPlatz, radiator.abstandWand,
+                        radiator.abstandBoden, radiator.strLayer, radiator.nFarbe,
+                        radiator.strBlock);
+    };
+    EXPECT_EQ(fields(a), fields(b));
+    EXPECT_EQ(Payload(a.daten), Payload(b.daten));
+    EXPECT_EQ(Payload(a.anschluss), Payload(b.anschluss));
+    EXPECT_EQ(Texts(a.ventile), Texts(b.ventile));
+}
+
+void ExpectSame(const CRoom& a, const CRoom& b)
+{
+    const auto fields = [](const CRoom& room) {
+        return std::tie(room.strName, room.raumtemperatur, room.bedarf, room.gedeckt,
+                        room.grenzen.hoeheMax, room.grenzen.laengeMax, room.grenzen.tiefeMin,
+                        room.grenzen.tiefeMax, room.strHersteller, room.strArt, room.strProdukt,
+                        room.grundriss.x, room.grundriss.y, room.grundriss.breite,
+                        room.grundriss.tiefe, room.strNotiz);
+    };
+    EXPECT_EQ(fields(a), fields(b));
+    EXPECT_EQ(Texts(a.ventile), Texts(b.ventile));
+    ASSERT_EQ(a.plaetze.size(), b.plaetze.size());
+    for (std::size_t i = 0; i < a.plaetze.size(); ++i) {
+        const auto place = [](const CRadiatorPlace& p) {
+            return std::tie(p.art, p.hoehe, p.breite, p.wand, p.abstand);
+        };
+        EXPECT_EQ(place(a.plaetze[i]), place(b.plaetze[i]));
+    }
+    ASSERT_EQ(a.heizkoerper.size(), b.heizkoerper.size());
+    for (std::size_t i = 0; i < a.heizkoerper.size(); ++i) {
+        ExpectSame(a.heizkoerper[i], b.heizkoerper[i]);
+    }
+}
+
+using BuildingFileTest = CBuildingFixture;
+
+/// Two rooms of a floor side by side, and one above.
+const std::string kPlan = R"({ "version": 2, "name": "Casa",
+  "system": { "supply": 70, "return": 55 }, "clearance": { "floor": 100, "sill": 80 },
+  "floors": [
+    { "name": "Terra", "rooms": [
+      { "name": "Uno", "temperature": 20, "demand": 1000,
+        "outline": { "x": 0, "y": 0, "width": 4000, "depth": 3000 },
+        "places": [ { "window": { "sill": 900, "width": 1200, "side": "south", "offset": 2800 } },
+                    { "wall": { "height": 2000, "width": 800, "side": "east", "offset": 0 } } ],
+        "radiator": { "maker": "M", "kind": "K", "product": "P" },
+        "radiators": [ { "place": 1, "maker": "M", "kind": "K", "product": "P", "type": "T",
+          "row": { "height": 600, "depth": 100, "length": 700, "outputEN442": 900, "output": 800,
+                   "sections": 0, "exponent": 1.3, "litres": 4, "rating": "M" },
+          "distance": { "wall": 0.05, "floor": 0.1 }, "layer": { "name": "L", "colour": 1 } } ] },
+      { "name": "Due", "temperature": 20, "demand": 1000,
+        "outline": { "x": 3700, "y": 0, "width": 4000, "depth": 3000 },
+        "places": [ { "window": { "sill": 900, "width": 1200, "side": "north", "offset": 0 } } ],
+        "radiator": { "maker": "M", "kind": "K", "product": "P" } } ] },
+    { "name": "Primo", "rooms": [
+      { "name": "Tre", "temperature": 20, "demand": 1000,
+        "outline": { "x": 0, "y": 0, "width": 4000, "depth": 3000 },
+        "places": [ { "window": { "sill": 900, "width": 1200, "side": "west", "offset": 0 } } ],
+        "radiator": { "maker": "M", "kind": "K", "product": "P" } } ] } ] })";
+
+} // namespace
+
+TEST_F(BuildingFileTest, EveryFieldComesBackExactly)
+{
+    const CBuilding building = OddBuilding();
+    WriteBuilding(m_folder.Path("casa.json"), building);
+    EXPECT_EQ(m_folder.ReadBytes("casa.json"), FormatBuilding(building));
+
+    const CBuilding read = ReadBuilding(m_folder.Path("casa.json"));
+    const auto fields = [](const CBuilding& b) {
+        return std::tie(b.strName, b.system.vorlauf, b.system.ruecklauf, b.abstaende.boden,
+                        b.abstaende.sturz, b.strNotiz);
+    };
+    EXPECT_EQ(fields(read), fields(building));
+    EXPECT_EQ(Texts(read.ventile), Texts(building.ventile));
+    ASSERT_EQ(read.floors.size(), building.floors.size());
+    for (std::size_t i = 0; i < read.floors.size(); ++i) {
+        EXPECT_EQ(read.floors[i].strName, building.floors[i].strName);
+        EXPECT_EQ(read.floors[i].strNotiz, building.floors[i].strNotiz);
+        ASSERT_EQ(read.floors[i].rooms.size(), 1u);
+        ExpectSame(*read.floors[i].rooms[0], *building.floors[i].rooms[0]);
+    }
+}
+
+TEST_F(BuildingFileTest, TheSampleIsWrittenAsItStands)
+{
+    std::ifstream file(RADSEL_DATA_DIR "/buildings/villa-dei-tigli.json");
+    const std::string bytes(std::istreambuf_iterator<char>(file), {});
+    EXPECT_EQ(FormatBuilding(Read(bytes)), bytes);
+}
+
+TEST_F(BuildingFileTest, NotesWithinARoomJoinItsOwn)
+{
+    const std::string noted =
+        Replaced(Replaced(kPlan, "\"name\": \"Uno\",", "\"name\": \"Uno\", \"note\": \"a\","),
+                 "\"name\": \"L\",", "\"name\": \"L\", \"note\": [\"b\"],");
+    const CBuilding building = Read(noted);
+    EXPECT_EQ(building.floors[0].rooms[0]->strNotiz, L"[\"a\",[\"b\"]]");
+    EXPECT_EQ(building.floors[0].strNotiz, L"");
+    EXPECT_EQ(building.strNotiz, L"");
+}
+
+TEST_F(BuildingFileTest, WrongFieldsAreNamedWithTheirRoom)
+{
+    ASSERT_EQ(ErrorOf(kPlan), "");
+    const std::tuple<std::string, std::string, std::string> cases[] = {
+        {"\"Tre\"", "\"Uno\"", "locale \"Uno\": campo \"name\": il nome è già di un altro locale"},
+        {"\"Primo\"", "\"Terra\"",
+         "piano \"Terra\": campo \"name\": il nome è già di un altro piano"},
+        {"\"depth\": 3000", "\"depth\": 0",
+         "locale \"Uno\": campo \"depth\": deve essere maggiore di 0"},
+        {"3700", "3699.5", // a wall's thickness is 300
+         "locale \"Due\": campo \"outline\": si sovrappone al locale \"Uno\" per 300.5 mm"},
+        {"\"offset\": 2800", "\"offset\": 2801",
+         "locale \"Uno\", posto 1: campo \"offset\": il posto esce dalla sua parete, lunga 4000 "
+         "mm"},
+        {"\"east\", \"offset\": 0", "\"east\", \"offset\": 2500",
+         "locale \"Uno\", posto 2: campo \"offset\": il posto esce dalla sua parete, lunga 3000 "
+         "mm"},
+        {"\"south\"", "\"sud\"",
+         "locale \"Uno\", posto 1: campo \"side\": atteso \"south\", \"east\", \"north\" o "
+         "\"west\""},
+        {"\"height\": 2000", "\"height\": 100",
+         "locale \"Uno\", posto 2: campo \"height\": non lascia spazio sopra la distanza da "
+         "terra"},
+        {"\"place\": 1", "\"place\": 2",
+         "locale \"Uno\", corpo scaldante 1: campo \"place\": 2 è fuori dall'intervallo da 0 a 1"},
+        {"\"place\": 1", "\"place\": 0.5",
+         "locale \"Uno\", corpo scaldante 1: campo \"place\": atteso un numero intero"},
+        {"\"rating\": \"M\"", "\"rating\": \"\"",
+         "locale \"Uno\", corpo scaldante 1: campo \"rating\": atteso un solo carattere"},
+        {"\"length\": 700", "\"length\": 100001",
+         "locale \"Uno\", corpo scaldante 1: campo \"length\": 100001 è fuori dall'intervallo da 0 "
+         "a 100000"},
+        {"\"colour\"", "\"color\"", "locale \"Uno\", corpo scaldante 1: campo \"colour\": manca"},
+        {"\"places\": [", "\"places\": [ {},",
+         "locale \"Uno\", posto 1: campo \"window\": serve uno solo tra \"window\" e \"wall\""},
+        {"\"version\": 2", "\"version\": 1",
+         "locale \"Uno\": campo \"window\": serve uno solo "
+         "tra \"window\" e \"wall\""},
+    };
+    for (const auto& [from, to, message] : cases) {
+        EXPECT_EQ(ErrorOf(Replaced(kPlan, from, to)), message);
+    }
+    const std::size_t first = kPlan.find("{ \"place\"");
+    const std::size_t end = kPlan.find(" ] },", first);
+    const std::string radiator = kPlan.substr(first, end - first);
+    EXPECT_EQ(ErrorOf(Replaced(kPlan, radiator, radiator + ", " + radiator)),
+              "locale \"Uno\", corpo scaldante 2: campo \"place\": il posto è già occupato");
+    for (const std::string wrong : {"", ", null"}) {
+        EXPECT_EQ(
+            ErrorOf(Replaced(FormatBuilding(OddBuilding()), ", 5e-324", wrong)),
+            "locale \"Città\", corpo scaldante 1: campo \"position\": atteso un elenco [ ] di "
+            "tre numeri");
+    }
+}
+
+TEST_F(BuildingFileTest, TheFirstVersionGetsAPlan)
+{
+    const std::string head = R"({ "version": 1, "name": "Casa",
+        "system": { "supply": 70, "return": 55 }, "clearance": { "floor": 100, "sill": 80 },
+        "floors": [)";
+    const auto room = [](const std::string& name, int demand, int width) {
+        return R"({ "name": ")" + name + R"(", "temperature": 20, "demand": )" +
+               std::to_string(demand) + R"(, "window": { "sill": 900, "width": )" +
+               std::to_string(width) +
+               R"( }, "radiator": { "maker": "M", "kind": "K", "product": "P" } })";
+    };
+    const std::string floors = R"({ "name": "Terra", "rooms": [)" + room("A", 960, 1200) + "," +
+                               room("B", 960, 5000) + "," + room("C", 0, 100) + "," +
+                               room("D", 1920, 1000) + R"(] },
+        { "name": "Terra", "rooms": [)" +
+                               room("E", 0, 0) + "] }";
+    const CBuilding building = Read(head + floors + "] }");
+    EXPECT_EQ(building.floors[1].strName, L"Terra (2)");
+
+    // 60 W/m2, at least 4 m2: 16, 16, 4 and 32 m2, so that the depth is the root of 17 m2, 4130 mm.
+    // The widths are 16 m2 / 4.13 m = 3874, the window's, the least and 32 m2 / 4.13 m = 7748, in
+    // whole centimetres. A room goes to the row that is shorter so far.
+    const struct
+    {
+        double x, y, width, offset;
+        Wall wall;
+    } expected[] = {
+        {0.0, 0.0, 3880.0, 1340.0, Wall::sued},
+        {0.0, 5630.0, 5000.0, 0.0, Wall::nord},
+        {3980.0, 0.0, 1500.0, 700.0, Wall::sued},
+        {5100.0, 5630.0, 7750.0, 3375.0, Wall::nord},
+    };
+    for (std::size_t i = 0; i < std::size(expected); ++i) {
+        const CRoom& read = *building.floors[0].rooms[i];
+        EXPECT_EQ(read.grundriss.x, expected[i].x) << i;
+        EXPECT_EQ(read.grundriss.y, expected[i].y) << i;
+        EXPECT_EQ(read.grundriss.breite, expected[i].width) << i;
+        EXPECT_EQ(read.grundriss.tiefe, 4130.0) << i;
+        EXPECT_EQ(read.plaetze[0].abstand, expected[i].offset) << i;
+        EXPECT_EQ(read.plaetze[0].wand, expected[i].wall) << i;
+    }
+    EXPECT_EQ(ErrorOf(FormatBuilding(building)), "") << "what was made up passes its own checks";
+}
+
+TEST_F(BuildingFileTest, AFailingSaveKeepsTheOldFileAndNamesIt)
+{
+    m_folder.WriteBytes("casa.json", "old");
+    m_folder.WriteBytes("cartella/x", "");
+    const CFileSizeLimit limit(1000);
+    for (const CString& path :
+         {m_folder.Path("casa.json"), m_folder.Path("cartella"), m_folder.Path("manca/casa.json"),
+          CString(L"/proc/casa.json"), m_folder.Path("casa.json/casa.json")}) {
+        const CString message =
+            MessageOf<CFileException>([&] { WriteBuilding(path, OddBuilding()); });
+        EXPECT_NE(message.find(path), CString::npos) << Utf8FromWide(path);
+    }
+    EXPECT_EQ(m_folder.ReadBytes("casa.json"), "old");
+    const auto entries = std::filesystem::directory_iterator(m_folder.Root());
+    EXPECT_EQ(std::distance(begin(entries), end(entries)), 2) << "a leftover";
+}
+
+TEST_F(BuildingFileTest, DamagedBytesAreRefusedOrReadAsABuildingThatComesBack)
+{
+    constexpr unsigned kSeed = 8;
+    std::mt19937 dice(kSeed);
+    const std::string samples[] = {kPlan, FormatBuilding(OddBuilding())};
+    int accepted = 0;
+    for (int round = 0; round < 1000; ++round) {
+        std::string bytes = samples[dice() % 2];
+        for (unsigned changes = dice() % 4 + 1; changes > 0; --changes) {
+            const std::size_t at = dice() % bytes.size();
+            const std::size_t length = std::min<std::size_t>(dice() % 40, bytes.size() - at);
+            switch (dice() % 4) {
+            case 0:
+                bytes[at] = static_cast<char>(dice());
+                break;
+            case 1:
+                bytes.erase(at, length);
+                break;
+            case 2:
+                bytes.insert(at, bytes.substr(at, length));
+                break;
+            default:
+                bytes[bytes.find_first_of("0123456789", at) % bytes.size()] =
+                    "0959-e.\""[dice() % 8];
+            }
+        }
+        try {
+            const std::string written = FormatBuilding(Read(bytes));
+            EXPECT_EQ(FormatBuilding(Read(written)), written) << "round " << round;
+            ++accepted;
+        } catch (const CContentException&) {
+        }
+    }
+    EXPECT_GT(accepted, 50) << "too few to show anything";
+}

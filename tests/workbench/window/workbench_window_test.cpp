@@ -1,0 +1,332 @@
+#include "workbench/window/workbench_window.h"
+
+#include "platform/encoding.h"
+#include "workbench/building/building_json.h"
+#include "workbench/plan/coverage.h"
+#include "workbench/window/floor_scene.h"
+#include "workbench/window/window_text.h"
+
+#include "tests/support/setting_override.h"
+#include "tests/support/temp_folder.h"
+#include "tools/make_building_samples.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTableView>
+#include <QTimer>
+
+#include <filesystem>
+#include <fstream>
+#include <tuple>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const CString kData = WideFromUtf8(RADSEL_DATA_DIR);
+
+/// The window over a copy of the sample building, with a test for a user.
+class WorkbenchWindow : public testing::Test
+{
+protected:
+    WorkbenchWindow()
+    {
+        // What the user chooses for good must not become that of who runs the tests.
+        qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(Utf8FromWide(m_folder.Path())));
+        fs::copy_file(fs::path(RADSEL_DATA_DIR) / "buildings/villa-dei-tigli.json", m_path);
+        m_document.Open(m_path.wstring());
+        CPrompts prompts;
+        const auto answerPath = [this](QWidget*, const QString&, const QString&, const CString&) {
+            return m_answerPath;
+        };
+        prompts.openFile = prompts.saveFile = prompts.openFolder = answerPath;
+        prompts.ask = [this](QWidget*, const QString&, const QString&, const QString&, bool) {
+            ++m_nQuestions;
+            return m_answer;
+        };
+        prompts.tell = [this](QWidget*, const QString& text) { m_told = text; };
+        m_window = std::make_unique<CWorkbenchWindow>(m_document, ReadDrawingBlocks(), prompts);
+    }
+
+    QAction& Action(const char* name) { return *m_window->findChild<QAction*>(name); }
+    void Do(const char* name) { Action(name).trigger(); }
+
+    std::size_t Open() const { return OpenRooms(m_document.Building()).size(); }
+    const CRoom& Room(std::size_t floor, std::size_t room) const
+    {
+        return RoomOf(m_document.Building(), {floor, room});
+    }
+
+    void Mark(const std::vector<CRoomRef>& rooms)
+    {
+        m_window->findChild<CFloorScene*>()->MarkRooms(rooms);
+    }
+
+    QString Messages() { return m_window->findChild<QPlainTextEdit*>("messages")->toPlainText(); }
+
+    /// Works on the modal window that the next action opens.
+    static void InDialog(const std::function<void(QWidget&)>& work)
+    {
+        auto* const timer = new QTimer;
+        QObject::connect(timer, &QTimer::timeout, [=] {
+            if (QWidget* const dialog = QApplication::activeModalWidget()) {
+                timer->deleteLater();
+                work(*dialog);
+            }
+        });
+        timer->start(1);
+    }
+
+    void ChangeSystem(double supply, double back, bool confirm)
+    {
+        InDialog([=](QWidget& dialog) {
+            dialog.findChild<QDoubleSpinBox*>("return")->setValue(back);
+            dialog.findChild<QDoubleSpinBox*>("supply")->setValue(supply);
+            dialog.findChild<QDialogButtonBox*>()
+                ->button(confirm ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel)
+                ->click();
+        });
+        Do("system");
+    }
+
+    CTempFolder m_folder;
+    CSettingOverride m_catalogues{kSettingHKDir, kData + L"/catalogues"};
+    CSettingOverride m_valves{kSettingVEDir, kData + L"/valves"};
+    CSettingOverride m_blocks{kSettingHKBlockFolder, kData + L"/drawing/heizkoerper.dxf"};
+    CSettingOverride m_records{kSettingDefFolder, m_folder.Path()};
+    fs::path m_path = fs::path(m_folder.Path()) / "casa.json";
+    CRecoveryFile m_recovery{m_folder.Path() + L"/posto"};
+    CPlanDocument m_document{&m_recovery};
+    std::optional<CString> m_answerPath;
+    CPrompts::Answer m_answer = CPrompts::Answer::cancel;
+    int m_nQuestions = 0;
+    QString m_told;
+    std::unique_ptr<CWorkbenchWindow> m_window;
+};
+
+std::string BytesOf(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+} // namespace
+
+TEST_F(WorkbenchWindow, SizesAllRoomsInOneStepThatCanBeUndone)
+{
+    const std::string before = FormatBuilding(m_document.Building());
+    ASSERT_EQ(Open(), 17u);
+    Do("sizeAll");
+    // Two rooms of the sample have no space for what they need.
+    EXPECT_EQ(Open(), 2u);
+    EXPECT_TRUE(Messages().contains("Biblioteca: "));
+    EXPECT_TRUE(m_window->isWindowModified());
+    EXPECT_EQ(Action("undo").text(), "&Annulla: Dimensiona tutto");
+
+    const std::string sized = FormatBuilding(m_document.Building());
+    Do("undo");
+    EXPECT_EQ(FormatBuilding(m_document.Building()), before);
+    EXPECT_FALSE(m_window->isWindowModified());
+    EXPECT_FALSE(Action("undo").isEnabled());
+    Do("redo");
+    EXPECT_EQ(FormatBuilding(m_document.Building()), sized);
+}
+
+TEST_F(WorkbenchWindow, WorksOnTheRoomsThatAreMarked)
+{
+    for (const char* name : {"choose", "add", "product", "size", "repair", "connect", "remove"}) {
+        EXPECT_FALSE(Action(name).isEnabled()) << name;
+    }
+    Mark({{0, 1}, {0, 3}});
+    EXPECT_FALSE(Action("choose").isEnabled());
+    EXPECT_FALSE(Action("connect").isEnabled());
+    Do("size");
+    EXPECT_EQ(Open(), 15u);
+    EXPECT_EQ(Room(0, 1).heizkoerper.size(), 1u);
+    EXPECT_TRUE(Room(0, 2).heizkoerper.empty());
+    EXPECT_TRUE(Action("connect").isEnabled());
+    Mark({{0, 1}});
+    Do("remove");
+    EXPECT_TRUE(Room(0, 1).heizkoerper.empty());
+    EXPECT_EQ(Room(0, 3).heizkoerper.size(), 1u);
+}
+
+TEST_F(WorkbenchWindow, AnotherSystemShowsWhichRoomsLackAndRepairsThem)
+{
+    Do("sizeAll");
+    auto& list = *m_window->findChild<QTableView*>("rooms");
+    ChangeSystem(55.0, 45.0, false);
+    EXPECT_EQ(Open(), 2u);
+    ChangeSystem(55.0, 45.0, true);
+    const std::size_t lacking = Open();
+    EXPECT_GT(lacking, 10u);
+    EXPECT_TRUE(m_window->findChild<QCheckBox*>("openOnly")->isChecked());
+    EXPECT_EQ(list.model()->rowCount(), static_cast<int>(lacking));
+    EXPECT_TRUE(m_window->findChild<QLabel*>("totals")->text().contains(
+        QString("Locali da sistemare: %1").arg(lacking)));
+
+    Mark({{0, 3}});
+    ASSERT_EQ(CoverageOf(Room(0, 3)), Coverage::lacking);
+    Do("repair");
+    EXPECT_EQ(CoverageOf(Room(0, 3)), Coverage::covered);
+    EXPECT_EQ(Open(), lacking - 1);
+    Do("repairAll");
+    EXPECT_LT(Open(), lacking - 1);
+    Do("undo");
+    EXPECT_EQ(Open(), lacking - 1);
+}
+
+TEST_F(WorkbenchWindow, AnImpossibleSystemCannotBeConfirmed)
+{
+    bool enabled = true;
+    QString consequence;
+    InDialog([&](QWidget& dialog) {
+        dialog.findChild<QDoubleSpinBox*>("return")->setValue(19.0);
+        auto& buttons = *dialog.findChild<QDialogButtonBox*>();
+        enabled = buttons.button(QDialogButtonBox::Ok)->isEnabled();
+        consequence = dialog.findChild<QLabel*>("consequence")->text();
+        buttons.button(QDialogButtonBox::Cancel)->click();
+    });
+    Do("system");
+    EXPECT_FALSE(enabled);
+    EXPECT_TRUE(consequence.contains("Soggiorno")) << consequence.toStdString();
+    EXPECT_FALSE(Action("undo").isEnabled());
+}
+
+TEST_F(WorkbenchWindow, CancellingTheSizingChangesNothing)
+{
+    // Long enough for the bar to show.
+    m_document.Do(L"Ampliamento", MakeLargeBuilding(2000));
+    const std::string before = FormatBuilding(m_document.Building());
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [this] {
+        if (auto* const bar = m_window->findChild<QProgressDialog*>("sizing")) {
+            bar->cancel();
+        }
+    });
+    timer.start(1);
+    Do("sizeAll");
+    // Compared as a whole: a difference of megabytes is not worth telling.
+    EXPECT_TRUE(FormatBuilding(m_document.Building()) == before);
+    EXPECT_TRUE(Messages().contains("annullato"));
+}
+
+TEST_F(WorkbenchWindow, SavesAndOpensAgainAndAsksBeforeWorkIsLost)
+{
+    Do("sizeAll");
+    const std::string sized = FormatBuilding(m_document.Building());
+    Do("open"); // the answer is to stay
+    EXPECT_EQ(m_nQuestions, 1);
+    EXPECT_EQ(FormatBuilding(m_document.Building()), sized);
+    EXPECT_FALSE(m_window->close());
+
+    Do("save");
+    EXPECT_FALSE(m_window->isWindowModified());
+    EXPECT_EQ(BytesOf(m_path), sized);
+    EXPECT_FALSE(m_recovery.Read());
+
+    m_answerPath = (m_path.parent_path() / "rotto.json").wstring();
+    std::ofstream(fs::path(*m_answerPath)) << "{ \"version\": 2,\n";
+    Do("open");
+    EXPECT_TRUE(m_told.contains("rotto.json")) << m_told.toStdString();
+    EXPECT_EQ(FormatBuilding(m_document.Building()), sized);
+    EXPECT_EQ(m_document.Path(), m_path.wstring());
+
+    m_answerPath = m_path.wstring();
+    Do("undo");
+    m_answer = CPrompts::Answer::no;
+    Do("open");
+    EXPECT_EQ(FormatBuilding(m_document.Building()), sized);
+    EXPECT_FALSE(m_document.History().CanUndo());
+}
+
+TEST_F(WorkbenchWindow, AFailedSaveKeepsFileAndWork)
+{
+    Do("sizeAll");
+    m_answerPath = (m_path.parent_path() / "manca" / "casa.json").wstring();
+    Do("saveAs");
+    EXPECT_TRUE(m_told.contains("non è stato salvato")) << m_told.toStdString();
+    EXPECT_TRUE(m_window->isWindowModified());
+    EXPECT_EQ(m_document.Path(), m_path.wstring());
+    m_answer = CPrompts::Answer::yes;
+    EXPECT_TRUE(m_window->close());
+    EXPECT_EQ(BytesOf(m_path), FormatBuilding(m_document.Building()));
+}
+
+TEST_F(WorkbenchWindow, KeepsUnsavedWorkForTheNextStart)
+{
+    Do("sizeAll");
+    m_document.KeepNow();
+    const auto kept = m_recovery.Read();
+    ASSERT_TRUE(kept);
+    EXPECT_EQ(kept->strPath, m_path.wstring());
+    CPlanDocument next(nullptr);
+    next.Recover(*kept);
+    EXPECT_EQ(FormatBuilding(next.Building()), FormatBuilding(m_document.Building()));
+    EXPECT_FALSE(next.IsSaved());
+    Do("undo");
+    EXPECT_FALSE(m_recovery.Read());
+}
+
+TEST_F(WorkbenchWindow, ExportsWhatStandsInThePlan)
+{
+    Do("sizeAll");
+    const std::tuple<const char*, const char*, std::string> exports[] = {
+        {"exportCsv", "distinta.csv", "Piano;Locale;"},
+        {"exportJson", "distinta.json", "{"},
+        {"exportPdf", "progetto.pdf", "%PDF-"},
+        {"exportDxf", "pianta.dxf", "0\r\nSECTION\r\n"},
+    };
+    for (const auto& [action, file, begin] : exports) {
+        const fs::path path = m_path.parent_path() / file;
+        m_answerPath = path.wstring();
+        Do(action);
+        EXPECT_EQ(BytesOf(path).find(begin), 0u) << action;
+        m_told.clear();
+        m_answerPath = (m_path.parent_path() / "manca" / file).wstring();
+        Do(action);
+        EXPECT_TRUE(m_told.contains("non è stato scritto")) << action;
+    }
+}
+
+TEST_F(WorkbenchWindow, AnotherCatalogueFolderTellsItsDamagedFileAndServesTheRest)
+{
+    const fs::path catalogues = m_path.parent_path() / "listini";
+    fs::copy(fs::path(RADSEL_DATA_DIR) / "catalogues", catalogues, fs::copy_options::recursive);
+    std::ofstream(catalogues / "Altovico" / "hk.tga") << "100;rotto\n";
+    m_answerPath = catalogues.wstring();
+    Do("catalogues");
+    EXPECT_TRUE(Messages().contains(QRegularExpression("Altovico/hk\\.tga: riga 1: ")))
+        << Messages().toStdString();
+    Do("sizeAll");
+    EXPECT_EQ(Room(0, 0).strHersteller, L"Altovico");
+    EXPECT_TRUE(Room(0, 0).heizkoerper.empty());
+    EXPECT_EQ(Room(0, 1).heizkoerper.size(), 1u);
+}
+
+TEST_F(WorkbenchWindow, PlanAndListMarkTheSameRooms)
+{
+    auto& scene = *m_window->findChild<CFloorScene*>();
+    auto& list = *m_window->findChild<QTableView*>("rooms");
+    Mark({{0, 2}});
+    ASSERT_EQ(list.selectionModel()->selectedRows().size(), 1);
+    EXPECT_EQ(list.selectionModel()->selectedRows()[0].siblingAtColumn(1).data().toString(),
+              ToQt(Room(0, 2).strName));
+
+    const int last = list.model()->rowCount() - 1;
+    list.selectRow(last);
+    EXPECT_EQ(m_window->findChild<QTabBar*>("floors")->currentIndex(), 1);
+    ASSERT_EQ(scene.GetMarkedRooms().size(), 1u);
+    EXPECT_EQ(list.model()->index(last, 1).data().toString(),
+              ToQt(RoomOf(m_document.Building(), scene.GetMarkedRooms()[0]).strName));
+}

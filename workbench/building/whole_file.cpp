@@ -1,0 +1,10 @@
+#include "workbench/building/whole_file.h"
+
+#include "platform/file.h"
+
+void WriteWholeFile(const CString& path, std::string_view bytes)
+{
+    CFile file(path, CFile::modeCreate | CFile::modeWrite);
+    file.Write(bytes.data(), bytes.size());
+    file.Close();
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "reference_host/catalog/catalogue_errors.h"
+
+#include <vector>
+
+/// Reads the radiator catalogues of all makers and tells those that cannot be read.
+std::vector<CCatalogueError> CheckCatalogues();
+
+/// File, line and reason in one line, as messages show it.
+CString FormatCatalogueError(const CCatalogueError& error);

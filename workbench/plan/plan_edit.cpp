@@ -1,0 +1,154 @@
+#include "workbench/plan/plan_edit.h"
+
+#include "frame/entry_points.h"
+#include "platform/rounding.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <memory>
+#include <utility>
+
+namespace {
+
+constexpr double kWatt = 1.0;
+
+/// The factor from standard output to that at the system's temperatures: every silent selection
+/// leaves it in the hand-over, with a product or without.
+double AskFactor(const CHeatingSystem& system, double raumtemperatur)
+{
+    HK_DATEN_VDI3805_UEBERGABE uebergabe;
+    uebergabe.Vorlauf = system.vorlauf;
+    uebergabe.Ruecklauf = system.ruecklauf;
+    uebergabe.Raumtemperatur = raumtemperatur;
+    CString layer;
+    int layerColor = 0;
+    HeizkoerperauswahlVDI3805(nullptr, &uebergabe, layer, layerColor, false, false);
+    return uebergabe.Umrechnungsfaktor;
+}
+
+/// Asks the module once for every temperature that rooms have.
+class CFactors
+{
+public:
+    explicit CFactors(const CHeatingSystem& system) : m_system(system) {}
+
+    double Of(double raumtemperatur)
+    {
+        const auto [entry, isNew] = m_factors.try_emplace(raumtemperatur);
+        if (isNew) {
+            entry->second = AskFactor(m_system, raumtemperatur);
+        }
+        return entry->second;
+    }
+
+private:
+    CHeatingSystem m_system;
+    std::map<double, double> m_factors;
+};
+
+CRoom RoomAt(const CRoom& room, double factor)
+{
+    CRoom result = room;
+    for (CPlacedRadiator& radiator : result.heizkoerper) {
+        radiator.daten.Leistung = RoundTo(radiator.daten.LeistungEN442 * factor, kWatt);
+    }
+    return result;
+}
+
+} // namespace
+
+bool Exists(const CBuilding& building, const CRoomRef& ref)
+{
+    return ref.nFloor < building.floors.size() &&
+           ref.nRoom < building.floors[ref.nFloor].rooms.size();
+}
+
+bool Exists(const CBuilding& building, const CRadiatorRef& ref)
+{
+    return Exists(building, ref.room) &&
+           ref.nRadiator < RoomOf(building, ref.room).heizkoerper.size();
+}
+
+const CRoom& RoomOf(const CBuilding& building, const CRoomRef& ref)
+{
+    return *building.floors.at(ref.nFloor).rooms.at(ref.nRoom);
+}
+
+const CPlacedRadiator& RadiatorOf(const CBuilding& building, const CRadiatorRef& ref)
+{
+    return RoomOf(building, ref.room).heizkoerper.at(ref.nRadiator);
+}
+
+std::vector<CRoomRef> AllRooms(const CBuilding& building)
+{
+    std::vector<CRoomRef> refs;
+    for (std::size_t floor = 0; floor < building.floors.size(); ++floor) {
+        for (std::size_t room = 0; room < building.floors[floor].rooms.size(); ++room) {
+            refs.push_back({floor, room});
+        }
+    }
+    return refs;
+}
+
+void ReplaceRoom(CBuilding& building, const CRoomRef& ref, CRoom room)
+{
+    building.floors.at(ref.nFloor).rooms.at(ref.nRoom) =
+        std::make_shared<const CRoom>(std::move(room));
+}
+
+void ReplaceRadiator(CBuilding& building, const CRadiatorRef& ref, CPlacedRadiator radiator)
+{
+    CRoom room = RoomOf(building, ref.room);
+    room.heizkoerper.at(ref.nRadiator) = std::move(radiator);
+    ReplaceRoom(building, ref.room, std::move(room));
+}
+
+void RemoveRadiators(CBuilding& building, const std::vector<CRadiatorRef>& refs)
+{
+    // From the last one on, so that those to come keep their index.
+    std::vector<CRadiatorRef> falling = refs;
+    std::ranges::sort(falling, std::greater<>());
+    falling.erase(std::unique(falling.begin(), falling.end()), falling.end());
+    for (const CRadiatorRef& ref : falling) {
+        if (Exists(building, ref)) {
+            CRoom room = RoomOf(building, ref.room);
+            room.heizkoerper.erase(room.heizkoerper.begin() +
+                                   static_cast<std::ptrdiff_t>(ref.nRadiator));
+            ReplaceRoom(building, ref.room, std::move(room));
+        }
+    }
+}
+
+void ChangeSystem(CBuilding& building, const CHeatingSystem& system)
+{
+    building.system = system;
+    CFactors factors(system);
+    for (const CRoomRef& ref : AllRooms(building)) {
+        const CRoom& room = RoomOf(building, ref);
+        if (!room.heizkoerper.empty()) {
+            ReplaceRoom(building, ref, RoomAt(room, factors.Of(room.raumtemperatur)));
+        }
+    }
+}
+
+void UpdateOutputs(CBuilding& building, const CRoomRef& ref)
+{
+    const CRoom& room = RoomOf(building, ref);
+    ReplaceRoom(building, ref, RoomAt(room, CFactors(building.system).Of(room.raumtemperatur)));
+}
+
+void SetProduct(CBuilding& building, const std::vector<CRoomRef>& rooms, const CString& hersteller,
+                const CString& art, const CString& produkt)
+{
+    for (const CRoomRef& ref : rooms) {
+        if (Exists(building, ref)) {
+            CRoom room = RoomOf(building, ref);
+            room.strHersteller = hersteller;
+            room.strArt = art;
+            room.strProdukt = produkt;
+            ReplaceRoom(building, ref, std::move(room));
+        }
+    }
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "workbench/building/building.h"
+
+#include <compare>
+#include <cstddef>
+#include <vector>
+
+/// A room by its place in the building; holds as long as floors and rooms are the same.
+struct CRoomRef
+{
+    std::size_t nFloor = 0;
+    std::size_t nRoom = 0;
+    // The linter takes a number inside of the default for a pointer.
+    auto operator<=>(const CRoomRef&) const = default; // NOLINT(modernize-use-nullptr)
+};
+
+/// A radiator of a room; holds as long as the room's radiators are the same ones.
+struct CRadiatorRef
+{
+    CRoomRef room;
+    std::size_t nRadiator = 0;
+    // The linter takes a number inside of the default for a pointer.
+    auto operator<=>(const CRadiatorRef&) const = default; // NOLINT(modernize-use-nullptr)
+};
+
+bool Exists(const CBuilding& building, const CRoomRef& ref);
+bool Exists(const CBuilding& building, const CRadiatorRef& ref);
+
+/// The room must exist.
+const CRoom& RoomOf(const CBuilding& building, const CRoomRef& ref);
+const CPlacedRadiator& RadiatorOf(const CBuilding& building, const CRadiatorRef& ref);
+
+/// All rooms of the building, floor by floor.
+std::vector<CRoomRef> AllRooms(const CBuilding& building);
+
+/// Puts another room, or another radiator, in place of the one there, which must exist. Other
+/// states of the building keep theirs.
+void ReplaceRoom(CBuilding& building, const CRoomRef& ref, CRoom room);
+void ReplaceRadiator(CBuilding& building, const CRadiatorRef& ref, CPlacedRadiator radiator);
+
+/// Takes radiators out; those that do not exist are passed over.
+void RemoveRadiators(CBuilding& building, const std::vector<CRadiatorRef>& refs);
+
+/// Gives the building another heating system: the output of every radiator, whatever its catalogue,
+/// becomes the one that the module computes for it at these temperatures. The return must be warmer
+/// than every room (FindRoomTooWarm).
+void ChangeSystem(CBuilding& building, const CHeatingSystem& system);
+
+/// Makes the outputs of a room's radiators those at the building's heating system.
+void UpdateOutputs(CBuilding& building, const CRoomRef& ref);
+
+/// Writes a product into rooms as the one wished for; radiators stay. Rooms that do not exist are
+/// passed over.
+void SetProduct(CBuilding& building, const std::vector<CRoomRef>& rooms, const CString& hersteller,
+                const CString& art, const CString& produkt);

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "workbench/building/building.h"
+
+#include <cstdint>
+#include <optional>
+
+/// Unsaved work as it was kept last.
+struct CRecovery
+{
+    /// File of the building; empty if it never had one.
+    CString strPath;
+    /// When it was kept, in seconds since the beginning of 1970, UTC.
+    std::int64_t nTime = 0;
+    CBuilding building;
+};
+
+/// Where a running program keeps unsaved work, so that it comes back after a crash: a file in the
+/// folder of the working place, in the form of docs/building-format.md. Every running program has a
+/// file of its own there; the system takes its lock away when it ends, however that happens.
+class CRecoveryFile
+{
+public:
+    /// Takes a file that no running program has, if there is one that a program has left behind,
+    /// and makes the folder where it is missing. Call Read() before the first Write(), which
+    /// replaces what was left. Raises CFileException.
+    explicit CRecoveryFile(const CString& folder);
+
+    /// Leaves the file where it is. A program that ends as it should calls Remove() before.
+    ~CRecoveryFile();
+
+    CRecoveryFile(const CRecoveryFile&) = delete;
+    CRecoveryFile& operator=(const CRecoveryFile&) = delete;
+
+    /// The work in the file; nothing if there is none. A file that cannot be read gets another name
+    /// beside it and is told by CContentException; from then on there is none.
+    std::optional<CRecovery> Read() const;
+
+    /// Keeps the building, with the time of now, in place of what was kept before. `path` is the
+    /// file that it belongs to, or empty. Whatever happens meanwhile, the file holds the old work
+    /// or the new, whole. Raises CFileException.
+    void Write(const CString& path, const CBuilding& building) const;
+
+    /// Takes the file away if there is one. Raises CFileException.
+    void Remove() const;
+
+private:
+    bool Take(const CString& folder, int number);
+    CString SetAside() const;
+
+    CString m_strPath;
+    int m_lock = -1;
+};

@@ -1,0 +1,166 @@
+#include "workbench/program/batch.h"
+
+#include "platform/encoding.h"
+#include "platform/file.h"
+#include "platform/path.h"
+#include "workbench/building/building_json.h"
+#include "workbench/building/json_fields.h"
+#include "workbench/building/whole_file.h"
+#include "workbench/drawing/drawing_blocks.h"
+#include "workbench/plan/sizing.h"
+#include "workbench/program/arguments.h"
+#include "workbench/program/dialog_run.h"
+#include "workbench/program/host_folders.h"
+#include "workbench/report/plan_files.h"
+#include "workbench/schedule/schedule_csv.h"
+#include "workbench/schedule/schedule_json.h"
+#include "workbench/schedule/schedule_text.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <ostream>
+#include <system_error>
+#include <utility>
+
+namespace {
+
+constexpr wchar_t kCsvName[] = L"corpi-scaldanti.csv";
+constexpr wchar_t kJsonName[] = L"corpi-scaldanti.json";
+
+CBuilding LoadBuilding(const CArguments& arguments)
+{
+    CBuilding building = ReadBuilding(arguments.strBuilding);
+    if (!arguments.strRoom.empty() && !KeepRoom(building, arguments.strRoom)) {
+        throw CArgumentException(L"--room: l'edificio non ha il locale \"" + arguments.strRoom +
+                                 L"\"");
+    }
+    if (arguments.system) {
+        building.system = *arguments.system;
+        if (const CRoom* room = FindRoomTooWarm(building)) {
+            throw CArgumentException(L"--system: il ritorno non supera la temperatura del locale "
+                                     L"\"" +
+                                     room->strName + L"\"");
+        }
+    }
+    return building;
+}
+
+/// What a run comes to.
+struct CResult
+{
+    CSchedule schedule;
+    /// The building with its radiators.
+    CBuilding building;
+};
+
+/// A building that has no radiators yet is told with what was tried where none was found; one that
+/// has some with what stands in it after they were sized.
+CResult Calculate(const CBuilding& building)
+{
+    const std::vector<CRoomRef> rooms = AllRooms(building);
+    CSizingResult sized = SizeRooms(building, rooms, {});
+    const bool isPlanned = std::ranges::any_of(
+        rooms, [&](const CRoomRef& room) { return !RoomOf(building, room).heizkoerper.empty(); });
+    if (isPlanned) {
+        sized.faults.clear();
+    }
+    CSchedule schedule = SchedulePlan(sized.building, sized.faults);
+    return {std::move(schedule), std::move(sized.building)};
+}
+
+void WriteFiles(const CResult& result, const CDrawingBlocks& blocks, const CArguments& arguments)
+{
+    const CString& folder = arguments.strOutput;
+    std::error_code error;
+    std::filesystem::create_directories(ResolvePath(folder), error);
+    if (error) {
+        throw CFileException::FromErrno(error.value(), folder);
+    }
+    WriteWholeFile(JoinPath(folder, kCsvName), Utf8FromWide(FormatScheduleCsv(result.schedule)));
+    WriteWholeFile(JoinPath(folder, kJsonName), FormatScheduleJson(result.schedule));
+    WritePlanFiles(folder, result.building, blocks);
+    if (!arguments.strSave.empty()) {
+        WriteBuilding(arguments.strSave, result.building);
+    }
+}
+
+ExitCode Report(std::ostream& err, const CString& message, ExitCode code)
+{
+    err << Utf8FromWide(L"radsel_workbench: " + message) << '\n';
+    return code;
+}
+
+/// Shows a text; a screen that cannot be written to is an error whatever came before.
+ExitCode Show(const CString& text, ExitCode code, std::ostream& out, std::ostream& err)
+{
+    out << Utf8FromWide(text) << std::flush;
+    return out ? code
+               : Report(err, L"l'uscita standard non è scrivibile", ExitCode::outputNotWritable);
+}
+
+/// Plans are drawn without the blocks that cannot be read.
+CDrawingBlocks ReadBlocks(ExitCode& code, std::ostream& err)
+{
+    CDrawingBlocks blocks = ReadDrawingBlocks();
+    for (const CDxfError& error : blocks.errors) {
+        code = Report(err, FormatDxfError(error), ExitCode::badCatalogue);
+    }
+    return blocks;
+}
+
+/// The files come first: a reader of `out` that goes away ends the process.
+ExitCode Deliver(const CResult& result, const CArguments& arguments, std::ostream& out,
+                 std::ostream& err)
+{
+    ExitCode code = result.schedule.HasBadCatalogue() ? ExitCode::badCatalogue : ExitCode::ok;
+    CString text = FormatScheduleText(result.schedule, arguments.bValves);
+    try {
+        WriteFiles(result, ReadBlocks(code, err), arguments);
+        text += L"Scritti " + CString(kCsvName) + L", " + kJsonName + L", " + kPdfName + L" e " +
+                kDxfName + L" in " + arguments.strOutput + L"\n";
+    } catch (const CFileException& error) {
+        code = Report(err, L"risultati non scrivibili: " + error.GetErrorMessage(),
+                      ExitCode::outputNotWritable);
+    }
+    return Show(text, code, out, err);
+}
+
+ExitCode RunValveDialog(const CArguments& arguments, std::ostream& out, std::ostream& err)
+{
+    SetValveFolder(arguments, true);
+    SetWorkplace(arguments);
+    const auto ventil = ChooseValve(arguments.strMaker, arguments.strValveNumber);
+    return ventil ? Show(FormatChosenValve(*ventil), ExitCode::ok, out, err)
+                  : Report(err, L"finestra annullata", ExitCode::cancelled);
+}
+
+ExitCode Run(const CArguments& arguments, std::ostream& out, std::ostream& err)
+{
+    if (arguments.bHelp) {
+        return Show(GetHelpText(), ExitCode::ok, out, err);
+    }
+    if (arguments.bValveDialog) {
+        return RunValveDialog(arguments, out, err);
+    }
+    SetCatalogueFolder(arguments);
+    const CBuilding building = LoadBuilding(arguments);
+    SetValveFolder(arguments, HasValves(building));
+    return Deliver(Calculate(building), arguments, out, err);
+}
+
+} // namespace
+
+ExitCode RunBatch(const std::vector<CString>& arguments, std::ostream& out, std::ostream& err)
+{
+    try {
+        return Run(ParseArguments(arguments), out, err);
+    } catch (const CArgumentException& error) {
+        return Report(err, error.GetErrorMessage() + L" (--help mostra le opzioni)",
+                      ExitCode::wrongArguments);
+    } catch (const CContentException& error) {
+        return Report(err, error.GetErrorMessage(), ExitCode::badBuilding);
+    } catch (const std::exception& error) {
+        return Report(err, L"errore imprevisto: " + WideFromUtf8(error.what()),
+                      ExitCode::unexpected);
+    }
+}

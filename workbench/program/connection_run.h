@@ -1,0 +1,31 @@
+#pragma once
+
+#include "frame/conn_values.h"
+#include "frame/ventil_kv.h"
+#include "workbench/program/batch.h"
+
+#include <iosfwd>
+#include <vector>
+
+/// What the connection dialog works on and gives back.
+struct CConnectionChoice
+{
+    ConnValues anschluss;
+    VDI3805_VENTIL_KV ventilVorlauf;
+    VDI3805_VENTIL_KV ventilRuecklauf;
+    bool bVentile = true;
+    bool bTyp = true;
+    bool bFanCoil = false;
+};
+
+/// The choice in plain words, a line each; lines end in a line feed.
+CString FormatConnectionChoice(const CConnectionChoice& choice);
+
+/// Opens the module's connection dialog beside a plan with three radiators that show their
+/// connections live, and prints on `out` what the user confirmed; `cancelled` if he did not.
+///
+/// `arguments` are those behind the program's name. "--superuser" lets the user expand the dialog,
+/// "--valve-catalogues DIR" and "--workplace DIR" are those of the other runs, and anything else is
+/// left to them.
+ExitCode RunConnectionDialog(const std::vector<CString>& arguments, std::ostream& out,
+                             std::ostream& err);

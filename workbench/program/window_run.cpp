@@ -1,0 +1,114 @@
+#include "workbench/program/window_run.h"
+
+#include "host/host_base.h"
+#include "platform/encoding.h"
+#include "reference_host/prefs/host_settings.h"
+#include "workbench/building/json_fields.h"
+#include "workbench/plan/recovery_file.h"
+#include "workbench/program/arguments.h"
+#include "workbench/program/dialog_run.h"
+#include "workbench/program/host_folders.h"
+#include "workbench/window/window_text.h"
+#include "workbench/window/workbench_window.h"
+
+#include <QApplication>
+
+#include <memory>
+#include <ostream>
+
+namespace {
+
+ExitCode Report(std::ostream& err, const CString& message, ExitCode code)
+{
+    err << Utf8FromWide(L"radsel_workbench: " + message) << '\n';
+    return code;
+}
+
+/// Unsaved work that an earlier run left behind, if the user wants to go on with it.
+bool RecoverWork(const CRecoveryFile& file, CPlanDocument& document, const CPrompts& prompts,
+                 QStringList& messages)
+{
+    try {
+        const auto recovery = file.Read();
+        if (!recovery) {
+            return false;
+        }
+        const QString text =
+            QString("Il programma si è chiuso prima di salvare l'edificio \"%1\".\n"
+                    "Recuperare il lavoro non salvato?")
+                .arg(ToQt(recovery->building.strName));
+        if (prompts.ask(nullptr, text, "&Recupera", "&Elimina", false) != CPrompts::Answer::yes) {
+            file.Remove();
+            return false;
+        }
+        document.Recover(*recovery);
+        return true;
+    } catch (const CException& error) {
+        messages += ToQt(error.GetErrorMessage());
+        return false;
+    }
+}
+
+std::unique_ptr<CRecoveryFile> OpenRecovery(QStringList& messages)
+{
+    try {
+        CString folder;
+        if (!configGetWorkPathLocal(folder)) {
+            folder = ConfigurationFolder().value_or(L".");
+        }
+        return std::make_unique<CRecoveryFile>(folder);
+    } catch (const CException& error) {
+        messages += "Il lavoro non salvato non è al sicuro da un arresto improvviso: " +
+                    ToQt(error.GetErrorMessage());
+        return nullptr;
+    }
+}
+
+CDrawingBlocks ReadBlocks(QStringList& messages)
+{
+    CDrawingBlocks blocks = ReadDrawingBlocks();
+    for (const CDxfError& error : blocks.errors) {
+        messages += ToQt(FormatDxfError(error));
+    }
+    return blocks;
+}
+
+ExitCode Run(const CArguments& arguments)
+{
+    QStringList messages;
+    const auto recovery = OpenRecovery(messages);
+    CPlanDocument document(recovery.get());
+    const CPrompts prompts = MakePrompts();
+    if (!recovery || !RecoverWork(*recovery, document, prompts, messages)) {
+        document.Open(arguments.strBuilding);
+    }
+    CWorkbenchWindow window(document, ReadBlocks(messages), prompts);
+    if (const QString errors = DescribeCatalogueErrors(); !errors.isEmpty()) {
+        messages += errors;
+    }
+    if (!messages.isEmpty()) {
+        window.Tell(messages.join('\n'));
+    }
+    window.show();
+    QApplication::exec();
+    return ExitCode::ok;
+}
+
+} // namespace
+
+ExitCode RunWindow(const std::vector<CString>& arguments, std::ostream& err)
+{
+    try {
+        const CArguments parsed = ParseArguments(arguments);
+        SetCatalogueFolder(parsed);
+        SetValveFolder(parsed, false);
+        SetWorkplace(parsed);
+        StartWindows();
+        return Run(parsed);
+    } catch (const CArgumentException& error) {
+        return Report(err, error.GetErrorMessage() + L" (--help mostra le opzioni)",
+                      ExitCode::wrongArguments);
+    } catch (const CContentException& error) {
+        return Report(err, error.GetErrorMessage(), ExitCode::badBuilding);
+    }
+}

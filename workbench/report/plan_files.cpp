@@ -1,0 +1,35 @@
+#include "workbench/report/plan_files.h"
+
+#include "platform/path.h"
+#include "reference_host/base/qt_application.h"
+#include "workbench/building/whole_file.h"
+#include "workbench/drawing/drawing_blocks.h"
+#include "workbench/report/plan_dxf.h"
+#include "workbench/report/plan_pdf.h"
+
+#include <QCoreApplication>
+#include <QDate>
+
+#include <cstdlib>
+
+namespace {
+
+/// The toolkit draws pages only if it has an application object, which need not have a screen.
+void EnsurePages()
+{
+    if (QCoreApplication::instance() == nullptr) {
+        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+        EnsureApplication();
+    }
+}
+
+} // namespace
+
+void WritePlanFiles(const CString& folder, const CBuilding& building, const CDrawingBlocks& blocks)
+{
+    EnsurePages();
+    WritePlanPdf(JoinPath(folder, kPdfName), building, blocks.heizkoerper, blocks.Valves(),
+                 QDate::currentDate());
+    WriteWholeFile(JoinPath(folder, kDxfName),
+                   FormatPlanDxf(building, blocks.heizkoerper, blocks.Valves()));
+}

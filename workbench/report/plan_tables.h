@@ -1,0 +1,18 @@
+#pragma once
+
+#include "workbench/report/report_table.h"
+#include "workbench/schedule/schedule.h"
+
+/// The tables of a plan's report. The widths of their columns suit paper of 297 mm.
+
+/// Sums of the floors and of the building.
+CReportTable MakeTotalsTable(const CSchedule& schedule);
+
+/// Every radiator with its number and every room without one, with sums.
+CReportTable MakeScheduleTable(const CSchedule& schedule);
+
+/// Rooms that are not covered, and how much they lack.
+CReportTable MakeOpenRoomsTable(const CSchedule& schedule);
+
+/// The valves to be ordered.
+CReportTable MakeValveTable(const CSchedule& schedule);

@@ -1,0 +1,208 @@
+#include "workbench/schedule/schedule.h"
+
+#include "platform/format.h"
+#include "workbench/plan/coverage.h"
+
+#include <algorithm>
+#include <map>
+#include <tuple>
+
+namespace {
+
+/// Most radiators of a building have the same valves.
+class CValveFetcher
+{
+public:
+    const CRoomValves& Fetch(const CValveKeys& keys)
+    {
+        const auto [found, isNew] =
+            m_fetched.try_emplace({KeyOf(keys.vorlauf), KeyOf(keys.ruecklauf)});
+        if (isNew) {
+            found->second = FetchValves(keys);
+        }
+        return found->second;
+    }
+
+private:
+    using Key = std::tuple<bool, CString, CString>;
+
+    static Key KeyOf(const std::optional<CValveKey>& key)
+    {
+        return key ? Key{true, key->strHersteller, key->strVentilNr} : Key{};
+    }
+
+    std::map<std::pair<Key, Key>, CRoomValves> m_fetched;
+};
+
+CString DescribeLack(const CRoom& room)
+{
+    const double missing = RemainderOf(room);
+    return L"mancano " + FormatFixed(missing, 0) + L" W (" +
+           FormatFixed(100.0 * missing / room.GetLeistung(), 1) + L" %)";
+}
+
+CRoomOutcome OutcomeOf(const CRoom& room)
+{
+    switch (CoverageOf(room)) {
+    case Coverage::notNeeded:
+        return room.heizkoerper.empty()
+                   ? CRoomOutcome{RoomStatus::covered, {}, L"nessun corpo scaldante necessario"}
+                   : CRoomOutcome{RoomStatus::chosen, {}, {}};
+    case Coverage::covered:
+        return {RoomStatus::chosen, {}, {}};
+    case Coverage::lacking:
+        return {RoomStatus::lacking, {}, DescribeLack(room)};
+    case Coverage::empty:
+        return {RoomStatus::missing, {}, DescribeLack(room)};
+    }
+    return {};
+}
+
+/// Makes the rows of rooms.
+class CRowMaker
+{
+public:
+    explicit CRowMaker(const std::vector<CSizingFault>& faults)
+    {
+        for (const CSizingFault& fault : faults) {
+            m_faults.emplace(fault.room, &fault.outcome);
+        }
+    }
+
+    void AppendRows(std::vector<CScheduleRow>& rows, const CRoom& room, const CRoomRef& ref)
+    {
+        CScheduleRow row{room, OutcomeOf(room), {}, true, OutputOf(room)};
+        row.room.heizkoerper.clear();
+        if (room.heizkoerper.empty()) {
+            const auto fault = m_faults.find(ref);
+            row.outcome = fault != m_faults.end() ? *fault->second : row.outcome;
+            rows.push_back(row);
+            return;
+        }
+        for (const CPlacedRadiator& radiator : room.heizkoerper) {
+            row.room.strHersteller = radiator.strHersteller;
+            row.room.strArt = radiator.strArt;
+            row.room.strProdukt = radiator.strProdukt;
+            row.outcome.radiator = CRadiator{radiator.strTyp, radiator.daten};
+            row.ventile = m_valves.Fetch(radiator.ventile);
+            rows.push_back(row);
+            row.bErster = false;
+        }
+    }
+
+private:
+    std::map<CRoomRef, const CRoomOutcome*> m_faults;
+    CValveFetcher m_valves;
+};
+
+CScheduleFloor MakeFloor(const CFloor& floor, std::size_t number, CRowMaker& rows)
+{
+    CScheduleFloor result;
+    result.strName = floor.strName;
+    for (std::size_t room = 0; room < floor.rooms.size(); ++room) {
+        rows.AppendRows(result.rows, *floor.rooms[room], {number, room});
+    }
+    for (const CScheduleRow& row : result.rows) {
+        result.totals.Add(row);
+    }
+    return result;
+}
+
+} // namespace
+
+bool CScheduleRow::HasRadiator() const
+{
+    return outcome.radiator &&
+           (outcome.status == RoomStatus::chosen || outcome.status == RoomStatus::lacking);
+}
+
+void CScheduleTotals::Add(const CScheduleRow& row)
+{
+    if (row.bErster) {
+        ++nRooms;
+        bedarf += row.room.bedarf;
+        required += GetRequired(row.room);
+        nChosen += row.outcome.status == RoomStatus::chosen ? 1 : 0;
+        nOpen += IsOpen(row.outcome.status) ? 1 : 0;
+    }
+    if (row.HasRadiator()) {
+        ++nHeizkoerper;
+        leistungEN442 += row.outcome.radiator->daten.LeistungEN442;
+        leistung += row.outcome.radiator->daten.Leistung;
+        inhalt += row.outcome.radiator->daten.Inhalt;
+    }
+}
+
+void CScheduleTotals::Add(const CScheduleTotals& other)
+{
+    nRooms += other.nRooms;
+    nChosen += other.nChosen;
+    nOpen += other.nOpen;
+    nHeizkoerper += other.nHeizkoerper;
+    bedarf += other.bedarf;
+    required += other.required;
+    leistungEN442 += other.leistungEN442;
+    leistung += other.leistung;
+    inhalt += other.inhalt;
+}
+
+bool CSchedule::HasBadCatalogue() const
+{
+    const auto isBad = [](const CScheduleRow& row) {
+        return row.outcome.status == RoomStatus::badCatalogue ||
+               row.ventile.vorlauf.status == ValveStatus::badFile ||
+               row.ventile.ruecklauf.status == ValveStatus::badFile;
+    };
+    return std::any_of(floors.begin(), floors.end(), [&](const CScheduleFloor& floor) {
+        return std::any_of(floor.rows.begin(), floor.rows.end(), isBad);
+    });
+}
+
+CSchedule SchedulePlan(const CBuilding& building, const std::vector<CSizingFault>& faults)
+{
+    CSchedule schedule;
+    schedule.strBuilding = building.strName;
+    schedule.system = building.system;
+    CRowMaker rows(faults);
+    for (std::size_t floor = 0; floor < building.floors.size(); ++floor) {
+        schedule.floors.push_back(MakeFloor(building.floors[floor], floor, rows));
+        schedule.totals.Add(schedule.floors.back().totals);
+    }
+    return schedule;
+}
+
+bool IsOpen(RoomStatus status)
+{
+    return status != RoomStatus::chosen && status != RoomStatus::covered;
+}
+
+double GetRequired(const CRoom& room)
+{
+    return std::max(0.0, room.GetLeistung());
+}
+
+double GetDeviation(double leistung, double required)
+{
+    return required > 0.0 ? 100.0 * (leistung - required) / required : 0.0;
+}
+
+CString GetStatusText(RoomStatus status)
+{
+    switch (status) {
+    case RoomStatus::chosen:
+        return L"scelto";
+    case RoomStatus::covered:
+        return L"già coperto";
+    case RoomStatus::unfitting:
+        return L"nessuna misura adatta";
+    case RoomStatus::unknownProduct:
+        return L"prodotto non trovato";
+    case RoomStatus::badCatalogue:
+        return L"catalogo illeggibile";
+    case RoomStatus::missing:
+        return L"manca il corpo scaldante";
+    case RoomStatus::lacking:
+        return L"insufficiente";
+    }
+    return {};
+}

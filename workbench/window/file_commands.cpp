@@ -1,0 +1,195 @@
+#include "workbench/window/file_commands.h"
+
+#include "host/host_prefs.h"
+#include "platform/encoding.h"
+#include "platform/file.h"
+#include "reference_host/prefs/host_settings.h"
+#include "workbench/building/json_fields.h"
+#include "workbench/building/whole_file.h"
+#include "workbench/drawing/drawing_blocks.h"
+#include "workbench/plan/catalogue_check.h"
+#include "workbench/report/plan_dxf.h"
+#include "workbench/report/plan_pdf.h"
+#include "workbench/schedule/schedule_csv.h"
+#include "workbench/schedule/schedule_json.h"
+#include "workbench/window/plan_document.h"
+#include "workbench/window/prompts.h"
+#include "workbench/window/window_text.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+
+namespace {
+
+const QString kBuildingFilter = "Edifici (*.json)";
+
+CString WithSuffix(const CString& path, const CString& suffix)
+{
+    const std::size_t name = path.find_last_of(L"/\\") + 1;
+    return path.find(L'.', name) == CString::npos ? path + suffix : path;
+}
+
+/// Path beside the building's file, with another suffix.
+CString Proposal(const CPlanDocument& document, const CString& suffix)
+{
+    const CString& path = document.Path();
+    const std::size_t dot = path.rfind(L'.');
+    return (path.empty() ? document.Building().strName : path.substr(0, dot)) + suffix;
+}
+
+/// Shows the wait cursor as long as it lives.
+class CWaiting
+{
+public:
+    CWaiting() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~CWaiting() { QGuiApplication::restoreOverrideCursor(); }
+    CWaiting(const CWaiting&) = delete;
+    CWaiting& operator=(const CWaiting&) = delete;
+};
+
+} // namespace
+
+CFileCommands::CFileCommands(CPlanDocument& document, const CDrawingBlocks& blocks,
+                             const CPrompts& prompts, QWidget& window)
+    : m_document(document), m_blocks(blocks), m_prompts(prompts), m_window(window)
+{
+}
+
+void CFileCommands::Open()
+{
+    if (!MayLeave()) {
+        return;
+    }
+    const auto path =
+        m_prompts.openFile(&m_window, "Apri edificio", kBuildingFilter, m_document.Path());
+    if (!path) {
+        return;
+    }
+    try {
+        const CWaiting waiting;
+        m_document.Open(*path);
+    } catch (const CContentException& error) {
+        m_prompts.tell(&m_window, ToQt(error.GetErrorMessage()));
+    }
+}
+
+bool CFileCommands::Save()
+{
+    return m_document.Path().empty() ? SaveAs() : SaveTo(m_document.Path());
+}
+
+bool CFileCommands::SaveAs()
+{
+    const auto path = m_prompts.saveFile(&m_window, "Salva edificio", kBuildingFilter,
+                                         Proposal(m_document, L".json"));
+    return path && SaveTo(WithSuffix(*path, L".json"));
+}
+
+bool CFileCommands::SaveTo(const CString& path)
+{
+    try {
+        const CWaiting waiting;
+        m_document.SaveAs(path);
+        return true;
+    } catch (const CFileException& error) {
+        m_prompts.tell(
+            &m_window,
+            QString("L'edificio non è stato salvato.\n%1").arg(ToQt(error.GetErrorMessage())));
+        return false;
+    }
+}
+
+bool CFileCommands::MayLeave()
+{
+    if (m_document.IsSaved()) {
+        return true;
+    }
+    switch (m_prompts.ask(&m_window, "Salvare le modifiche all'edificio?", "&Salva", "&Non salvare",
+                          true)) {
+    case CPrompts::Answer::yes:
+        return Save();
+    case CPrompts::Answer::no:
+        return true;
+    case CPrompts::Answer::cancel:
+        break;
+    }
+    return false;
+}
+
+template <class WRITE>
+void CFileCommands::Export(const QString& title, const QString& filter, const CString& suffix,
+                           WRITE write)
+{
+    const auto chosen = m_prompts.saveFile(&m_window, title, filter, Proposal(m_document, suffix));
+    if (!chosen) {
+        return;
+    }
+    const CString path = WithSuffix(*chosen, suffix);
+    try {
+        const CWaiting waiting;
+        write(path);
+        emit Told(QString("Scritto %1").arg(ToQt(path)));
+    } catch (const CFileException& error) {
+        m_prompts.tell(
+            &m_window,
+            QString("Il file non è stato scritto.\n%1").arg(ToQt(error.GetErrorMessage())));
+    }
+}
+
+void CFileCommands::ExportCsv()
+{
+    Export("Esporta la distinta", "CSV (*.csv)", L".csv", [this](const CString& path) {
+        const CSchedule schedule = SchedulePlan(m_document.Building());
+        WriteWholeFile(path, Utf8FromWide(FormatScheduleCsv(schedule)));
+    });
+}
+
+void CFileCommands::ExportJson()
+{
+    Export("Esporta la distinta", "JSON (*.json)", L"-distinta.json", [this](const CString& path) {
+        WriteWholeFile(path, FormatScheduleJson(SchedulePlan(m_document.Building())));
+    });
+}
+
+void CFileCommands::ExportPdf()
+{
+    Export("Esporta il progetto", "PDF (*.pdf)", L".pdf", [this](const CString& path) {
+        WritePlanPdf(path, m_document.Building(), m_blocks.heizkoerper, m_blocks.Valves(),
+                     QDate::currentDate());
+    });
+}
+
+void CFileCommands::ExportDxf()
+{
+    Export("Esporta la pianta", "DXF (*.dxf)", L".dxf", [this](const CString& path) {
+        WriteWholeFile(
+            path, FormatPlanDxf(m_document.Building(), m_blocks.heizkoerper, m_blocks.Valves()));
+    });
+}
+
+void CFileCommands::ChooseCatalogues()
+{
+    const auto folder =
+        m_prompts.openFolder(&m_window, "Cartella dei cataloghi", {}, GetHKDir(false));
+    if (!folder) {
+        return;
+    }
+    OverrideHostSetting(kSettingHKDir, *folder);
+    if (!StoreHostSetting(kSettingHKDir, *folder)) {
+        m_prompts.tell(&m_window, "La cartella vale solo per questa volta: le impostazioni non "
+                                  "sono scrivibili.");
+    }
+    const CWaiting waiting;
+    const QString errors = DescribeCatalogueErrors();
+    emit Told(QString("Cataloghi: %1").arg(ToQt(*folder)) +
+              (errors.isEmpty() ? QString() : "\n" + errors));
+}
+
+QString DescribeCatalogueErrors()
+{
+    QStringList lines;
+    for (const CCatalogueError& error : CheckCatalogues()) {
+        lines += ToQt(FormatCatalogueError(error));
+    }
+    return lines.join('\n');
+}

@@ -1,0 +1,138 @@
+#include "workbench/window/plan_commands.h"
+
+#include "platform/format.h"
+#include "workbench/plan/coverage.h"
+#include "workbench/plan/placement.h"
+#include "workbench/plan/sizing.h"
+#include "workbench/window/module_calls.h"
+#include "workbench/window/plan_document.h"
+#include "workbench/window/prompts.h"
+#include "workbench/window/sizing_progress.h"
+#include "workbench/window/system_dialog.h"
+#include "workbench/window/window_text.h"
+
+#include <algorithm>
+#include <utility>
+
+CPlanCommands::CPlanCommands(CPlanDocument& document, const CPrompts& prompts, QWidget& window)
+    : m_document(document), m_prompts(prompts), m_window(window)
+{
+}
+
+void CPlanCommands::ChooseRadiator(const CRoomRef& ref, std::optional<std::size_t> radiator,
+                                   CDrawer& drawer)
+{
+    const CBuilding& building = m_document.Building();
+    const CRoom& room = RoomOf(building, ref);
+    if (!radiator && FreePlaces(room).empty()) {
+        m_prompts.tell(&m_window, QString("Nel locale \"%1\" non c'è più posto per un altro corpo "
+                                          "scaldante.")
+                                      .arg(ToQt(room.strName)));
+        return;
+    }
+    const CString what = L"Corpo scaldante di " + room.strName;
+    if (auto changed = ::ChooseRadiator(building, ref, radiator, drawer)) {
+        m_document.Do(what, std::move(*changed));
+    }
+}
+
+void CPlanCommands::ChooseProduct(const std::vector<CRoomRef>& rooms)
+{
+    if (rooms.empty()) {
+        return;
+    }
+    auto changed = ::ChooseProduct(m_document.Building(), rooms);
+    if (!changed) {
+        return;
+    }
+    const QString question =
+        rooms.size() == 1
+            ? QString("Dimensionare subito il locale con il nuovo prodotto?")
+            : QString("Dimensionare subito i %1 locali con il nuovo prodotto?").arg(rooms.size());
+    if (m_prompts.ask(&m_window, question, "&Dimensiona", "&Più tardi", false) ==
+        CPrompts::Answer::yes) {
+        CSizingResult result = SizeWithProgress(&m_window, *changed, rooms);
+        TellFaults(*changed, result);
+        changed = std::move(result.building);
+    }
+    m_document.Do(L"Prodotto", std::move(*changed));
+}
+
+void CPlanCommands::Size(const std::vector<CRoomRef>& rooms, const CString& what)
+{
+    if (rooms.empty()) {
+        return;
+    }
+    CSizingResult result = SizeWithProgress(&m_window, m_document.Building(), rooms);
+    if (result.bCancelled) {
+        emit Told("Dimensionamento annullato: nulla è cambiato.");
+        return;
+    }
+    TellFaults(m_document.Building(), result);
+    if (result.nSized > 0) {
+        m_document.Do(what, std::move(result.building));
+    }
+}
+
+void CPlanCommands::TellFaults(const CBuilding& building, const CSizingResult& result)
+{
+    QString message = QString("Corpi scaldanti scelti: %1.").arg(result.nSized);
+    if (!result.faults.empty()) {
+        message += QString(" Locali da sistemare: %1.").arg(result.faults.size());
+    }
+    for (const CSizingFault& fault : result.faults) {
+        message +=
+            QString("\n%1: %2")
+                .arg(ToQt(RoomOf(building, fault.room).strName), ToQt(fault.outcome.strNote));
+    }
+    emit Told(message);
+}
+
+void CPlanCommands::Connect(const std::vector<CRadiatorRef>& radiators, CDrawer& drawer)
+{
+    if (radiators.empty()) {
+        return;
+    }
+    if (auto changed = ConnectRadiators(m_document.Building(), radiators, drawer)) {
+        m_document.Do(L"Attacchi e valvole", std::move(*changed));
+    }
+}
+
+void CPlanCommands::Remove(const std::vector<CRadiatorRef>& radiators)
+{
+    if (radiators.empty()) {
+        return;
+    }
+    CBuilding changed = m_document.Building();
+    RemoveRadiators(changed, radiators);
+    m_document.Do(radiators.size() == 1 ? L"Elimina corpo scaldante" : L"Elimina corpi scaldanti",
+                  std::move(changed));
+}
+
+void CPlanCommands::ChangeSystem()
+{
+    CSystemDialog dialog(m_document.Building(), &m_window);
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    const CHeatingSystem system = dialog.GetSystem();
+    CBuilding changed = m_document.Building();
+    if (system.vorlauf == changed.system.vorlauf && system.ruecklauf == changed.system.ruecklauf) {
+        return;
+    }
+    ::ChangeSystem(changed, system);
+    const CString name = FormatExact(system.vorlauf) + L"/" + FormatExact(system.ruecklauf);
+    const std::size_t open = OpenRooms(changed).size();
+    m_document.Do(L"Sistema " + name, std::move(changed));
+    emit Told(QString("Sistema di riscaldamento %1 °C: locali da sistemare: %2.")
+                  .arg(ToQt(name))
+                  .arg(open));
+}
+
+std::vector<CRoomRef> OpenRooms(const CBuilding& building)
+{
+    std::vector<CRoomRef> rooms = AllRooms(building);
+    std::erase_if(rooms,
+                  [&](const CRoomRef& ref) { return !IsOpen(CoverageOf(RoomOf(building, ref))); });
+    return rooms;
+}
