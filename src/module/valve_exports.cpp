@@ -1,10 +1,9 @@
 #include "frame/entry_points.h"
 
-#include "connection/dialog/vent_dlg.h"
+#include "connection/dialog/anschluss_dialog.h"
 #include "frame/ventil_kv.h"
-#include "host/host_prefs.h"
 #include "module/resource_context.h"
-#include "valve/dialog/vent_vdi_dlg.h"
+#include "valve/dialog/ventil_dialog.h"
 #include "valve/ventil_abruf.h"
 
 bool ShowVentDlg(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilVorlauf,
@@ -12,37 +11,15 @@ bool ShowVentDlg(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilVorlauf,
                  bool& typ, bool& fanCoil, TGA_LIST* heizkoerper, CDrawer* drawer)
 {
     const CResourceContext context;
-    CVentDlg dialog;
-    bool superUser = false;
-    lmGetGlobalSuperUser(superUser);
-    VDI3805GetVentilDaten(ventilVorlauf, ventilRuecklauf);
-    dialog.SetzeEingang(anschluss, ventilVorlauf, ventilRuecklauf);
-    dialog.SetzeZeichnung(heizkoerper, drawer);
-    dialog.SetzeRechte(superUser, gruppenWaehlbar);
-    dialog.SetzeFanCoil(fanCoil);
-    if (dialog.DoModal() != kIdOk) {
-        return false;
-    }
-    dialog.HoleErgebnis(anschluss, ventilVorlauf, ventilRuecklauf);
-    ventile = dialog.VentileAktiv();
-    typ = dialog.TypAktiv();
-    fanCoil = dialog.FanCoil();
-    return true;
+    return ZeigeAnschlussDialog(anschluss, ventilVorlauf, ventilRuecklauf, gruppenWaehlbar, ventile,
+                                typ, fanCoil, heizkoerper, drawer);
 }
 
 bool ShowVentVDI3805Dlg(const CString& ventilNr, const CString& hersteller,
                         VDI3805_VENTIL_KV& ventil)
 {
     const CResourceContext context;
-    CVentVdiDlg dialog;
-    if (!ventilNr.empty() && !hersteller.empty()) {
-        dialog.SetzeVorgabe(ventilNr, hersteller);
-    }
-    if (dialog.DoModal() != kIdOk) {
-        return false;
-    }
-    dialog.HoleErgebnis(ventil);
-    return true;
+    return ZeigeVentilDialog(ventilNr, hersteller, ventil);
 }
 
 bool VDI3805GetVentilDaten(VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2)

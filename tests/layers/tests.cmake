@@ -3,3 +3,19 @@
 
 add_test(NAME toolkit_free COMMAND ${CMAKE_CURRENT_LIST_DIR}/toolkit_free_test.sh
     $<TARGET_FILE:radsel_logic_tests>)
+
+# Every room's library links whole with what its line names and the five libraries of a host. The
+# linker is the test: a function that is missing ends the build.
+get_property(layers GLOBAL PROPERTY RADSEL_LAYERS)
+foreach(layer ${layers})
+    string(REGEX REPLACE " .*" "" folder "${layer}")
+    radsel_target_of(${folder} room)
+    get_target_property(type ${room} TYPE)
+    if(type STREQUAL STATIC_LIBRARY)
+        add_library(whole_${room} MODULE ${CMAKE_CURRENT_LIST_FILE})
+        set_target_properties(whole_${room} PROPERTIES LINKER_LANGUAGE CXX)
+        target_link_libraries(whole_${room} PRIVATE $<LINK_LIBRARY:WHOLE_ARCHIVE,${room}>
+            HostPrefs HostCatalog HostFittings HostBase HostPrompts)
+        target_link_options(whole_${room} PRIVATE -Wl,--no-undefined)
+    endif()
+endforeach()

@@ -2,10 +2,10 @@
 
 #include "connection/dialog/vent_controls.h"
 #include "connection/dialog/vent_dlg.h"
-#include "frame/entry_points.h"
 #include "host/drawer.h"
 #include "host/host_prefs.h"
 #include "platform/format.h"
+#include "valve/dialog/ventil_dialog.h"
 #include "valve/ventil_texte.h"
 
 namespace {
@@ -61,7 +61,7 @@ void CVentDlg::ZeigeVentil(const Ventilseite& seite)
 /// A side without a valve takes over the one that was just picked for the other.
 void CVentDlg::WaehleVentil(const Ventilseite& von, const Ventilseite& nach, int nummer)
 {
-    if (!ShowVentVDI3805Dlg(von.ventil.VentilNr, von.ventil.Hersteller, von.ventil)) {
+    if (!ZeigeVentilDialog(von.ventil.VentilNr, von.ventil.Hersteller, von.ventil)) {
         return;
     }
     ZeigeVentile();

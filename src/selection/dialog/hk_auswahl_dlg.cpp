@@ -1,11 +1,11 @@
 #include "selection/dialog/hk_auswahl_dlg.h"
 
 #include "common/units.h"
+#include "connection/dialog/anschluss_dialog.h"
 #include "connection/dialog/wand_ab_dlg.h"
 #include "dialogs/banner.h"
 #include "dialogs/list_tree.h"
 #include "dialogs/platzierung.h"
-#include "frame/entry_points.h"
 #include "frame/vdi6030_start.h"
 #include "host/host_base.h"
 #include "host/host_prefs.h"
@@ -415,8 +415,8 @@ void CHKAuswahlVdi3805Dlg::OnVentile()
     bool ventile = true;
     bool typ = true;
     bool fanCoil = false;
-    if (ShowVentDlg(start.Anschluss, start.VentilVorlauf, start.VentilRuecklauf, gruppenWaehlbar,
-                    ventile, typ, fanCoil, nullptr, m_pDrawer)) {
+    if (ZeigeAnschlussDialog(start.Anschluss, start.VentilVorlauf, start.VentilRuecklauf,
+                             gruppenWaehlbar, ventile, typ, fanCoil, nullptr, m_pDrawer)) {
         WriteDefFile_VDI6030START(&start, false);
     }
 }

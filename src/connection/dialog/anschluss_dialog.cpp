@@ -1,0 +1,27 @@
+#include "connection/dialog/anschluss_dialog.h"
+
+#include "connection/dialog/vent_dlg.h"
+#include "host/host_prefs.h"
+#include "valve/ventil_abruf.h"
+
+bool ZeigeAnschlussDialog(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilVorlauf,
+                          VDI3805_VENTIL_KV& ventilRuecklauf, bool& gruppenWaehlbar, bool& ventile,
+                          bool& typ, bool& fanCoil, TGA_LIST* heizkoerper, CDrawer* drawer)
+{
+    CVentDlg dialog;
+    bool superUser = false;
+    lmGetGlobalSuperUser(superUser);
+    HoleVentilDaten(ventilVorlauf, ventilRuecklauf);
+    dialog.SetzeEingang(anschluss, ventilVorlauf, ventilRuecklauf);
+    dialog.SetzeZeichnung(heizkoerper, drawer);
+    dialog.SetzeRechte(superUser, gruppenWaehlbar);
+    dialog.SetzeFanCoil(fanCoil);
+    if (dialog.DoModal() != kIdOk) {
+        return false;
+    }
+    dialog.HoleErgebnis(anschluss, ventilVorlauf, ventilRuecklauf);
+    ventile = dialog.VentileAktiv();
+    typ = dialog.TypAktiv();
+    fanCoil = dialog.FanCoil();
+    return true;
+}
