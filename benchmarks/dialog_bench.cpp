@@ -27,6 +27,8 @@
 
 #include <functional>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr int kRows = 2000;

@@ -10,6 +10,10 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace reference_host;
+
+using namespace workbench;
+
 namespace {
 
 constexpr std::size_t kRooms = 2000;

@@ -21,6 +21,8 @@
 
 #include <functional>
 
+using namespace workbench;
+
 namespace {
 
 constexpr std::size_t kRooms = 2000;

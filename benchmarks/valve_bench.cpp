@@ -18,6 +18,8 @@
 #include <cstdint>
 #include <vector>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr std::size_t kFileSize = 50'000'000;

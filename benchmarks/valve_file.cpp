@@ -13,6 +13,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+using namespace reference_host;
+
 namespace {
 
 /// One group, its kinds of records in about the proportions of the sample catalogues: six data sets

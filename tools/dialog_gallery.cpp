@@ -13,6 +13,10 @@
 #include "valve/ventil_katalog.h"
 #include "workbench/drawing/scene_drawer.h"
 
+using namespace reference_host;
+
+using namespace workbench;
+
 namespace {
 
 CString Folder(const std::string& dataFolder, const char* name)

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 /// Millimetres from wing to wing; longer than any row of rooms.
@@ -49,3 +51,5 @@ CBuilding MakeLargeFloor(std::size_t rooms)
     building.floors = {std::move(all)};
     return building;
 }
+
+} // namespace workbench

@@ -8,6 +8,8 @@
 #include <iostream>
 #include <string>
 
+using namespace workbench;
+
 namespace {
 constexpr int kMostRooms = 20000;
 }

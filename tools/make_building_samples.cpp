@@ -7,6 +7,8 @@
 #include <iterator>
 #include <random>
 
+namespace workbench {
+
 namespace {
 
 constexpr std::size_t kRoomsOfFloor = 200;
@@ -221,3 +223,5 @@ void PlaceSampleRadiators(CBuilding& building)
         }
     }
 }
+
+} // namespace workbench

@@ -21,6 +21,10 @@
 #include <cstdlib>
 #include <map>
 
+using namespace reference_host;
+
+using namespace workbench;
+
 namespace {
 
 using Pictures = std::map<QString, QImage>;

@@ -7,6 +7,8 @@
 #include <filesystem>
 #include <iostream>
 
+using namespace workbench;
+
 namespace {
 void WriteDrawings(const std::filesystem::path& folder)
 {

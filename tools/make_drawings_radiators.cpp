@@ -2,6 +2,8 @@
 
 #include "tools/make_drawings_sketch.h"
 
+namespace workbench {
+
 namespace {
 
 constexpr wchar_t kBody[] = L"RAD_CONTORNO";
@@ -256,3 +258,5 @@ CDxfDrawing MakeRadiatorBlocks()
                       TowelFront()};
     return drawing;
 }
+
+} // namespace workbench

@@ -2,5 +2,9 @@
 
 #include "workbench/dxf/dxf_drawing.h"
 
+namespace workbench {
+
 /// The blocks of the sample radiators.
 CDxfDrawing MakeRadiatorBlocks();
+
+} // namespace workbench

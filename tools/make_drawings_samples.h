@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+namespace workbench {
+
 /// A sample drawing: its file name and its bytes.
 struct CSampleDrawing
 {
@@ -14,3 +16,5 @@ struct CSampleDrawing
 /// ("VISTA") with the middle as base point, and the graphics of valves, whose base point is where
 /// the valve meets the radiator. All in metres.
 std::vector<CSampleDrawing> MakeSampleDrawings();
+
+} // namespace workbench

@@ -4,6 +4,8 @@
 #include <numbers>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 /// Tangent of a quarter of a right angle, for corners that run counter-clockwise.
@@ -120,3 +122,5 @@ void CBlockSketch::Add(CDxfShape shape)
 {
     m_block.entities.push_back({m_layer, kColorByLayer, std::move(shape)});
 }
+
+} // namespace workbench

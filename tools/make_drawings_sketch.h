@@ -4,6 +4,8 @@
 
 #include <initializer_list>
 
+namespace workbench {
+
 /// Draws the sample blocks stroke by stroke, in metres. All strokes go to the layer chosen last.
 class CBlockSketch
 {
@@ -32,3 +34,5 @@ private:
     CString m_layer;
     CDxfBlock m_block;
 };
+
+} // namespace workbench

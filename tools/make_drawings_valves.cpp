@@ -2,6 +2,8 @@
 
 #include "tools/make_drawings_sketch.h"
 
+namespace workbench {
+
 namespace {
 
 constexpr wchar_t kValve[] = L"VALVOLE";
@@ -169,3 +171,5 @@ CDxfDrawing MakeValveBlocks()
                       hBlock.Mirrored(L"BLOCCO_H_SQUADRA_DX")};
     return drawing;
 }
+
+} // namespace workbench

@@ -2,5 +2,9 @@
 
 #include "workbench/dxf/dxf_drawing.h"
 
+namespace workbench {
+
 /// The graphics of the sample valves.
 CDxfDrawing MakeValveBlocks();
+
+} // namespace workbench

@@ -12,6 +12,10 @@
 
 #include <cstdio>
 
+using namespace reference_host;
+
+using namespace workbench;
+
 namespace {
 
 constexpr QSize kWindow(1280, 900);

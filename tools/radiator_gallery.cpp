@@ -13,6 +13,8 @@
 #include <cstdlib>
 #include <filesystem>
 
+using namespace workbench;
+
 namespace {
 
 constexpr int kLayerCheck = 3144;

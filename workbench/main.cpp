@@ -13,6 +13,8 @@
 #include <iostream>
 #include <iterator>
 
+using namespace workbench;
+
 namespace {
 
 bool Has(const std::vector<CString>& arguments, const CString& option)

@@ -13,6 +13,8 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+namespace reference_host {
+
 namespace {
 
 constexpr int kSampleSide = 40;
@@ -101,9 +103,13 @@ void CColorDialog::ShowSelected(int index)
     m_values->setText(ValuesText(index));
 }
 
+} // namespace reference_host
+
+using namespace reference_host;
+
 bool GetColorDlg(int& index)
 {
-    if (!EnsureApplication()) {
+    if (!EnsureWindows()) {
         return false;
     }
     CColorDialog dialog(index, ParentForDialog());

@@ -2,9 +2,12 @@
 
 #include <QDialog>
 
-class CColorGrid;
 class QLabel;
 class QSpinBox;
+
+namespace reference_host {
+
+class CColorGrid;
 
 /// The choice of one of the 255 colours of a drawing, by swatch or by number.
 class CColorDialog : public QDialog
@@ -26,3 +29,5 @@ private:
     QSpinBox* m_number;
     QWidget* m_ok;
 };
+
+} // namespace reference_host

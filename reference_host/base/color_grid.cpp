@@ -10,6 +10,8 @@
 
 #include <optional>
 
+namespace reference_host {
+
 namespace {
 
 constexpr int kSwatch = 18;
@@ -161,3 +163,5 @@ void CColorGrid::keyPressEvent(QKeyEvent* event)
     }
     Select(NeighbourOf(m_selected, *move));
 }
+
+} // namespace reference_host

@@ -9,6 +9,8 @@
 
 class QPainter;
 
+namespace reference_host {
+
 /// The toolkit's form of a colour index.
 HOST_API QColor ColorOf(int index);
 
@@ -51,3 +53,5 @@ private:
 
     int m_selected = 0;
 };
+
+} // namespace reference_host

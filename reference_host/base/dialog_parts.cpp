@@ -9,6 +9,8 @@
 #include <QPixmap>
 #include <QPushButton>
 
+namespace reference_host {
+
 QWidget* ParentForDialog()
 {
     QWidget* const modal = QApplication::activeModalWidget();
@@ -39,3 +41,5 @@ QIcon ColorIcon(int index, int side)
     icon.addPixmap(picture, QIcon::Disabled);
     return icon;
 }
+
+} // namespace reference_host

@@ -8,6 +8,8 @@ class QDialog;
 class QDialogButtonBox;
 class QWidget;
 
+namespace reference_host {
+
 /// What the host's dialogs have in common.
 
 /// The window that a new modal dialog belongs above, null if there is none.
@@ -18,3 +20,5 @@ HOST_API QDialogButtonBox* AddButtons(QDialog& dialog);
 
 /// A square of a colour index with a thin edge, for lists and buttons.
 HOST_API QIcon ColorIcon(int index, int side);
+
+} // namespace reference_host

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 
-bool EnsureApplication()
+namespace reference_host {
+
+bool EnsureWindows()
 {
     if (QCoreApplication::instance() == nullptr) {
         // Both outlive main(): the toolkit keeps referring to them, and tearing its window system
@@ -14,3 +16,5 @@ bool EnsureApplication()
     }
     return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
 }
+
+} // namespace reference_host

@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace reference_host {
+
 namespace {
 std::optional<struct stat> StatusOf(const std::filesystem::path& path)
 {
@@ -62,3 +64,5 @@ const CCatalogueCache::CResult& CCatalogueCache::Get(const std::filesystem::path
     }
     return entry.result;
 }
+
+} // namespace reference_host

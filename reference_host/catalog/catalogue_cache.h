@@ -10,6 +10,8 @@
 #include <optional>
 #include <variant>
 
+namespace reference_host {
+
 /// Catalogue files in parsed form. A file is read again only if its size, its identity or
 /// one of its times has changed.
 class CCatalogueCache
@@ -30,3 +32,5 @@ private:
 
     std::map<std::filesystem::path, CEntry> m_entries;
 };
+
+} // namespace reference_host

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace reference_host {
+
 /// Why a manufacturer's catalogue could not be read.
 struct CCatalogueError
 {
@@ -19,3 +21,5 @@ struct CCatalogueError
 /// The error of the last reading of this manufacturer's file; nothing if that went well or if the
 /// file has not been read yet.
 HOST_API std::optional<CCatalogueError> GetCatalogueError(const CString& hersteller);
+
+} // namespace reference_host

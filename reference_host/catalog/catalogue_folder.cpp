@@ -7,6 +7,8 @@
 #include <system_error>
 #include <utility>
 
+namespace reference_host {
+
 namespace {
 constexpr wchar_t kFileName[] = L"hk.tga";
 
@@ -57,3 +59,5 @@ std::optional<std::filesystem::path> FindCatalogueFile(const CString& folder,
     }
     return ResolvePath(JoinPath(JoinPath(folder, hersteller), kFileName));
 }
+
+} // namespace reference_host

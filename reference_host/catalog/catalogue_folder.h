@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+namespace reference_host {
+
 /// The folder of the radiator catalogues: one sub-folder a manufacturer, named like him, with his
 /// file "hk.tga" in it.
 
@@ -17,3 +19,5 @@ std::vector<CString> ListManufacturers(const CString& folder);
 /// the name cannot be that of a sub-folder.
 std::optional<std::filesystem::path> FindCatalogueFile(const CString& folder,
                                                        const CString& hersteller);
+
+} // namespace reference_host

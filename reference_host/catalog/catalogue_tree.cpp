@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <set>
 
+namespace reference_host {
+
 namespace {
 void AssignSizes(OCArray<double>& target, const std::set<double>& sizes)
 {
@@ -119,3 +121,5 @@ void CCatalogueTree::Fill(CProduct& produkt, const CCatalogueProduct& model, dou
     Chain(produkt.rows);
     produkt.node.pTyp = produkt.rows.data();
 }
+
+} // namespace reference_host

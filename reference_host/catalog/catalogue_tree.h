@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+namespace reference_host {
+
 /// Owner of all nodes of the catalogue tree. Rows live until their product is filled again. The
 /// node of a manufacturer, kind or product, once made, lives as long as the tree: one that is not
 /// needed is taken off its list and comes back when its name does, so that pointers held by others
@@ -59,3 +61,5 @@ private:
     std::map<std::pair<CString, CString>, CManufacturer> m_hersteller;
     HK_VDI3805_HERSTELLER* m_pFirst = nullptr;
 };
+
+} // namespace reference_host

@@ -5,6 +5,8 @@
 
 #include <cerrno>
 
+namespace reference_host {
+
 namespace {
 
 /// Runs in the child of this process, where memory and locks of other threads are in any state:
@@ -35,3 +37,5 @@ void StartDetached(const std::string& program, const std::string& argument)
     while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
     }
 }
+
+} // namespace reference_host

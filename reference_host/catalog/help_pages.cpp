@@ -12,6 +12,8 @@
 #include <system_error>
 #include <vector>
 
+namespace reference_host {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -54,6 +56,10 @@ std::optional<fs::path> FindHelpPage(unsigned dialogId)
     }
     return std::nullopt;
 }
+
+} // namespace reference_host
+
+using namespace reference_host;
 
 void ShowPDF(unsigned dialogId, int /*art*/)
 {

@@ -13,6 +13,8 @@
 #include <utility>
 #include <variant>
 
+using namespace reference_host;
+
 namespace {
 struct CLibrary
 {
@@ -93,9 +95,13 @@ int ReadVdiFile(const CString& hersteller, HK_VDI3805_ART** art, double leistung
     return rowCount;
 }
 
+namespace reference_host {
+
 std::optional<CCatalogueError> GetCatalogueError(const CString& hersteller)
 {
     const auto& errors = Library().errors;
     const auto found = errors.find(hersteller);
     return found == errors.end() ? std::nullopt : std::optional(found->second);
 }
+
+} // namespace reference_host

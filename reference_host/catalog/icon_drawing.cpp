@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
+namespace reference_host {
+
 namespace {
 
 /// Samples along each side of a pixel; their square stays within the range of an alpha.
@@ -154,3 +156,5 @@ CBitmap DrawIcon(const std::vector<CIconShape>& shapes, int width, int height)
     }
     return bitmap;
 }
+
+} // namespace reference_host

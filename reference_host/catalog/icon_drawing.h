@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace reference_host {
+
 /// Turns shapes into pixels: fills, strokes and nothing else, in flat colours.
 
 struct CIconPoint
@@ -39,3 +41,5 @@ inline constexpr double kIconGrid = 16.0;
 /// Draws the shapes, later ones above earlier ones, with smooth edges into a picture of that size;
 /// the grid fills the largest square in its middle.
 CBitmap DrawIcon(const std::vector<CIconShape>& shapes, int width, int height);
+
+} // namespace reference_host

@@ -5,6 +5,8 @@
 #include <map>
 #include <utility>
 
+namespace reference_host {
+
 namespace {
 
 // Tones of middle lightness, which stand out on a light window and on a dark one.
@@ -132,3 +134,5 @@ const std::vector<CIconShape>& IconShapes(int index)
     const auto found = icons.find(index);
     return found == icons.end() ? none : found->second;
 }
+
+} // namespace reference_host

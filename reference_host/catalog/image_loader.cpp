@@ -2,6 +2,8 @@
 
 #include "reference_host/catalog/icon_shapes.h"
 
+using namespace reference_host;
+
 namespace {
 
 constexpr int kLeastSide = 8;

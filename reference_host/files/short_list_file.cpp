@@ -5,6 +5,8 @@
 #include "platform/file.h"
 #include "platform/path.h"
 
+namespace reference_host {
+
 CShortListFile ReadShortList(const CString& path)
 {
     const CString file = path.empty() ? HeizungPfad(L"Vent.txt") : path;
@@ -14,3 +16,5 @@ CShortListFile ReadShortList(const CString& path)
     ReadTextLines(stream, list.lines, -1);
     return list;
 }
+
+} // namespace reference_host

@@ -3,6 +3,8 @@
 #include "platform/array.h"
 #include "platform/text.h"
 
+namespace reference_host {
+
 /// A short list of connection types as it stands in its file.
 struct CShortListFile
 {
@@ -15,3 +17,5 @@ struct CShortListFile
 /// Reads the short list in a file; an empty path stands for the list of the data root, the one that
 /// the connection dialog offers. Raises CFileException if the file cannot be read.
 CShortListFile ReadShortList(const CString& path);
+
+} // namespace reference_host

@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+namespace reference_host {
+
 namespace {
 
 using Fields = std::vector<std::wstring_view>;
@@ -124,3 +126,5 @@ std::optional<CValveFileFault> CValveFileCheck::FindArticle(const CString& venti
     }
     return std::nullopt;
 }
+
+} // namespace reference_host

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace reference_host {
+
 /// What is wrong in a line of a valve file.
 struct CValveFileFault
 {
@@ -37,3 +39,5 @@ public:
 private:
     CStringArray m_lines;
 };
+
+} // namespace reference_host

@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr std::uint32_t kVersion = 1;

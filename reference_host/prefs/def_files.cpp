@@ -11,6 +11,8 @@
 #include <memory>
 #include <system_error>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr wchar_t kStartName[] = L"Vdi6030Start.def";

@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr wchar_t kYes[] = L"1";

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+using namespace reference_host;
+
 HKAUSWAHL_UEBERGABE::HKAUSWAHL_UEBERGABE() : LayerFarbe(0) {}
 HKAUSWAHL_UEBERGABE::HKAUSWAHL_UEBERGABE(const HKAUSWAHL_UEBERGABE&) = default;
 HKAUSWAHL_UEBERGABE& HKAUSWAHL_UEBERGABE::operator=(const HKAUSWAHL_UEBERGABE&) = default;

@@ -4,6 +4,8 @@
 #include "platform/number_scan.h"
 #include "reference_host/prefs/host_settings.h"
 
+using namespace reference_host;
+
 namespace {
 
 constexpr wchar_t kMeter[] = L"1";

@@ -9,6 +9,8 @@
 #include <optional>
 #include <system_error>
 
+namespace reference_host {
+
 namespace {
 
 std::map<CString, CString>& Overrides()
@@ -82,3 +84,5 @@ bool StoreHostSetting(const CString& key, const CString& value)
     std::filesystem::create_directories(ResolvePath(*folder), error);
     return !error && CSettingsFile(SettingsPath(*folder)).Store(key, value);
 }
+
+} // namespace reference_host

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace reference_host {
+
 /// The settings of the reference host as texts by key, behind the getters of host/host_prefs.h.
 /// They are kept in "settings.txt" in the user's configuration folder ($XDG_CONFIG_HOME/radsel, or
 /// ~/.config/radsel), a versioned file that is replaced atomically. A missing or damaged file reads
@@ -57,3 +59,5 @@ inline constexpr wchar_t kSettingValveBlockFolder[] = L"VentilBlockOrdner";
 inline constexpr wchar_t kSettingSuperUser[] = L"SuperUser";
 /// Folder of the records of host_prefs.h; the configuration folder if it is not set.
 inline constexpr wchar_t kSettingDefFolder[] = L"DefOrdner";
+
+} // namespace reference_host

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <cstdint>
 
+namespace reference_host {
+
 /// Archive forms of the host's records. One list of fields serves both directions, so that they
 /// cannot drift apart.
 
@@ -44,3 +46,5 @@ inline void TransferVersion(CArchive& archive, std::uint32_t known)
         throw CArchiveException(CArchiveException::Cause::badSchema);
     }
 }
+
+} // namespace reference_host

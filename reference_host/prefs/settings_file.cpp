@@ -13,6 +13,8 @@
 #include <system_error>
 #include <utility>
 
+namespace reference_host {
+
 namespace {
 
 constexpr std::string_view kVersionHead = "radsel-settings ";
@@ -128,3 +130,5 @@ void CSettingsFile::Write() const
     file.Write(bytes.data(), bytes.size());
     file.Close();
 }
+
+} // namespace reference_host

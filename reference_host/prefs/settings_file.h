@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace reference_host {
+
 /// The stored settings, as they are in the file at the moment of construction: UTF-8, the version
 /// in the first line, then a line "key=value" each. Lines of another form are kept and written
 /// back.
@@ -44,3 +46,5 @@ private:
     std::vector<std::string> m_lines;
     State m_state;
 };
+
+} // namespace reference_host

@@ -17,6 +17,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+namespace reference_host {
+
 namespace {
 
 constexpr int kSwatchSide = 14;
@@ -175,9 +177,13 @@ bool CLayerDialog::eventFilter(QObject* watched, QEvent* event)
     return QDialog::eventFilter(watched, event);
 }
 
+} // namespace reference_host
+
+using namespace reference_host;
+
 bool ShowBigLayerDlg(CDrawer* drawer, CString& layer, int& farbe)
 {
-    if (!EnsureApplication()) {
+    if (!EnsureWindows()) {
         return false;
     }
     CLayerDialog dialog(ReadLayers(drawer), QString::fromStdWString(layer), farbe,

@@ -10,6 +10,8 @@ class QPushButton;
 class QTreeWidget;
 class QTreeWidgetItem;
 
+namespace reference_host {
+
 /// The choice of a layer of the drawing, or the name and colour of a new one.
 class CLayerDialog : public QDialog
 {
@@ -42,3 +44,5 @@ private:
     QLabel* m_hint;
     QWidget* m_ok;
 };
+
+} // namespace reference_host

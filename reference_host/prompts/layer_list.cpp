@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace reference_host {
+
 namespace {
 
 /// The layers that the user may draw on.
@@ -39,3 +41,5 @@ const CLayerEntry* FindLayer(const std::vector<CLayerEntry>& layers, const QStri
     });
     return found == layers.end() ? nullptr : &*found;
 }
+
+} // namespace reference_host

@@ -6,6 +6,8 @@
 
 class CDrawer;
 
+namespace reference_host {
+
 /// A layer as the user chooses it.
 struct CLayerEntry
 {
@@ -18,3 +20,5 @@ std::vector<CLayerEntry> ReadLayers(CDrawer* drawer);
 
 /// The layer of that name, case aside as in drawings; null if there is none.
 const CLayerEntry* FindLayer(const std::vector<CLayerEntry>& layers, const QString& name);
+
+} // namespace reference_host

@@ -11,6 +11,8 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
+namespace reference_host {
+
 namespace {
 
 constexpr int kSliderWidth = 300;
@@ -100,9 +102,13 @@ void CTransparencyDialog::Preview()
     }
 }
 
+} // namespace reference_host
+
+using namespace reference_host;
+
 bool ShowTransDlg(int& alpha)
 {
-    if (!EnsureApplication()) {
+    if (!EnsureWindows()) {
         return false;
     }
     const bool inRange = alpha >= kLeastAlpha && alpha <= kOpaqueAlpha;

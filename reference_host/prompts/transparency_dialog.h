@@ -6,6 +6,8 @@
 class QLabel;
 class QSlider;
 
+namespace reference_host {
+
 /// The choice of how transparent a window is, shown on that window while the user tries values.
 class CTransparencyDialog : public QDialog
 {
@@ -28,3 +30,5 @@ private:
     QSlider* m_slider;
     QLabel* m_percent;
 };
+
+} // namespace reference_host

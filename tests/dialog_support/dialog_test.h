@@ -11,6 +11,6 @@ class CDialogTest : public testing::Test
 {
 protected:
     CTempFolder m_folder;
-    CSettingOverride m_local{kSettingLocalPath, m_folder.Path()};
+    CSettingOverride m_local{reference_host::kSettingLocalPath, m_folder.Path()};
     CDialogDriver m_driver;
 };

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace reference_host;
+
 namespace {
 
 void CheckRows(const CCatalogueProduct& produkt, double requiredOutput)

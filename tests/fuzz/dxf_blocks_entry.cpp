@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace workbench;
+
 namespace {
 
 void CheckPoint(const CDxfPoint& point)

@@ -8,6 +8,8 @@
 
 #include <string>
 
+using namespace reference_host;
+
 namespace {
 
 CTestListe Lies(const CStringArray& zeilen)

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <string>
 
+using namespace reference_host;
+
 namespace {
 
 int LinesOf(const CString& path)

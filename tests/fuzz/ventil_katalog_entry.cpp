@@ -12,6 +12,8 @@
 #include <stdexcept>
 #include <string>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr wchar_t kMaker[] = L"Prova";

@@ -8,9 +8,11 @@
 
 #include <utility>
 
+using namespace reference_host;
+
 void OnNextDialog(std::function<void(QWidget&)> steps)
 {
-    EnsureApplication();
+    EnsureWindows();
     QTimer::singleShot(0, [steps = std::move(steps)] {
         QWidget* const dialog = QApplication::activeModalWidget();
         QApplication::setActiveWindow(dialog);

@@ -11,6 +11,8 @@
 #include <iterator>
 #include <string>
 
+using namespace workbench;
+
 namespace {
 
 CBuilding MakeBuilding(std::size_t rooms)

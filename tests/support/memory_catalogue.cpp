@@ -2,6 +2,8 @@
 
 #include "reference_host/prefs/host_settings.h"
 
+using namespace reference_host;
+
 namespace {
 
 constexpr wchar_t kMaker[] = L"Prova";

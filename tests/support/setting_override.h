@@ -8,10 +8,10 @@ class CSettingOverride
 public:
     CSettingOverride(const CString& key, const CString& value) : m_key(key)
     {
-        OverrideHostSetting(m_key, value);
+        reference_host::OverrideHostSetting(m_key, value);
     }
 
-    ~CSettingOverride() { ClearHostSettingOverride(m_key); }
+    ~CSettingOverride() { reference_host::ClearHostSettingOverride(m_key); }
 
     CSettingOverride(const CSettingOverride&) = delete;
     CSettingOverride& operator=(const CSettingOverride&) = delete;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace workbench {
+
 bool CHeatingSystem::IsPlausible() const
 {
     return ruecklauf > 0.0 && ruecklauf < vorlauf && vorlauf <= 110.0;
@@ -52,3 +54,5 @@ CSizeLimits LimitsOfPlace(const CRoom& room, const CRadiatorPlace& place,
     limits.laengeMax = place.breite;
     return limits;
 }
+
+} // namespace workbench

@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+namespace workbench {
+
 /// Design temperatures of the heating water in degrees Celsius.
 struct CHeatingSystem
 {
@@ -172,3 +174,5 @@ bool HasValves(const CBuilding& building);
 /// Leaves the room of that name and its floor only. False if there is none, and then the building
 /// stays as it was.
 bool KeepRoom(CBuilding& building, const CString& name);
+
+} // namespace workbench

@@ -15,6 +15,8 @@
 #include <set>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 constexpr int kOldestVersion = 1;
@@ -223,3 +225,5 @@ void WriteBuilding(const CString& path, const CBuilding& building)
 {
     WriteWholeFile(path, FormatBuilding(building));
 }
+
+} // namespace workbench

@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace workbench {
+
 class CJsonFields;
 class CJsonWriter;
 
@@ -24,3 +26,5 @@ void WriteBuilding(const CString& path, const CBuilding& building);
 /// The same for a building that is an object within another file.
 CBuilding ReadBuilding(CJsonFields fields);
 void WriteBuilding(CJsonWriter& writer, const char* name, const CBuilding& building);
+
+} // namespace workbench

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numeric>
 
+namespace workbench {
+
 namespace {
 
 /// Usual heat demand of dwellings, in watts a square metre.
@@ -61,3 +63,5 @@ void LayOutFloor(std::vector<CRoom>& rooms)
         place.abstand = (rect.breite - place.breite) / 2.0;
     }
 }
+
+} // namespace workbench

@@ -12,6 +12,8 @@
 #include <string>
 #include <string_view>
 
+namespace workbench {
+
 namespace {
 
 /// A field longer than this is no name of anything.
@@ -264,3 +266,5 @@ CJsonFields ReadJsonFile(const CString& path)
     }
     return {document.object(), path, {}};
 }
+
+} // namespace workbench

@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+namespace workbench {
+
 /// Content of a file that is not what its format asks for. The message names file, place and field.
 class CContentException : public CException
 {
@@ -90,3 +92,5 @@ CJsonFields ReadJsonFile(const CString& path);
 
 /// The text of a JSON value with every code unit that the file has, unpaired surrogates included.
 CString TextFromJson(const QString& text);
+
+} // namespace workbench

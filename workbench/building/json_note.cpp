@@ -6,6 +6,8 @@
 
 #include <QJsonDocument>
 
+namespace workbench {
+
 namespace {
 
 constexpr QLatin1String kNote("note");
@@ -92,3 +94,5 @@ void WriteNote(CJsonWriter& writer, const CString& note)
     }
     writer.End();
 }
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include "platform/text.h"
 
+namespace workbench {
+
 class CJsonFields;
 class CJsonWriter;
 
@@ -12,3 +14,5 @@ CString NoteOf(const CJsonFields& fields);
 
 /// Writes it back, a list with a line an item; nothing for an empty one.
 void WriteNote(CJsonWriter& writer, const CString& note);
+
+} // namespace workbench

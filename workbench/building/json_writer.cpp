@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 constexpr std::size_t kIndent = 2;
@@ -154,3 +156,5 @@ void CJsonWriter::Lead(const char* name)
         m_text += "\": ";
     }
 }
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+namespace workbench {
+
 /// Writes JSON for people and for comparing line by line: fields stay in the order in which they
 /// come, an object has a line a field, and small ones stand on a line of their own.
 ///
@@ -57,3 +59,5 @@ private:
     std::string m_text;
     std::vector<CLevel> m_levels;
 };
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 
 #include <limits>
 
+namespace workbench {
+
 namespace {
 
 constexpr auto kLine = CJsonWriter::Layout::line;
@@ -239,3 +241,5 @@ void WritePlacedRadiator(CJsonWriter& writer, const CPlacedRadiator& radiator)
     WriteValveKeys(writer, radiator.ventile, {});
     writer.End();
 }
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include "workbench/building/building.h"
 
+namespace workbench {
+
 class CJsonFields;
 class CJsonWriter;
 
@@ -11,3 +13,5 @@ CPlacedRadiator ReadPlacedRadiator(CJsonFields fields, std::size_t places);
 
 /// Writes it as an item of a list.
 void WritePlacedRadiator(CJsonWriter& writer, const CPlacedRadiator& radiator);
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 #include <numbers>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 LM_TRAFO TrafoOf(const CPlanRadiator& radiator)
@@ -72,3 +74,5 @@ CString AttributeOf(const TGA_LIST& record, const CString& name)
     }
     return {};
 }
+
+} // namespace workbench

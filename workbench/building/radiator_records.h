@@ -4,6 +4,8 @@
 
 #include <deque>
 
+namespace workbench {
+
 /// A radiator to be placed in a plan. Sizes and places in metres.
 struct CPlanRadiator
 {
@@ -55,3 +57,5 @@ private:
 
 /// Value of the attribute of that name; empty if there is none.
 CString AttributeOf(const TGA_LIST& record, const CString& name);
+
+} // namespace workbench

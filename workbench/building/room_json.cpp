@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <iterator>
 
+namespace workbench {
+
 namespace {
 
 constexpr auto kLine = CJsonWriter::Layout::line;
@@ -242,3 +244,5 @@ void WriteRoom(CJsonWriter& writer, const CRoom& room, const CValveKeys& valvesO
     }
     writer.End();
 }
+
+} // namespace workbench

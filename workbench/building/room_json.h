@@ -2,6 +2,8 @@
 
 #include "workbench/building/building.h"
 
+namespace workbench {
+
 class CJsonFields;
 class CJsonWriter;
 
@@ -23,3 +25,5 @@ CRoom ReadRoom(CJsonFields fields, const CRoomsOfFile& common);
 
 /// Writes it as an item of a list; of its valves what the building's do not say already.
 void WriteRoom(CJsonWriter& writer, const CRoom& room, const CValveKeys& valvesOfBuilding);
+
+} // namespace workbench

@@ -4,6 +4,8 @@
 #include "workbench/building/json_fields.h"
 #include "workbench/building/json_writer.h"
 
+namespace workbench {
+
 namespace {
 
 /// The module never searches for shorter valve numbers.
@@ -99,3 +101,5 @@ CValveKeys ReadChosenValveKeys(CJsonFields& owner)
 {
     return Read(owner, &ReadChosenKey, {});
 }
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include "workbench/building/building.h"
 
+namespace workbench {
+
 class CJsonFields;
 class CJsonWriter;
 
@@ -14,3 +16,5 @@ void WriteValveKeys(CJsonWriter& writer, const CValveKeys& keys, const CValveKey
 
 /// The valves of a placed radiator, which were chosen already and may be any.
 CValveKeys ReadChosenValveKeys(CJsonFields& owner);
+
+} // namespace workbench

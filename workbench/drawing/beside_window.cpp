@@ -7,6 +7,8 @@
 
 #include <algorithm>
 
+namespace workbench {
+
 namespace {
 
 constexpr int kGap = 12;
@@ -32,3 +34,5 @@ bool CBesideWindow::eventFilter(QObject* object, QEvent* event)
     }
     return false;
 }
+
+} // namespace workbench

@@ -4,6 +4,8 @@
 
 class QWidget;
 
+namespace workbench {
+
 /// As long as it lives, modal dialogs that would open over a widget open beside it on the right, so
 /// that they do not hide what changes in it.
 class CBesideWindow : public QObject
@@ -17,3 +19,5 @@ public:
 private:
     const QWidget& m_widget;
 };
+
+} // namespace workbench

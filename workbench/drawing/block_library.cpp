@@ -7,6 +7,8 @@
 #include <system_error>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 bool IsDrawing(const std::filesystem::path& path)
@@ -80,3 +82,5 @@ CBlockLibrary::CFound CBlockLibrary::Find(std::wstring_view name) const
     }
     return {};
 }
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+namespace workbench {
+
 /// The blocks that a path offers. The path of a DXF file is a drawing of definitions and offers its
 /// blocks in the order of the file. That of a folder offers the blocks of every "*.dxf" in it, file
 /// after file in alphabetical order of their names; of blocks with one name the first counts.
@@ -37,3 +39,5 @@ private:
     std::vector<CDxfDrawing> m_drawings;
     std::vector<CDxfError> m_errors;
 };
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <numbers>
 
+namespace workbench {
+
 namespace {
 
 constexpr double kRadian = std::numbers::pi / 180.0;
@@ -151,3 +153,5 @@ QTransform PlaceInPlan(const QRectF& bounds, const QPointF& middle, double degre
     transform.translate(-bounds.center().x(), -bounds.center().y());
     return transform;
 }
+
+} // namespace workbench

@@ -8,6 +8,8 @@
 
 #include <vector>
 
+namespace workbench {
+
 /// All that a block draws in one colour.
 struct CColorPath
 {
@@ -29,3 +31,5 @@ QRectF BoundsOf(const std::vector<CColorPath>& paths);
 /// counter-clockwise, and with its middle in that place.
 QTransform PlaceInPlan(const QRectF& bounds, const QPointF& middle, double degrees, double length,
                        double depth);
+
+} // namespace workbench

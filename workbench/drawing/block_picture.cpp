@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <cstring>
 
+namespace workbench {
+
 namespace {
 
 constexpr double kMarginShare = 0.08;
@@ -75,3 +77,5 @@ CBitmap DrawBlockPicture(const std::vector<CDxfLayer>& layers, const CDxfBlock& 
     painter.end();
     return BitmapFrom(image);
 }
+
+} // namespace workbench

@@ -3,6 +3,8 @@
 #include "platform/bitmap.h"
 #include "workbench/dxf/dxf_drawing.h"
 
+namespace workbench {
+
 /// Size of a picture that is asked for with 0, in pixels.
 inline constexpr int kPictureWidth = 120;
 inline constexpr int kPictureHeight = 90;
@@ -15,3 +17,5 @@ inline constexpr int kMaxPictureSide = 2000;
 /// draws nothing gives blank paper.
 CBitmap DrawBlockPicture(const std::vector<CDxfLayer>& layers, const CDxfBlock& block, int width,
                          int height);
+
+} // namespace workbench

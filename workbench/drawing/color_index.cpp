@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace workbench {
+
 namespace {
 
 constexpr COLORREF kWhite = RGB(255, 255, 255);
@@ -57,3 +59,5 @@ COLORREF PaperColorFromIndex(int index)
     const COLORREF color = ColorFromIndex(index);
     return color == kWhite ? RGB(0, 0, 0) : color;
 }
+
+} // namespace workbench

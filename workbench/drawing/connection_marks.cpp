@@ -6,6 +6,8 @@
 
 #include <array>
 
+namespace workbench {
+
 std::vector<CConnectionMark> ConnectionMarksOf(TGA_LIST& record)
 {
     std::array<LM_APUNKT, kMaxAnschlussPunkte> punkte;
@@ -26,3 +28,5 @@ std::vector<CConnectionMark> ConnectionMarksOf(TGA_LIST& record)
     }
     return marks;
 }
+
+} // namespace workbench

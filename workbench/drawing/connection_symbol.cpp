@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace workbench {
+
 namespace {
 
 /// In metres. Shorter pipes are drawn longer, so that shaft and head can be told apart.
@@ -137,3 +139,5 @@ QPointF PlaceBeside(CConnectionMark mark, const std::vector<CConnectionMark>& st
     }
     return place;
 }
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace workbench {
+
 /// One connection point of a drawing whose unit is the metre, seen from above.
 struct CConnectionMark
 {
@@ -33,3 +35,5 @@ double WidthOfSymbol(const CConnectionMark& mark);
 /// Where the mark's symbol stands so that it does not cover one of those that stand already: in its
 /// place, or a few widths beside.
 QPointF PlaceBeside(CConnectionMark mark, const std::vector<CConnectionMark>& standing);
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+namespace workbench {
+
 CDrawingBlocks ReadDrawingBlocks()
 {
     CDrawingBlocks blocks;
@@ -30,3 +32,5 @@ CString FormatDxfError(const CDxfError& error)
     const CString line = error.nLine > 0 ? L": riga " + FormatInt(error.nLine) : CString();
     return error.strFile + line + L": " + error.strMessage;
 }
+
+} // namespace workbench

@@ -4,6 +4,8 @@
 
 #include <optional>
 
+namespace workbench {
+
 /// The blocks that the host's settings name: those of radiators and those of valves.
 struct CDrawingBlocks
 {
@@ -20,3 +22,5 @@ CDrawingBlocks ReadDrawingBlocks();
 
 /// File, line and reason in one line, as messages show it.
 CString FormatDxfError(const CDxfError& error);
+
+} // namespace workbench

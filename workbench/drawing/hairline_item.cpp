@@ -2,6 +2,8 @@
 
 #include <QPen>
 
+namespace workbench {
+
 namespace {
 /// Metres added on every side, so that a level line has an extent and is drawn.
 constexpr double kLeastExtent = 0.001;
@@ -27,3 +29,5 @@ QPainterPath CHairlineItem::shape() const
 {
     return path();
 }
+
+} // namespace workbench

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace workbench {
+
 namespace {
 
 /// Pixels a metre: from a whole estate in the window to a valve filling it.
@@ -203,3 +205,5 @@ void CPlanView::resizeEvent(QResizeEvent* event)
         FitToContent();
     }
 }
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include <QGraphicsView>
 
+namespace workbench {
+
 /// Shows a plan whose scene has the metre as its unit and y upwards. The wheel zooms about the
 /// pointer and "+" and "-" about the middle; dragging with the left or middle button and the arrow
 /// keys move the plan; "Home" shows all of it. Until the user does any of that the whole plan stays
@@ -49,3 +51,5 @@ private:
     /// Where the pointer was when the plan was last moved by it.
     QPoint m_held;
 };
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 
 #include <QBrush>
 
+namespace workbench {
+
 namespace {
 
 constexpr double kPenWidth = 1.2;
@@ -107,3 +109,5 @@ void FillSampleRoom(CSamplePlan& plan, const CDxfDrawing& blocks)
                               .strVorlauf = kStandardVorlauf,
                               .strRuecklauf = kStandardRuecklauf});
 }
+
+} // namespace workbench

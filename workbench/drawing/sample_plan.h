@@ -5,6 +5,8 @@
 
 #include <QGraphicsScene>
 
+namespace workbench {
+
 /// A plan seen from above whose radiators are host records as well as pictures. The scene's unit is
 /// the metre, with y upwards.
 class CSamplePlan
@@ -35,3 +37,5 @@ private:
 /// Fills the plan with a living room and its three radiators, each below a window, as `blocks`
 /// (data/drawing/heizkoerper.dxf) draws them.
 void FillSampleRoom(CSamplePlan& plan, const CDxfDrawing& blocks);
+
+} // namespace workbench

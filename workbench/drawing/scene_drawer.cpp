@@ -8,6 +8,8 @@
 #include <cmath>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 /// Above anything that a drawing stacks.
@@ -130,3 +132,5 @@ void CSceneDrawer::DrawConnectionPoint(const double punkt[3], const double richt
     MakeConnectionSymbol(mark)->setParentItem(m_open.get());
     m_marks.push_back(mark);
 }
+
+} // namespace workbench

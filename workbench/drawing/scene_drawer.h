@@ -11,6 +11,8 @@
 #include <memory>
 #include <vector>
 
+namespace workbench {
+
 /// The drawing interface over a scene whose unit is the metre, seen from above with y upwards.
 /// Block libraries are DXF files or folders of them (block_library.h). The scene may be cleared or
 /// die before the drawer; calls that need it then do nothing.
@@ -69,3 +71,5 @@ private:
     /// What stands in the open preview and those before it.
     std::vector<CConnectionMark> m_marks;
 };
+
+} // namespace workbench

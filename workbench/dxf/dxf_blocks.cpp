@@ -18,6 +18,8 @@
 #include <string_view>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 constexpr int kPolylineClosed = 1;
@@ -307,3 +309,5 @@ std::variant<CDxfDrawing, CDxfError> ReadDxfFile(const CString& path, DxfContent
     }
     return std::move(std::get<CDxfDrawing>(read));
 }
+
+} // namespace workbench

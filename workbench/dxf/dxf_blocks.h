@@ -7,6 +7,8 @@
 #include <span>
 #include <variant>
 
+namespace workbench {
+
 /// Why a DXF file could not be read.
 struct CDxfError
 {
@@ -40,3 +42,5 @@ std::variant<CDxfDrawing, CDxfFault> ParseDxf(std::span<const std::uint8_t> byte
 /// their drawing shows does not count.
 std::variant<CDxfDrawing, CDxfError> ReadDxfFile(const CString& path,
                                                  DxfContent content = DxfContent::layersAndBlocks);
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace workbench {
+
 const CDxfBlock* FindBlock(const CDxfDrawing& drawing, std::wstring_view name)
 {
     const CString wanted = ToLower(CString(name));
@@ -23,3 +25,5 @@ int FindLayerColor(const std::vector<CDxfLayer>& layers, std::wstring_view name)
         layers, [&](const CDxfLayer& layer) { return ToLower(layer.strName) == wanted; });
     return found != layers.end() ? found->nColor : kColorDefault;
 }
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 #include <variant>
 #include <vector>
 
+namespace workbench {
+
 /// What the workbench takes from a DXF file: layers, blocks of lines and curves in one plane, and
 /// the drawing made of these, of texts and of inserted blocks. Coordinates are in the file's unit
 /// with y upwards, angles in degrees, counter-clockwise from +x.
@@ -155,3 +157,5 @@ CString FindAttribute(const std::vector<CDxfAttribute>& attributes, std::wstring
 
 /// Colour index of the layer of that name, case left aside; kColorDefault for an unknown one.
 int FindLayerColor(const std::vector<CDxfLayer>& layers, std::wstring_view name);
+
+} // namespace workbench

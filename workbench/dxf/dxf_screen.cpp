@@ -10,6 +10,8 @@
 #include <optional>
 #include <string_view>
 
+namespace workbench {
+
 namespace {
 
 /// Beyond this no drawing of a building goes, and no arithmetic on coordinates overflows.
@@ -326,3 +328,5 @@ CScreenedDxf ScreenDxf(std::span<const std::uint8_t> bytes, DxfContent content)
 {
     return CScreening(bytes, content).Run();
 }
+
+} // namespace workbench

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+namespace workbench {
+
 /// What is wrong with a DXF file.
 struct CDxfFault
 {
@@ -42,3 +44,5 @@ struct CScreenedDxf
 /// polyline allocates whatever count it states, a hatch without a boundary aborts the process.
 /// Throws CDxfFault at the first line that is no DXF.
 CScreenedDxf ScreenDxf(std::span<const std::uint8_t> bytes, DxfContent content);
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 
 #include <cstdio>
 
+namespace workbench {
+
 namespace {
 
 /// An attribute takes part in no picture, but CAD programs want a size for its text, in metres.
@@ -270,3 +272,5 @@ std::string WriteDxf(const CDxfDrawing& drawing)
     out.Text(0, L"EOF");
     return out.TakeText();
 }
+
+} // namespace workbench

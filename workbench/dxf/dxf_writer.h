@@ -4,9 +4,13 @@
 
 #include <string>
 
+namespace workbench {
+
 /// The bytes of a text DXF file with the drawing, in the oldest version of the format that CAD
 /// programs still share, so that all of them read it. Attributes are hidden. What code page 1252
 /// lacks is written as "\U+xxxx". ParseDxf() gives the same drawing back if names are not empty and
 /// take 255 bytes at most, other texts 1000, numbers are finite and within 1e9, and curves have a
 /// radius.
 std::string WriteDxf(const CDxfDrawing& drawing);
+
+} // namespace workbench

@@ -3,6 +3,8 @@
 #include "host/host_catalog.h"
 #include "platform/format.h"
 
+namespace workbench {
+
 namespace {
 
 /// Rows built to measure need an output; any will do to see whether a file can be read.
@@ -10,20 +12,22 @@ constexpr double kAnyOutput = 1000.0;
 
 } // namespace
 
-std::vector<CCatalogueError> CheckCatalogues()
+std::vector<reference_host::CCatalogueError> CheckCatalogues()
 {
-    std::vector<CCatalogueError> errors;
+    std::vector<reference_host::CCatalogueError> errors;
     for (HK_VDI3805_HERSTELLER* maker = ReadHKDaten(); maker != nullptr; maker = maker->pNext) {
         ReadVdiFile(maker->Name, &maker->pArt, kAnyOutput);
-        if (const auto error = GetCatalogueError(maker->Name)) {
+        if (const auto error = reference_host::GetCatalogueError(maker->Name)) {
             errors.push_back(*error);
         }
     }
     return errors;
 }
 
-CString FormatCatalogueError(const CCatalogueError& error)
+CString FormatCatalogueError(const reference_host::CCatalogueError& error)
 {
     const CString line = error.nLine > 0 ? L": riga " + FormatInt(error.nLine) : CString();
     return error.strFile + line + L": " + error.strMessage;
 }
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include <numeric>
 
+namespace workbench {
+
 double OutputOf(const CRoom& room)
 {
     return std::accumulate(
@@ -39,3 +41,5 @@ bool IsOpen(Coverage coverage)
 {
     return coverage == Coverage::lacking || coverage == Coverage::empty;
 }
+
+} // namespace workbench

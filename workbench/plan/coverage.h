@@ -2,6 +2,8 @@
 
 #include "workbench/building/building.h"
 
+namespace workbench {
+
 /// How well the heat demand of a room is met.
 enum class Coverage
 {
@@ -34,3 +36,5 @@ Coverage CoverageOf(const CRoom& room);
 
 /// True for a room that a designer has to look after: lacking or empty.
 bool IsOpen(Coverage coverage);
+
+} // namespace workbench

@@ -9,6 +9,8 @@
 
 #include <tuple>
 
+namespace workbench {
+
 namespace {
 
 /// Metres that leave room for brackets behind a radiator.
@@ -24,7 +26,7 @@ std::optional<double> Kept(double distance)
 /// As the selection dialog makes it, so that radiators of a floor share a layer however they came.
 CString LayerOf(const CString& vorlage, const CString& floor, const CString& room)
 {
-    return LayerOfRoom(vorlage, RoomIdOf(floor, room));
+    return reference_host::LayerOfRoom(vorlage, RoomIdOf(floor, room));
 }
 
 bool IsSameProduct(const CPlacedRadiator& radiator, const HK_DATEN_VDI3805_UEBERGABE& chosen)
@@ -100,3 +102,5 @@ void TakeChoice(CPlacedRadiator& radiator, const HK_DATEN_VDI3805_UEBERGABE& cho
 {
     TakeChoice(radiator, chosen, ReadRadiatorStart());
 }
+
+} // namespace workbench

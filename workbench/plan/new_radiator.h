@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace workbench {
+
 /// What a host keeps for the next radiator that it places.
 struct CRadiatorStart
 {
@@ -42,3 +44,5 @@ std::optional<CPlacedRadiator> PlaceRadiator(const CBuilding& building, const CR
 void TakeChoice(CPlacedRadiator& radiator, const HK_DATEN_VDI3805_UEBERGABE& chosen,
                 const CRadiatorStart& start);
 void TakeChoice(CPlacedRadiator& radiator, const HK_DATEN_VDI3805_UEBERGABE& chosen);
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace workbench {
+
 namespace {
 
 constexpr double kMillimetre = 0.001;
@@ -137,3 +139,5 @@ std::vector<std::size_t> FreePlaces(const CRoom& room)
     }
     return places;
 }
+
+} // namespace workbench

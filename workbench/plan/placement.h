@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+namespace workbench {
+
 /// Where a radiator stands in the plan of its floor. Metres, with y upwards.
 struct CRadiatorPose
 {
@@ -51,3 +53,5 @@ bool IsTaken(const CRoom& room, std::size_t place);
 
 /// The places without a radiator, in the order of the room.
 std::vector<std::size_t> FreePlaces(const CRoom& room);
+
+} // namespace workbench

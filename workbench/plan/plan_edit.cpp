@@ -10,6 +10,8 @@
 #include <memory>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 constexpr double kWatt = 1.0;
@@ -152,3 +154,5 @@ void SetProduct(CBuilding& building, const std::vector<CRoomRef>& rooms, const C
         }
     }
 }
+
+} // namespace workbench

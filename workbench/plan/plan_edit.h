@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <vector>
 
+namespace workbench {
+
 /// A room by its place in the building; holds as long as floors and rooms are the same.
 struct CRoomRef
 {
@@ -54,3 +56,5 @@ void UpdateOutputs(CBuilding& building, const CRoomRef& ref);
 /// passed over.
 void SetProduct(CBuilding& building, const std::vector<CRoomRef>& rooms, const CString& hersteller,
                 const CString& art, const CString& produkt);
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+namespace workbench {
+
 CPlanHistory::CPlanHistory(CBuilding building)
 {
     m_states.push_back({{}, std::move(building)});
@@ -40,3 +42,5 @@ void CPlanHistory::Redo()
         ++m_nCurrent;
     }
 }
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <vector>
 
+namespace workbench {
+
 /// The states of a building from opening on: what was done can be undone and done again, without
 /// limit. States share their rooms, so that one costs little more than what it changed.
 class CPlanHistory
@@ -48,3 +50,5 @@ private:
     std::size_t m_nCurrent = 0;
     std::size_t m_nSaved = 0;
 };
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include "platform/number_scan.h"
 
+namespace workbench {
+
 namespace {
 
 /// Words of kinds in the languages of the sample catalogues, in lower case; those of panels have no
@@ -54,3 +56,5 @@ CString BlockOf(const CString& art, const CString& produkt)
     }
     return {};
 }
+
+} // namespace workbench

@@ -3,6 +3,8 @@
 #include "frame/vdi6030_start.h"
 #include "host/host_prefs.h"
 
+namespace workbench {
+
 namespace {
 
 CConnectionTexts TextsOf(const ConnValues& anschluss)
@@ -51,3 +53,5 @@ CRadiatorList::CRadiatorList(const CBuilding& building, const std::vector<CRadia
         m_records.Add(PlanRadiator(pose, ConnectionOf(radiator)));
     }
 }
+
+} // namespace workbench

@@ -4,6 +4,8 @@
 #include "workbench/plan/placement.h"
 #include "workbench/plan/plan_edit.h"
 
+namespace workbench {
+
 /// Connection point texts of a radiator.
 struct CConnectionTexts
 {
@@ -30,3 +32,5 @@ public:
 private:
     CRadiatorRecords m_records;
 };
+
+} // namespace workbench

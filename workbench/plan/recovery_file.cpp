@@ -17,6 +17,8 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+namespace workbench {
+
 namespace fs = std::filesystem;
 
 namespace {
@@ -167,3 +169,5 @@ void CRecoveryFile::Remove() const
         throw CFileException::FromErrno(error.value(), m_strPath);
     }
 }
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <optional>
 
+namespace workbench {
+
 /// Unsaved work as it was kept last.
 struct CRecovery
 {
@@ -51,3 +53,5 @@ private:
     CString m_strPath;
     int m_lock = -1;
 };
+
+} // namespace workbench

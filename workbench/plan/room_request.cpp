@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace workbench {
+
 namespace {
 
 /// The sizes of the product within a range; the whole range if there are none.
@@ -92,3 +94,5 @@ HK_DATEN_VDI3805_UEBERGABE MakeRequest(const CBuilding& building, const CFloor& 
     NarrowToProduct(request);
     return request;
 }
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <optional>
 
+namespace workbench {
+
 /// How hosts name a room in a hand-over (CRoomTools).
 CString RoomIdOf(const CString& floor, const CString& room);
 
@@ -23,3 +25,5 @@ CString RoomIdOf(const CString& floor, const CString& room);
 HK_DATEN_VDI3805_UEBERGABE MakeRequest(const CBuilding& building, const CFloor& floor,
                                        const CRoom& room,
                                        std::optional<std::size_t> radiator = std::nullopt);
+
+} // namespace workbench

@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <vector>
 
+namespace workbench {
+
 namespace {
 
 /// The module takes rows up to this much higher than the height asked for, in mm. A sill gives no
@@ -153,7 +155,8 @@ CRoomOutcome ExplainEmptySearch(const CRoom& room)
     if (!maker) {
         return unknown(L"i cataloghi non hanno il produttore \"" + room.strHersteller + L"\"");
     }
-    if (const std::optional<CCatalogueError> error = GetCatalogueError(room.strHersteller)) {
+    if (const std::optional<reference_host::CCatalogueError> error =
+            reference_host::GetCatalogueError(room.strHersteller)) {
         return {RoomStatus::badCatalogue, {}, FormatCatalogueError(*error)};
     }
     HK_VDI3805_ART* kind = FindArt(maker, room.strArt);
@@ -187,3 +190,5 @@ CRoomOutcome SelectRadiator(const CRoom& room, const CHeatingSystem& system)
     }
     return {RoomStatus::unfitting, found, DescribeNearest(room, *found)};
 }
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace workbench {
+
 /// How the search for a room's radiator ended.
 enum class RoomStatus
 {
@@ -44,3 +46,5 @@ struct CRoomOutcome
 /// what the room needs, through the module's silent selection. One weaker than 90 per cent of the
 /// need is not accepted. The catalogues are those of the host's settings.
 CRoomOutcome SelectRadiator(const CRoom& room, const CHeatingSystem& system);
+
+} // namespace workbench

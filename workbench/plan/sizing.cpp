@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 HK_DATEN_VDI3805_UEBERGABE ChoiceFor(const CRoom& room, const CRadiator& radiator)
@@ -149,3 +151,5 @@ CSizingResult SizeRooms(const CBuilding& building, const std::vector<CRoomRef>& 
     }
     return result;
 }
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 
 #include <functional>
 
+namespace workbench {
+
 /// A room that could not be given what it needs, and what the first search of it came to.
 struct CSizingFault
 {
@@ -38,3 +40,5 @@ using SizingProgress = std::function<bool(std::size_t done, std::size_t all)>;
 /// are references to rooms that do not exist.
 CSizingResult SizeRooms(const CBuilding& building, const std::vector<CRoomRef>& rooms,
                         const SizingProgress& progress);
+
+} // namespace workbench

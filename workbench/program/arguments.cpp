@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <span>
 
+namespace workbench {
+
 namespace {
 
 struct TextOption
@@ -190,3 +192,5 @@ Codici di uscita:
   7  nessuno schermo per mostrare la finestra
 )";
 }
+
+} // namespace workbench

@@ -7,6 +7,8 @@
 #include <optional>
 #include <vector>
 
+namespace workbench {
+
 /// The option that RunTreeDialog() serves.
 inline constexpr wchar_t kTreeDialogOption[] = L"--tree-dialog";
 
@@ -56,3 +58,5 @@ std::optional<CHeatingSystem> ParseHeatingSystem(const CString& text);
 
 /// The text that --help shows.
 CString GetHelpText();
+
+} // namespace workbench

@@ -22,6 +22,8 @@
 #include <system_error>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 constexpr wchar_t kCsvName[] = L"corpi-scaldanti.csv";
@@ -164,3 +166,5 @@ ExitCode RunBatch(const std::vector<CString>& arguments, std::ostream& out, std:
                       ExitCode::unexpected);
     }
 }
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 #include <iosfwd>
 #include <vector>
 
+namespace workbench {
+
 /// How the program ends; the help text lists the same codes.
 enum class ExitCode
 {
@@ -25,3 +27,5 @@ enum class ExitCode
 /// catalogue folders of the arguments stay in force for the process, and the lines of valve files
 /// that were read stay as they were.
 ExitCode RunBatch(const std::vector<CString>& arguments, std::ostream& out, std::ostream& err);
+
+} // namespace workbench

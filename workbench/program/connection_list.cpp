@@ -13,6 +13,8 @@
 #include <ostream>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 /// Fewer numbers make no point: the short list leaves such an entry out.
@@ -213,9 +215,9 @@ private:
 
 ExitCode ListConnections(const CString& path, std::ostream& out, std::ostream& err)
 {
-    CShortListFile list;
+    reference_host::CShortListFile list;
     try {
-        list = ReadShortList(path);
+        list = reference_host::ReadShortList(path);
     } catch (const CFileException& exception) {
         err << Utf8FromWide(exception.GetErrorMessage()) << '\n';
         return ExitCode::badCatalogue;
@@ -228,3 +230,5 @@ CString DescribeConnectionPoint(const CString& text)
     const std::optional<CPunkt> punkt = ReadPunkt(text);
     return punkt ? DescribePunkt(*punkt) : L"non indicato";
 }
+
+} // namespace workbench

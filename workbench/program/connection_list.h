@@ -5,6 +5,8 @@
 
 #include <iosfwd>
 
+namespace workbench {
+
 /// Prints a short list of connection types ("Vent.txt") in plain words on `out`: each type with the
 /// places and directions of its two points. What the selection dialog would leave out, or would
 /// show under another name than meant, is told on `err` with its line, and the result is then
@@ -14,3 +16,5 @@ ExitCode ListConnections(const CString& path, std::ostream& out, std::ostream& e
 
 /// The place and direction of a connection point text in plain words.
 CString DescribeConnectionPoint(const CString& text);
+
+} // namespace workbench

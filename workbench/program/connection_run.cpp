@@ -17,6 +17,8 @@
 #include <iterator>
 #include <ostream>
 
+namespace workbench {
+
 namespace {
 
 /// Layer of the plan's radiators, in the colour that CAD programs call red.
@@ -45,17 +47,17 @@ void ApplyOptions(const std::vector<CString>& arguments)
         const wchar_t* option;
         const wchar_t* setting;
     } folders[] = {
-        {L"--valve-catalogues", kSettingVEDir},
-        {L"--workplace", kSettingLocalPath},
+        {L"--valve-catalogues", reference_host::kSettingVEDir},
+        {L"--workplace", reference_host::kSettingLocalPath},
     };
     for (const auto& folder : folders) {
         const CString value = OptionOf(arguments, folder.option);
         if (!value.empty()) {
-            OverrideHostSetting(folder.setting, value);
+            reference_host::OverrideHostSetting(folder.setting, value);
         }
     }
     if (std::ranges::find(arguments, L"--superuser") != arguments.end()) {
-        OverrideHostSetting(kSettingSuperUser, L"1");
+        reference_host::OverrideHostSetting(reference_host::kSettingSuperUser, L"1");
     }
 }
 
@@ -160,3 +162,5 @@ ExitCode RunConnectionDialog(const std::vector<CString>& arguments, std::ostream
         return ExitCode::unexpected;
     }
 }
+
+} // namespace workbench

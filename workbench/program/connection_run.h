@@ -7,6 +7,8 @@
 #include <iosfwd>
 #include <vector>
 
+namespace workbench {
+
 /// What the connection dialog works on and gives back.
 struct CConnectionChoice
 {
@@ -29,3 +31,5 @@ CString FormatConnectionChoice(const CConnectionChoice& choice);
 /// left to them.
 ExitCode RunConnectionDialog(const std::vector<CString>& arguments, std::ostream& out,
                              std::ostream& err);
+
+} // namespace workbench

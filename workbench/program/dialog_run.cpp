@@ -11,6 +11,8 @@
 #include <cstdlib>
 #include <iostream>
 
+namespace workbench {
+
 namespace {
 
 /// A number that no catalogue has: the module opens on a maker only if a number comes with it.
@@ -35,7 +37,7 @@ void OnStartMessage(QtMsgType type, const QMessageLogContext& context, const QSt
 void StartWindows()
 {
     g_messageHandlerBefore = qInstallMessageHandler(OnStartMessage);
-    EnsureApplication();
+    reference_host::EnsureWindows();
     qInstallMessageHandler(g_messageHandlerBefore);
 }
 
@@ -66,3 +68,5 @@ CString FormatChosenValve(const VDI3805_VENTIL_KV& ventil)
     lines.AddRow({L"Regolabile", ventil.Einstellbar != 0 ? L"sì" : L"no"});
     return lines.Format();
 }
+
+} // namespace workbench

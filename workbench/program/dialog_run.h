@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace workbench {
+
 /// Makes what dialogs need. A process without a screen ends here, with a message on standard error
 /// and ExitCode::noScreen.
 void StartWindows();
@@ -17,3 +19,5 @@ std::optional<VDI3805_VENTIL_KV> ChooseValve(const CString& maker, const CString
 /// The identity and nominal data of a valve as chosen in the dialog, a line each; lines end in a
 /// line feed. A record without a valve is told in words.
 CString FormatChosenValve(const VDI3805_VENTIL_KV& ventil);
+
+} // namespace workbench

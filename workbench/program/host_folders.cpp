@@ -9,6 +9,8 @@
 #include <system_error>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -24,7 +26,7 @@ bool IsFolder(const CString& path)
 void SetCatalogueFolder(const CArguments& arguments)
 {
     if (!arguments.strCatalogues.empty()) {
-        OverrideHostSetting(kSettingHKDir, arguments.strCatalogues);
+        reference_host::OverrideHostSetting(reference_host::kSettingHKDir, arguments.strCatalogues);
     }
     if (!IsFolder(GetHKDir(false))) {
         throw CArgumentException(L"la cartella dei cataloghi non esiste: " + GetHKDir(false));
@@ -34,7 +36,8 @@ void SetCatalogueFolder(const CArguments& arguments)
 void SetValveFolder(const CArguments& arguments, bool needed)
 {
     if (!arguments.strValveCatalogues.empty()) {
-        OverrideHostSetting(kSettingVEDir, arguments.strValveCatalogues);
+        reference_host::OverrideHostSetting(reference_host::kSettingVEDir,
+                                            arguments.strValveCatalogues);
     }
     if (needed && !IsFolder(GetVEDir(false))) {
         throw CArgumentException(L"--valve-catalogues: la cartella delle valvole non esiste: " +
@@ -50,7 +53,7 @@ void SetWorkplace(const CArguments& arguments)
     if (!IsFolder(arguments.strWorkplace)) {
         throw CArgumentException(L"--workplace: la cartella non esiste: " + arguments.strWorkplace);
     }
-    OverrideHostSetting(kSettingLocalPath, arguments.strWorkplace);
+    reference_host::OverrideHostSetting(reference_host::kSettingLocalPath, arguments.strWorkplace);
 }
 
 std::optional<fs::path> InstalledDataFolder()
@@ -78,3 +81,5 @@ void UseInstalledData()
         setenv(variable, (*data / place).c_str(), 0);
     }
 }
+
+} // namespace workbench

@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <optional>
 
+namespace workbench {
+
 struct CArguments;
 
 /// Folders of the arguments become those of the process, in front of the user's settings; those
@@ -22,3 +24,5 @@ std::optional<std::filesystem::path> InstalledDataFolder();
 /// Where neither the user nor his environment says where catalogues, data root and blocks are,
 /// those that were installed with the program count, if any were.
 void UseInstalledData();
+
+} // namespace workbench

@@ -19,6 +19,8 @@
 #include <algorithm>
 #include <ostream>
 
+namespace workbench {
+
 namespace {
 
 struct CRoomChoice
@@ -121,3 +123,5 @@ ExitCode RunRadiatorDialog(const std::vector<CString>& arguments, std::ostream& 
         return ExitCode::unexpected;
     }
 }
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 #include <iosfwd>
 #include <vector>
 
+namespace workbench {
+
 /// The option that RunRadiatorDialog() serves; the name of a room may stand behind it.
 inline constexpr wchar_t kRadiatorDialogOption[] = L"--radiator-dialog";
 
@@ -14,3 +16,5 @@ inline constexpr wchar_t kRadiatorDialogOption[] = L"--radiator-dialog";
 /// those behind the program's name. `cancelled` if no radiator was chosen. Needs a display.
 ExitCode RunRadiatorDialog(const std::vector<CString>& arguments, std::ostream& out,
                            std::ostream& err);
+
+} // namespace workbench

@@ -12,6 +12,8 @@
 
 #include <ostream>
 
+namespace workbench {
+
 namespace {
 
 constexpr double kLeistung = 1000.0;
@@ -58,7 +60,8 @@ ExitCode RunTreeDialog(const std::vector<CString>& arguments, std::ostream& out,
             return ExitCode::ok;
         }
         if (!parsed.strCatalogues.empty()) {
-            OverrideHostSetting(kSettingHKDir, parsed.strCatalogues);
+            reference_host::OverrideHostSetting(reference_host::kSettingHKDir,
+                                                parsed.strCatalogues);
         }
         if (ReadHKDaten() == nullptr) {
             Write(err, L"radsel_workbench: nessun catalogo in " + GetHKDir(false));
@@ -72,3 +75,5 @@ ExitCode RunTreeDialog(const std::vector<CString>& arguments, std::ostream& out,
         return ExitCode::wrongArguments;
     }
 }
+
+} // namespace workbench

@@ -16,6 +16,8 @@
 #include <memory>
 #include <ostream>
 
+namespace workbench {
+
 namespace {
 
 ExitCode Report(std::ostream& err, const CString& message, ExitCode code)
@@ -54,7 +56,7 @@ std::unique_ptr<CRecoveryFile> OpenRecovery(QStringList& messages)
     try {
         CString folder;
         if (!configGetWorkPathLocal(folder)) {
-            folder = ConfigurationFolder().value_or(L".");
+            folder = reference_host::ConfigurationFolder().value_or(L".");
         }
         return std::make_unique<CRecoveryFile>(folder);
     } catch (const CException& error) {
@@ -112,3 +114,5 @@ ExitCode RunWindow(const std::vector<CString>& arguments, std::ostream& err)
         return Report(err, error.GetErrorMessage(), ExitCode::badBuilding);
     }
 }
+
+} // namespace workbench

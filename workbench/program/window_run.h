@@ -2,6 +2,8 @@
 
 #include "workbench/program/batch.h"
 
+namespace workbench {
+
 /// The option that keeps the workbench from opening its window.
 inline constexpr wchar_t kBatchOption[] = L"--batch";
 
@@ -9,3 +11,5 @@ inline constexpr wchar_t kBatchOption[] = L"--batch";
 /// it. Errors of the arguments, and a building that cannot be read, go to `err` and end it with
 /// their exit code. `arguments` are those behind the program's name. Needs a display.
 ExitCode RunWindow(const std::vector<CString>& arguments, std::ostream& err);
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace workbench {
+
 namespace {
 
 constexpr wchar_t kPlainBlock[] = L"RAD_RETTANGOLO";
@@ -87,3 +89,5 @@ void AddLayer(CDxfDrawing& drawing, const CDxfLayer& layer)
         drawing.layers.push_back(layer);
     }
 }
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 
 #include <map>
 
+namespace workbench {
+
 /// Takes the blocks of radiators and valves that a plan needs over into its drawing, each once.
 class CBlockCollection
 {
@@ -49,3 +51,5 @@ void AddLayer(CDxfDrawing& drawing, const CDxfLayer& layer);
 /// Names of the attributes of a radiator, in the order in which its block defines them.
 inline constexpr const wchar_t* kRadiatorAttributes[] = {L"H_VL_PUNKT", L"H_RL_PUNKT", L"H_LAENGE",
                                                          L"H_TIEFE", L"H_HOEHE"};
+
+} // namespace workbench

@@ -13,6 +13,8 @@
 #include <cmath>
 #include <numbers>
 
+namespace workbench {
+
 namespace {
 
 /// Thickness of an outer wall in metres.
@@ -315,3 +317,5 @@ QPainterPath WalledArea(const CFloor& floor)
     path.addRegion(region);
     return QTransform::fromScale(0.001, 0.001).map(path.simplified());
 }
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 
 #include <QPainterPath>
 
+namespace workbench {
+
 /// Layers of a plan's drawing, beside those of its radiators and of the valves' graphics.
 inline constexpr wchar_t kLayerRooms[] = L"LOCALI";
 inline constexpr wchar_t kLayerWalls[] = L"MURI";
@@ -28,3 +30,5 @@ CDxfDrawing MakePlanDrawing(const CBuilding& building, const CDxfDrawing& radiat
 
 /// All that the rooms of a floor and the walls around them cover, in metres.
 QPainterPath WalledArea(const CFloor& floor);
+
+} // namespace workbench

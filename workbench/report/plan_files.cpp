@@ -12,6 +12,8 @@
 
 #include <cstdlib>
 
+namespace workbench {
+
 namespace {
 
 /// The toolkit draws pages only if it has an application object, which need not have a screen.
@@ -19,7 +21,7 @@ void EnsurePages()
 {
     if (QCoreApplication::instance() == nullptr) {
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
-        EnsureApplication();
+        reference_host::EnsureWindows();
     }
 }
 
@@ -33,3 +35,5 @@ void WritePlanFiles(const CString& folder, const CBuilding& building, const CDra
     WriteWholeFile(JoinPath(folder, kDxfName),
                    FormatPlanDxf(building, blocks.heizkoerper, blocks.Valves()));
 }
+
+} // namespace workbench

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <span>
 
+namespace workbench {
+
 namespace {
 
 /// Sizes of texts in points. Below the least one nobody reads it.
@@ -139,3 +141,5 @@ void PaintRadiatorNumber(CReportSheet& sheet, const QString& number, double outp
         }
     }
 }
+
+} // namespace workbench

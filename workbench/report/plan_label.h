@@ -3,6 +3,8 @@
 #include "workbench/building/building.h"
 #include "workbench/report/report_sheet.h"
 
+namespace workbench {
+
 /// Texts of a printed plan. Sizes in millimetres.
 
 /// Height of the number of a radiator.
@@ -17,3 +19,5 @@ void PaintRoomLabel(CReportSheet& sheet, const QRectF& space, const CRoom& room)
 /// into a line `away` below it. Nothing if there is not even space for the number.
 void PaintRadiatorNumber(CReportSheet& sheet, const QString& number, double output, double space,
                          double away);
+
+} // namespace workbench

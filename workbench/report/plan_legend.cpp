@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <iterator>
 
+namespace workbench {
+
 namespace {
 
 const QColor kInk(30, 36, 44);
@@ -101,3 +103,5 @@ void PaintNorth(CReportSheet& sheet, const QPointF& tip)
         QTransform::fromScale(CReportSheet::kUnits, CReportSheet::kUnits).map(arrow), kInk);
     sheet.Text({tip.x() - 5.0, tip.y() + 8.4, 10.0, 3.4}, "N", {8.0, true, kInk, Qt::AlignHCenter});
 }
+
+} // namespace workbench

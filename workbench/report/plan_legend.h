@@ -3,6 +3,8 @@
 #include "workbench/plan/coverage.h"
 #include "workbench/report/report_sheet.h"
 
+namespace workbench {
+
 /// How a printed plan shows whether a room is covered: a light fill, and a strong form of it for
 /// figures on that fill.
 QColor PrintFillOf(Coverage coverage);
@@ -16,3 +18,5 @@ void PaintLegend(CReportSheet& sheet, const QPointF& corner);
 
 /// Paints an arrow to the north, 12 mm high, from its tip.
 void PaintNorth(CReportSheet& sheet, const QPointF& tip);
+
+} // namespace workbench

@@ -13,6 +13,8 @@
 #include <functional>
 #include <memory>
 
+namespace workbench {
+
 namespace {
 
 constexpr double kMargin = 15.0;
@@ -258,3 +260,5 @@ int WritePlanPdf(const CString& path, const CBuilding& building, const CDxfDrawi
     file.Close();
     return report.GetPages();
 }
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 
 #include <QDate>
 
+namespace workbench {
+
 /// Writes the plan as a PDF file for the client (docs/export-formats.md): a title with the totals,
 /// each floor to scale, the schedule of radiators, valves and open rooms. `radiators` has the
 /// radiators' blocks, `valves`, which may be null, those of the valves. Returns the number of
@@ -14,3 +16,5 @@
 /// CFileException. The toolkit's application object has to exist; it needs no screen.
 int WritePlanPdf(const CString& path, const CBuilding& building, const CDxfDrawing& radiators,
                  const CBlockLibrary* valves, const QDate& date);
+
+} // namespace workbench

@@ -14,6 +14,8 @@
 #include <cmath>
 #include <map>
 
+namespace workbench {
+
 namespace {
 
 constexpr int kScales[] = {20, 50, 100, 200, 250, 500, 1000, 2000, 5000};
@@ -262,3 +264,5 @@ QString RadiatorNumber(std::size_t floor, std::size_t radiator)
 {
     return QString("%1.%2").arg(floor + 1).arg(radiator + 1, 2, 10, QChar('0'));
 }
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 
 #include <QPainterPath>
 
+namespace workbench {
+
 /// A floor's plan to be painted to scale: walls, windows and radiators, the rooms in the colour of
 /// their coverage with what they need and what of it is covered, and the number of each radiator.
 class CPlanPicture
@@ -34,3 +36,5 @@ private:
 
 /// Number of a radiator in plan and schedule: that of its floor and its own in it, both from 0.
 QString RadiatorNumber(std::size_t floor, std::size_t radiator);
+
+} // namespace workbench

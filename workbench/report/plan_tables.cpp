@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+namespace workbench {
+
 namespace {
 
 using Cells = std::vector<QString>;
@@ -213,3 +215,5 @@ CReportTable MakeValveTable(const CSchedule& schedule)
     }
     return table;
 }
+
+} // namespace workbench

@@ -3,6 +3,8 @@
 #include "workbench/report/report_table.h"
 #include "workbench/schedule/schedule.h"
 
+namespace workbench {
+
 /// The tables of a plan's report. The widths of their columns suit paper of 297 mm.
 
 /// Sums of the floors and of the building.
@@ -16,3 +18,5 @@ CReportTable MakeOpenRoomsTable(const CSchedule& schedule);
 
 /// The valves to be ordered.
 CReportTable MakeValveTable(const CSchedule& schedule);
+
+} // namespace workbench

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace workbench {
+
 namespace {
 
 /// Narrower than this in per cent a text is hard to read.
@@ -73,3 +75,5 @@ void CReportSheet::Frame(const QRectF& box, double width, const QColor& color)
     m_painter.setBrush(Qt::NoBrush);
     m_painter.drawRect(InUnits(box));
 }
+
+} // namespace workbench

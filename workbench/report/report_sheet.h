@@ -5,6 +5,8 @@
 #include <QRectF>
 #include <QString>
 
+namespace workbench {
+
 /// How a text of a report looks.
 struct CTextLook
 {
@@ -44,3 +46,5 @@ private:
 
     QPainter& m_painter;
 };
+
+} // namespace workbench

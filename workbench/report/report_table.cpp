@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <optional>
 
+namespace workbench {
+
 namespace {
 
 constexpr double kTitleHeight = 9.0;
@@ -193,3 +195,5 @@ void PaintTableLine(CReportSheet& sheet, const QPointF& corner, const CReportTab
         break;
     }
 }
+
+} // namespace workbench

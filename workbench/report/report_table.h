@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace workbench {
+
 struct CReportColumn
 {
     QString strTitel;
@@ -66,3 +68,5 @@ std::vector<std::vector<CTableLine>> LayOutTables(const std::vector<CReportTable
 /// Paints a line of its table; `corner` is the upper left one of the page's area.
 void PaintTableLine(CReportSheet& sheet, const QPointF& corner, const CReportTable& table,
                     const CTableLine& line);
+
+} // namespace workbench

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <numbers>
 
+namespace workbench {
+
 namespace {
 
 /// A point is at the radiator's middle within this share of its length.
@@ -55,3 +57,5 @@ double TurnOfBlock(const QRectF& bounds)
     }
     return middle.x() > 0.0 ? 180.0 : 0.0;
 }
+
+} // namespace workbench

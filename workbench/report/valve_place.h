@@ -6,6 +6,8 @@
 
 #include <vector>
 
+namespace workbench {
+
 /// Where the graphic of a valve stands in the plan of its floor, in metres.
 struct CValvePlace
 {
@@ -25,3 +27,5 @@ std::vector<CValvePlace> ValvePlacesOf(const CBuilding& building, const CRadiato
 /// Degrees by which a block has to be turned besides: its bounds tell on which side of its base
 /// point it lies. What belongs to a radiator's right end lies on the right.
 double TurnOfBlock(const QRectF& bounds);
+
+} // namespace workbench

@@ -7,6 +7,8 @@
 #include <map>
 #include <tuple>
 
+namespace workbench {
+
 namespace {
 
 /// Most radiators of a building have the same valves.
@@ -206,3 +208,5 @@ CString GetStatusText(RoomStatus status)
     }
     return {};
 }
+
+} // namespace workbench

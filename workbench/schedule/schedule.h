@@ -7,6 +7,8 @@
 
 #include <vector>
 
+namespace workbench {
+
 /// A radiator of a room, or a room without one.
 struct CScheduleRow
 {
@@ -80,3 +82,5 @@ double GetDeviation(double leistung, double required);
 
 /// The status as the user reads it.
 CString GetStatusText(RoomStatus status);
+
+} // namespace workbench

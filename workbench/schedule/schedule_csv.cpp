@@ -4,6 +4,8 @@
 
 #include <iterator>
 
+namespace workbench {
+
 namespace {
 
 constexpr std::size_t kFieldsOfRadiator = 9;
@@ -152,3 +154,5 @@ CString FormatScheduleCsv(const CSchedule& schedule)
     }
     return text + FormatTotals({}, L"totale dell'edificio", schedule.totals);
 }
+
+} // namespace workbench

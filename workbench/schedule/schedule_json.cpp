@@ -6,6 +6,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+namespace workbench {
+
 namespace {
 
 constexpr int kFormatVersion = 1;
@@ -163,3 +165,5 @@ std::string FormatScheduleJson(const CSchedule& schedule)
                               {"valves", MakeValveBillJson(MakeValveBill(schedule))}};
     return QJsonDocument(root).toJson().toStdString();
 }
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+namespace workbench {
+
 namespace {
 
 /// With the widest texts the table takes 160 places, as many as a wide terminal has. The files hold
@@ -129,3 +131,5 @@ CString FormatScheduleText(const CSchedule& schedule, bool kvTables)
            table.Format() + L"\n" + (bill.empty() ? bill : bill + L"\n") +
            FormatSummary(schedule.totals);
 }
+
+} // namespace workbench

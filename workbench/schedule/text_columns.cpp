@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <numeric>
 
+namespace workbench {
+
 namespace {
 
 constexpr wchar_t kGap[] = L"  ";
@@ -149,3 +151,5 @@ CString CTextColumns::Format() const
     }
     return result;
 }
+
+} // namespace workbench

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace workbench {
+
 /// Places that a text takes in a terminal: accents that join a letter take none, wide characters
 /// two.
 int GetDisplayWidth(const CString& text);
@@ -59,3 +61,5 @@ private:
     std::vector<CTextColumn> m_columns;
     std::vector<Line> m_lines;
 };
+
+} // namespace workbench

@@ -3,6 +3,8 @@
 #include <map>
 #include <tuple>
 
+namespace workbench {
+
 namespace {
 
 /// Collects items in the order in which the bill lists them.
@@ -53,3 +55,5 @@ CValveBill MakeValveBill(const CSchedule& schedule)
     }
     return maker.Make();
 }
+
+} // namespace workbench

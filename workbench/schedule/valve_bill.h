@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace workbench {
+
 /// A kind of valve and how many of it the building takes.
 struct CValveItem
 {
@@ -25,3 +27,5 @@ struct CValveBill
 };
 
 CValveBill MakeValveBill(const CSchedule& schedule);
+
+} // namespace workbench

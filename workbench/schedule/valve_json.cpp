@@ -3,6 +3,8 @@
 #include <charconv>
 #include <cstddef>
 
+namespace workbench {
+
 namespace {
 
 QString Text(const CString& text)
@@ -111,3 +113,5 @@ QJsonArray MakeValveBillJson(const CValveBill& bill)
     }
     return items;
 }
+
+} // namespace workbench

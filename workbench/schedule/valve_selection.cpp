@@ -10,6 +10,8 @@
 #include <filesystem>
 #include <system_error>
 
+namespace workbench {
+
 namespace {
 
 constexpr wchar_t kFileName[] = L"ha.tga";
@@ -24,7 +26,8 @@ CValveOutcome MakeMissing(const CValveKey& key, ValveStatus status, const CStrin
     return outcome;
 }
 
-CValveOutcome MakeFaulty(const CValveKey& key, const CString& file, const CValveFileFault& fault)
+CValveOutcome MakeFaulty(const CValveKey& key, const CString& file,
+                         const reference_host::CValveFileFault& fault)
 {
     return MakeMissing(key, ValveStatus::badFile,
                        file + L": riga " + FormatInt(fault.nLine) + L": " + fault.strMessage);
@@ -46,7 +49,7 @@ CValveOutcome ExplainException(const CValveKey& key, const CException& error)
 {
     const CString file = GetFile(key);
     try {
-        const CValveFileCheck check(file);
+        const reference_host::CValveFileCheck check(file);
         if (const auto fault = check.FindReadingFault()) {
             return MakeFaulty(key, file, *fault);
         }
@@ -74,7 +77,7 @@ CValveOutcome ExplainSilence(const CValveKey& key)
         return MakeMissing(key, ValveStatus::notFound, L"manca il file " + file);
     }
     try {
-        const CValveFileCheck check(file);
+        const reference_host::CValveFileCheck check(file);
         if (const auto fault = check.FindReadingFault()) {
             return MakeFaulty(key, file, *fault);
         }
@@ -132,3 +135,5 @@ CRoomValves FetchValves(const CValveKeys& keys)
     }
     return {FetchOne(keys.vorlauf), FetchOne(keys.ruecklauf)};
 }
+
+} // namespace workbench

@@ -3,6 +3,8 @@
 #include "frame/ventil_kv.h"
 #include "workbench/building/building.h"
 
+namespace workbench {
+
 /// How the fetching of a valve ended.
 enum class ValveStatus
 {
@@ -34,3 +36,5 @@ struct CRoomValves
 /// Fetches the valves of a radiator by their keys through the module. The files are those of the
 /// host's settings.
 CRoomValves FetchValves(const CValveKeys& keys);
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <cstddef>
 
+namespace workbench {
+
 namespace {
 
 constexpr wchar_t kSupplyLabel[] = L"    mandata: ";
@@ -154,3 +156,5 @@ CString FormatValveBill(const CValveBill& bill)
     return table.Format() + L"Valvole: " + FormatInt(bill.nValves) + L"; mancanti: " +
            FormatInt(bill.nMissing) + L".\n";
 }
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace workbench {
+
 /// The lines under a room of the schedule that name its valves, and then those that say why one is
 /// missing; none if the room has no valves. Names are cut to keep a line below 156 places.
 std::vector<CString> FormatValves(const CRoomValves& valves);
@@ -15,3 +17,5 @@ std::vector<CString> FormatKvTables(const CRoomValves& valves);
 
 /// The bill as a table with its sum below; empty if no valve is wanted. Lines end in a line feed.
 CString FormatValveBill(const CValveBill& bill);
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include <QPainterPath>
 
+namespace workbench {
+
 namespace {
 
 /// Signs are drawn in a square of this side.
@@ -97,3 +99,5 @@ void PaintSign(QPainter& painter, Coverage coverage, const QRectF& square)
     }
     painter.restore();
 }
+
+} // namespace workbench

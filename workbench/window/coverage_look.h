@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QString>
 
+namespace workbench {
+
 /// How the plan shows at a glance whether a room's demand is met: by a soft fill, and for those who
 /// cannot tell the colours apart by a sign as well.
 
@@ -21,3 +23,5 @@ QString TextOf(Coverage coverage);
 /// Paints the sign into a square, with y downwards: a tick, an exclamation mark in a triangle, a
 /// ring for a room without radiator, or a dash where nothing is asked.
 void PaintSign(QPainter& painter, Coverage coverage, const QRectF& square);
+
+} // namespace workbench

@@ -19,6 +19,8 @@
 #include <QCursor>
 #include <QGuiApplication>
 
+namespace workbench {
+
 namespace {
 
 const QString kBuildingFilter = "Edifici (*.json)";
@@ -174,8 +176,8 @@ void CFileCommands::ChooseCatalogues()
     if (!folder) {
         return;
     }
-    OverrideHostSetting(kSettingHKDir, *folder);
-    if (!StoreHostSetting(kSettingHKDir, *folder)) {
+    reference_host::OverrideHostSetting(reference_host::kSettingHKDir, *folder);
+    if (!reference_host::StoreHostSetting(reference_host::kSettingHKDir, *folder)) {
         m_prompts.tell(&m_window, "La cartella vale solo per questa volta: le impostazioni non "
                                   "sono scrivibili.");
     }
@@ -188,8 +190,10 @@ void CFileCommands::ChooseCatalogues()
 QString DescribeCatalogueErrors()
 {
     QStringList lines;
-    for (const CCatalogueError& error : CheckCatalogues()) {
+    for (const reference_host::CCatalogueError& error : CheckCatalogues()) {
         lines += ToQt(FormatCatalogueError(error));
     }
     return lines.join('\n');
 }
+
+} // namespace workbench

@@ -4,8 +4,11 @@
 
 #include <QObject>
 
-class CPlanDocument;
 class QWidget;
+
+namespace workbench {
+
+class CPlanDocument;
 struct CDrawingBlocks;
 struct CPrompts;
 
@@ -57,3 +60,5 @@ private:
 
 /// Reads all catalogues and tells in one text which cannot be read; empty if all can.
 QString DescribeCatalogueErrors();
+
+} // namespace workbench

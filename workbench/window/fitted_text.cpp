@@ -3,6 +3,8 @@
 #include <QFontMetricsF>
 #include <QGuiApplication>
 
+namespace workbench {
+
 namespace {
 
 /// A name cut to fewer characters than this, the ellipsis among them, tells nobody anything.
@@ -49,3 +51,5 @@ std::optional<CFittedText> FitText(const QString& text, double width, int pixels
     }
     return CFittedText{shortened, font, WidthOf(shortened, font)};
 }
+
+} // namespace workbench

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace workbench {
+
 /// A text and the font in which it has its place.
 struct CFittedText
 {
@@ -28,3 +30,5 @@ std::optional<CFittedText> ShrinkText(const QString& text, double width, int pix
 /// if next to nothing of it would be left.
 std::optional<CFittedText> FitText(const QString& text, double width, int pixels, int leastPixels,
                                    bool bold);
+
+} // namespace workbench

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 const QColor kMarkColor(0, 92, 200);
@@ -192,3 +194,5 @@ void CFloorScene::PaintMarks(QPainter& painter, const QRectF& exposed, double sc
         }
     }
 }
+
+} // namespace workbench

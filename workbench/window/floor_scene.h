@@ -8,6 +8,8 @@
 #include <optional>
 #include <vector>
 
+namespace workbench {
+
 class CWallsItem;
 
 /// The plan of one floor: rooms with what they need and get, windows, and the radiators that stand
@@ -113,3 +115,5 @@ private:
     std::optional<QPointF> m_pressed;
     std::optional<QRectF> m_band;
 };
+
+} // namespace workbench

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 /// Pixels beside a radiator that still count as on it.
@@ -266,3 +268,5 @@ bool CFloorScene::ActivateMarked()
     }
     return false;
 }
+
+} // namespace workbench

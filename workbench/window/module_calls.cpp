@@ -7,6 +7,8 @@
 #include "workbench/plan/radiator_list.h"
 #include "workbench/plan/room_request.h"
 
+namespace workbench {
+
 namespace {
 
 VDI3805_VENTIL_KV RecordOf(const std::optional<CValveKey>& key)
@@ -159,3 +161,5 @@ std::optional<CBuilding> ChooseProduct(const CBuilding& building,
     SetProduct(changed, rooms, uebergabe.Hersteller, uebergabe.Art, uebergabe.Produkt);
     return changed;
 }
+
+} // namespace workbench

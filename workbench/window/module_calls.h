@@ -6,6 +6,8 @@
 
 class CDrawer;
 
+namespace workbench {
+
 /// The module's dialogs, opened on parts of a building as a CAD does. Each runs until the user
 /// closes it and gives the building with what he chose; nothing if he cancelled.
 
@@ -25,3 +27,5 @@ std::optional<CBuilding> ConnectRadiators(const CBuilding& building,
 /// the product of the first.
 std::optional<CBuilding> ChooseProduct(const CBuilding& building,
                                        const std::vector<CRoomRef>& rooms);
+
+} // namespace workbench

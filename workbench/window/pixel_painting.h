@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+namespace workbench {
+
 /// As long as it lives a painter that was in the plan's metres paints in pixels with y downwards,
 /// so that texts and signs stand upright and have one size at every zoom.
 class CPixelPainting
@@ -26,3 +28,5 @@ private:
     QPainter& m_painter;
     QTransform m_fromPlan;
 };
+
+} // namespace workbench

@@ -3,6 +3,8 @@
 #include "workbench/drawing/block_path.h"
 #include "workbench/drawing/color_index.h"
 
+namespace workbench {
+
 namespace {
 
 std::shared_ptr<const CPlanBlock>
@@ -51,3 +53,5 @@ void CPlanBlocks::Add(Blocks& blocks, const std::vector<CDxfLayer>& layers, cons
         blocks.emplace(ToLower(block.strName), std::make_shared<const CPlanBlock>(std::move(made)));
     }
 }
+
+} // namespace workbench

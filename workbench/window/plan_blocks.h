@@ -9,6 +9,8 @@
 #include <memory>
 #include <vector>
 
+namespace workbench {
+
 /// A block as the plan paints it, in metres.
 struct CPlanBlock
 {
@@ -45,3 +47,5 @@ private:
     Blocks m_radiators;
     Blocks m_valves;
 };
+
+} // namespace workbench

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace workbench {
+
 CPlanCommands::CPlanCommands(CPlanDocument& document, const CPrompts& prompts, QWidget& window)
     : m_document(document), m_prompts(prompts), m_window(window)
 {
@@ -31,7 +33,7 @@ void CPlanCommands::ChooseRadiator(const CRoomRef& ref, std::optional<std::size_
         return;
     }
     const CString what = L"Corpo scaldante di " + room.strName;
-    if (auto changed = ::ChooseRadiator(building, ref, radiator, drawer)) {
+    if (auto changed = workbench::ChooseRadiator(building, ref, radiator, drawer)) {
         m_document.Do(what, std::move(*changed));
     }
 }
@@ -41,7 +43,7 @@ void CPlanCommands::ChooseProduct(const std::vector<CRoomRef>& rooms)
     if (rooms.empty()) {
         return;
     }
-    auto changed = ::ChooseProduct(m_document.Building(), rooms);
+    auto changed = workbench::ChooseProduct(m_document.Building(), rooms);
     if (!changed) {
         return;
     }
@@ -120,7 +122,7 @@ void CPlanCommands::ChangeSystem()
     if (system.vorlauf == changed.system.vorlauf && system.ruecklauf == changed.system.ruecklauf) {
         return;
     }
-    ::ChangeSystem(changed, system);
+    workbench::ChangeSystem(changed, system);
     const CString name = FormatExact(system.vorlauf) + L"/" + FormatExact(system.ruecklauf);
     const std::size_t open = OpenRooms(changed).size();
     m_document.Do(L"Sistema " + name, std::move(changed));
@@ -136,3 +138,5 @@ std::vector<CRoomRef> OpenRooms(const CBuilding& building)
                   [&](const CRoomRef& ref) { return !IsOpen(CoverageOf(RoomOf(building, ref))); });
     return rooms;
 }
+
+} // namespace workbench

@@ -7,8 +7,11 @@
 #include <optional>
 
 class CDrawer;
-class CPlanDocument;
 class QWidget;
+
+namespace workbench {
+
+class CPlanDocument;
 struct CPrompts;
 
 /// What the designer does with rooms and radiators. Each command is one step that can be undone,
@@ -50,3 +53,5 @@ private:
 
 /// The rooms that someone has to look after.
 std::vector<CRoomRef> OpenRooms(const CBuilding& building);
+
+} // namespace workbench

@@ -7,6 +7,8 @@
 #include <chrono>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 /// A crash costs no more than the work of this time.
@@ -104,3 +106,5 @@ void CPlanDocument::Announce()
     }
     emit Changed();
 }
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QTimer>
 
+namespace workbench {
+
 /// The building that the window works on: its states, its file, and the copy that survives a crash.
 class CPlanDocument : public QObject
 {
@@ -60,3 +62,5 @@ private:
     const CRecoveryFile* m_pRecovery;
     QTimer m_keepTimer;
 };
+
+} // namespace workbench

@@ -9,6 +9,8 @@
 
 #include <cmath>
 
+namespace workbench {
+
 /// The rectangle in metres.
 inline QRectF MetresOf(const CFloorRect& rect)
 {
@@ -30,3 +32,5 @@ inline QPen PixelPen(const QColor& color, double pixels = 1.0)
     pen.setCosmetic(true);
     return pen;
 }
+
+} // namespace workbench

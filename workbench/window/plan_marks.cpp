@@ -1,5 +1,7 @@
 #include "workbench/window/plan_marks.h"
 
+namespace workbench {
+
 namespace {
 
 template <typename Ref>
@@ -31,3 +33,5 @@ CPlanMarks MarksAfter(CPlanMarks marks, const CRadiatorRef& radiator, bool exten
     Toggle(marks.radiators, radiator);
     return marks;
 }
+
+} // namespace workbench

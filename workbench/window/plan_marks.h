@@ -4,6 +4,8 @@
 
 #include <set>
 
+namespace workbench {
+
 /// What is marked in a plan: rooms or radiators, never both.
 struct CPlanMarks
 {
@@ -19,3 +21,5 @@ struct CPlanMarks
 /// as it is of the same kind; otherwise this one is all that is marked.
 CPlanMarks MarksAfter(CPlanMarks marks, const CRoomRef& room, bool extend);
 CPlanMarks MarksAfter(CPlanMarks marks, const CRadiatorRef& radiator, bool extend);
+
+} // namespace workbench

@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+namespace workbench {
+
 namespace {
 
 using Row = std::pair<QString, QString>;
@@ -140,3 +142,5 @@ QString ToolTipOf(const CRoom& room, const CPlacedRadiator& radiator)
          {"Valvola di mandata", Valve(radiator.ventile.vorlauf)},
          {"Valvola di ritorno", Valve(radiator.ventile.ruecklauf)}});
 }
+
+} // namespace workbench

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+namespace workbench {
+
 /// What the plan tells about rooms and radiators in words.
 
 /// Whole watts, with a true minus sign.
@@ -15,3 +17,5 @@ QString ShortLabelOf(const CPlacedRadiator& radiator);
 /// All data of a room, or of a radiator and the room it stands in, as rich text.
 QString ToolTipOf(const CRoom& room);
 QString ToolTipOf(const CRoom& room, const CPlacedRadiator& radiator);
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+namespace workbench {
+
 namespace {
 
 std::optional<CString> Chosen(const QString& path)
@@ -54,3 +56,5 @@ CPrompts MakePrompts()
     };
     return prompts;
 }
+
+} // namespace workbench

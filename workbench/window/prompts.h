@@ -9,6 +9,8 @@
 
 class QWidget;
 
+namespace workbench {
+
 /// What the window asks the user in small dialogs. Members can be replaced, so that a test answers.
 struct CPrompts
 {
@@ -38,3 +40,5 @@ struct CPrompts
 
 /// The toolkit's own dialogs.
 CPrompts MakePrompts();
+
+} // namespace workbench

@@ -16,6 +16,8 @@
 #include <cmath>
 #include <numbers>
 
+namespace workbench {
+
 namespace {
 
 /// Pixels a metre from which on lines of blocks can be told apart.
@@ -251,3 +253,5 @@ void CRadiatorDrawing::PaintLabel(QPainter& painter, double scale) const
     painter.setPen(kLabelColor);
     painter.drawText(QPointF(-text->dWidth / 2, 0.36 * text->font.pixelSize()), text->strText);
 }
+
+} // namespace workbench

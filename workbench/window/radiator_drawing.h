@@ -11,6 +11,8 @@
 #include <memory>
 #include <vector>
 
+namespace workbench {
+
 /// A radiator as it stands in the plan: its block, its connection points and valves, and a short
 /// label. Everything that painting needs is made once; a change makes a new drawing.
 class CRadiatorDrawing
@@ -72,3 +74,5 @@ private:
     /// Symbols of those that have none, in no scene.
     std::vector<std::unique_ptr<QGraphicsItem>> m_symbols;
 };
+
+} // namespace workbench

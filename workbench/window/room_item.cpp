@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <iterator>
 
+namespace workbench {
+
 namespace {
 
 /// Pixels of a room's shorter side from which on it has a sign: in a small picture only rooms that
@@ -152,3 +154,5 @@ void CRoomItem::PaintTexts(QPainter& painter, double scale) const
                       TakenCorner(free, sign) * scale, scale);
     }
 }
+
+} // namespace workbench

@@ -10,6 +10,8 @@
 #include <optional>
 #include <vector>
 
+namespace workbench {
+
 /// What a plan shows of its rooms, beside what its scale allows.
 struct CPlanOptions
 {
@@ -57,3 +59,5 @@ private:
     QRectF m_outline;
     QRectF m_bounds;
 };
+
+} // namespace workbench

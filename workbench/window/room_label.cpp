@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace workbench {
+
 namespace {
 
 /// Heights of the texts in metres of the plan; in pixels they stay within what can be read.
@@ -130,3 +132,5 @@ void CRoomLabel::AddText(const QString& text, const QFont& font, const QColor& c
     m_texts.push_back(
         {text, font, color, {left, middle + kBaseLine * font.pixelSize()}, WidthOf(text, font)});
 }
+
+} // namespace workbench

@@ -10,6 +10,8 @@
 #include <array>
 #include <vector>
 
+namespace workbench {
+
 /// What the plan writes into a room: its name, and below it what it needs, what of that is covered
 /// and what remains.
 class CRoomLabel
@@ -60,3 +62,5 @@ private:
     mutable double m_dScale = 0.0;
     mutable std::vector<CText> m_texts;
 };
+
+} // namespace workbench

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+namespace workbench {
+
 CRoomList::CRoomList(QWidget* parent)
     : QWidget(parent), m_pOpenOnly(new QCheckBox("Solo i locali &da sistemare")),
       m_pView(new QTableView), m_pTable(new CRoomTable(this))
@@ -88,3 +90,5 @@ void CRoomList::ShowOpenOnly(bool openOnly)
 {
     m_pOpenOnly->setChecked(openOnly);
 }
+
+} // namespace workbench

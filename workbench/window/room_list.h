@@ -6,6 +6,9 @@
 
 class QCheckBox;
 class QTableView;
+
+namespace workbench {
+
 class CRoomTable;
 
 /// The rooms of a building in a list that can be sorted: what each needs, gets and lacks. A check
@@ -37,3 +40,5 @@ private:
     CRoomTable* m_pTable;
     bool m_bMarking = false;
 };
+
+} // namespace workbench

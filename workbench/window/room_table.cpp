@@ -6,6 +6,8 @@
 
 #include <QColor>
 
+namespace workbench {
+
 namespace {
 
 constexpr const char* kHeadings[] = {"Piano", "Locale", "Fabb.", "Coperto", "Resto", "Stato"};
@@ -35,7 +37,7 @@ void CRoomRows::Show(const CBuilding& building)
     for (const CRoomRef& ref : AllRooms(building)) {
         const CRoom& room = RoomOf(building, ref);
         m_rooms.push_back({ref, ToQt(building.floors[ref.nFloor].strName), ToQt(room.strName),
-                           room.bedarf, CoveredOf(room), RemainderOf(room), ::CoverageOf(room)});
+                           room.bedarf, CoveredOf(room), RemainderOf(room), workbench::CoverageOf(room)});
     }
     endResetModel();
 }
@@ -127,3 +129,5 @@ bool CRoomTable::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const
 {
     return !m_bOpenOnly || IsOpen(m_rows.CoverageOf(row));
 }
+
+} // namespace workbench

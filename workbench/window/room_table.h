@@ -6,6 +6,8 @@
 #include <QAbstractTableModel>
 #include <QSortFilterProxyModel>
 
+namespace workbench {
+
 /// A row for every room of a building.
 class CRoomRows : public QAbstractTableModel
 {
@@ -68,3 +70,5 @@ private:
     CRoomRows m_rows;
     bool m_bOpenOnly = false;
 };
+
+} // namespace workbench

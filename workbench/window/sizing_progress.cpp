@@ -4,6 +4,8 @@
 #include <QElapsedTimer>
 #include <QProgressDialog>
 
+namespace workbench {
+
 namespace {
 
 /// Telling the user about every room would take longer than sizing it.
@@ -34,3 +36,5 @@ CSizingResult SizeWithProgress(QWidget* parent, const CBuilding& building,
         return !bar.wasCanceled();
     });
 }
+
+} // namespace workbench

@@ -4,6 +4,10 @@
 
 class QWidget;
 
+namespace workbench {
+
 /// Sizes rooms (SizeRooms) behind a bar that shows how far it is and lets the user cancel.
 CSizingResult SizeWithProgress(QWidget* parent, const CBuilding& building,
                                const std::vector<CRoomRef>& rooms);
+
+} // namespace workbench

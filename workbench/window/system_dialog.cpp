@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace workbench {
+
 namespace {
 
 /// Supply and return of systems that are built most, from the boiler of old to the heat pump.
@@ -101,3 +103,5 @@ void CSystemDialog::ShowConsequence()
     m_pConsequence->setText(text);
     m_pButtons->button(QDialogButtonBox::Ok)->setEnabled(possible);
 }
+
+} // namespace workbench

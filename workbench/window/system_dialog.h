@@ -9,6 +9,8 @@ class QDialogButtonBox;
 class QDoubleSpinBox;
 class QLabel;
 
+namespace workbench {
+
 /// Asks for the heating system of a building and tells beforehand what it would mean for the rooms.
 class CSystemDialog : public QDialog
 {
@@ -30,3 +32,5 @@ private:
     QLabel* m_pConsequence;
     QDialogButtonBox* m_pButtons;
 };
+
+} // namespace workbench

@@ -8,6 +8,8 @@
 
 #include <cmath>
 
+namespace workbench {
+
 namespace {
 
 /// Thickness of an outer wall in metres.
@@ -103,3 +105,5 @@ void CWallsItem::PaintWindowLines(QPainter& painter, const QRectF& exposed) cons
         }
     }
 }
+
+} // namespace workbench

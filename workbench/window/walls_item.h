@@ -8,6 +8,8 @@
 #include <memory>
 #include <vector>
 
+namespace workbench {
+
 /// The walls of a floor with the windows in them, below all rooms. A wall is as thick as an outer
 /// one; where the next room is nearer, that room's floor covers the rest of it.
 class CWallsItem : public QGraphicsItem
@@ -37,3 +39,5 @@ private:
     std::vector<QRectF> m_walled;
     std::vector<CWindow> m_windows;
 };
+
+} // namespace workbench

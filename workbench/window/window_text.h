@@ -4,6 +4,8 @@
 
 #include <QString>
 
+namespace workbench {
+
 /// Text between the module's strings and the toolkit's.
 inline QString ToQt(const CString& text)
 {
@@ -14,3 +16,5 @@ inline CString FromQt(const QString& text)
 {
     return text.toStdWString();
 }
+
+} // namespace workbench

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 
+namespace workbench {
+
 QAction* CWorkbenchWindow::AddAction(QMenu& menu, const char* name, const QString& text,
                                      const QKeySequence& keys, const std::function<void()>& work)
 {
@@ -128,3 +130,5 @@ void CWorkbenchWindow::EnableActions()
     enable("remove", !RadiatorsOfMark().empty());
     enable("repairAll", !OpenRooms(m_document.Building()).empty());
 }
+
+} // namespace workbench

@@ -22,6 +22,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 constexpr QSize kWindowSize(1240, 800);
@@ -261,3 +263,5 @@ void CWorkbenchWindow::closeEvent(QCloseEvent* event)
     m_document.ForgetKept();
     event->accept();
 }
+
+} // namespace workbench

@@ -8,13 +8,16 @@
 
 #include <QMainWindow>
 
+class QLabel;
+class QPlainTextEdit;
+class QTabBar;
+
+namespace workbench {
+
 class CFloorScene;
 class CPlanView;
 class CRoomList;
 class CSceneDrawer;
-class QLabel;
-class QPlainTextEdit;
-class QTabBar;
 
 /// The workbench: floors as tabs over the plan, the rooms in a list, messages below. Everything can
 /// be done by keyboard. Actions have object names, by which tests find them.
@@ -77,3 +80,5 @@ private:
     QLabel* m_pTotals;
     std::unique_ptr<CSceneDrawer> m_pDrawer;
 };
+
+} // namespace workbench

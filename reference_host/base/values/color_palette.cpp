@@ -5,6 +5,8 @@
 #include <array>
 #include <cstddef>
 
+using namespace reference_host;
+
 // The palette that drawings of all CAD programs share: nine fixed colours, then ten shades each of
 // 24 hues, then greys. Divisions cut, as the published table does.
 

@@ -7,6 +7,8 @@
 #include <cstdlib>
 #include <optional>
 
+namespace reference_host {
+
 namespace {
 
 constexpr int kGreyColumn = kColorColumns - (kLastColorIndex - kFirstGrey + 1);
@@ -58,3 +60,5 @@ int NeighbourOf(int index, ColorMove move)
     }
     return neighbour;
 }
+
+} // namespace reference_host

@@ -2,6 +2,8 @@
 
 #include "platform/export.h"
 
+namespace reference_host {
+
 /// Where the series of the 255 colours begin: nine fixed ones, ten shades a hue, greys.
 inline constexpr int kFirstShade = 10;
 inline constexpr int kShadesPerHue = 10;
@@ -36,3 +38,5 @@ enum class ColorMove
 /// The colour next to `index` in a direction: the nearest one where the top row has a gap, and
 /// `index` itself at the edge. From no colour (0) every move leads to the first.
 HOST_API int NeighbourOf(int index, ColorMove move);
+
+} // namespace reference_host

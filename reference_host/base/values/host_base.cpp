@@ -2,6 +2,8 @@
 
 #include "reference_host/prefs/host_settings.h"
 
+using namespace reference_host;
+
 namespace {
 
 /// Delivers a folder from the settings; false if it is not set.

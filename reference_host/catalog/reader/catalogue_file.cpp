@@ -10,6 +10,8 @@
 #include <unordered_map>
 #include <utility>
 
+namespace reference_host {
+
 namespace {
 constexpr int kMaxSizes = 200000;
 constexpr int kMaxSections = 1000;
@@ -360,3 +362,5 @@ std::variant<CCatalogue, CCatalogueFault> ParseCatalogue(std::span<const std::ui
         return fault;
     }
 }
+
+} // namespace reference_host

@@ -10,6 +10,8 @@
 #include <variant>
 #include <vector>
 
+namespace reference_host {
+
 /// What a catalogue file says, as plain values: millimetres, watts at EN 442 standard conditions,
 /// litres. docs/catalogue-format.md describes the file. Every number of a model is finite and
 /// within the limits told there, so that whoever builds rows from it need check nothing again.
@@ -97,3 +99,5 @@ inline constexpr std::size_t kMaxCatalogueBytes = 16u << 20;
 /// Model of a catalogue file's bytes, or its first fault. Takes any bytes; memory stays within a
 /// small multiple of their count, and the sizes of all series together within 200,000.
 std::variant<CCatalogue, CCatalogueFault> ParseCatalogue(std::span<const std::uint8_t> bytes);
+
+} // namespace reference_host

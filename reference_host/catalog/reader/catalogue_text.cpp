@@ -9,6 +9,8 @@
 #include <array>
 #include <string>
 
+namespace reference_host {
+
 namespace {
 // No record has as many. Without a limit a file of nothing but separators would take sixteen times
 // its size.
@@ -153,3 +155,5 @@ void CRecordLine::RequireNumber(int field, const wchar_t* name) const
         RefuseField(field, name, L"i decimali si scrivono con il punto.");
     }
 }
+
+} // namespace reference_host

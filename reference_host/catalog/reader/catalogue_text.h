@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+namespace reference_host {
+
 /// Text of a catalogue file: UTF-16 little-endian behind its byte order mark, else code page 1252.
 /// Nothing if the file carries the mark of another encoding.
 std::optional<CString> DecodeCatalogue(std::span<const std::uint8_t> bytes);
@@ -62,3 +64,5 @@ private:
     std::vector<std::wstring_view> m_fields;
     int m_nLine;
 };
+
+} // namespace reference_host

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <iterator>
 
+namespace reference_host {
+
 namespace {
 constexpr double kSmallestShare = 0.4;
 constexpr double kLargestShare = 1.6;
@@ -154,3 +156,5 @@ std::vector<HK_VDI3805_TYP> BuildRows(const CCatalogueProduct& produkt, double r
     }
     return rows;
 }
+
+} // namespace reference_host

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+namespace reference_host {
+
 /// The rows of a product for a required output at standard conditions (watts), series after series,
 /// each in rising lengths. Standard lengths are all there whatever the requirement. Lengths cut to
 /// measure and numbers of sections are those that give 40 % to 160 % of the requirement, and at
@@ -12,3 +14,5 @@
 /// requirement beyond its ends, the thirteen sizes at that end. A requirement that is no positive
 /// finite number gives the short end. The rows are not linked yet.
 std::vector<HK_VDI3805_TYP> BuildRows(const CCatalogueProduct& produkt, double requiredOutput);
+
+} // namespace reference_host

@@ -84,7 +84,7 @@ TEST_F(CCatalogueReadingTest, AFaultIsToldWithItsLine)
         WriteCatalogue("Prova", bytes);
         EXPECT_EQ(Read(L"Prova"), -1);
         EXPECT_EQ(FindHersteller(L"Prova")->pArt, nullptr);
-        const auto error = GetCatalogueError(L"Prova");
+        const auto error = reference_host::GetCatalogueError(L"Prova");
         ASSERT_TRUE(error);
         EXPECT_EQ(error->strFile, m_folder.Path("Prova/hk.tga"));
         EXPECT_EQ(error->nLine, line);
@@ -101,7 +101,7 @@ TEST_F(CCatalogueReadingTest, TheSizesOfAFileAreLimitedInAll)
     EXPECT_GT(Read(L"Prova"), 0);
     WriteCatalogue("Prova", OneProduct("700;1" + cut + "700;2" + cut + "700;3" + cut));
     EXPECT_EQ(Read(L"Prova"), -1);
-    EXPECT_EQ(GetCatalogueError(L"Prova")->nLine, 9);
+    EXPECT_EQ(reference_host::GetCatalogueError(L"Prova")->nLine, 9);
 }
 
 TEST_F(CCatalogueReadingTest, EncodingAndLineEndsMakeNoDifference)
@@ -117,7 +117,7 @@ TEST_F(CCatalogueReadingTest, EncodingAndLineEndsMakeNoDifference)
         SCOPED_TRACE(bytes);
         WriteCatalogue("Prova", bytes);
         ASSERT_EQ(Read(L"Prova"), 2);
-        EXPECT_FALSE(GetCatalogueError(L"Prova"));
+        EXPECT_FALSE(reference_host::GetCatalogueError(L"Prova"));
         const HK_VDI3805_PRODUKT* produkt = Produkt(L"Prova", L"K\u00E4lte", L"P\u00F9");
         ASSERT_NE(produkt, nullptr);
         EXPECT_EQ(Rows(*produkt).back()->Daten.Laenge, 900);

@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+using namespace reference_host;
+
 namespace {
 /// The catalogues of the repository, all read for 1000 W.
 class CCatalogueSamplesTest : public CCatalogueTest

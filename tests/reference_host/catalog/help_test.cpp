@@ -16,6 +16,8 @@
 #include <filesystem>
 #include <string>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr int kPatience = 30000; // ms, for a machine that is busy with other things

@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+using namespace reference_host;
+
 namespace {
 class CHostCatalogTest : public CCatalogueTest
 {

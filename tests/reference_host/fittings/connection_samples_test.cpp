@@ -13,6 +13,8 @@
 #include <set>
 #include <tuple>
 
+using namespace reference_host;
+
 namespace {
 
 const std::string kRoot = RADSEL_DATA_DIR "/root";

@@ -10,6 +10,8 @@
 #include <string>
 #include <tuple>
 
+using namespace reference_host;
+
 namespace {
 
 const CRuntimeClass* const kKlasse = &HKAUSWAHL_UEBERGABE::GetThisClass();

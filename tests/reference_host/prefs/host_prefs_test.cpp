@@ -12,6 +12,8 @@
 #include <string>
 #include <utility>
 
+using namespace reference_host;
+
 namespace {
 
 /// Sets or removes a variable of the real environment, which is the one that the host reads.

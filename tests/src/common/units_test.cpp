@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace reference_host;
+
 namespace {
 
 class Units : public ::testing::Test

@@ -16,6 +16,8 @@
 #include <optional>
 #include <vector>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr wchar_t kPunkt[] = L"-0.5; 0.0;  0;0; 0.5; -0.03; 180;0";

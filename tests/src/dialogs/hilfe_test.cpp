@@ -23,6 +23,8 @@
 #include <utility>
 #include <vector>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr int kPatience = 30000; // ms, for a machine that is busy with other things

@@ -17,6 +17,8 @@
 #include <string>
 #include <vector>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr char kDatei[] = "posti.txt";

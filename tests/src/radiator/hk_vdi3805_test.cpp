@@ -8,6 +8,8 @@
 #include <string>
 #include <tuple>
 
+using namespace reference_host;
+
 namespace {
 
 class FilterTest : public ::testing::Test

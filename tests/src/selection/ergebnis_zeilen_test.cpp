@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace reference_host;
+
 namespace {
 
 class ErgebnisZeilenTest : public ::testing::Test

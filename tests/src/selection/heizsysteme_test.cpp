@@ -15,6 +15,8 @@
 #include <string>
 #include <vector>
 
+using namespace reference_host;
+
 namespace {
 
 using Texts = std::vector<CString>;

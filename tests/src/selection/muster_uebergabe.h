@@ -49,9 +49,10 @@ protected:
     }
 
     CTempFolder m_folder;
-    CSettingOverride m_root{kSettingServerPath, m_folder.Path()};
-    CSettingOverride m_def{kSettingDefFolder, m_folder.Path()};
-    CSettingOverride m_hk{kSettingHKDir, WideFromUtf8(RADSEL_DATA_DIR "/catalogues")};
-    CSettingOverride m_template{kSettingHKLayer, L"HEIZ_$d"};
+    CSettingOverride m_root{reference_host::kSettingServerPath, m_folder.Path()};
+    CSettingOverride m_def{reference_host::kSettingDefFolder, m_folder.Path()};
+    CSettingOverride m_hk{reference_host::kSettingHKDir,
+                          WideFromUtf8(RADSEL_DATA_DIR "/catalogues")};
+    CSettingOverride m_template{reference_host::kSettingHKLayer, L"HEIZ_$d"};
     HK_DATEN_VDI3805_UEBERGABE m_uebergabe;
 };

@@ -18,6 +18,8 @@
 
 #include <algorithm>
 
+using namespace reference_host;
+
 namespace {
 
 using Complaints = std::vector<std::string>;

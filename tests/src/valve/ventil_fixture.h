@@ -48,7 +48,7 @@ protected:
     }
 
     CTempFolder m_folder;
-    CSettingOverride m_setting{kSettingVEDir, m_folder.Path()};
+    CSettingOverride m_setting{reference_host::kSettingVEDir, m_folder.Path()};
 
 private:
     int m_nMakers = 0;

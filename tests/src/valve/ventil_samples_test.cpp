@@ -12,6 +12,8 @@
 #include <iterator>
 #include <set>
 
+using namespace reference_host;
+
 namespace {
 
 const std::string kFolder = RADSEL_DATA_DIR "/valves";

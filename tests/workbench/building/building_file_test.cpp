@@ -11,6 +11,8 @@
 #include <random>
 #include <tuple>
 
+namespace workbench {
+
 namespace {
 
 /// A control character, a surrogate without its partner, a character beyond 16 bits, and the code
@@ -345,3 +347,5 @@ TEST_F(BuildingFileTest, DamagedBytesAreRefusedOrReadAsABuildingThatComesBack)
     }
     EXPECT_GT(accepted, 50) << "too few to show anything";
 }
+
+} // namespace workbench

@@ -8,6 +8,8 @@
 
 #include <string>
 
+namespace workbench {
+
 /// Reads buildings from texts of the test's own.
 class CBuildingFixture : public testing::Test
 {
@@ -41,3 +43,5 @@ protected:
 
     CTempFolder m_folder;
 };
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include <tuple>
 
+namespace workbench {
+
 namespace {
 
 const std::string kBuilding = R"({
@@ -159,3 +161,5 @@ TEST_F(BuildingJson, DamagedFileIsToldByLineAndColumn)
     EXPECT_EQ(ErrorOf("[1]"), "atteso un oggetto { } al livello più alto");
     EXPECT_EQ(ErrorOf(Replaced(kBuilding, "Città", "Citt\xe0")).substr(0, 6), "riga 9");
 }
+
+} // namespace workbench

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 const std::vector<CDxfLayer> kLayers = {{L"0", 7}, {L"ROSSO", 1}};
@@ -146,3 +148,5 @@ TEST(ColorIndex, IndexesAreTheColoursThatCadProgramsShow)
     }
     EXPECT_EQ(PaperColorFromIndex(7), RGB(0, 0, 0));
 }
+
+} // namespace workbench

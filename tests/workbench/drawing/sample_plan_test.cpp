@@ -17,6 +17,8 @@
 #include <iterator>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 const CString kRadiators = WideFromUtf8(RADSEL_DATA_DIR "/drawing/heizkoerper.dxf");
@@ -163,3 +165,5 @@ TEST(PlanView, TheContentStaysFittedUntilTheUserZooms)
     view.FitToContent();
     EXPECT_GT(view.transform().m11(), 10.0);
 }
+
+} // namespace workbench

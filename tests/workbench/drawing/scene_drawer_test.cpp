@@ -12,6 +12,8 @@
 #include <memory>
 #include <tuple>
 
+namespace workbench {
+
 namespace {
 
 const double kOrigin[3] = {0, 0, 0};
@@ -240,3 +242,5 @@ TEST(SceneDrawer, SceneAndDrawerMayDieInAnyOrder)
     outliving.EndPreview();
     outliving.ClearPreview();
 }
+
+} // namespace workbench

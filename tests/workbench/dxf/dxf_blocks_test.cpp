@@ -7,6 +7,8 @@
 #include <tuple>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 /// Texts that are no texts of the code page, or look like the signs for what is none.
@@ -222,3 +224,5 @@ TEST(DxfBlocks, AFaultInAFileNamesTheFile)
         EXPECT_EQ(error->nLine, line);
     }
 }
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 
 #include <string>
 
+namespace workbench {
+
 /// A DXF file with the given groups, a blank between code and value and a "|" behind each group, in
 /// a section of that name. The first group stands on line 15.
 inline std::string DxfWith(const std::string& section, const std::string& groups,
@@ -45,3 +47,5 @@ inline CDxfDrawing ParseSound(const std::string& text)
     }
     return std::get<CDxfDrawing>(parsed);
 }
+
+} // namespace workbench

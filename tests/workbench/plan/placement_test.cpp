@@ -6,6 +6,10 @@
 #include "workbench/drawing/block_library.h"
 #include "workbench/plan/radiator_block.h"
 
+using namespace reference_host;
+
+namespace workbench {
+
 namespace {
 
 using PlacementTest = CPlanFixture;
@@ -116,3 +120,5 @@ TEST(RadiatorBlock, EveryProductOfTheSampleCataloguesHasItsBlock)
         EXPECT_EQ(BlockOf(art, produkt), block);
     }
 }
+
+} // namespace workbench

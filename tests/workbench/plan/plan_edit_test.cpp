@@ -4,6 +4,8 @@
 #include "tests/workbench/plan/plan_fixture.h"
 #include "workbench/plan/coverage.h"
 
+namespace workbench {
+
 namespace {
 
 class PlanEditTest : public CPlanFixture
@@ -124,3 +126,5 @@ TEST_F(PlanEditTest, CoverageAllowsTenPerCentOfWhatIsAskedOfRadiators)
                   test.coverage == Coverage::empty || test.coverage == Coverage::lacking);
     }
 }
+
+} // namespace workbench

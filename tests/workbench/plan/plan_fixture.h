@@ -8,6 +8,8 @@
 
 #include <memory>
 
+namespace workbench {
+
 /// A building of two floors with a room each and catalogues of its own, apart from the user's
 /// settings and records.
 class CPlanFixture : public testing::Test
@@ -76,13 +78,15 @@ protected:
     }
 
     CTempFolder m_folder;
-    CSettingOverride m_catalogues{kSettingHKDir, m_folder.Path()};
-    CSettingOverride m_records{kSettingDefFolder, m_folder.Path("kept")};
-    CSettingOverride m_layer{kSettingHKLayer, L"HEIZ_$d_"};
-    CSettingOverride m_color{kSettingHKLayerColor, L"3"};
-    CSettingOverride m_block{kSettingHKBlock, L"ULTIMO"};
+    CSettingOverride m_catalogues{reference_host::kSettingHKDir, m_folder.Path()};
+    CSettingOverride m_records{reference_host::kSettingDefFolder, m_folder.Path("kept")};
+    CSettingOverride m_layer{reference_host::kSettingHKLayer, L"HEIZ_$d_"};
+    CSettingOverride m_color{reference_host::kSettingHKLayerColor, L"3"};
+    CSettingOverride m_block{reference_host::kSettingHKBlock, L"ULTIMO"};
     CBuilding m_building;
 };
 
 inline constexpr CRoomRef kSala{0, 0};
 inline constexpr CRoomRef kCamera{1, 0};
+
+} // namespace workbench

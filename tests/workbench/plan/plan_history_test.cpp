@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace workbench {
+
 namespace {
 
 CBuilding Named(const CString& name)
@@ -59,3 +61,5 @@ TEST(PlanHistory, TheSavedStateIsKnownAgainAsLongAsItExists)
     history.MarkUnsaved();
     EXPECT_FALSE(history.IsSaved());
 }
+
+} // namespace workbench

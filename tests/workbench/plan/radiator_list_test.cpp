@@ -5,6 +5,8 @@
 #include "host/host_prefs.h"
 #include "tests/workbench/plan/plan_fixture.h"
 
+namespace workbench {
+
 namespace {
 
 const CString kLeftTop = L"-0.5;0;0;0;0.5;0;180;0";
@@ -80,3 +82,5 @@ TEST_F(RadiatorListTest, AnUnconnectedRadiatorShowsTheConnectionUsedLast)
     }
     EXPECT_EQ(CRadiatorList(m_building, {}).GetList(), nullptr);
 }
+
+} // namespace workbench

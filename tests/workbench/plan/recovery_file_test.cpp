@@ -15,6 +15,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+namespace workbench {
+
 namespace {
 
 class RecoveryFileTest : public testing::Test
@@ -111,3 +113,5 @@ TEST_F(RecoveryFileTest, AFolderThatCannotBeUsedIsNamed)
         EXPECT_NE(message.find(folder), CString::npos);
     }
 }
+
+} // namespace workbench

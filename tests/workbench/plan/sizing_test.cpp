@@ -5,6 +5,8 @@
 #include "tests/workbench/plan/plan_fixture.h"
 #include "workbench/plan/room_request.h"
 
+namespace workbench {
+
 namespace {
 
 class SizingTest : public CPlanFixture
@@ -242,3 +244,5 @@ TEST_F(SizingTest, RequestsAskForWhatTheOtherRadiatorsLeave)
         EXPECT_EQ(request.Vorlauf, 75.0);
     }
 }
+
+} // namespace workbench

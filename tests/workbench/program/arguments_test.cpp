@@ -6,6 +6,8 @@
 
 #include <tuple>
 
+namespace workbench {
+
 TEST(Arguments, EveryOptionIsRead)
 {
     const CArguments arguments =
@@ -86,3 +88,5 @@ TEST(HeatingSystem, OnlyWholePairsOfPlausibleTemperaturesAreTaken)
         EXPECT_FALSE(ParseHeatingSystem(bad)) << testing::PrintToString(CString(bad));
     }
 }
+
+} // namespace workbench

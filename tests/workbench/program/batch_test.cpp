@@ -20,6 +20,10 @@
 #include <sstream>
 #include <tuple>
 
+using namespace reference_host;
+
+namespace workbench {
+
 namespace {
 
 const CString kData = WideFromUtf8(RADSEL_DATA_DIR);
@@ -245,3 +249,5 @@ TEST_F(BatchTest, BlocksThatCannotBeReadAreToldAndTheRestIsDone)
     EXPECT_NE(m_err.str().find("rotto.dxf: riga 3: "), std::string::npos) << m_err.str();
     EXPECT_NE(m_out.str().find("pianta.dxf"), std::string::npos);
 }
+
+} // namespace workbench

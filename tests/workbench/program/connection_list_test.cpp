@@ -8,6 +8,8 @@
 
 #include <sstream>
 
+namespace workbench {
+
 namespace {
 
 struct Listing
@@ -69,3 +71,5 @@ TEST(ConnectionList, FaultsAreToldWithTheirLineAndTheRestIsListed)
 }
 
 } // namespace
+
+} // namespace workbench

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+namespace workbench {
+
 namespace {
 
 bool Holds(const CString& text, const CString& line)
@@ -34,3 +36,5 @@ TEST(ConnectionRun, TheChoiceIsToldInWords)
 }
 
 } // namespace
+
+} // namespace workbench

@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <cmath>
 
+namespace workbench {
+
 namespace {
 
 const CString kVorlauf = L" -0.5; 0.0;  0;0; 0.5; -0.03; 180;0;0.1;0;0;0.05 ";
@@ -196,3 +198,5 @@ TEST_F(PlanDxfTest, ValveGraphicsTurnTheirPipeAwayFromTheRadiator)
     EXPECT_EQ(drawing.inserts[2].strBlock, L"RAD_2");
     EXPECT_EQ(FindLayerColor(drawing.layers, L"MANDATA"), 1);
 }
+
+} // namespace workbench

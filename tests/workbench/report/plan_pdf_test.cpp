@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <filesystem>
 
+namespace workbench {
+
 namespace {
 
 class PlanPdfTest : public CPlanFixture
@@ -118,3 +120,5 @@ TEST(ReportTable, NoGroupIsHeadedAtTheFootOfAPage)
         }
     }
 }
+
+} // namespace workbench

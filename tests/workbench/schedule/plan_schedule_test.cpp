@@ -9,6 +9,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+namespace workbench {
+
 namespace {
 
 /// A room with two radiators that cover it, one with a radiator that is too weak, one without, and
@@ -103,3 +105,5 @@ TEST_F(PlanScheduleTest, ValvesAreThoseOfTheRadiatorsNotOfTheRooms)
     m_building.floors[0].rooms[0] = std::make_shared<const CRoom>(room);
     EXPECT_EQ(MakeValveBill(SchedulePlan(m_building)).nMissing, 1);
 }
+
+} // namespace workbench

@@ -10,6 +10,8 @@
 
 #include <tuple>
 
+namespace workbench {
+
 namespace {
 
 // Panels state their output and water per metre, sections per section, towel radiators per unit.
@@ -209,3 +211,5 @@ TEST(TextColumns, TextsAlignByTheirDisplayWidth)
                               L"Camera …  115\n"
                               L"?[2J\n");
 }
+
+} // namespace workbench

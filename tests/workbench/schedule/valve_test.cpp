@@ -9,6 +9,10 @@
 
 #include <algorithm>
 
+using namespace reference_host;
+
+namespace workbench {
+
 namespace {
 
 const std::string kHead = "010;200410;Prova S.p.A.;20240301;\n"; // line 1
@@ -195,3 +199,5 @@ TEST_F(ValveTest, ScheduleShowsNamesTablesAndTheBill)
     const QJsonArray bill = MakeValveBillJson(MakeValveBill(schedule));
     EXPECT_EQ(bill[1]["count"].toInt(), 2);
 }
+
+} // namespace workbench

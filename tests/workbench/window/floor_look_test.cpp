@@ -10,6 +10,8 @@
 #include <set>
 #include <tuple>
 
+namespace workbench {
+
 namespace {
 
 /// Those of the sample's rooms, in their order.
@@ -152,3 +154,5 @@ TEST(RoomLabel, TextsKeepToTheirAreaAndItsFreeCornersAndGiveWayToTheName)
         }
     }
 }
+
+} // namespace workbench

@@ -10,6 +10,8 @@
 #include <optional>
 #include <utility>
 
+namespace workbench {
+
 namespace {
 
 using Rooms = std::vector<CRoomRef>;
@@ -251,3 +253,5 @@ TEST_F(FloorScene, ToolTipsHoldTheDataOfWhatLiesBelow)
         }
     }
 }
+
+} // namespace workbench

@@ -4,6 +4,8 @@
 
 #include <tuple>
 
+namespace workbench {
+
 namespace {
 
 class PlanView : public testing::Test, public CPlanWindowTest
@@ -51,3 +53,5 @@ TEST_F(PlanView, AClickLeavesThePlanFittedAndADragDoesNot)
     QApplication::processEvents();
     EXPECT_NEAR(Scale(), dragged, 1e-9);
 }
+
+} // namespace workbench

@@ -6,6 +6,8 @@
 #include <QApplication>
 #include <QTest>
 
+namespace workbench {
+
 /// Four rooms in a row, 4 by 3 metres each, and an upper floor with one: Sud needs more than its
 /// radiator gives, Est has two that are enough, Nord has none, Atrio needs nothing. Radiators, red
 /// ones, stand at the southern wall below their windows.
@@ -119,3 +121,5 @@ public:
     CFloorScene scene;
     CPlanView view;
 };
+
+} // namespace workbench

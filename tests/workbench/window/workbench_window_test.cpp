@@ -29,6 +29,10 @@
 #include <fstream>
 #include <tuple>
 
+using namespace reference_host;
+
+namespace workbench {
+
 namespace {
 
 namespace fs = std::filesystem;
@@ -330,3 +334,5 @@ TEST_F(WorkbenchWindow, PlanAndListMarkTheSameRooms)
     EXPECT_EQ(list.model()->index(last, 1).data().toString(),
               ToQt(RoomOf(m_document.Building(), scene.GetMarkedRooms()[0]).strName));
 }
+
+} // namespace workbench

@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+using namespace reference_host;
+
 namespace {
 
 TEST(ColorPalette, HasTheColoursThatDrawingsMean)

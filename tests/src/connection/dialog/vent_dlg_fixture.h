@@ -143,7 +143,7 @@ protected:
     /// The same for a superuser who has expanded the dialog.
     bool OeffneErweitert(const Script& script, int button = kIdOk)
     {
-        const CSettingOverride super(kSettingSuperUser, L"1");
+        const CSettingOverride super(reference_host::kSettingSuperUser, L"1");
         return Oeffne(
             [&](CDialogUser& user) {
                 user.Click(18074);
@@ -167,13 +167,13 @@ protected:
     std::filesystem::path m_vorher = std::filesystem::current_path();
     CTempFolder m_root;
     CTempFolder m_platz;
-    CSettingOverride m_server{kSettingServerPath, m_root.Path()};
-    CSettingOverride m_local{kSettingLocalPath, m_platz.Path()};
-    CSettingOverride m_fenster{kSettingWinposFile, L"fenster.txt"};
-    CSettingOverride m_super{kSettingSuperUser, L"0"};
-    CSettingOverride m_einheit{kSettingUserUnit, L"1"};
-    CSettingOverride m_block{kSettingHKBlock, L""};
-    CSettingOverride m_zeichnung{kSettingValveBlockFolder, L"valvole.dxf"};
+    CSettingOverride m_server{reference_host::kSettingServerPath, m_root.Path()};
+    CSettingOverride m_local{reference_host::kSettingLocalPath, m_platz.Path()};
+    CSettingOverride m_fenster{reference_host::kSettingWinposFile, L"fenster.txt"};
+    CSettingOverride m_super{reference_host::kSettingSuperUser, L"0"};
+    CSettingOverride m_einheit{reference_host::kSettingUserUnit, L"1"};
+    CSettingOverride m_block{reference_host::kSettingHKBlock, L""};
+    CSettingOverride m_zeichnung{reference_host::kSettingValveBlockFolder, L"valvole.dxf"};
     CDialogDriver m_driver;
 
     ConnValues m_anschluss;

@@ -12,6 +12,8 @@
 
 #include <numeric>
 
+using namespace reference_host;
+
 namespace {
 
 using Strings = std::vector<CString>;

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace reference_host;
+
 namespace {
 
 using Strings = std::vector<CString>;

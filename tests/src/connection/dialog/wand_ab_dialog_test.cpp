@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr int kDialog = 18006;

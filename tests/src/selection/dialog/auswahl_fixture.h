@@ -139,8 +139,8 @@ protected:
         });
     }
 
-    CSettingOverride m_local{kSettingLocalPath, m_folder.Path()};
-    CSettingOverride m_blocks{kSettingHKBlockFolder, L"blocchi"};
+    CSettingOverride m_local{reference_host::kSettingLocalPath, m_folder.Path()};
+    CSettingOverride m_blocks{reference_host::kSettingHKBlockFolder, L"blocchi"};
     CAuswahlDrawer m_drawer;
     CDrawer* m_pDrawer = &m_drawer;
     CString m_layer = L"HEIZ_$d__";

@@ -2,6 +2,8 @@
 
 #include "tests/src/selection/dialog/auswahl_fixture.h"
 
+using namespace reference_host;
+
 namespace {
 
 TEST_F(CAuswahlDialogTest, TheTreeReadsMakersWhenTheyOpen)

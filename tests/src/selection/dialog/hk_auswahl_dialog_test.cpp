@@ -6,6 +6,8 @@
 
 #include <QAbstractButton>
 
+using namespace reference_host;
+
 namespace {
 
 TEST_F(CAuswahlDialogTest, OpensOnTheHandOver)

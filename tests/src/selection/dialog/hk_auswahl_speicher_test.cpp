@@ -5,6 +5,8 @@
 #include "tests/src/selection/dialog/auswahl_fixture.h"
 #include "tests/support/file_size_limit.h"
 
+using namespace reference_host;
+
 namespace {
 
 TEST_F(CAuswahlDialogTest, OkAloneKeepsPlacementAndFiles)

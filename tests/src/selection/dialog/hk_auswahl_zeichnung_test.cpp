@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QPixmap>
 
+using namespace reference_host;
+
 namespace {
 
 QColor FarbeBei(QWidget& widget, QPoint at)

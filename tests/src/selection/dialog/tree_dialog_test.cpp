@@ -15,6 +15,8 @@
 
 #include <vector>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr int kDialog = 18002;

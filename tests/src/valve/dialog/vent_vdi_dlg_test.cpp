@@ -12,6 +12,8 @@
 
 #include <optional>
 
+using namespace reference_host;
+
 namespace {
 
 constexpr int kDialog = 18003;
