@@ -241,10 +241,5 @@ void CErgebnisZeilen::UeberschriftGeklickt(int spalte)
 
 void CErgebnisZeilen::SpaltenAnpassen(int erste, int anzahl, int zeilen)
 {
-    m_gitter.PasseBreiteAn(erste, anzahl, zeilen);
-    for (int spalte = erste; spalte < anzahl; ++spalte) {
-        if (m_gitter.Spaltenbreite(spalte) < kSchmalsteSpalte) {
-            m_gitter.SetzeSpaltenbreite(spalte, kSchmalsteSpalte);
-        }
-    }
+    m_gitter.PasseBreiteAn(erste, anzahl, zeilen, kSchmalsteSpalte);
 }

@@ -69,10 +69,9 @@ public:
     /// Clears any selection and makes column 0 of the row the current cell.
     virtual void GeheZuZeile(int zeile) = 0;
 
-    /// Fits the width of columns to their widest cell, headings included.
-    virtual void PasseBreiteAn(int erste, int anzahl, int zeilen) = 0;
-    virtual int Spaltenbreite(int spalte) const = 0;
-    virtual void SetzeSpaltenbreite(int spalte, int pixel) = 0;
+    /// Fits the width of columns to their widest cell, headings included; none gets narrower than
+    /// `mindestens` pixels.
+    virtual void PasseBreiteAn(int erste, int anzahl, int zeilen, int mindestens) = 0;
 
     /// Sorts the rows with VergleicheZellen(), equal ones staying in their order, and shows the
     /// direction in the heading.

@@ -20,6 +20,9 @@ enum class GridDataType : unsigned char
 
 /// Cell type of every new cell; its text is all that it shows.
 inline constexpr int kGridTextType = 0;
+/// Cell type that shows a small arrow to the right of its text, in the direction that the cell's
+/// type flag tells.
+inline constexpr int kGridSortArrowType = 1;
 
 /// Directions that a sort arrow shows.
 inline constexpr int kSortArrowAscending = 34;
@@ -51,7 +54,7 @@ public:
     void SetAlignment(GridAlign align) { m_align = align; }
     GridAlign GetAlignment() const { return m_align; }
 
-    /// An index from CUGCtrl::AddCellType() or kGridTextType. An unknown one shows as text.
+    /// kGridTextType or kGridSortArrowType.
     void SetCellType(int type) { m_cellType = type; }
     int GetCellType() const { return m_cellType; }
 

@@ -35,11 +35,8 @@ void CHKAuswahlVdi3805Grid::OnSetup()
 {
     SetDefaultFont(kGitterFont);
     SetColumnCount(kErgebnisSpalten);
-    SetScrollTracking(true, true);
     SetzeKopf();
     SetCurrentCellMode(currentCellHighlight);
-    EnableToolTips(true);
-    SetRowHighlight(true);
     m_zeilen.ZeileWaehlen(0);
     SetzeSortPfeile();
     m_zeilen.SpaltenAnpassen(0, kErgebnisSpalten, 0);
@@ -47,8 +44,6 @@ void CHKAuswahlVdi3805Grid::OnSetup()
 
 void CHKAuswahlVdi3805Grid::SetzeKopf()
 {
-    SetSideHeadingWidth(0);
-    SetHeadingRows(1);
     SetHeadingHeight(kKopfHoehe);
     for (int spalte = 0; spalte < kErgebnisSpalten; ++spalte) {
         CUGCell kopf;
@@ -61,7 +56,6 @@ void CHKAuswahlVdi3805Grid::SetzeKopf()
 /// Before the first sort the arrows tell what each column starts with.
 void CHKAuswahlVdi3805Grid::SetzeSortPfeile()
 {
-    m_nSortPfeil = AddCellType(GridCellKind::sortArrow);
     for (int spalte = 0; spalte < kErgebnisSpalten; ++spalte) {
         ZeigeRichtung(spalte, true);
     }
@@ -163,19 +157,9 @@ void CHKAuswahlVdi3805Grid::GeheZuZeile(int zeile)
     GotoCell(0, zeile);
 }
 
-void CHKAuswahlVdi3805Grid::PasseBreiteAn(int erste, int anzahl, int zeilen)
+void CHKAuswahlVdi3805Grid::PasseBreiteAn(int erste, int anzahl, int zeilen, int mindestens)
 {
-    BestFit(erste, anzahl, zeilen, true);
-}
-
-int CHKAuswahlVdi3805Grid::Spaltenbreite(int spalte) const
-{
-    return GetColumnWidth(spalte);
-}
-
-void CHKAuswahlVdi3805Grid::SetzeSpaltenbreite(int spalte, int pixel)
-{
-    SetColumnWidth(spalte, pixel);
+    BestFit(erste, anzahl, zeilen, mindestens);
 }
 
 void CHKAuswahlVdi3805Grid::Sortiere(int spalte, bool aufsteigend)

@@ -36,9 +36,7 @@ private:
     bool LoescheZeile(int zeile) override;
     CString Text(int spalte, int zeile) const override;
     void GeheZuZeile(int zeile) override;
-    void PasseBreiteAn(int erste, int anzahl, int zeilen) override;
-    int Spaltenbreite(int spalte) const override;
-    void SetzeSpaltenbreite(int spalte, int pixel) override;
+    void PasseBreiteAn(int erste, int anzahl, int zeilen, int mindestens) override;
     void Sortiere(int spalte, bool aufsteigend) override;
 
     void SetzeKopf();
@@ -48,7 +46,7 @@ private:
     CHKAuswahlVdi3805Dlg* m_pDialog;
     CErgebnisZeilen m_zeilen;
     /// Cell type of headings that show a direction.
-    int m_nSortPfeil = kGridTextType;
+    int m_nSortPfeil = kGridSortArrowType;
     /// One cell for all writes of a rebuild, which so asks for no memory.
     CUGCell m_zelle;
 };

@@ -1,15 +1,18 @@
 #include "uikit/grid.h"
 
+#include "uikit/application.h"
 #include "uikit/native/access.h"
-#include "uikit/native/grid_header.h"
 #include "uikit/native/grid_view.h"
 
-#include <QScrollBar>
+#include <QHeaderView>
 #include <QVBoxLayout>
 
 #include <utility>
 
 namespace {
+
+constexpr int kWidthBeforeLayout = 300;
+constexpr int kFitMargin = 2;
 
 /// Puts a widget into the Tab order where another stands, and on the way of focus sent to that.
 void TakeTabPlace(QWidget& of, QWidget& widget)
@@ -24,11 +27,11 @@ void TakeTabPlace(QWidget& of, QWidget& widget)
 
 } // namespace
 
+CUGCtrl::CUGCtrl() : m_cells(std::make_unique<CGridModel>()) {}
+
 CUGCtrl::~CUGCtrl()
 {
-    if (CGridView* view = View()) {
-        view->Detach();
-    }
+    delete View();
 }
 
 CGridView* CUGCtrl::View() const
@@ -42,7 +45,8 @@ bool CUGCtrl::AttachTo(const CWnd& placeholder, Guard guard)
     if (place == nullptr || View() != nullptr) {
         return false;
     }
-    auto* view = new CGridView(*this, std::move(guard), place);
+    m_cells = std::make_unique<CGridModel>();
+    auto* view = new CGridView(*this, *m_cells, std::move(guard), place);
     SetControlId(*view, GetControlId(*place));
     view->setGeometry(place->rect());
     view->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
@@ -59,99 +63,66 @@ bool CUGCtrl::AttachTo(const CWnd& placeholder, Guard guard)
 
 void CUGCtrl::SetColumnCount(int count)
 {
+    m_cells->SetColumnCount(count);
     if (CGridView* view = View()) {
-        view->SetColumnCount(count);
+        for (int column = 0; column < count; ++column) {
+            view->horizontalHeader()->setSectionResizeMode(
+                column, OnMaySizeColumn(column) ? QHeaderView::Interactive : QHeaderView::Fixed);
+        }
     }
 }
 
 int CUGCtrl::GetColumnCount() const
 {
-    CGridView* view = View();
-    return view != nullptr ? view->Model().Rows().GetColumnCount() : 0;
+    return m_cells->GetColumnCount();
 }
 
 int CUGCtrl::GetRowCount() const
 {
-    CGridView* view = View();
-    return view != nullptr ? view->Model().Rows().GetRowCount() : 0;
+    return m_cells->GetRowCount();
 }
 
 void CUGCtrl::AppendRow()
 {
-    if (CGridView* view = View()) {
-        view->Model().AppendRow();
-    }
+    m_cells->AppendRow();
 }
 
 bool CUGCtrl::DeleteRow(int row)
 {
-    CGridView* view = View();
-    return view != nullptr && view->DeleteRow(row);
+    return m_cells->DeleteRow(row);
 }
 
 bool CUGCtrl::SetCell(int column, int row, const CUGCell& cell)
 {
-    CGridView* view = View();
-    return view != nullptr && view->Model().SetCell(column, row, cell);
+    return m_cells->SetCell(column, row, cell);
 }
 
 bool CUGCtrl::GetCell(int column, int row, CUGCell& cell) const
 {
-    CGridView* view = View();
-    const CUGCell* found = view != nullptr ? view->Model().Rows().Find(column, row) : nullptr;
-    if (found == nullptr) {
-        return false;
+    const CUGCell* found = m_cells->Find(column, row);
+    if (found != nullptr) {
+        cell = *found;
     }
-    cell = *found;
-    return true;
+    return found != nullptr;
 }
 
 CString CUGCtrl::GetCellText(int column, int row) const
 {
-    CGridView* view = View();
-    const CUGCell* found = view != nullptr ? view->Model().Rows().Find(column, row) : nullptr;
+    const CUGCell* found = m_cells->Find(column, row);
     return found != nullptr ? found->GetText() : CString();
-}
-
-int CUGCtrl::AddCellType(GridCellKind kind)
-{
-    CGridView* view = View();
-    return view != nullptr ? view->AddCellType(kind) : kGridTextType;
-}
-
-void CUGCtrl::SetHeadingRows(int rows)
-{
-    if (CGridView* view = View()) {
-        view->SetHeadingRows(rows);
-    }
 }
 
 void CUGCtrl::SetHeadingHeight(int height)
 {
     if (CGridView* view = View()) {
-        view->SetHeadingHeight(height);
-    }
-}
-
-void CUGCtrl::SetSideHeadingWidth(int width)
-{
-    if (CGridView* view = View()) {
-        view->SideHeading().SetThickness(width);
+        view->SetHeadingHeight(qRound(height * GetDialogScale()));
     }
 }
 
 void CUGCtrl::SetDefaultFont(const CFont& font)
 {
     if (CGridView* view = View()) {
-        view->setFont(ToNative(font));
-    }
-}
-
-void CUGCtrl::SetScrollTracking(bool horizontal, bool vertical)
-{
-    if (CGridView* view = View()) {
-        view->horizontalScrollBar()->setTracking(horizontal);
-        view->verticalScrollBar()->setTracking(vertical);
+        view->SetCellFont(ToNative(font));
     }
 }
 
@@ -162,24 +133,14 @@ void CUGCtrl::SetCurrentCellMode(int mode)
     }
 }
 
-void CUGCtrl::SetRowHighlight(bool wholeRow)
-{
-    if (CGridView* view = View()) {
-        view->SetRowHighlight(wholeRow);
-    }
-}
-
-void CUGCtrl::EnableToolTips(bool enable)
-{
-    if (CGridView* view = View()) {
-        view->EnableToolTips(enable);
-    }
-}
-
 void CUGCtrl::SetRedraw(bool redraw)
 {
+    m_cells->Suspend(!redraw);
     if (CGridView* view = View()) {
-        view->SetRedraw(redraw);
+        // The scroll bar and the headings see nothing of suspended cells, and painting them anew
+        // takes as long as painting many rows.
+        view->viewport()->setUpdatesEnabled(redraw);
+        view->HighlightCurrent();
     }
 }
 
@@ -206,42 +167,61 @@ void CUGCtrl::ClearSelection()
 
 int CUGCtrl::GetCurrentRow() const
 {
-    CGridView* view = View();
+    const CGridView* view = View();
     return view != nullptr ? view->CurrentRow() : -1;
-}
-
-int CUGCtrl::GetCurrentColumn() const
-{
-    CGridView* view = View();
-    return view != nullptr ? view->CurrentColumn() : -1;
 }
 
 int CUGCtrl::GetColumnWidth(int column) const
 {
-    CGridView* view = View();
-    return view != nullptr ? view->ColumnWidth(column) : 0;
+    const CGridView* view = View();
+    return view != nullptr ? view->columnWidth(column) : 0;
 }
 
 void CUGCtrl::SetColumnWidth(int column, int width)
 {
-    if (CGridView* view = View()) {
-        view->SetColumnWidth(column, width);
+    CGridView* view = View();
+    if (view != nullptr && column >= 0 && column < GetColumnCount()) {
+        view->setColumnWidth(column, width);
     }
 }
 
-void CUGCtrl::BestFit(int first, int count, int rows, bool headings)
+void CUGCtrl::BestFit(int first, int count, int rows, int narrowest)
 {
-    if (CGridView* view = View()) {
-        view->BestFit(first, count, rows, headings);
+    CGridView* view = View();
+    if (view == nullptr) {
+        return;
+    }
+    const int inside = view->contentsRect().width();
+    const int widest = inside > 0 ? inside : kWidthBeforeLayout;
+    for (int column = qMax(first, 0); column < qMin(count, GetColumnCount()); ++column) {
+        int width = 0;
+        for (int row = -1; row < qMin(rows, GetRowCount()); ++row) {
+            width = qMax(width, view->Paint().CellWidth(*m_cells->Find(column, row)) + kFitMargin);
+        }
+        view->setColumnWidth(column, qMax(qMin(width, widest), narrowest));
     }
 }
 
 void CUGCtrl::SortBy(int column, int flags)
 {
-    if (CGridView* view = View()) {
-        view->Model().Sort(column, [this, flags](const CUGCell& first, const CUGCell& second) {
-            return OnSortEvaluate(first, second, flags);
-        });
-        view->RowsSorted();
+    m_cells->Sort(column, [this, flags](const CUGCell& first, const CUGCell& second) {
+        return OnSortEvaluate(first, second, flags);
+    });
+}
+
+bool CUGCtrl::OnEditContinue(int /*oldColumn*/, int /*oldRow*/, int* newColumn, int* newRow)
+{
+    if (*newColumn >= GetColumnCount()) {
+        *newColumn = 0;
+        ++*newRow;
+    } else if (*newColumn < 0) {
+        *newColumn = GetColumnCount() - 1;
+        --*newRow;
     }
+    if (*newRow >= GetRowCount()) {
+        *newRow = 0;
+    } else if (*newRow < 0) {
+        *newRow = GetRowCount() - 1;
+    }
+    return true;
 }

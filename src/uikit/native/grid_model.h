@@ -1,26 +1,55 @@
 #pragma once
 
-#include "uikit/grid_rows.h"
+#include "uikit/grid_cell.h"
 
 #include <QAbstractTableModel>
 
-/// The rows of a grid as the toolkit's views read them.
+#include <functional>
+#include <utility>
+#include <vector>
+
+/// The cells of a grid, from which the toolkit's view reads them: one row of headings, addressed as
+/// row -1, and any number of rows from 0.
 class CGridModel : public QAbstractTableModel
 {
 public:
-    using QAbstractTableModel::QAbstractTableModel;
-
-    const CGridRows& Rows() const { return m_rows; }
-
     /// While suspended, views go on with the number of rows that they know.
     void Suspend(bool suspend);
     bool IsSuspended() const { return m_suspended; }
 
+    /// Takes all rows away.
     void SetColumnCount(int count);
+    int GetColumnCount() const { return static_cast<int>(m_heading.size()); }
+    int GetRowCount() const { return m_count; }
+
+    /// Adds a row of empty cells at the end.
     void AppendRow();
+    /// False if there is no such row.
     bool DeleteRow(int row);
+
+    /// Null outside the grid. The pointer holds until rows or columns come or go.
+    const CUGCell* Find(int column, int row) const
+    {
+        if (column < 0 || column >= GetColumnCount() || row < -1 || row >= m_count) {
+            return nullptr;
+        }
+        return (row == -1 ? m_heading.data() : &m_cells[At(row)]) + column;
+    }
+    /// False if there is no such cell.
     bool SetCell(int column, int row, const CUGCell& cell);
-    void Sort(int column, const CGridRows::Order& order);
+
+    /// Above 0 if the first cell belongs behind the second.
+    using Order = std::function<int(const CUGCell&, const CUGCell&)>;
+
+    /// Sorts the rows by a column; rows that compare equal keep their order. An exception of
+    /// `order` leaves the rows as they were. Does nothing if there is no such column.
+    void Sort(int column, const Order& order);
+    /// Whether rows that are still there were sorted since this was asked last.
+    bool TakeSorted() { return std::exchange(m_sorted, false); }
+
+    /// Tells the tooltip of a cell, empty for none.
+    using ToolTip = std::function<CString(int column, int row)>;
+    void SetToolTip(ToolTip toolTip) { m_toolTip = std::move(toolTip); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -28,11 +57,28 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    QVariant Text(int column, int row) const;
-    void TellAllChanged();
+    std::size_t At(int row) const
+    {
+        return static_cast<std::size_t>(m_first + row) * m_heading.size();
+    }
+    std::vector<CUGCell>::iterator Row(int row)
+    {
+        return m_cells.begin() + static_cast<std::ptrdiff_t>(At(row));
+    }
+    void MakeRoom();
+    void TellViews();
+    QVariant Value(int column, int row, int role) const;
 
-    CGridRows m_rows;
+    std::vector<CUGCell> m_heading;
+    /// The cells of all rows, row after row. Those of deleted rows stay before and behind them for
+    /// rows that come next: a rebuild of thousands of rows would spend half of its time on memory.
+    std::vector<CUGCell> m_cells;
+    /// Deleted rows before the first one: rebuilds delete the first row again and again.
+    int m_first = 0;
+    int m_count = 0;
+    /// The number of rows that views know.
     int m_shownRows = 0;
     bool m_suspended = false;
-    bool m_headingsChanged = false;
+    bool m_sorted = false;
+    ToolTip m_toolTip;
 };

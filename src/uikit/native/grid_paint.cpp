@@ -2,9 +2,6 @@
 
 #include "uikit/native/access.h"
 
-#include <QApplication>
-#include <QStyle>
-#include <QStyleOptionButton>
 #include <QtMath>
 
 #include <algorithm>
@@ -17,7 +14,7 @@ Qt::Alignment AlignmentOf(GridAlign align)
 {
     switch (align) {
     case GridAlign::center:
-        return Qt::AlignHCenter | Qt::AlignVCenter;
+        return Qt::AlignCenter;
     case GridAlign::right:
         return Qt::AlignRight | Qt::AlignVCenter;
     case GridAlign::left:
@@ -26,26 +23,43 @@ Qt::Alignment AlignmentOf(GridAlign align)
     return Qt::AlignLeft | Qt::AlignVCenter;
 }
 
-void DrawButton(QPainter& painter, const QRect& rect, const QString& text)
+QColor Mix(const QColor& a, const QColor& b, double part)
 {
-    QStyleOptionButton option;
-    option.rect = rect.adjusted(1, 1, -1, -1);
-    option.text = text;
-    option.state = QStyle::State_Enabled | QStyle::State_Raised;
-    QApplication::style()->drawControl(QStyle::CE_PushButton, &option, &painter);
+    const auto mix = [part](int from, int to) { return from + qRound((to - from) * part); };
+    return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
+}
+
+bool HasArrow(const CUGCell& cell)
+{
+    return cell.GetCellType() == kGridSortArrowType;
 }
 
 } // namespace
 
-CGridPaint::CGridPaint(const QFont& font)
-    : m_font(font), m_metrics(font), m_rowHeight(qCeil(m_metrics.height() * 1.25)),
-      m_padding(qRound(m_metrics.height() / 4.0)), m_arrowRoom(qRound(m_metrics.height() * 0.8))
+CGridPaint::CGridPaint(const CGridModel& cells, const QFont& font) : m_cells(cells), m_metrics(font)
 {
+    SetFont(font);
+}
+
+void CGridPaint::SetFont(const QFont& font)
+{
+    m_font = font;
+    m_metrics = QFontMetricsF(font);
+    m_rowHeight = qCeil(m_metrics.height() * 1.25);
+    m_padding = qRound(m_metrics.height() / 4.0);
+    m_arrowRoom = qRound(m_metrics.height() * 0.8);
+    m_widths.clear();
     m_numeric.fill(-1.0);
     // Digits are of one width and do not kern in the fonts of user interfaces.
     for (const char16_t c : std::u16string_view(u"0123456789.-")) {
         m_numeric[c] = m_metrics.horizontalAdvance(QChar(c));
     }
+}
+
+void CGridPaint::SetBack(const QColor& back, bool highlight)
+{
+    m_back = back;
+    m_highlight = highlight;
 }
 
 /// Below 0 for a text with other characters than numbers have.
@@ -87,48 +101,46 @@ double CGridPaint::ShapedWidth(const CString& line)
 
 /// What a cell keeps free of its text. An arrow has its room on both sides of a centred text, which
 /// so stays in the middle.
-QMargins CGridPaint::MarginsOf(const CUGCell& cell, GridCellKind kind) const
+QMargins CGridPaint::MarginsOf(const CUGCell& cell) const
 {
-    if (kind != GridCellKind::sortArrow) {
+    if (!HasArrow(cell)) {
         return {m_padding, 0, m_padding, 0};
     }
     const bool centered = cell.GetAlignment() == GridAlign::center;
     return {centered ? m_arrowRoom : m_padding, 0, m_arrowRoom, 0};
 }
 
-int CGridPaint::CellWidth(const CUGCell& cell, GridCellKind kind)
+int CGridPaint::CellWidth(const CUGCell& cell)
 {
     double widest = NumericWidth(cell.GetText());
     if (widest < 0.0) {
         widest = WidestLine(cell.GetText());
     }
-    if (widest == 0.0 && kind != GridCellKind::sortArrow) {
+    if (widest == 0.0 && !HasArrow(cell)) {
         return 0;
     }
-    const QMargins margins = MarginsOf(cell, kind);
+    const QMargins margins = MarginsOf(cell);
     return qCeil(widest) + margins.left() + margins.right();
 }
 
-void CGridPaint::DrawCell(QPainter& painter, const QRect& rect, const CUGCell& cell,
-                          GridCellKind kind) const
+void CGridPaint::DrawCell(QPainter& painter, const QRect& rect, int column, int row) const
 {
-    painter.setFont(m_font);
-    const QString text = ToNative(cell.GetText());
-    if (kind == GridCellKind::button) {
-        DrawButton(painter, rect, text);
+    const CUGCell* cell = m_cells.Find(column, row);
+    if (cell == nullptr) {
         return;
     }
-    if (kind == GridCellKind::sortArrow) {
-        DrawArrow(painter, rect, cell.GetTypeFlag());
+    painter.setFont(m_font);
+    if (HasArrow(*cell)) {
+        DrawArrow(painter, rect, cell->GetTypeFlag());
     }
-    const QRect room = rect.marginsRemoved(MarginsOf(cell, kind));
-    QStringList lines = text.split(u'\n');
+    const QRect room = rect.marginsRemoved(MarginsOf(*cell));
+    QStringList lines = ToNative(cell->GetText()).split(u'\n');
     for (QString& line : lines) {
         if (m_metrics.horizontalAdvance(line) > room.width()) {
             line = m_metrics.elidedText(line, Qt::ElideRight, room.width());
         }
     }
-    painter.drawText(room, static_cast<int>(AlignmentOf(cell.GetAlignment())), lines.join(u'\n'));
+    painter.drawText(room, static_cast<int>(AlignmentOf(cell->GetAlignment())), lines.join(u'\n'));
 }
 
 void CGridPaint::DrawArrow(QPainter& painter, const QRect& rect, int flag) const
@@ -143,4 +155,25 @@ void CGridPaint::DrawArrow(QPainter& painter, const QRect& rect, int flag) const
     painter.drawPolygon(QPolygonF(
         {center + QPointF(-half, rise), center + QPointF(half, rise), center + QPointF(0, -rise)}));
     painter.restore();
+}
+
+void CGridPaint::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                       const QModelIndex& index) const
+{
+    const QPalette& colors = option.palette;
+    const QColor highlight = colors.color(QPalette::Active, QPalette::Highlight);
+    const bool current = m_highlight && (option.state & QStyle::State_Selected) != 0;
+    // The choice stays plain to see while the user is elsewhere in the dialog.
+    const bool strong = current && option.widget->hasFocus();
+    const QColor back = strong ? highlight : current ? Mix(m_back, highlight, 0.3) : m_back;
+    const QRect rect = option.rect;
+    painter->fillRect(rect, back);
+    painter->setPen(current ? Mix(back, highlight, 0.4) : m_back.darker(109));
+    painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+    if (!current) {
+        painter->drawLine(rect.topRight(), rect.bottomRight());
+    }
+    painter->setPen(
+        colors.color(QPalette::Active, strong ? QPalette::HighlightedText : QPalette::Text));
+    DrawCell(*painter, rect.adjusted(0, 0, -1, -1), index.column(), index.row());
 }

@@ -1,108 +1,49 @@
 #include "uikit/native/grid_view.h"
 
-#include "uikit/application.h"
 #include "uikit/native/access.h"
-#include "uikit/native/grid_delegate.h"
 #include "uikit/native/grid_header.h"
 #include "uikit/native/surface.h"
 
-#include <QContextMenuEvent>
-#include <QHelpEvent>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QToolTip>
 
 #include <utility>
 
-namespace {
-
-constexpr int kWidthBeforeLayout = 300;
-constexpr int kFitMargin = 2;
-/// Two lines of the templates' font.
-constexpr int kHeadingHeight = 32;
-
-/// Columns of sizes repeat a text over many rows.
-bool NeedsSameWidth(const CUGCell* above, const CUGCell& cell)
+CGridView::CGridView(CUGCtrl& grid, CGridModel& cells, CUGCtrl::Guard guard, QWidget* parent)
+    : QTableView(parent), m_grid(grid), m_cells(cells), m_guard(std::move(guard)),
+      m_paint(cells, font())
 {
-    return above != nullptr && above->GetCellType() == cell.GetCellType() &&
-           above->GetAlignment() == cell.GetAlignment() && above->GetText() == cell.GetText();
-}
-
-GridKey KeyOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Up:
-        return GridKey::up;
-    case Qt::Key_Down:
-        return GridKey::down;
-    case Qt::Key_Left:
-        return GridKey::left;
-    case Qt::Key_Right:
-        return GridKey::right;
-    case Qt::Key_PageUp:
-        return GridKey::pageUp;
-    case Qt::Key_PageDown:
-        return GridKey::pageDown;
-    case Qt::Key_Home:
-        return GridKey::home;
-    case Qt::Key_End:
-        return GridKey::end;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return GridKey::enter;
-    case Qt::Key_Escape:
-        return GridKey::escape;
-    default:
-        return GridKey::other;
-    }
-}
-
-wchar_t CharacterOf(GridKey key, const QKeyEvent& event)
-{
-    if (key == GridKey::enter) {
-        return 13;
-    }
-    if (key == GridKey::escape) {
-        return 27;
-    }
-    const CString text = FromNative(event.text());
-    return text.empty() ? L'\0' : text.front();
-}
-
-} // namespace
-
-CGridView::CGridView(CUGCtrl& grid, CUGCtrl::Guard guard, QWidget* parent)
-    : QTableView(parent), m_grid(&grid), m_guard(std::move(guard)), m_paint(font()),
-      m_top(new CGridHeader(Qt::Horizontal, *this)), m_side(new CGridHeader(Qt::Vertical, *this))
-{
-    setModel(&m_model);
-    setHorizontalHeader(m_top);
-    setVerticalHeader(m_side);
-    setItemDelegate(new CGridDelegate(*this));
+    setHorizontalHeader(new CGridHeader(*this));
+    verticalHeader()->hide();
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    setModel(&m_cells);
+    connect(&m_cells, &QAbstractItemModel::modelReset, this, &CGridView::HighlightCurrent);
+    m_cells.SetToolTip([this](int column, int row) {
+        CString html;
+        bool wanted = false;
+        const auto section = row < 0 ? GridSection::topHeading : GridSection::grid;
+        Raise([&](CUGCtrl& g) { wanted = g.OnToolTip(column, row, section, html); });
+        return wanted ? html : CString();
+    });
+    setItemDelegate(&m_paint);
     setShowGrid(false);
     setWordWrap(false);
-    setCornerButtonEnabled(false);
     setTabKeyNavigation(false);
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
+    setSelectionBehavior(SelectRows);
     setHorizontalScrollMode(ScrollPerPixel);
     // The view fills all of it, so nothing below needs painting.
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
     setAutoScroll(false);
-    m_side->SetThickness(0);
-    SetRowHighlight(false);
-    SetHeadingHeight(kHeadingHeight);
-    FontChanged();
+    SetCellFont(font());
 }
 
 void CGridView::Raise(const std::function<void(CUGCtrl&)>& callback)
 {
-    if (m_grid == nullptr) {
-        return;
-    }
-    const auto work = [this, &callback] { callback(*m_grid); };
+    const auto work = [this, &callback] { callback(m_grid); };
     if (m_guard) {
         m_guard(work);
     } else {
@@ -110,57 +51,17 @@ void CGridView::Raise(const std::function<void(CUGCtrl&)>& callback)
     }
 }
 
-void CGridView::SetColumnCount(int count)
+void CGridView::SetCellFont(const QFont& wanted)
 {
-    m_model.SetColumnCount(count);
-    HighlightCurrent();
+    setFont(wanted);
+    m_paint.SetFont(font());
+    verticalHeader()->setDefaultSectionSize(m_paint.RowHeight());
 }
 
-bool CGridView::DeleteRow(int row)
+void CGridView::SetHeadingHeight(int pixels)
 {
-    if (!m_model.DeleteRow(row)) {
-        return false;
-    }
-    m_sorted = m_sorted && m_model.Rows().GetRowCount() > 0;
-    HighlightCurrent();
-    return true;
-}
-
-void CGridView::SetRedraw(bool redraw)
-{
-    if (redraw && m_model.IsSuspended()) {
-        m_model.Suspend(false);
-        ApplyWidths();
-        HighlightCurrent();
-    }
-    m_model.Suspend(!redraw);
-    // The scroll bar and the headings see nothing of a suspended model, and painting them anew
-    // takes as long as painting many rows.
-    viewport()->setUpdatesEnabled(redraw);
-}
-
-int CGridView::AddCellType(GridCellKind kind)
-{
-    m_kinds.push_back(kind);
-    return static_cast<int>(m_kinds.size()) - 1;
-}
-
-GridCellKind CGridView::KindOf(const CUGCell& cell) const
-{
-    const auto type = static_cast<std::size_t>(cell.GetCellType());
-    return type < m_kinds.size() ? m_kinds[type] : GridCellKind::text;
-}
-
-void CGridView::SetHeadingRows(int rows)
-{
-    m_headingRows = rows;
-    SetHeadingHeight(m_headingHeight);
-}
-
-void CGridView::SetHeadingHeight(int height)
-{
-    m_headingHeight = height;
-    m_top->SetThickness(m_headingRows > 0 ? qRound(height * GetDialogScale()) : 0);
+    horizontalHeader()->setFixedHeight(pixels);
+    updateGeometries();
 }
 
 void CGridView::SetCurrentCellMode(int mode)
@@ -169,41 +70,26 @@ void CGridView::SetCurrentCellMode(int mode)
     viewport()->update();
 }
 
-void CGridView::SetRowHighlight(bool wholeRow)
-{
-    setSelectionBehavior(wholeRow ? SelectRows : SelectItems);
-    HighlightCurrent();
-}
-
-void CGridView::FontChanged()
-{
-    m_paint = CGridPaint(font());
-    m_side->setDefaultSectionSize(m_paint.RowHeight());
-}
-
 void CGridView::GotoCell(int column, int row)
 {
-    m_column = qMax(0, qMin(column, m_model.Rows().GetColumnCount() - 1));
-    m_row = qMax(0, qMin(row, m_model.Rows().GetRowCount() - 1));
+    m_column = qMax(0, qMin(column, m_cells.GetColumnCount() - 1));
+    m_row = qMax(0, qMin(row, m_cells.GetRowCount() - 1));
     HighlightCurrent();
 }
 
-/// Brings the toolkit's current cell to the grid's own, which outlives a reset of the model.
 void CGridView::HighlightCurrent()
 {
-    if (m_model.IsSuspended()) {
+    if (m_cells.IsSuspended()) {
         return;
     }
-    if (m_model.rowCount() == 0 || m_model.columnCount() == 0) {
-        m_row = -1;
-        m_column = -1;
+    m_row = qMin(m_row, m_cells.rowCount() - 1);
+    m_column = qMin(m_column, m_cells.columnCount() - 1);
+    if (m_row < 0 || m_column < 0) {
         return;
     }
-    m_row = qMin(m_row, m_model.rowCount() - 1);
-    m_column = qMin(m_column, m_model.columnCount() - 1);
-    QItemSelectionModel::SelectionFlags flags = QItemSelectionModel::ClearAndSelect;
-    flags.setFlag(QItemSelectionModel::Rows, selectionBehavior() == SelectRows);
-    selectionModel()->setCurrentIndex(m_model.index(m_row, m_column), flags);
+    selectionModel()->setCurrentIndex(m_cells.index(m_row, m_column),
+                                      QItemSelectionModel::ClearAndSelect |
+                                          QItemSelectionModel::Rows);
     ShowCurrentSoon();
 }
 
@@ -211,10 +97,9 @@ void CGridView::HighlightCurrent()
 /// the scroll bar for nothing.
 void CGridView::ShowCurrentSoon()
 {
-    if (m_showsCurrentSoon) {
+    if (std::exchange(m_showsCurrentSoon, true)) {
         return;
     }
-    m_showsCurrentSoon = true;
     QMetaObject::invokeMethod(
         this,
         [this] {
@@ -224,122 +109,61 @@ void CGridView::ShowCurrentSoon()
         Qt::QueuedConnection);
 }
 
-int CGridView::ColumnWidth(int column) const
-{
-    const auto changed = m_newWidths.find(column);
-    return changed != m_newWidths.end() ? changed->second : m_top->sectionSize(column);
-}
-
-/// A fit and the corrections of its owner come one after the other, and the headings would be
-/// painted for each.
-void CGridView::SetColumnWidth(int column, int width)
-{
-    if (column < 0 || column >= m_top->count()) {
-        return;
-    }
-    m_newWidths[column] = width;
-    if (!m_model.IsSuspended()) {
-        ApplyWidths();
-    }
-}
-
-void CGridView::ApplyWidths()
-{
-    for (const auto& [column, width] : std::exchange(m_newWidths, {})) {
-        m_top->resizeSection(column, width);
-    }
-}
-
-void CGridView::BestFit(int first, int count, int rows, bool headings)
-{
-    const int inside = contentsRect().width();
-    const int widest = inside > 0 ? inside - m_side->GetThickness() : kWidthBeforeLayout;
-    const int lastRow = qMin(rows, m_model.Rows().GetRowCount());
-    const int begin = qMax(first, 0);
-    const int end = qMin(count, m_top->count());
-    struct CFit
-    {
-        int nWidth = kGridMinColumnWidth;
-        const CUGCell* pAbove = nullptr;
-    };
-    std::vector<CFit> fits(static_cast<std::size_t>(qMax(end, 0)));
-    for (int row = headings ? -1 : 0; row < lastRow; ++row) {
-        for (int column = begin; column < end; ++column) {
-            const CUGCell& cell = *m_model.Rows().Find(column, row);
-            CFit& fit = fits[static_cast<std::size_t>(column)];
-            if (!NeedsSameWidth(fit.pAbove, cell)) {
-                const int width = m_paint.CellWidth(cell, KindOf(cell)) + kFitMargin;
-                fit.nWidth = qMax(fit.nWidth, width);
-            }
-            fit.pAbove = &cell;
-        }
-    }
-    for (int column = begin; column < end; ++column) {
-        SetColumnWidth(column, qMin(fits[static_cast<std::size_t>(column)].nWidth, widest));
-    }
-}
-
 /// A move of the user's.
 void CGridView::Choose(int column, int row)
 {
     const int oldRow = m_row;
     GotoCell(column, row);
     scrollTo(currentIndex());
-    const int newRow = m_row;
-    const bool sorted = std::exchange(m_sorted, false);
-    if (sorted || newRow != oldRow) {
-        Raise([=](CUGCtrl& grid) { grid.OnRowChange(oldRow, newRow); });
+    const bool sorted = m_cells.TakeSorted();
+    if (sorted || m_row != oldRow) {
+        Raise([this, oldRow](CUGCtrl& grid) { grid.OnRowChange(oldRow, m_row); });
     }
 }
 
-bool CGridView::MoveByKey(GridKey key)
+bool CGridView::MoveByKey(int key)
 {
     const int page = qMax(1, viewport()->height() / m_paint.RowHeight());
     switch (key) {
-    case GridKey::up:
+    case Qt::Key_Up:
         Choose(m_column, m_row - 1);
         return true;
-    case GridKey::down:
+    case Qt::Key_Down:
         Choose(m_column, m_row + 1);
         return true;
-    case GridKey::left:
+    case Qt::Key_Left:
         Choose(m_column - 1, m_row);
         return true;
-    case GridKey::right:
+    case Qt::Key_Right:
         Choose(m_column + 1, m_row);
         return true;
-    case GridKey::pageUp:
+    case Qt::Key_PageUp:
         Choose(m_column, m_row - page);
         return true;
-    case GridKey::pageDown:
+    case Qt::Key_PageDown:
         Choose(m_column, m_row + page);
         return true;
-    case GridKey::home:
+    case Qt::Key_Home:
         Choose(m_column, 0);
         return true;
-    case GridKey::end:
-        Choose(m_column, m_model.rowCount() - 1);
+    case Qt::Key_End:
+        Choose(m_column, m_cells.GetRowCount() - 1);
         return true;
-    case GridKey::enter:
-    case GridKey::escape:
-    case GridKey::other:
-        break;
+    default:
+        return false;
     }
-    return false;
 }
 
 void CGridView::keyPressEvent(QKeyEvent* event)
 {
-    GridKey key = KeyOf(event->key());
-    bool processed = false;
-    Raise([&](CUGCtrl& grid) { grid.OnKeyDown(&key, processed); });
-    if (processed || MoveByKey(key)) {
+    if (MoveByKey(event->key())) {
         event->accept();
         return;
     }
-    wchar_t character = CharacterOf(key, *event);
-    if (character != L'\0') {
-        Raise([&](CUGCtrl& grid) { grid.OnCharTyped(&character, processed); });
+    bool processed = false;
+    CString text = FromNative(event->text());
+    if (!text.empty()) {
+        Raise([&](CUGCtrl& grid) { grid.OnCharTyped(text.data(), processed); });
     }
     event->setAccepted(processed);
 }
@@ -347,40 +171,8 @@ void CGridView::keyPressEvent(QKeyEvent* event)
 void CGridView::mousePressEvent(QMouseEvent* event)
 {
     const QModelIndex at = indexAt(event->pos());
-    if (!at.isValid()) {
-        return;
-    }
-    const int column = at.column();
-    const int row = at.row();
-    if (event->button() == Qt::LeftButton) {
-        Choose(column, row);
-    }
-    RaiseClick(*event, true);
-    if (event->button() == Qt::LeftButton) {
-        PressCell(column, row);
-    }
-}
-
-void CGridView::PressCell(int column, int row)
-{
-    const CUGCell* cell = m_model.Rows().Find(column, row);
-    if (cell != nullptr && KindOf(*cell) == GridCellKind::button) {
-        const int type = cell->GetCellType();
-        Raise(
-            [=](CUGCtrl& grid) { grid.OnCellTypeNotify(type, column, row, kGridCellPressed, 0); });
-    }
-}
-
-void CGridView::RaiseClick(const QMouseEvent& event, bool down)
-{
-    const QModelIndex at = indexAt(event.pos());
-    if (!at.isValid()) {
-        return;
-    }
-    if (event.button() == Qt::LeftButton) {
-        Raise([&](CUGCtrl& grid) { grid.OnLeftClick(at.column(), at.row(), down); });
-    } else if (event.button() == Qt::RightButton) {
-        Raise([&](CUGCtrl& grid) { grid.OnRightClick(at.column(), at.row(), down); });
+    if (event->button() == Qt::LeftButton && at.isValid()) {
+        Choose(at.column(), at.row());
     }
 }
 
@@ -390,11 +182,6 @@ void CGridView::mouseMoveEvent(QMouseEvent* event)
     if (event->buttons() == Qt::NoButton) {
         QTableView::mouseMoveEvent(event);
     }
-}
-
-void CGridView::mouseReleaseEvent(QMouseEvent* event)
-{
-    RaiseClick(*event, false);
 }
 
 void CGridView::mouseDoubleClickEvent(QMouseEvent* event)
@@ -407,76 +194,18 @@ void CGridView::mouseDoubleClickEvent(QMouseEvent* event)
     }
 }
 
-void CGridView::contextMenuEvent(QContextMenuEvent* event)
-{
-    const QModelIndex at = indexAt(event->pos());
-    const int column = at.column();
-    const int row = at.row();
-    CMenu entries;
-    const bool wanted = Ask(false, [&](CUGCtrl& grid) {
-        return grid.OnMenuStart(column, row, GridSection::grid, entries);
-    });
-    if (!wanted || entries.GetEntries().empty()) {
-        return;
-    }
-    QMenu menu(this);
-    for (const CMenu::Entry& entry : entries.GetEntries()) {
-        if (entry.id == 0) {
-            menu.addSeparator();
-        } else {
-            menu.addAction(ToNative(entry.text))->setData(entry.id);
-        }
-    }
-    if (const QAction* chosen = menu.exec(event->globalPos())) {
-        const unsigned id = chosen->data().toUInt();
-        Raise([=](CUGCtrl& grid) { grid.OnMenuCommand(column, row, GridSection::grid, id); });
-    }
-}
-
-bool CGridView::viewportEvent(QEvent* event)
-{
-    if (event->type() != QEvent::ToolTip) {
-        return QTableView::viewportEvent(event);
-    }
-    const auto& help = static_cast<const QHelpEvent&>(*event);
-    const QModelIndex at = indexAt(help.pos());
-    ShowToolTip({help.globalPos(), viewport(), visualRect(at)}, at.column(), at.row(),
-                GridSection::grid);
-    return true;
-}
-
-void CGridView::ShowToolTip(const TipPlace& place, int column, int row, GridSection section)
-{
-    CString html;
-    const bool isCell = section == GridSection::sideHeading ? row >= 0 : column >= 0;
-    const bool wanted = m_toolTips && isCell && Ask(false, [&](CUGCtrl& grid) {
-                            return grid.OnToolTip(column, row, section, html);
-                        });
-    if (wanted) {
-        QToolTip::showText(place.screen, ToNative(html), place.on, place.rect);
-    } else {
-        QToolTip::hideText();
-    }
-}
-
 QColor CGridView::BackColor(GridSection section)
 {
-    return ToNative(
-        Ask(RGB(255, 255, 255), [=](CUGCtrl& grid) { return grid.OnDefaultBackColor(section); }));
-}
-
-void CGridView::DrawCell(QPainter& painter, const QRect& rect, int column, int row)
-{
-    const CUGCell* cell = m_model.Rows().Find(column, row);
-    if (cell != nullptr) {
-        m_paint.DrawCell(painter, rect, *cell, KindOf(*cell));
-    }
+    COLORREF color = RGB(255, 255, 255);
+    Raise([&](CUGCtrl& grid) { color = grid.OnDefaultBackColor(section); });
+    return ToNative(color);
 }
 
 void CGridView::paintEvent(QPaintEvent* event)
 {
-    m_back = BackColor(GridSection::grid);
-    QPainter(viewport()).fillRect(event->rect(), m_back);
+    const QColor back = BackColor(GridSection::grid);
+    m_paint.SetBack(back, (m_mode & currentCellHighlight) != 0);
+    QPainter(viewport()).fillRect(event->rect(), back);
     QTableView::paintEvent(event);
     DrawFocus();
 }
@@ -486,19 +215,9 @@ void CGridView::DrawFocus()
     if (!hasFocus() || (m_mode & currentCellFocusRect) == 0 || m_row < 0) {
         return;
     }
-    QRect rect = visualRect(m_model.index(m_row, m_column));
-    if (selectionBehavior() == SelectRows) {
-        rect.setLeft(-m_top->offset());
-        rect.setWidth(m_top->length());
-    }
+    QRect rect = visualRect(m_cells.index(m_row, m_column));
+    rect.setLeft(-horizontalHeader()->offset());
+    rect.setWidth(horizontalHeader()->length());
     CPaintDC dc(viewport());
     Raise([&](CUGCtrl& grid) { grid.OnDrawFocusRect(dc, FromNative(rect)); });
-}
-
-void CGridView::changeEvent(QEvent* event)
-{
-    QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange) {
-        FontChanged();
-    }
 }

@@ -89,9 +89,7 @@ TEST_F(ErgebnisZeilenTest, OpensOnTheBestRowAndTakesTheUsersChoice)
     EXPECT_EQ(dialog.texte[18011], L"990");
     EXPECT_EQ(dialog.texte[18015], L"-1.0");
     EXPECT_FALSE(dialog.gitter.gestoert);
-    EXPECT_EQ(dialog.gitter.angepassteZeilen, 3);
-    EXPECT_EQ(dialog.gitter.breiten[0], 140);
-    EXPECT_EQ(dialog.gitter.breiten[1], 60);
+    EXPECT_EQ(dialog.gitter.anpassung, (std::vector{0, 8, 3, 60}));
 
     dialog.WaehleZeile(0);
     EXPECT_EQ(m_uebergabe.TypName, L"a");

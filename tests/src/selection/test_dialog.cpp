@@ -24,12 +24,9 @@ CString CTestGitter::Text(int spalte, int zeile) const
                   : CString();
 }
 
-void CTestGitter::PasseBreiteAn(int erste, int anzahl, int count)
+void CTestGitter::PasseBreiteAn(int erste, int anzahl, int count, int mindestens)
 {
-    angepassteZeilen = count;
-    for (int i = erste; i < anzahl; ++i) {
-        breiten[i] = i == 0 ? 140 : 40 + 5 * i;
-    }
+    anpassung = {erste, anzahl, count, mindestens};
 }
 
 CTestDialog::CTestDialog(HK_DATEN_VDI3805_UEBERGABE& uebergabe)

@@ -23,9 +23,7 @@ public:
     bool LoescheZeile(int zeile) override;
     CString Text(int spalte, int zeile) const override;
     void GeheZuZeile(int zeile) override { aktuell = zeile; }
-    void PasseBreiteAn(int erste, int anzahl, int count) override;
-    int Spaltenbreite(int spalte) const override { return breiten.at(spalte); }
-    void SetzeSpaltenbreite(int spalte, int pixel) override { breiten[spalte] = pixel; }
+    void PasseBreiteAn(int erste, int anzahl, int count, int mindestens) override;
     void Sortiere(int spalte, bool aufsteigend) override
     {
         sortiert.emplace_back(spalte, aufsteigend);
@@ -35,8 +33,8 @@ public:
     int aktuell = 0;
     bool zeichnet = true;
     bool gestoert = false;
-    int angepassteZeilen = -1;
-    std::map<int, int> breiten;
+    /// The arguments of the last fit of the columns.
+    std::vector<int> anpassung;
     std::vector<std::pair<int, bool>> sortiert;
 };
 

