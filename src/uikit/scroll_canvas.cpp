@@ -3,23 +3,21 @@
 #include "uikit/dialog_template.h"
 #include "uikit/native/access.h"
 #include "uikit/native/dialog_window.h"
-#include "uikit/native/scroll_canvas_widget.h"
 #include "uikit/native/surface.h"
 
+#include <QAbstractScrollArea>
+#include <QImage>
+#include <QPainter>
+#include <QScrollBar>
 #include <QStyle>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace {
 
-using SliderAction = QAbstractSlider::SliderAction;
-
-Qt::Orientation ToNative(ScrollAxis axis)
-{
-    return axis == ScrollAxis::horizontal ? Qt::Horizontal : Qt::Vertical;
-}
-
-ScrollAction FromNative(SliderAction action)
+ScrollAction ActionOf(int action)
 {
     switch (action) {
     case QAbstractSlider::SliderSingleStepSub:
@@ -34,12 +32,79 @@ ScrollAction FromNative(SliderAction action)
         return ScrollAction::toStart;
     case QAbstractSlider::SliderToMaximum:
         return ScrollAction::toEnd;
-    case QAbstractSlider::SliderMove:
-    case QAbstractSlider::SliderNoAction:
-        break;
+    default:
+        return ScrollAction::thumb;
     }
-    return ScrollAction::thumb;
 }
+
+} // namespace
+
+/// Shows a picture, and scroll bars whose positions a function decides.
+class CScrollCanvasWidget : public QAbstractScrollArea
+{
+public:
+    using Decide = std::function<int(ScrollAxis, ScrollAction, int)>;
+
+    CScrollCanvasWidget(QWidget* parent, Decide decide)
+        : QAbstractScrollArea(parent), m_decide(std::move(decide))
+    {
+        setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+        setFocusPolicy(Qt::NoFocus);
+        for (const ScrollAxis axis : {ScrollAxis::horizontal, ScrollAxis::vertical}) {
+            SetBar(axis, 0, 0);
+            QScrollBar* bar = Bar(axis);
+            connect(bar, &QScrollBar::actionTriggered, this, [this, axis, bar](int action) {
+                if (m_decide) {
+                    bar->setSliderPosition(m_decide(axis, ActionOf(action), bar->sliderPosition()));
+                }
+            });
+        }
+    }
+
+    /// The bars keep still from now on.
+    void Detach() { m_decide = nullptr; }
+
+    void SetBar(ScrollAxis axis, int size, int page)
+    {
+        Bar(axis)->setRange(0, qMax(size - page, 0));
+        Bar(axis)->setPageStep(page);
+        Bar(axis)->setValue(0);
+        const auto policy = size > 0 ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff;
+        if (axis == ScrollAxis::horizontal) {
+            setHorizontalScrollBarPolicy(policy);
+        } else {
+            setVerticalScrollBarPolicy(policy);
+        }
+    }
+
+    /// The picture, made new if it has another size.
+    QImage* MakePicture(const QSize& size)
+    {
+        if (m_picture.size() != size) {
+            m_picture = QImage(size, QImage::Format_ARGB32_Premultiplied);
+        }
+        return &m_picture;
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter(viewport()).drawImage(0, 0, m_picture);
+    }
+    /// The picture is drawn anew instead.
+    void scrollContentsBy(int /*dx*/, int /*dy*/) override {}
+
+private:
+    QScrollBar* Bar(ScrollAxis axis) const
+    {
+        return axis == ScrollAxis::horizontal ? horizontalScrollBar() : verticalScrollBar();
+    }
+
+    Decide m_decide;
+    QImage m_picture;
+};
+
+namespace {
 
 /// Draws on the picture that the widget shows.
 class CPictureDC : public CDC
@@ -70,7 +135,7 @@ CScrollCanvas::~CScrollCanvas()
 
 CScrollCanvasWidget* CScrollCanvas::Widget() const
 {
-    return CNativeAccess::As<CScrollCanvasWidget>(*this);
+    return static_cast<CScrollCanvasWidget*>(CNativeAccess::Widget(*this));
 }
 
 int CScrollCanvas::GetScrollBarWidth() const
@@ -85,11 +150,9 @@ bool CScrollCanvas::CreateCanvas(unsigned style, const CRect& rect, const CWnd& 
     if (owner == nullptr || IsWindow()) {
         return false;
     }
-    auto* widget = new CScrollCanvasWidget(
-        owner, [this](Qt::Orientation orientation, SliderAction action, int position) {
-            const auto axis =
-                orientation == Qt::Horizontal ? ScrollAxis::horizontal : ScrollAxis::vertical;
-            return OnScroll(axis, FromNative(action), position);
+    auto* widget =
+        new CScrollCanvasWidget(owner, [this](ScrollAxis axis, ScrollAction action, int position) {
+            return OnScroll(axis, action, position);
         });
     widget->setGeometry(ToNative(rect));
     widget->setVisible((style & styleHidden) == 0);
@@ -100,7 +163,7 @@ bool CScrollCanvas::CreateCanvas(unsigned style, const CRect& rect, const CWnd& 
 void CScrollCanvas::SetScrollBar(ScrollAxis axis, int size, int page)
 {
     if (CScrollCanvasWidget* widget = Widget()) {
-        widget->SetBar(ToNative(axis), size, page);
+        widget->SetBar(axis, size, page);
     }
 }
 
