@@ -12,18 +12,57 @@ CComboWidget* Widget(const CWnd& wnd)
     return CNativeAccess::As<CComboWidget>(wnd);
 }
 
+/// Changes the items without an event. The toolkit chooses an item by itself where none is; a list
+/// here shows nothing until an item is chosen, and an edit keeps its text.
+template <class Change>
+void ChangeQuietly(CComboWidget& combo, Change change)
+{
+    const QSignalBlocker quiet(&combo);
+    const bool nothingChosen = combo.currentIndex() < 0;
+    const QString edited = combo.currentText();
+    change();
+    if (nothingChosen) {
+        combo.setCurrentIndex(-1);
+        if (combo.isEditable()) {
+            combo.setEditText(edited);
+        }
+    }
+    combo.update();
+}
+
+/// Where a new text goes.
+int PlaceOf(const CComboWidget& combo, const QString& text)
+{
+    int place = combo.IsSorted() ? 0 : combo.count();
+    while (place < combo.count() && combo.itemText(place).compare(text, Qt::CaseInsensitive) <= 0) {
+        ++place;
+    }
+    return place;
+}
+
 } // namespace
 
 int CComboBox::AddString(const CString& text)
 {
     CComboWidget* combo = Widget(*this);
-    return combo != nullptr ? combo->AddText(ToNative(text)) : -1;
+    if (combo == nullptr) {
+        return -1;
+    }
+    const int place = PlaceOf(*combo, ToNative(text));
+    ChangeQuietly(*combo, [&] { combo->insertItem(place, ToNative(text)); });
+    return place;
 }
 
 int CComboBox::AddItem(const CString& text, int image, int selectedImage)
 {
     CComboWidget* combo = Widget(*this);
-    return combo != nullptr ? combo->AddItem(ToNative(text), image, selectedImage) : -1;
+    if (combo == nullptr) {
+        return -1;
+    }
+    const int place = combo->count();
+    ChangeQuietly(*combo, [&] { combo->addItem(ToNative(text)); });
+    combo->SetImagesOf(place, image, selectedImage);
+    return place;
 }
 
 void CComboBox::SetImageList(const CImageList& images)
@@ -36,7 +75,17 @@ void CComboBox::SetImageList(const CImageList& images)
 bool CComboBox::DeleteString(int index)
 {
     CComboWidget* combo = Widget(*this);
-    return combo != nullptr && combo->DeleteItem(index);
+    if (combo == nullptr || index < 0 || index >= combo->count()) {
+        return false;
+    }
+    const QSignalBlocker quiet(combo);
+    const QString edited = combo->currentText();
+    if (index == combo->currentIndex()) {
+        combo->setCurrentIndex(-1);
+        combo->setEditText(edited);
+    }
+    ChangeQuietly(*combo, [&] { combo->removeItem(index); });
+    return true;
 }
 
 void CComboBox::ResetContent()

@@ -10,23 +10,11 @@
 
 #include <QApplication>
 #include <QMetaObject>
+#include <QScopedValueRollback>
 
 #include <utility>
 
 namespace {
-
-/// Counts a write of the exchange for as long as it lasts.
-class CDepth
-{
-public:
-    explicit CDepth(int& depth) : m_depth(depth) { ++m_depth; }
-    ~CDepth() { --m_depth; }
-    CDepth(const CDepth&) = delete;
-    CDepth& operator=(const CDepth&) = delete;
-
-private:
-    int& m_depth;
-};
 
 bool IsCommand(ControlEvent event)
 {
@@ -109,7 +97,7 @@ bool CDialog::UpdateData(bool save)
     CDataExchange exchange(*this, save);
     bool complete = true;
     {
-        const CDepth depth(m_exchangeDepth);
+        const QScopedValueRollback depth(m_exchangeDepth, m_exchangeDepth + 1);
         try {
             DoDataExchange(&exchange);
         } catch (const CExchangeFailed&) {

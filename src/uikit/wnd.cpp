@@ -3,59 +3,41 @@
 #include "uikit/native/access.h"
 #include "uikit/native/canvas_widget.h"
 #include "uikit/native/dialog_window.h"
-#include "uikit/native/small_widgets.h"
 
-#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 
 namespace {
 
 constexpr double kOpaque = 255.0;
 
+/// The property in which a window of that kind keeps its text.
+const char* TextProperty(const QWidget& widget)
+{
+    for (const char* name : {"text", "currentText", "title"}) {
+        if (widget.metaObject()->indexOfProperty(name) >= 0) {
+            return name;
+        }
+    }
+    return "windowTitle";
+}
+
 QString TextOf(const QWidget& widget)
 {
-    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) {
-        return edit->text();
-    }
-    if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
-        return label->text();
-    }
-    if (const auto* button = qobject_cast<const QAbstractButton*>(&widget)) {
-        return button->text();
-    }
-    if (const auto* combo = qobject_cast<const QComboBox*>(&widget)) {
-        return combo->currentText();
-    }
-    if (const auto* group = qobject_cast<const QGroupBox*>(&widget)) {
-        return group->title();
-    }
-    return widget.windowTitle();
+    return widget.property(TextProperty(widget)).toString();
 }
 
 void SetTextOf(QWidget& widget, const QString& text)
 {
-    if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {
-        edit->setText(text);
-        if (edit->isReadOnly()) {
-            // Where nobody types, a long text is read from its start.
-            edit->setCursorPosition(0);
-        }
-    } else if (auto* label = qobject_cast<QLabel*>(&widget)) {
-        label->setText(text);
-    } else if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
-        button->setText(text);
-    } else if (auto* combo = qobject_cast<QComboBox*>(&widget)) {
-        if (combo->isEditable()) {
-            combo->lineEdit()->setText(text);
-        }
-    } else if (auto* group = qobject_cast<QGroupBox*>(&widget)) {
-        group->setTitle(text);
-    } else {
-        widget.setWindowTitle(text);
+    const auto* combo = qobject_cast<QComboBox*>(&widget);
+    if (combo == nullptr || combo->isEditable()) {
+        widget.setProperty(TextProperty(widget), text);
+    }
+    auto* edit = qobject_cast<QLineEdit*>(&widget);
+    if (edit != nullptr && edit->isReadOnly()) {
+        // Where nobody types, a long text is read from its start.
+        edit->setCursorPosition(0);
     }
 }
 
@@ -74,12 +56,6 @@ CWnd::~CWnd() = default;
 bool CWnd::IsWindow() const
 {
     return CNativeAccess::Widget(*this) != nullptr;
-}
-
-int CWnd::GetDlgCtrlId() const
-{
-    const QWidget* widget = CNativeAccess::Widget(*this);
-    return widget != nullptr ? GetControlId(*widget) : 0;
 }
 
 void CWnd::SetWindowText(const CString& text)
@@ -101,12 +77,6 @@ void CWnd::EnableWindow(bool enable)
     if (QWidget* widget = CNativeAccess::Widget(*this)) {
         widget->setEnabled(enable);
     }
-}
-
-bool CWnd::IsWindowEnabled() const
-{
-    const QWidget* widget = CNativeAccess::Widget(*this);
-    return widget != nullptr && widget->isEnabled();
 }
 
 void CWnd::ShowWindow(bool show)
@@ -160,13 +130,6 @@ void CWnd::SetFocus()
     }
 }
 
-bool CWnd::HasFocus() const
-{
-    const QWidget* widget = CNativeAccess::Widget(*this);
-    const QWidget* focus = widget != nullptr ? widget->window()->focusWidget() : nullptr;
-    return focus != nullptr && (focus == widget || focus == widget->focusProxy());
-}
-
 void CWnd::SetFont(const CFont& font)
 {
     QWidget* widget = CNativeAccess::Widget(*this);
@@ -178,13 +141,6 @@ void CWnd::SetFont(const CFont& font)
     }
 }
 
-void CWnd::SetToolTip(const CString& html)
-{
-    if (QWidget* widget = CNativeAccess::Widget(*this)) {
-        widget->setToolTip(ToNative(html));
-    }
-}
-
 void CWnd::Invalidate()
 {
     QWidget* widget = CNativeAccess::Widget(*this);
@@ -192,15 +148,6 @@ void CWnd::Invalidate()
         canvas->Erase();
     } else if (widget != nullptr) {
         widget->update();
-    }
-}
-
-void CWnd::UpdateWindow()
-{
-    QWidget* widget = CNativeAccess::Widget(*this);
-    if (widget != nullptr && widget->isVisible() &&
-        !widget->testAttribute(Qt::WA_WState_InPaintEvent)) {
-        widget->repaint();
     }
 }
 

@@ -23,16 +23,12 @@ public:
     /// True if the window exists.
     bool IsWindow() const;
 
-    /// The id that the template gives the control; 0 for a dialog.
-    int GetDlgCtrlId() const;
-
     /// Text of an edit or label, caption of a button, a group box or a dialog. Writing a text that
     /// differs from the one held raises the change event of an edit; writing an equal one does not.
     void SetWindowText(const CString& text);
     CString GetWindowText() const;
 
     void EnableWindow(bool enable);
-    bool IsWindowEnabled() const;
     void ShowWindow(bool show);
     /// True if neither the control itself nor its dialog is hidden.
     bool IsWindowVisible() const;
@@ -49,16 +45,11 @@ public:
     void MoveWindow(const CRect& rect);
 
     void SetFocus();
-    bool HasFocus() const;
 
     void SetFont(const CFont& font);
 
-    /// Tooltip; may be small HTML. An empty text removes it.
-    void SetToolTip(const CString& html);
-
-    /// Asks for painting, at the next opportunity or now.
+    /// Asks for painting at the next opportunity.
     void Invalidate();
-    void UpdateWindow();
 
     /// Suspends painting during bulk changes; true resumes and paints everything.
     void SetRedraw(bool redraw);

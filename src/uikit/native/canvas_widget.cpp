@@ -3,11 +3,10 @@
 #include "uikit/dialog_template.h"
 
 #include <QEvent>
-#include <QMouseEvent>
 #include <QPainter>
 
 CCanvasWidget::CCanvasWidget(QWidget* parent, unsigned style)
-    : QFrame(parent), m_notify((style & styleNotify) != 0), m_pales((style & stylePales) != 0)
+    : QFrame(parent), m_pales((style & stylePales) != 0)
 {
     if ((style & styleSunken) != 0) {
         setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
@@ -57,12 +56,5 @@ void CCanvasWidget::changeEvent(QEvent* event)
     QFrame::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
         Erase();
-    }
-}
-
-void CCanvasWidget::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (m_notify && event->button() == Qt::LeftButton && rect().contains(event->pos())) {
-        emit Clicked();
     }
 }

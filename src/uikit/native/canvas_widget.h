@@ -17,17 +17,12 @@ public:
     QImage* Image();
     void Erase();
 
-signals:
-    void Clicked();
-
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    bool m_notify;
     bool m_pales;
     QImage m_image;
 };

@@ -1,6 +1,7 @@
 #include "uikit/native/caption_bar.h"
 
 #include "uikit/application.h"
+#include "uikit/native/dialog_window.h"
 
 #include <QContextMenuEvent>
 #include <QMouseEvent>
@@ -13,18 +14,12 @@ namespace {
 constexpr int kHeightAtTemplateSize = 25;
 constexpr int kTitleIndent = 10;
 
-enum Glyph
-{
-    glyphClose,
-    glyphMaximize,
-    glyphMinimize
-};
-
 /// A flat button of the caption bar, red under the mouse if it closes.
 class CCaptionButton : public QToolButton
 {
 public:
-    CCaptionButton(QWidget* parent, int glyph) : QToolButton(parent), m_glyph(glyph)
+    /// The command whose picture it shows.
+    CCaptionButton(QWidget* parent, unsigned command) : QToolButton(parent), m_command(command)
     {
         setFocusPolicy(Qt::NoFocus);
         setAttribute(Qt::WA_Hover);
@@ -34,7 +29,7 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
-        const bool closes = m_glyph == glyphClose;
+        const bool closes = m_command == systemClose;
         QColor ink = palette().color(QPalette::WindowText);
         if (underMouse()) {
             painter.fillRect(rect(), closes ? QColor(0xC4, 0x2B, 0x1C)
@@ -45,12 +40,12 @@ protected:
         const QPointF c = QRectF(rect()).center();
         painter.setRenderHint(QPainter::Antialiasing, closes);
         painter.setPen(QPen(ink, closes ? 1.3 : 1.0));
-        switch (m_glyph) {
-        case glyphClose:
+        switch (m_command) {
+        case systemClose:
             painter.drawLine(c - QPointF(kHalf, kHalf), c + QPointF(kHalf, kHalf));
             painter.drawLine(c + QPointF(-kHalf, kHalf), c + QPointF(kHalf, -kHalf));
             break;
-        case glyphMaximize:
+        case systemMaximize:
             painter.drawRect(QRectF(c.x() - kHalf, c.y() - kHalf, 2 * kHalf, 2 * kHalf).toRect());
             break;
         default:
@@ -59,31 +54,38 @@ protected:
     }
 
 private:
-    int m_glyph;
+    unsigned m_command;
 };
 
 } // namespace
 
-CCaptionBar::CCaptionBar(QWidget* window, Buttons buttons)
-    : QWidget(window), m_window(window), m_maximizable(buttons.maximize)
+CCaptionBar::CCaptionBar(CDialogWindow& window, unsigned frame)
+    : QWidget(&window), m_window(window), m_maximizable((frame & frameMaximizeBox) != 0)
 {
-    AddButton(&CCaptionBar::CloseRequested, "Chiudi", glyphClose);
-    if (buttons.maximize) {
-        AddButton(&CCaptionBar::MaximizeRequested, "Ingrandisci", glyphMaximize);
+    AddButton("Chiudi", systemClose);
+    if (m_maximizable) {
+        AddButton("Ingrandisci", systemMaximize);
     }
-    if (buttons.minimize) {
-        AddButton(&CCaptionBar::MinimizeRequested, "Riduci a icona", glyphMinimize);
+    if ((frame & frameMinimizeBox) != 0) {
+        AddButton("Riduci a icona", systemMinimize);
     }
+    connect(&window, &QWidget::windowTitleChanged, this, qOverload<>(&QWidget::update));
 }
 
-QToolButton* CCaptionBar::AddButton(void (CCaptionBar::*signal)(), const char* name, int glyph)
+void CCaptionBar::AddButton(const char* name, unsigned command)
 {
-    auto* button = new CCaptionButton(this, glyph);
+    auto* button = new CCaptionButton(this, command);
     button->setAccessibleName(name);
     button->setToolTip(name);
-    connect(button, &QToolButton::clicked, this, signal);
+    connect(button, &QToolButton::clicked, this, [this, command] {
+        command == systemMaximize ? ToggleMaximized() : m_window.DoSystemCommand(command);
+    });
     m_buttons.append(button);
-    return button;
+}
+
+void CCaptionBar::ToggleMaximized()
+{
+    m_window.DoSystemCommand(m_window.isMaximized() ? systemRestore : systemMaximize);
 }
 
 int CCaptionBar::Height()
@@ -94,12 +96,6 @@ int CCaptionBar::Height()
 int CCaptionBar::ButtonWidth()
 {
     return Height() * 5 / 4;
-}
-
-void CCaptionBar::SetTitle(const QString& title)
-{
-    m_title = title;
-    update();
 }
 
 void CCaptionBar::resizeEvent(QResizeEvent* event)
@@ -120,14 +116,15 @@ void CCaptionBar::paintEvent(QPaintEvent* /*event*/)
         painter.setPen(palette().color(QPalette::Mid));
         painter.drawLine(0, height() - 1, width(), height() - 1);
         painter.setPen(
-            palette().color(m_window->isActiveWindow() ? QPalette::Active : QPalette::Disabled,
+            palette().color(m_window.isActiveWindow() ? QPalette::Active : QPalette::Disabled,
                             QPalette::WindowText));
         const int buttons = ButtonWidth() * static_cast<int>(m_buttons.size() + 2);
         const QRect area = rect().adjusted(kTitleIndent, 0, -buttons, 0);
-        painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter,
-                         fontMetrics().elidedText(m_title, Qt::ElideRight, area.width()));
+        painter.drawText(
+            area, Qt::AlignLeft | Qt::AlignVCenter,
+            fontMetrics().elidedText(m_window.windowTitle(), Qt::ElideRight, area.width()));
     }
-    emit Painting();
+    m_window.PaintBesideTitle();
 }
 
 void CCaptionBar::mousePressEvent(QMouseEvent* event)
@@ -135,11 +132,11 @@ void CCaptionBar::mousePressEvent(QMouseEvent* event)
     if (event->button() != Qt::LeftButton) {
         return;
     }
-    emit Pressed(event->globalPosition().toPoint());
-    if (!isVisible() || m_window->isMaximized()) {
+    m_window.PressFrame(event->globalPosition().toPoint());
+    if (!isVisible() || m_window.isMaximized()) {
         return;
     }
-    m_dragOffset = event->globalPosition().toPoint() - m_window->pos();
+    m_dragOffset = event->globalPosition().toPoint() - m_window.pos();
     m_dragging = true;
 }
 
@@ -149,11 +146,11 @@ void CCaptionBar::mouseMoveEvent(QMouseEvent* event)
     if (!m_dragging) {
         return;
     }
-    if (m_window->windowHandle() != nullptr && m_window->windowHandle()->startSystemMove()) {
+    if (m_window.windowHandle() != nullptr && m_window.windowHandle()->startSystemMove()) {
         m_dragging = false;
         return;
     }
-    m_window->move(event->globalPosition().toPoint() - m_dragOffset);
+    m_window.move(event->globalPosition().toPoint() - m_dragOffset);
 }
 
 void CCaptionBar::mouseReleaseEvent(QMouseEvent* /*event*/)
@@ -164,11 +161,11 @@ void CCaptionBar::mouseReleaseEvent(QMouseEvent* /*event*/)
 void CCaptionBar::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && m_maximizable) {
-        emit MaximizeRequested();
+        ToggleMaximized();
     }
 }
 
 void CCaptionBar::contextMenuEvent(QContextMenuEvent* event)
 {
-    emit MenuRequested(event->globalPos());
+    m_window.ShowSystemMenu(event->globalPos());
 }

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class CDialogWindow;
 class QToolButton;
 
 /// The bar on top of a dialog: title, buttons, and whatever the dialog paints beside them. The
@@ -11,27 +12,12 @@ class CCaptionBar : public QWidget
     Q_OBJECT
 
 public:
-    /// Which buttons stand left of the one that closes.
-    struct Buttons
-    {
-        bool minimize = false;
-        bool maximize = false;
-    };
-    CCaptionBar(QWidget* window, Buttons buttons);
-
-    void SetTitle(const QString& title);
+    /// `frame` holds values of FrameStyle; they tell which buttons stand left of the one that
+    /// closes.
+    CCaptionBar(CDialogWindow& window, unsigned frame);
 
     static int Height();
     static int ButtonWidth();
-
-signals:
-    void CloseRequested();
-    void MinimizeRequested();
-    void MaximizeRequested();
-    void MenuRequested(const QPoint& screen);
-    /// The bar is being painted; drawing on it is allowed until the handlers return.
-    void Painting();
-    void Pressed(const QPoint& screen);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -43,12 +29,12 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
-    QToolButton* AddButton(void (CCaptionBar::*signal)(), const char* name, int glyph);
+    void AddButton(const char* name, unsigned command);
+    void ToggleMaximized();
 
-    QWidget* m_window;
+    CDialogWindow& m_window;
     bool m_maximizable;
     QList<QToolButton*> m_buttons;
-    QString m_title;
     bool m_dragging = false;
     QPoint m_dragOffset;
 };

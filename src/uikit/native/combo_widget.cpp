@@ -2,9 +2,7 @@
 
 #include "uikit/native/access.h"
 
-#include <QFocusEvent>
 #include <QLineEdit>
-#include <QSignalBlocker>
 #include <QStylePainter>
 
 namespace {
@@ -29,43 +27,11 @@ CComboWidget::CComboWidget(QWidget* parent, bool editable, bool sorted)
     }
 }
 
-int CComboWidget::AddText(const QString& text)
+void CComboWidget::SetImagesOf(int index, int image, int selectedImage)
 {
-    int place = count();
-    if (m_sorted) {
-        place = 0;
-        while (place < count() && itemText(place).compare(text, Qt::CaseInsensitive) <= 0) {
-            ++place;
-        }
-    }
-    return Insert(place, text);
-}
-
-int CComboWidget::AddItem(const QString& text, int image, int selectedImage)
-{
-    const int place = Insert(count(), text);
-    setItemData(place, image, kImageRole);
-    setItemData(place, selectedImage, kSelectedImageRole);
-    ShowImages(place);
-    return place;
-}
-
-/// The toolkit chooses the first item that is added by itself; a list here shows nothing until an
-/// item is chosen, and an edit keeps its text.
-int CComboWidget::Insert(int index, const QString& text)
-{
-    const QSignalBlocker quiet(this);
-    const bool nothingChosen = currentIndex() < 0;
-    const QString edited = isEditable() ? lineEdit()->text() : QString();
-    insertItem(index, text);
-    if (nothingChosen) {
-        setCurrentIndex(-1);
-        if (isEditable()) {
-            lineEdit()->setText(edited);
-        }
-    }
-    update();
-    return index;
+    setItemData(index, image, kImageRole);
+    setItemData(index, selectedImage, kSelectedImageRole);
+    ShowImages(index);
 }
 
 void CComboWidget::SetImages(const CImageList& images)
@@ -85,29 +51,6 @@ void CComboWidget::ShowImages(int index)
     setItemIcon(index, QIcon(QPixmap::fromImage(ToNative(bitmap))));
 }
 
-bool CComboWidget::DeleteItem(int index)
-{
-    if (index < 0 || index >= count()) {
-        return false;
-    }
-    const QSignalBlocker quiet(this);
-    const bool chosen = index == currentIndex();
-    const QString edited = isEditable() ? lineEdit()->text() : QString();
-    if (chosen) {
-        setCurrentIndex(-1);
-    }
-    const bool nothingChosen = currentIndex() < 0;
-    removeItem(index);
-    if (nothingChosen) {
-        setCurrentIndex(-1);
-    }
-    if (isEditable() && nothingChosen) {
-        lineEdit()->setText(edited);
-    }
-    update();
-    return true;
-}
-
 void CComboWidget::paintEvent(QPaintEvent* event)
 {
     if (isEditable() || currentIndex() < 0 || m_images.GetImageCount() == 0) {
@@ -121,14 +64,4 @@ void CComboWidget::paintEvent(QPaintEvent* event)
     option.currentIcon = QIcon(QPixmap::fromImage(ToNative(bitmap)));
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
-}
-
-void CComboWidget::focusOutEvent(QFocusEvent* event)
-{
-    QComboBox::focusOutEvent(event);
-    const bool goesToAnotherControl =
-        event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
-    if (goesToAnotherControl) {
-        emit FocusLost();
-    }
 }

@@ -12,20 +12,14 @@ class CComboWidget : public QComboBox
 public:
     CComboWidget(QWidget* parent, bool editable, bool sorted);
 
-    int AddText(const QString& text);
-    int AddItem(const QString& text, int image, int selectedImage);
+    bool IsSorted() const { return m_sorted; }
     void SetImages(const CImageList& images);
-    bool DeleteItem(int index);
-
-signals:
-    void FocusLost();
+    void SetImagesOf(int index, int image, int selectedImage);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    int Insert(int index, const QString& text);
     void ShowImages(int index);
 
     bool m_sorted;

@@ -3,19 +3,21 @@
 #include "uikit/native/access.h"
 #include "uikit/native/canvas_widget.h"
 #include "uikit/native/combo_widget.h"
-#include "uikit/native/size_grip.h"
 #include "uikit/native/small_widgets.h"
 #include "uikit/native/tree_widget.h"
 
 #include <QCheckBox>
+#include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSizeGrip>
 
 namespace {
 
 QWidget* MakeLabel(const ControlTemplate& control, QWidget& parent)
 {
-    auto* label = new CLabelWidget(&parent, (control.style & styleNotify) != 0);
+    auto* label = new CLabelWidget(&parent);
     label->setText(ToNative(control.caption));
     if (control.kind == ControlKind::sunkenLabel) {
         label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
@@ -66,7 +68,7 @@ QWidget* MakeCheckButton(const ControlTemplate& control, QWidget& parent)
 
 QWidget* MakeEdit(const ControlTemplate& control, QWidget& parent)
 {
-    auto* edit = new CEditWidget(&parent);
+    auto* edit = new QLineEdit(&parent);
     edit->setReadOnly((control.style & styleReadOnly) != 0);
     if (edit->isReadOnly()) {
         QPalette colors = edit->palette();
@@ -78,6 +80,32 @@ QWidget* MakeEdit(const ControlTemplate& control, QWidget& parent)
     }
     return edit;
 }
+
+/// The toolkit's grip, which is drawn as dots.
+class CSizeGrip : public QSizeGrip
+{
+public:
+    explicit CSizeGrip(QWidget& parent) : QSizeGrip(&parent)
+    {
+        // Never in front of a control that reaches into its corner.
+        lower();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        constexpr int kDot = 2;
+        constexpr int kStep = 4;
+        QPainter painter(this);
+        const QColor ink = palette().color(QPalette::Mid);
+        for (int row = 0; row < 3; ++row) {
+            for (int dot = 0; dot <= row; ++dot) {
+                painter.fillRect(width() - kStep * (dot + 1), height() - kStep * (3 - row), kDot,
+                                 kDot, ink);
+            }
+        }
+    }
+};
 
 QWidget* MakeWidget(const ControlTemplate& control, QWidget& parent)
 {
@@ -108,7 +136,7 @@ QWidget* MakeWidget(const ControlTemplate& control, QWidget& parent)
     case ControlKind::canvas:
         return new CCanvasWidget(&parent, control.style);
     case ControlKind::sizeGrip:
-        return new CSizeGrip(&parent);
+        return new CSizeGrip(parent);
     case ControlKind::placeholder:
         break;
     }

@@ -8,7 +8,6 @@
 #include "uikit/native/combo_widget.h"
 #include "uikit/native/control_factory.h"
 #include "uikit/native/dialog_font.h"
-#include "uikit/native/size_grip.h"
 #include "uikit/native/small_widgets.h"
 #include "uikit/native/surface.h"
 #include "uikit/native/tree_widget.h"
@@ -17,6 +16,7 @@
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -30,18 +30,23 @@ namespace {
 /// Width of the strip at which a window is sized.
 constexpr int kSizingBorder = 5;
 
-/// The system's own entries of the system menu.
-enum SystemCommand : unsigned
-{
-    systemRestore = 0xF120,
-    systemMinimize = 0xF020,
-    systemMaximize = 0xF030,
-    systemClose = 0xF060,
-};
-
 bool IsSystemMenuKey(const QKeyEvent& event)
 {
     return event.modifiers() == Qt::AltModifier && event.key() == Qt::Key_Space;
+}
+
+/// True for an edit or combo box whose focus goes to another control.
+bool LosesFocus(const QWidget& control, Qt::FocusReason reason)
+{
+    return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason &&
+           (qobject_cast<const QLineEdit*>(&control) != nullptr ||
+            qobject_cast<const QComboBox*>(&control) != nullptr);
+}
+
+bool IsClick(const QWidget& control, const QMouseEvent& release)
+{
+    return control.isEnabled() && release.button() == Qt::LeftButton &&
+           control.rect().contains(release.pos());
 }
 
 } // namespace
@@ -84,34 +89,28 @@ CDialogWindow::CDialogWindow(CDialog& dialog, QWidget* owner)
 {
     setWindowModality(Qt::ApplicationModal);
     setFont(GetDialogFont());
-    const unsigned frame = dialog.GetTemplate().frame;
-    m_caption =
-        new CCaptionBar(this, {(frame & frameMinimizeBox) != 0, (frame & frameMaximizeBox) != 0});
+    m_caption = new CCaptionBar(*this, dialog.GetTemplate().frame);
     m_client = new CClientArea(*this);
     setMouseTracking(dialog.IsResizable());
     // The pointer of the sizing border would stay while the mouse is inside.
     m_caption->setCursor(Qt::ArrowCursor);
     m_client->setCursor(Qt::ArrowCursor);
-
-    connect(this, &QWidget::windowTitleChanged, m_caption, &CCaptionBar::SetTitle);
-    connect(m_caption, &CCaptionBar::CloseRequested, this,
-            [this] { Tell(kIdCancel, ControlEvent::clicked); });
-    connect(m_caption, &CCaptionBar::MinimizeRequested, this, [this] { showMinimized(); });
-    connect(m_caption, &CCaptionBar::MaximizeRequested, this,
-            [this] { isMaximized() ? showNormal() : showMaximized(); });
-    connect(m_caption, &CCaptionBar::MenuRequested, this, &CDialogWindow::ShowSystemMenu);
-    connect(m_caption, &CCaptionBar::Painting, this, [this] {
-        m_dialog.Guard([this] {
-            CPaintDC dc(m_caption);
-            m_dialog.OnNcPaint(dc);
-        });
-    });
-    connect(m_caption, &CCaptionBar::Pressed, this, [this](const QPoint& screen) {
-        m_dialog.Guard([&] { m_dialog.OnNcLButtonDown({screen.x(), screen.y()}); });
-    });
 }
 
 CDialogWindow::~CDialogWindow() = default;
+
+void CDialogWindow::PaintBesideTitle()
+{
+    m_dialog.Guard([this] {
+        CPaintDC dc(m_caption);
+        m_dialog.OnNcPaint(dc);
+    });
+}
+
+void CDialogWindow::PressFrame(const QPoint& screen)
+{
+    m_dialog.Guard([&] { m_dialog.OnNcLButtonDown({screen.x(), screen.y()}); });
+}
 
 int CDialogWindow::Border() const
 {
@@ -142,6 +141,9 @@ QWidget* CDialogWindow::Add(const ControlTemplate& control, const QRect& pixels)
     if (control.id != kNoId) {
         m_controls[control.id] = widget;
     }
+    if ((control.style & styleNotify) != 0) {
+        m_notifying.insert(widget);
+    }
     if (auto* radio = qobject_cast<QRadioButton*>(widget)) {
         if ((control.style & styleGroup) != 0 || m_lastGroup == nullptr) {
             m_lastGroup = new QButtonGroup(this);
@@ -160,20 +162,14 @@ void CDialogWindow::Connect(QWidget& widget, const ControlTemplate& control)
     };
     if (auto* button = qobject_cast<QAbstractButton*>(&widget)) {
         connect(button, &QAbstractButton::clicked, this, tells(ControlEvent::clicked));
-    } else if (auto* edit = qobject_cast<CEditWidget*>(&widget)) {
+    } else if (auto* edit = qobject_cast<QLineEdit*>(&widget)) {
         connect(edit, &QLineEdit::textChanged, this, tells(ControlEvent::textChanged));
-        connect(edit, &CEditWidget::FocusLost, this, tells(ControlEvent::focusLost));
     } else if (auto* combo = qobject_cast<CComboWidget*>(&widget)) {
         connect(combo, &QComboBox::activated, this, tells(ControlEvent::selectionEnded));
-        connect(combo, &CComboWidget::FocusLost, this, tells(ControlEvent::focusLost));
         if (combo->isEditable()) {
             connect(combo->lineEdit(), &QLineEdit::textEdited, this,
                     tells(ControlEvent::editChanged));
         }
-    } else if (auto* label = qobject_cast<CLabelWidget*>(&widget)) {
-        connect(label, &CLabelWidget::Clicked, this, tells(ControlEvent::clicked));
-    } else if (auto* canvas = qobject_cast<CCanvasWidget*>(&widget)) {
-        connect(canvas, &CCanvasWidget::Clicked, this, tells(ControlEvent::clicked));
     } else if (auto* spin = qobject_cast<CSpinWidget*>(&widget)) {
         connect(spin, &CSpinWidget::Stepped, this, [this, id](int delta) {
             CNotify notify{id, ControlEvent::step, delta};
@@ -191,12 +187,6 @@ void CDialogWindow::Connect(QWidget& widget, const ControlTemplate& control)
             m_dialog.Raise(notify);
             return notify.result == 0;
         });
-    } else if (auto* grip = qobject_cast<CSizeGrip*>(&widget)) {
-        connect(grip, &CSizeGrip::Grabbed, this, [this](const QPoint& screen) {
-            StartSizing(Qt::RightEdge | Qt::BottomEdge, screen);
-        });
-        connect(grip, &CSizeGrip::Dragged, this, &CDialogWindow::SizeTo);
-        connect(grip, &CSizeGrip::Released, this, [this] { m_sizing = {}; });
     }
 }
 
@@ -436,14 +426,32 @@ void CDialogWindow::PressDefault()
     }
 }
 
-/// Controls would take the key of the system menu for a blank or a press.
-bool CDialogWindow::eventFilter(QObject* control, QEvent* event)
+/// Sees what happens to controls before they do. They would take the key of the system menu for a
+/// blank or a press.
+bool CDialogWindow::eventFilter(QObject* object, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress && IsSystemMenuKey(*static_cast<QKeyEvent*>(event))) {
-        keyPressEvent(static_cast<QKeyEvent*>(event));
-        return true;
+    const auto& control = static_cast<const QWidget&>(*object);
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        if (IsSystemMenuKey(*static_cast<QKeyEvent*>(event))) {
+            keyPressEvent(static_cast<QKeyEvent*>(event));
+            return true;
+        }
+        break;
+    case QEvent::FocusOut:
+        if (LosesFocus(control, static_cast<QFocusEvent*>(event)->reason())) {
+            Tell(GetControlId(control), ControlEvent::focusLost);
+        }
+        break;
+    case QEvent::MouseButtonRelease:
+        if (m_notifying.contains(&control) && IsClick(control, *static_cast<QMouseEvent*>(event))) {
+            Tell(GetControlId(control), ControlEvent::clicked);
+        }
+        break;
+    default:
+        break;
     }
-    return QWidget::eventFilter(control, event);
+    return QWidget::eventFilter(object, event);
 }
 
 void CDialogWindow::keyPressEvent(QKeyEvent* event)
@@ -482,55 +490,17 @@ Qt::Edges CDialogWindow::EdgesAt(const QPoint& place) const
     return edges;
 }
 
-void CDialogWindow::StartSizing(Qt::Edges edges, const QPoint& screen)
-{
-    ApplyMinMax(size());
-    if (windowHandle() != nullptr && windowHandle()->startSystemResize(edges)) {
-        return;
-    }
-    m_sizing = edges;
-    m_sizingStart = geometry();
-    m_sizingFrom = screen;
-}
-
-/// Stands in where no window manager sizes windows.
-void CDialogWindow::SizeTo(const QPoint& screen)
-{
-    if (!m_sizing) {
-        return;
-    }
-    const QPoint by = screen - m_sizingFrom;
-    QRect wanted = m_sizingStart;
-    if (m_sizing & Qt::LeftEdge) {
-        wanted.setLeft(qMin(wanted.left() + by.x(), wanted.right() + 1 - minimumWidth()));
-    }
-    if (m_sizing & Qt::TopEdge) {
-        wanted.setTop(qMin(wanted.top() + by.y(), wanted.bottom() + 1 - minimumHeight()));
-    }
-    if (m_sizing & Qt::RightEdge) {
-        wanted.setRight(wanted.right() + by.x());
-    }
-    if (m_sizing & Qt::BottomEdge) {
-        wanted.setBottom(wanted.bottom() + by.y());
-    }
-    setGeometry(
-        QRect(wanted.topLeft(), wanted.size().expandedTo(minimumSize()).boundedTo(maximumSize())));
-}
-
 void CDialogWindow::mousePressEvent(QMouseEvent* event)
 {
     const Qt::Edges edges = EdgesAt(event->pos());
     if (event->button() == Qt::LeftButton && edges) {
-        StartSizing(edges, event->globalPosition().toPoint());
+        ApplyMinMax(size());
+        windowHandle()->startSystemResize(edges);
     }
 }
 
 void CDialogWindow::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_sizing) {
-        SizeTo(event->globalPosition().toPoint());
-        return;
-    }
     const Qt::Edges edges = EdgesAt(event->pos());
     const bool falling =
         edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
@@ -541,11 +511,6 @@ void CDialogWindow::mouseMoveEvent(QMouseEvent* event)
               : down    ? Qt::SizeVerCursor
               : falling ? Qt::SizeFDiagCursor
                         : Qt::SizeBDiagCursor);
-}
-
-void CDialogWindow::mouseReleaseEvent(QMouseEvent* /*event*/)
-{
-    m_sizing = {};
 }
 
 void CDialogWindow::leaveEvent(QEvent* event)

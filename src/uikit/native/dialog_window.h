@@ -8,10 +8,20 @@
 
 #include <functional>
 #include <map>
+#include <set>
 #include <vector>
 
 class CCaptionBar;
 class QButtonGroup;
+
+/// The system's own entries of the system menu.
+enum SystemCommand : unsigned
+{
+    systemRestore = 0xF120,
+    systemMinimize = 0xF020,
+    systemMaximize = 0xF030,
+    systemClose = 0xF060,
+};
 
 /// The toolkit's side of a dialog: frame, caption bar and client area, and the way of their events
 /// into the dialog's handlers.
@@ -44,15 +54,15 @@ public:
     /// Sizes the window so that its client area has that size.
     void SetClientSize(const QSize& size);
     void NextControl();
+    /// The caption bar is being painted; drawing on it is allowed until this returns.
+    void PaintBesideTitle();
+    void PressFrame(const QPoint& screen);
     /// Carries out the system's own entries of the system menu.
     void DoSystemCommand(unsigned id);
 
     /// Ends the event loop of DoModal().
     void Leave();
     void RunLoop();
-
-    /// Begins sizing by the user at these edges.
-    void StartSizing(Qt::Edges edges, const QPoint& screen);
 
 protected:
     bool eventFilter(QObject* control, QEvent* event) override;
@@ -63,7 +73,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
@@ -77,19 +86,17 @@ private:
     void PressDefault();
     void LayOut();
     Qt::Edges EdgesAt(const QPoint& place) const;
-    void SizeTo(const QPoint& screen);
     int Border() const;
 
     CDialog& m_dialog;
     CCaptionBar* m_caption;
     QWidget* m_client;
     std::map<int, QPointer<QWidget>> m_controls;
+    /// Controls that tell of clicks because of their style.
+    std::set<const QWidget*> m_notifying;
     QButtonGroup* m_lastGroup = nullptr;
     std::map<int, QTimer*> m_timers;
     class QEventLoop* m_loop = nullptr;
-    Qt::Edges m_sizing;
-    QRect m_sizingStart;
-    QPoint m_sizingFrom;
 };
 
 /// The window of an open dialog; null if it has none.

@@ -1,11 +1,9 @@
 #include "uikit/native/small_widgets.h"
 
-#include <QFocusEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QProxyStyle>
+#include <QStyle>
 #include <QToolButton>
 #include <QToolTip>
 
@@ -13,58 +11,6 @@ namespace {
 
 constexpr int kTitleIndent = 8;
 constexpr int kTitleGap = 3;
-
-/// Puts a colour behind the characters of an edit, on top of that of the field.
-class CTextBackgroundStyle : public QProxyStyle
-{
-public:
-    explicit CTextBackgroundStyle(QColor color) : m_color(color) {}
-
-    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                       const QWidget* widget) const override
-    {
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
-        const auto* edit = qobject_cast<const QLineEdit*>(widget);
-        if (element == PE_PanelLineEdit && edit != nullptr && !edit->text().isEmpty()) {
-            painter->fillRect(TextRect(*edit), m_color);
-        }
-    }
-
-private:
-    static QRect TextRect(const QLineEdit& edit)
-    {
-        constexpr int kMargin = 3;
-        const QRect inside = edit.rect().adjusted(kMargin, 0, -kMargin, 0);
-        const QFontMetrics metrics = edit.fontMetrics();
-        const int width = qMin(metrics.horizontalAdvance(edit.text()), inside.width());
-        const int left =
-            (edit.alignment() & Qt::AlignRight) != 0 ? inside.right() + 1 - width : inside.left();
-        return {left, inside.center().y() - metrics.height() / 2, width, metrics.height()};
-    }
-
-    QColor m_color;
-};
-
-} // namespace
-
-CLabelWidget::CLabelWidget(QWidget* parent, bool notify) : QLabel(parent), m_notify(notify)
-{
-    setTextFormat(Qt::PlainText);
-    setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-}
-
-bool CLabelWidget::IsCut() const
-{
-    return m_columns.empty() && fontMetrics().horizontalAdvance(text()) > contentsRect().width();
-}
-
-void CLabelWidget::SetColumns(const std::vector<int>& ends)
-{
-    m_columns = ends;
-    update();
-}
-
-namespace {
 
 constexpr int kWordGap = 5;
 constexpr int kCondensed = 80;
@@ -86,6 +32,23 @@ QList<QRect> PlaceWords(const QStringList& words, const std::vector<int>& ends,
 }
 
 } // namespace
+
+CLabelWidget::CLabelWidget(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+bool CLabelWidget::IsCut() const
+{
+    return m_columns.empty() && fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+}
+
+void CLabelWidget::SetColumns(const std::vector<int>& ends)
+{
+    m_columns = ends;
+    update();
+}
 
 void CLabelWidget::PaintColumns()
 {
@@ -122,13 +85,6 @@ void CLabelWidget::paintEvent(QPaintEvent* event)
                           isEnabled(), shortened, foregroundRole());
 }
 
-void CLabelWidget::mouseReleaseEvent(QMouseEvent* event)
-{
-    if (m_notify && event->button() == Qt::LeftButton && rect().contains(event->pos())) {
-        emit Clicked();
-    }
-}
-
 bool CLabelWidget::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && IsCut()) {
@@ -160,28 +116,6 @@ void CGroupWidget::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(
         palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
     painter.drawText(area, Qt::AlignCenter, title());
-}
-
-CEditWidget::CEditWidget(QWidget* parent) : QLineEdit(parent) {}
-
-void CEditWidget::SetTextBackground(const QColor& color)
-{
-    if (!color.isValid()) {
-        return;
-    }
-    auto* style = new CTextBackgroundStyle(color);
-    style->setParent(this);
-    setStyle(style);
-}
-
-void CEditWidget::focusOutEvent(QFocusEvent* event)
-{
-    QLineEdit::focusOutEvent(event);
-    const bool goesToAnotherControl =
-        event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason;
-    if (goesToAnotherControl) {
-        emit FocusLost();
-    }
 }
 
 CSpinWidget::CSpinWidget(QWidget* parent)
@@ -220,18 +154,6 @@ void CSpinWidget::keyPressEvent(QKeyEvent* event)
     default:
         QWidget::keyPressEvent(event);
     }
-}
-
-void CSpinWidget::focusInEvent(QFocusEvent* event)
-{
-    QWidget::focusInEvent(event);
-    update();
-}
-
-void CSpinWidget::focusOutEvent(QFocusEvent* event)
-{
-    QWidget::focusOutEvent(event);
-    update();
 }
 
 void CSpinWidget::paintEvent(QPaintEvent* /*event*/)

@@ -2,7 +2,6 @@
 
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QWidget>
 
 #include <vector>
@@ -13,24 +12,19 @@ class CLabelWidget : public QLabel
     Q_OBJECT
 
 public:
-    CLabelWidget(QWidget* parent, bool notify);
+    explicit CLabelWidget(QWidget* parent);
 
     /// Makes the words of the text end at these places, in pixels.
     void SetColumns(const std::vector<int>& ends);
 
-signals:
-    void Clicked();
-
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
     bool IsCut() const;
     void PaintColumns();
 
-    bool m_notify;
     std::vector<int> m_columns;
 };
 
@@ -44,24 +38,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-};
-
-/// An edit that selects all when the keyboard comes to it and tells when it leaves.
-class CEditWidget : public QLineEdit
-{
-    Q_OBJECT
-
-public:
-    explicit CEditWidget(QWidget* parent);
-
-    /// Colour behind the characters, apart from that of the field; an invalid one for none.
-    void SetTextBackground(const QColor& color);
-
-signals:
-    void FocusLost();
-
-protected:
-    void focusOutEvent(QFocusEvent* event) override;
 };
 
 /// Two arrows, one above the other, that repeat while they are held.
@@ -79,8 +55,6 @@ signals:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

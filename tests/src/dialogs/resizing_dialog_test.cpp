@@ -3,7 +3,8 @@
 #include "dialogs/platzierung.h"
 #include "tests/dialog_support/dialog_test.h"
 #include "uikit/native/access.h"
-#include "uikit/native/size_grip.h"
+
+#include <QSizeGrip>
 
 #include <gtest/gtest.h>
 
@@ -143,7 +144,7 @@ TEST_F(ResizingDialog, SizesStayWithinTheirLimits)
             EXPECT_EQ(dialog.Size(), least);
             dialog.Grow(50, 40);
             EXPECT_EQ(dialog.Size(), (CSize{least.cx + (x ? 50 : 0), least.cy + (y ? 40 : 0)}));
-            EXPECT_EQ(dialog.Native().findChild<CSizeGrip*>()->isVisible(), x || y);
+            EXPECT_EQ(dialog.Native().findChild<QSizeGrip*>()->isVisible(), x || y);
         });
     }
 }
@@ -153,7 +154,7 @@ TEST_F(ResizingDialog, TheGripStaysInItsCornerBehindTheControls)
     CProbeDialog dialog;
     for (int opening = 0; opening < 2; ++opening) {
         Run(dialog, [&] {
-            const auto* grip = dialog.Native().findChild<CSizeGrip*>();
+            const auto* grip = dialog.Native().findChild<QSizeGrip*>();
             const QWidget& client = *grip->parentWidget();
             EXPECT_NE(client.childAt(client.rect().bottomRight()), grip);
             dialog.Grow(30, 20);
@@ -193,7 +194,7 @@ TEST_F(ResizingDialog, PlacesWithoutBackgroundAreNotErased)
     });
     Run(dialog, [&] {
         dialog.Grow(40, 40);
-        QWidget& client = *dialog.Native().findChild<CSizeGrip*>()->parentWidget();
+        QWidget& client = *dialog.Native().findChild<QSizeGrip*>()->parentWidget();
         for (const int id : {10, 11, 12}) {
             dialog.GetDlgItem(id).ShowWindow(false);
         }

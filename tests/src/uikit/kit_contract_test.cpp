@@ -383,7 +383,6 @@ TEST_F(KitContract, TheGripSizesUntilItIsReleased)
         EXPECT_EQ(dragged(grip, {-900, -900}, Qt::LeftButton), least);
         QTest::mouseRelease(&grip, Qt::LeftButton);
         EXPECT_EQ(dragged(grip, {30, 20}, Qt::NoButton), least);
-        EXPECT_EQ(dragged(Window(), {500, 500}, Qt::NoButton), least);
         m_dialog.MoveWindow({10, 20, 110, 120});
         EXPECT_EQ(m_dialog.GetWindowRect(), (CRect{10, 20, 310, 220}));
     });

@@ -108,7 +108,6 @@ TEST_F(KitDrawing, ControlsThatAreHeldBackPaintOnceAtTheEnd)
         CPaintCounter paintings(user.Widget(idText));
         Item(idText).SetRedraw(false);
         Item(idText).SetWindowText(L"neu");
-        Item(idText).UpdateWindow();
         QCoreApplication::processEvents();
         EXPECT_EQ(paintings.nPaints, 0);
         Item(idText).SetRedraw(true);
