@@ -46,11 +46,11 @@ enum ControlStyle : unsigned
     styleGroup = 128,
     /// A control that has the keyboard's focus only by mouse.
     styleNoTabStop = 256,
-    /// A canvas whose picture pales while it is disabled; any other shows it as it was drawn.
+    /// A canvas that shows its picture pale while it is disabled. Others show it unchanged.
     stylePales = 512,
 };
 
-/// Ids of controls that nobody addresses.
+/// Id of every control that is only there to be seen, such as a caption.
 inline constexpr int kNoId = -1;
 
 /// One control: id, kind, caption and rectangle in dialog units, which are a quarter of the dialog

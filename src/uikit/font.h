@@ -12,6 +12,6 @@ struct CFont
     /// 100 thin to 900 black; 400 is normal, 700 bold.
     int weight = 400;
     bool italic = false;
-    /// Asks for columns: every character of one width.
+    /// Gives all characters one width, so that texts of several rows line up in columns.
     bool fixedPitch = false;
 };

@@ -61,7 +61,7 @@ public:
         }
     }
 
-    /// The bars keep still from now on.
+    /// From now on the bars ask nobody what the user may do with them.
     void Detach() { m_decide = nullptr; }
 
     void SetBar(ScrollAxis axis, int size, int page)

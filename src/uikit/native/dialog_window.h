@@ -46,7 +46,8 @@ public:
     void StopTimer(int id);
 
     void ApplyColors();
-    /// Applies the sizes that the dialog allows; a fixed one gets exactly `size`.
+    /// Applies the least and largest size that the dialog allows; one that cannot be resized gets
+    /// exactly `size`.
     void ApplyMinMax(const QSize& size);
     void FocusFirst();
     void ShowSystemMenu(const QPoint& screen);

@@ -13,7 +13,8 @@
 class CGridModel : public QAbstractTableModel
 {
 public:
-    /// While suspended, views go on with the number of rows that they know.
+    /// While suspended, views are told of no change and go on with the number of rows that they
+    /// know. The end of it tells them all at once.
     void Suspend(bool suspend);
     bool IsSuspended() const { return m_suspended; }
 
