@@ -55,7 +55,18 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/ DESTINATION share/radsel COMPONENT
     PATTERN .gitattributes EXCLUDE)
 install(DIRECTORY ${PROJECT_BINARY_DIR}/help DESTINATION share/radsel COMPONENT runtime
     FILES_MATCHING PATTERN *.pdf)
-install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION share/doc/radsel COMPONENT runtime)
+install(FILES ${PROJECT_SOURCE_DIR}/README.md ${PROJECT_SOURCE_DIR}/CHANGELOG.md
+    DESTINATION share/doc/radsel COMPONENT runtime)
+foreach(part runtime development)
+    set(package radsel)
+    if(part STREQUAL development)
+        set(package radsel-dev)
+    endif()
+    install(FILES ${PROJECT_SOURCE_DIR}/LICENSE.md DESTINATION share/doc/${package}
+        RENAME copyright COMPONENT ${part})
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/LICENSES DESTINATION share/doc/${package}
+        COMPONENT ${part})
+endforeach()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION share/doc/radsel COMPONENT runtime
     FILES_MATCHING PATTERN *.md PATTERN help EXCLUDE)
 install(FILES ${PROJECT_SOURCE_DIR}/examples/bind_radsel.cpp
