@@ -106,7 +106,11 @@ COLORREF ColorOf(const std::vector<CDxfLayer>& layers, const CDxfEntity& entity)
 QPainterPath& PathOf(std::vector<CColorPath>& paths, COLORREF color)
 {
     const auto found = std::ranges::find(paths, color, &CColorPath::color);
-    return found != paths.end() ? found->path : paths.emplace_back(color).path;
+    if (found != paths.end()) {
+        return found->path;
+    }
+    paths.push_back({color, {}});
+    return paths.back().path;
 }
 
 } // namespace
