@@ -3,7 +3,6 @@
 #include "common/units.h"
 #include "connection/bild_geometrie.h"
 #include "connection/presets.h"
-#include "host/host_fittings.h"
 #include "platform/format.h"
 
 #include <cmath>
@@ -25,36 +24,6 @@ constexpr std::size_t kKuerzesterPunkt = 11;
 
 /// Most characters of a point text that an exchange carries over.
 constexpr std::size_t kLaengsterTausch = 511;
-
-/// The fields of one point in a record.
-struct PunktFelder
-{
-    CString& text;
-    ConnVector& position;
-    ConnVector& offset;
-    ConnVector& winkel;
-    double& seitAbstand;
-};
-
-PunktFelder FelderVon(ConnValues& werte, Punkt punkt)
-{
-    if (punkt == Punkt::ruecklauf) {
-        return {werte.AnschlussRI, werte.PosRI, werte.OffsetRI, werte.WinkelRI,
-                werte.SeitAbstandRI};
-    }
-    return {werte.AnschlussAN, werte.PosAN, werte.OffsetAN, werte.WinkelAN, werte.SeitAbstandAN};
-}
-
-/// Reads a point's numbers from its text. The two distance targets are handed in crossed on this
-/// road, and are meant to be: presets get their side distances back afterwards, and a record that
-/// was handed in without numbers keeps them so.
-bool LesePunktText(ConnValues& werte, Punkt punkt)
-{
-    const PunktFelder felder = FelderVon(werte, punkt);
-    return lmGet_K_APUNKT_X(felder.text, felder.position.data(), felder.offset.data(),
-                            felder.winkel.data(), werte.KreuzAbstand, felder.seitAbstand,
-                            werte.KreuzTyp, werte.WandAbstand) != 0;
-}
 
 void SetzeVorgaben(CAnschlussZustand& zustand, CAnschlussAnsicht& ansicht)
 {
@@ -80,12 +49,13 @@ bool ErgaenzePunkte(ConnValues& werte)
     if (werte.PosRI != werte.PosAN) {
         return true;
     }
-    return LesePunktText(werte, Punkt::vorlauf) && LesePunktText(werte, Punkt::ruecklauf);
+    return LesePunktTextGekreuzt(werte, Punkt::vorlauf) &&
+           LesePunktTextGekreuzt(werte, Punkt::ruecklauf);
 }
 
 void WaehleEintrag(int index, CAnschlussAnsicht& ansicht)
 {
-    ansicht.WaehleName(index);
+    ansicht.Typen().Waehlen(index);
     ansicht.WaehleAnschlussTyp();
 }
 
@@ -98,9 +68,10 @@ void UebernehmeEingang(CAnschlussZustand& zustand, CAnschlussAnsicht& ansicht)
         return;
     }
     ansicht.ZeichneVorschau();
-    const int index = ansicht.AnzahlNamen();
-    ansicht.FuegeNameHinzu(L"_" + FormatInt(index) + L"_");
-    ansicht.WaehleName(index);
+    CAuswahlListe& typen = ansicht.Typen();
+    const int index = typen.Anzahl();
+    typen.Hinzufuegen(L"_" + FormatInt(index) + L"_");
+    typen.Waehlen(index);
 }
 
 } // namespace
@@ -133,8 +104,8 @@ void SetzePreset(int row, CAnschlussZustand& zustand, CAnschlussAnsicht& ansicht
         ansicht.ZeigePunkt(zustand.m_Punkt);
     }
     ConnValues& werte = zustand.m_Aktuell;
-    FelderVon(werte, zustand.m_Punkt).text = AnschlussPreset(row);
-    if (!LesePunktText(werte, zustand.m_Punkt)) {
+    werte.*FelderVon(zustand.m_Punkt).text = AnschlussPreset(row);
+    if (!LesePunktTextGekreuzt(werte, zustand.m_Punkt)) {
         return;
     }
     werte.SeitAbstandAN = zustand.m_Eingang.SeitAbstandAN;

@@ -1,40 +1,48 @@
 #pragma once
 
-#include "frame/conn_values.h"
+#include "common/auswahl_liste.h"
+#include "connection/anschluss_punkt.h"
 #include "platform/array.h"
 #include "platform/text.h"
+
+#include <array>
 
 /// The short list in memory. Any index outside it raises CInvalidArgException.
 using Anschlussliste = CArray<ConnValues>;
 
-/// The two points of a radiator; none before the user has chosen one.
-enum class Punkt
-{
-    keiner = -1,
-    vorlauf = 0,
-    ruecklauf = 1
-};
-
 /// What the editing of a connection works on.
 struct CAnschlussZustand
 {
+    Anschlussliste m_Anschlussliste;
     /// Working record: what goes back to the caller.
     ConnValues m_Aktuell;
     /// The record as handed in; FindeAnschlussTyp completes it in place.
     ConnValues m_Eingang;
-    Anschlussliste m_Anschlussliste;
-    /// The point that the point fields show.
-    Punkt m_Punkt = Punkt::keiner;
-    /// Texts of the side distance fields and of the name field.
-    CString m_TextSeitAN;
-    CString m_TextSeitRI;
-    CString m_TextName;
     /// The name typed is to become a new entry of the short list.
     bool m_bNeu = false;
+
+    /// What the fields show. Distances are texts in the user's unit and may be anything that he
+    /// typed.
+    CString m_TextSeitAN;
+    CString m_TextSeitRI;
+    /// Cross-over kind 0 to 2, -1 with none chosen.
+    int m_Kreuz = -1;
+    CString m_TextKreuz;
+    /// A distance from the wall is in use.
+    bool m_bVonWand = false;
+    CString m_TextWand;
+    CString m_TextName;
+    /// Flow and return stand exchanged.
+    bool m_bInverti = false;
+    /// The point that the point fields show, and its numbers there: relative position, offset in
+    /// metres and two angles in degrees.
+    Punkt m_Punkt = Punkt::keiner;
+    ConnVector m_Rel{};
+    ConnVector m_Offset{};
+    std::array<double, 2> m_Winkel{};
 };
 
-/// What the operations ask of whoever shows the connection. The list of connection types is a list
-/// of names; a name and an entry of the short list belong together by their index alone.
+/// What the operations ask of whoever shows the connection.
 class CAnschlussAnsicht
 {
 public:
@@ -44,18 +52,16 @@ public:
     virtual void ZeichneAnschluss() = 0;
     virtual void ZeichneVorschau() = 0;
 
-    /// Moves the field texts between the state and the controls.
+    /// Moves the fields between the state and the controls.
     virtual void ZeigeFelder() = 0;
     virtual void LeseFelder() = 0;
 
     /// Shows which point is the active one.
     virtual void ZeigePunkt(Punkt punkt) = 0;
 
-    virtual int AnzahlNamen() const = 0;
-    virtual void FuegeNameHinzu(const CString& name) = 0;
-    virtual void WaehleName(int index) = 0;
-    /// Index of the selected name, -1 if none is.
-    virtual int GewaehlterName() const = 0;
+    /// The names of the connection types. A name and an entry of the short list belong together by
+    /// their index alone.
+    virtual CAuswahlListe& Typen() = 0;
 
     /// Applies the entry at the selected name to the working record.
     virtual void WaehleAnschlussTyp() = 0;

@@ -32,6 +32,12 @@ double Gedreht(double winkel, bool istVorlauf)
 
 } // namespace
 
+CRect FrontAnsicht(const CRect& rahmen)
+{
+    constexpr int kRand = 12;
+    return {rahmen.left + kRand, rahmen.top + kRand, rahmen.right - kRand, rahmen.bottom - kRand};
+}
+
 double BildAbszisse(const ConnVector& position, const ConnVector& offset)
 {
     return position[0] + kOffsetFaktor * offset[0];

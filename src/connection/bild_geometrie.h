@@ -5,9 +5,12 @@
 
 #include <vector>
 
-/// Geometry of the connection sketch, in whole pixels. The sketch is a
-/// front view of the radiator: its width stands for the length, its height for the height, and the
-/// depth is not drawn.
+/// Geometry of the connection sketch, in whole pixels. The sketch is a front view of the radiator:
+/// its width stands for the length, its height for the height, and the depth is not drawn.
+
+/// The radiator's front view within the frame of the sketch, with a margin for the arrows of points
+/// at its edges.
+CRect FrontAnsicht(const CRect& rahmen);
 
 /// Abscissa of a point in the sketch as a fraction of its width, 0 in the middle. The offset counts
 /// threefold, so that points near to each other stay apart in the small picture.

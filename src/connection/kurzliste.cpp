@@ -2,7 +2,6 @@
 
 #include "common/heizung_ordner.h"
 #include "common/text_file.h"
-#include "host/host_fittings.h"
 #include "platform/file.h"
 
 namespace {
@@ -28,9 +27,10 @@ void SetzeEintrag(CAnschlussZustand& zustand, CAnschlussAnsicht& ansicht, int ge
         zustand.m_Anschlussliste[gewaehlt] = zustand.m_Aktuell;
         return;
     }
-    ansicht.FuegeNameHinzu(zustand.m_TextName);
+    CAuswahlListe& typen = ansicht.Typen();
+    typen.Hinzufuegen(zustand.m_TextName);
     zustand.m_Anschlussliste.Add(zustand.m_Aktuell);
-    ansicht.WaehleName(ansicht.AnzahlNamen() - 1);
+    typen.Waehlen(typen.Anzahl() - 1);
 }
 
 void SchreibeListe(const Anschlussliste& liste)
@@ -62,7 +62,7 @@ bool LeseVentTxt(CAnschlussZustand& zustand, CAnschlussAnsicht& ansicht)
     for (int i = 0; i < zeilen.GetSize(); ++i) {
         if (zeilen[i].starts_with(L'[')) {
             name = NameAus(zeilen[i]);
-            ansicht.FuegeNameHinzu(name);
+            ansicht.Typen().Hinzufuegen(name);
             continue;
         }
         const CString vorlauf = RestHinter(L'V', zeilen[i]);
@@ -76,26 +76,21 @@ bool NeuerEintrag(Anschlussliste& liste, const CString& name, const CString& vor
                   const CString& ruecklauf)
 {
     ConnValues werte;
-    if (lmGet_K_APUNKT_X(vorlauf, werte.PosAN.data(), werte.OffsetAN.data(), werte.WinkelAN.data(),
-                         werte.SeitAbstandAN, werte.KreuzAbstand, werte.KreuzTyp,
-                         werte.WandAbstand) < kWenigsteZahlen) {
-        return false;
-    }
-    if (lmGet_K_APUNKT_X(ruecklauf, werte.PosRI.data(), werte.OffsetRI.data(),
-                         werte.WinkelRI.data(), werte.SeitAbstandRI, werte.KreuzAbstand,
-                         werte.KreuzTyp, werte.WandAbstand) < kWenigsteZahlen) {
-        return false;
-    }
     werte.Name = name;
     werte.AnschlussAN = vorlauf;
     werte.AnschlussRI = ruecklauf;
+    for (const Punkt punkt : {Punkt::vorlauf, Punkt::ruecklauf}) {
+        if (LesePunktText(werte, punkt) < kWenigsteZahlen) {
+            return false;
+        }
+    }
     liste.Add(werte);
     return true;
 }
 
 void SchreibeVentTxt(CAnschlussZustand& zustand, CAnschlussAnsicht& ansicht)
 {
-    const int gewaehlt = ansicht.GewaehlterName();
+    const int gewaehlt = ansicht.Typen().Gewaehlt();
     if (gewaehlt < 0) {
         return;
     }

@@ -8,20 +8,20 @@ bool ZeigeAnschlussDialog(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilVorlau
                           VDI3805_VENTIL_KV& ventilRuecklauf, bool& gruppenWaehlbar, bool& ventile,
                           bool& typ, bool& fanCoil, TGA_LIST* heizkoerper, CDrawer* drawer)
 {
-    CVentDlg dialog;
     bool superUser = false;
     lmGetGlobalSuperUser(superUser);
     HoleVentilDaten(ventilVorlauf, ventilRuecklauf);
-    dialog.SetzeEingang(anschluss, ventilVorlauf, ventilRuecklauf);
-    dialog.SetzeZeichnung(heizkoerper, drawer);
-    dialog.SetzeRechte(superUser, gruppenWaehlbar);
-    dialog.SetzeFanCoil(fanCoil);
+    CVentDlg dialog({.anschluss = anschluss,
+                     .ventilAN = ventilVorlauf,
+                     .ventilRI = ventilRuecklauf,
+                     .liste = heizkoerper,
+                     .drawer = drawer,
+                     .superUser = superUser,
+                     .gruppenWaehlbar = gruppenWaehlbar,
+                     .fanCoil = fanCoil});
     if (dialog.DoModal() != kIdOk) {
         return false;
     }
-    dialog.HoleErgebnis(anschluss, ventilVorlauf, ventilRuecklauf);
-    ventile = dialog.VentileAktiv();
-    typ = dialog.TypAktiv();
-    fanCoil = dialog.FanCoil();
+    dialog.HoleErgebnis(anschluss, ventilVorlauf, ventilRuecklauf, ventile, typ, fanCoil);
     return true;
 }

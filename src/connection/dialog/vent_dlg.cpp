@@ -1,46 +1,90 @@
 #include "connection/dialog/vent_dlg.h"
 
-#include "common/numbers.h"
 #include "common/units.h"
-#include "connection/dialog/anschluss_bild_control.h"
-#include "connection/dialog/vent_controls.h"
+#include "connection/anschluss_felder.h"
+#include "connection/bild_geometrie.h"
+#include "connection/dialog/anschluss_bild.h"
 #include "connection/dialog/vent_template.h"
+#include "connection/grafik_listen.h"
 #include "connection/kurzliste.h"
 #include "connection/vorschau.h"
 #include "dialogs/platzierung.h"
 #include "host/drawer.h"
 #include "host/host_catalog.h"
-#include "host/host_fittings.h"
+#include "platform/format.h"
 #include "uikit/application.h"
 #include "uikit/button.h"
+#include "valve/dialog/ventil_dialog.h"
 #include "valve/ventil_texte.h"
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
+#include <vector>
 
 namespace {
 
 constexpr wchar_t kPlatzierung[] = L"VENTIL";
 constexpr int kIconKante = 16;
 
-/// What one press of an arrow beside a point field adds.
-constexpr double kSchritt = 0.05;
+/// Numbers of its texts in the module's string table.
+enum VentText
+{
+    textRegolabile = 114,
+    textNonRegolabile = 115,
+    textUebernehmen = 116,
+    textEspandi = 117,
+    textRiduci = 118,
+};
 
-/// The directions that the arrows beside the angles go through.
-constexpr std::array<std::array<double, 2>, 4> kRichtungen = {
-    {{0.0, 0.0}, {180.0, 0.0}, {0.0, 90.0}, {0.0, 270.0}}};
-
-constexpr std::initializer_list<int> kPunktFelder = {1017, 1018, 1013, 1015,      1016,
-                                                     1014, 1020, 1023, idRichtung};
+constexpr std::initializer_list<int> kPunktFelder = {
+    idWinkel1, idWinkel2, idRelX, idRelY, idRelZ, idOffsetX, idOffsetY, idOffsetZ, idRichtung};
 
 /// What shows in the expanded state only.
-constexpr int kErweiterung[] = {18051, 18052, 1013, 1034, 1015, 1040, 1016, 1042, 1017, 1018,
-                                18075, 18108, 1014, 1039, 1020, 1041, 1023, 1043, 18045};
+constexpr int kErweiterung[] = {idPunktRahmen, idRelTitel,     idRelX,     idPfeilRelX,
+                                idRelY,        idPfeilRelY,    idRelZ,     idPfeilRelZ,
+                                idWinkel1,     idWinkel2,      idRichtung, idOffsetTitel,
+                                idOffsetX,     idPfeilOffsetX, idOffsetY,  idPfeilOffsetY,
+                                idOffsetZ,     idPfeilOffsetZ, idFanCoil};
 
-/// Arrows beside the coordinates, in the order of the axes.
-constexpr int kPfeileRel[] = {1034, 1040, 1042};
-constexpr int kPfeileOffset[] = {1039, 1041, 1043};
+/// A pair of arrows and the number beside it.
+struct CPfeilFeld
+{
+    int id;
+    ConnVector CAnschlussZustand::*zahlen;
+    std::size_t achse;
+};
+
+constexpr CPfeilFeld kPfeile[] = {
+    {idPfeilRelX, &CAnschlussZustand::m_Rel, 0},
+    {idPfeilRelY, &CAnschlussZustand::m_Rel, 1},
+    {idPfeilRelZ, &CAnschlussZustand::m_Rel, 2},
+    {idPfeilOffsetX, &CAnschlussZustand::m_Offset, 0},
+    {idPfeilOffsetY, &CAnschlussZustand::m_Offset, 1},
+    {idPfeilOffsetZ, &CAnschlussZustand::m_Offset, 2},
+};
+
+/// The labels that show the valve of a point.
+struct CVentilLabels
+{
+    int gruppe;
+    int bezeichnung;
+    int einstellbar;
+};
+
+CVentilLabels LabelsVon(Punkt punkt)
+{
+    return punkt == Punkt::ruecklauf ? CVentilLabels{idGruppeRI, idBezeichnungRI, idEinstellbarRI}
+                                     : CVentilLabels{idGruppeAN, idBezeichnungAN, idEinstellbarAN};
+}
+
+/// Offers the valve of a point to the other one; the user reads 1 for the flow, 2 for the return.
+CString UebernehmeText(Punkt von)
+{
+    CString text = VentilString(textUebernehmen);
+    const CString platz = L"%d";
+    text.replace(text.find(platz), platz.size(), FormatInt(von == Punkt::ruecklauf ? 2 : 1));
+    return text;
+}
 
 /// Pixels by which the dialog is lower when collapsed. They are pixels at the size for which the
 /// template is made: at a larger font the rows that give way are higher too.
@@ -52,44 +96,32 @@ int Einklappung()
 
 } // namespace
 
-CVentDlg::CVentDlg() : CBrushedDialog(VentTemplate())
+CVentDlg::CVentDlg(const CVentVorgaben& vorgaben)
+    : CBrushedDialog(VentTemplate()), m_pListe(vorgaben.liste), m_pDrawer(vorgaben.drawer),
+      m_bSuperUser(vorgaben.superUser), m_bGruppenWaehlbar(vorgaben.gruppenWaehlbar),
+      m_bFanCoil(vorgaben.fanCoil)
 {
-    // What a field shows is no typing of the user's.
+    m_zustand.m_Eingang = vorgaben.anschluss;
+    m_ventile.m_VentilAN = vorgaben.ventilAN;
+    m_ventile.m_VentilRI = vorgaben.ventilRI;
+    // A field that shows a value tells nothing that the user did.
     DropExchangeEvents(true);
 }
 
 CVentDlg::~CVentDlg() = default;
 
-void CVentDlg::SetzeEingang(const ConnValues& anschluss, const VDI3805_VENTIL_KV& ventilAN,
-                            const VDI3805_VENTIL_KV& ventilRI)
-{
-    m_zustand.m_Eingang = anschluss;
-    m_VentilAN = ventilAN;
-    m_VentilRI = ventilRI;
-}
-
-void CVentDlg::SetzeZeichnung(TGA_LIST* liste, CDrawer* drawer)
-{
-    m_pListe = liste;
-    m_pDrawer = drawer;
-}
-
-void CVentDlg::SetzeRechte(bool superUser, bool gruppenWaehlbar)
-{
-    m_bSuperUser = superUser;
-    m_bGruppenWaehlbar = gruppenWaehlbar;
-}
-
-/// The names of the graphics are those chosen here: a user who leaves the lists alone takes the
-/// graphics away.
 void CVentDlg::HoleErgebnis(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilAN,
-                            VDI3805_VENTIL_KV& ventilRI) const
+                            VDI3805_VENTIL_KV& ventilRI, bool& ventile, bool& typ,
+                            bool& fanCoil) const
 {
     anschluss = m_zustand.m_Aktuell;
-    ventilAN = m_VentilAN;
-    ventilRI = m_VentilRI;
+    ventilAN = m_ventile.m_VentilAN;
+    ventilRI = m_ventile.m_VentilRI;
     anschluss.GrafikAN = m_GrafikAN;
     anschluss.GrafikRI = m_GrafikRI;
+    ventile = m_bVentileAktiv;
+    typ = m_bTypAktiv;
+    fanCoil = m_bFanCoil;
 }
 
 const CMessageMap& CVentDlg::GetMessageMap() const
@@ -101,27 +133,27 @@ const CMessageMap& CVentDlg::GetMessageMap() const
             On(selectionEnded, idTypen, &CVentDlg::WaehleAnschlussTyp),
             On(clicked, idTypAktiv, &CVentDlg::OnTypAktiv),
             On(clicked, idVentileAktiv, &CVentDlg::OnVentileAktiv),
-            On(clicked, idKreuz, &CVentDlg::OnKreuz),
-            OnRange(clicked, 18100, 18101, &CVentDlg::OnKreuz),
+            On(clicked, idKreuzKeins, &CVentDlg::OnKreuz),
+            OnRange(clicked, idKreuzAnUeberRi, idKreuzRiUeberAn, &CVentDlg::OnKreuz),
             On(focusLost, idSeitAN, &CVentDlg::OnSeitAbstand),
             On(focusLost, idSeitRI, &CVentDlg::OnSeitAbstand),
             On(clicked, idVonWand, &CVentDlg::OnVonWand),
             On(clicked, idInverti, &CVentDlg::OnInverti),
             OnRange(clicked, idErsterPreset, idLetzterPreset, &CVentDlg::OnPreset),
             OnRange(clicked, idPunktAN, idPunktRI, &CVentDlg::LesePunkt),
-            OnRange(textChanged, 1013, 1018, &CVentDlg::SchreibePunkt),
-            On(textChanged, 1020, &CVentDlg::SchreibePunkt),
-            On(textChanged, 1023, &CVentDlg::SchreibePunkt),
-            On(focusLost, 1014, &CVentDlg::SchreibePunkt),
-            On(focusLost, 1017, &CVentDlg::SchreibePunkt),
-            OnRange(step, 1034, 1043, &CVentDlg::OnSchritt),
+            OnRange(textChanged, idRelX, idWinkel2, &CVentDlg::SchreibePunkt),
+            On(textChanged, idOffsetY, &CVentDlg::SchreibePunkt),
+            On(textChanged, idOffsetZ, &CVentDlg::SchreibePunkt),
+            On(focusLost, idOffsetX, &CVentDlg::SchreibePunkt),
+            On(focusLost, idWinkel1, &CVentDlg::SchreibePunkt),
+            OnRange(step, idPfeilRelX, idPfeilOffsetZ, &CVentDlg::OnSchritt),
             On(step, idRichtung, &CVentDlg::OnRichtung),
-            On(clicked, idWaehleAN, &CVentDlg::OnVentilAN),
-            On(clicked, idWaehleRI, &CVentDlg::OnVentilRI),
-            On(clicked, idEinstellbarRI, &CVentDlg::OnUebernehmeAN),
-            On(clicked, idEinstellbarAN, &CVentDlg::OnUebernehmeRI),
-            On(clicked, idLeereAN, &CVentDlg::OnLeereAN),
-            On(clicked, idLeereRI, &CVentDlg::OnLeereRI),
+            On(clicked, idWaehleAN, &CVentDlg::OnVentil),
+            On(clicked, idWaehleRI, &CVentDlg::OnVentil),
+            On(clicked, idEinstellbarRI, &CVentDlg::OnUebernehme),
+            On(clicked, idEinstellbarAN, &CVentDlg::OnUebernehme),
+            On(clicked, idLeereAN, &CVentDlg::OnLeereVentil),
+            On(clicked, idLeereRI, &CVentDlg::OnLeereVentil),
             OnRange(selectionEnded, idGrafikenAN, idGrafikenRI, &CVentDlg::OnGrafik),
             On(clicked, idLeereGrafik, &CVentDlg::OnLeereGrafik),
             OnRange(textChanged, idDnAN, idDnRI, &CVentDlg::LeseFelder),
@@ -139,19 +171,19 @@ void CVentDlg::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, idTypen, m_typen);
     DDX_Control(pDX, idGrafikenAN, m_grafikenAN);
     DDX_Control(pDX, idGrafikenRI, m_grafikenRI);
-    DDX_Text(pDX, idDnAN, m_TextDnAN);
+    DDX_Text(pDX, idDnAN, m_ventile.m_TextDnAN);
     DDX_Text(pDX, idSeitRI, m_zustand.m_TextSeitRI);
     DDX_Text(pDX, idSeitAN, m_zustand.m_TextSeitAN);
-    DDX_Check(pDX, idInverti, m_bInverti);
-    DDX_Text(pDX, idDnRI, m_TextDnRI);
-    DDX_Text(pDX, 1014, m_Offset[0]);
-    DDX_Text(pDX, 1020, m_Offset[1]);
-    DDX_Text(pDX, 1023, m_Offset[2]);
-    DDX_Text(pDX, 1013, m_Rel[0]);
-    DDX_Text(pDX, 1015, m_Rel[1]);
-    DDX_Text(pDX, 1016, m_Rel[2]);
-    DDX_Text(pDX, 1017, m_Winkel[0]);
-    DDX_Text(pDX, 1018, m_Winkel[1]);
+    DDX_Check(pDX, idInverti, m_zustand.m_bInverti);
+    DDX_Text(pDX, idDnRI, m_ventile.m_TextDnRI);
+    DDX_Text(pDX, idOffsetX, m_zustand.m_Offset[0]);
+    DDX_Text(pDX, idOffsetY, m_zustand.m_Offset[1]);
+    DDX_Text(pDX, idOffsetZ, m_zustand.m_Offset[2]);
+    DDX_Text(pDX, idRelX, m_zustand.m_Rel[0]);
+    DDX_Text(pDX, idRelY, m_zustand.m_Rel[1]);
+    DDX_Text(pDX, idRelZ, m_zustand.m_Rel[2]);
+    DDX_Text(pDX, idWinkel1, m_zustand.m_Winkel[0]);
+    DDX_Text(pDX, idWinkel2, m_zustand.m_Winkel[1]);
     int punkt = static_cast<int>(m_zustand.m_Punkt);
     DDX_Radio(pDX, idPunktAN, punkt);
     m_zustand.m_Punkt = static_cast<Punkt>(punkt);
@@ -160,10 +192,10 @@ void CVentDlg::DoDataExchange(CDataExchange* pDX)
     DDX_Check(pDX, idVentileAktiv, m_bVentileAktiv);
     DDX_Check(pDX, idFanCoil, m_bFanCoil);
     DDX_Radio(pDX, idErsterPreset, m_Preset);
-    DDX_Radio(pDX, idKreuz, m_Kreuz);
-    DDX_Text(pDX, idWand, m_TextWand);
-    DDX_Check(pDX, idVonWand, m_bVonWand);
-    DDX_Text(pDX, idKreuzAbstand, m_TextKreuz);
+    DDX_Radio(pDX, idKreuzKeins, m_zustand.m_Kreuz);
+    DDX_Text(pDX, idWand, m_zustand.m_TextWand);
+    DDX_Check(pDX, idVonWand, m_zustand.m_bVonWand);
+    DDX_Text(pDX, idKreuzAbstand, m_zustand.m_TextKreuz);
 }
 
 bool CVentDlg::OnInitDialog()
@@ -195,7 +227,7 @@ void CVentDlg::LadeKurzliste()
 
 void CVentDlg::ZeigeEinheiten()
 {
-    for (const int id : {18042, 18044, 18046, 18047}) {
+    for (const int id : {idSeitEinheitAN, idSeitEinheitRI, idKreuzEinheit, idWandEinheit}) {
         SetzeText(id, GetUnitText(false));
     }
 }
@@ -203,22 +235,11 @@ void CVentDlg::ZeigeEinheiten()
 /// The numbers handed in win over those of the entry that was found for them, which stays chosen.
 void CVentDlg::ZeigeEingang()
 {
-    ConnValues& werte = m_zustand.m_Aktuell;
-    werte = m_zustand.m_Eingang;
-    m_zustand.m_TextSeitAN = MeterToText(werte.SeitAbstandAN);
-    m_zustand.m_TextSeitRI = MeterToText(werte.SeitAbstandRI);
-    m_zustand.m_TextName = werte.Name;
-    m_Kreuz = werte.KreuzTyp;
-    if (werte.KreuzTyp != 0) {
-        m_TextKreuz = MeterToText(werte.KreuzAbstand);
-    } else {
+    FuelleFelder(m_zustand);
+    if (m_zustand.m_Aktuell.KreuzTyp == 0) {
         Aktiviere({idKreuzAbstand}, false);
     }
-    if (werte.WandAbstand != 0.0) {
-        m_bVonWand = true;
-        m_TextWand = MeterToText(werte.WandAbstand);
-    }
-    Aktiviere({idWand}, m_bVonWand);
+    Aktiviere({idWand}, m_zustand.m_bVonWand);
 }
 
 void CVentDlg::LadeIcons()
@@ -263,7 +284,9 @@ void CVentDlg::UmschaltenErweitert()
 void CVentDlg::ZeichneAnschluss()
 {
     PruefeSeitAbstand(m_zustand, *this);
-    ZeichneAnschlussBild(GetDlgItem(idBild), m_zustand.m_Aktuell);
+    const CWnd rahmen = GetDlgItem(idBild);
+    m_BildRect = FrontAnsicht(rahmen.GetClientRect());
+    ZeichneAnschlussBild(rahmen, m_BildRect, m_zustand.m_Aktuell);
 }
 
 void CVentDlg::ZeichneVorschau()
@@ -275,58 +298,18 @@ void CVentDlg::ZeichneVorschau()
     ZeigeFelder();
 }
 
-void CVentDlg::ZeigeFelder()
-{
-    UpdateData(false);
-}
-
-void CVentDlg::LeseFelder()
-{
-    UpdateData(true);
-}
-
 void CVentDlg::ZeigePunkt(Punkt punkt)
 {
     CButton(GetDlgItem(punkt == Punkt::ruecklauf ? idPunktRI : idPunktAN)).SetCheck(true);
-}
-
-int CVentDlg::AnzahlNamen() const
-{
-    return m_typen.GetCount();
-}
-
-void CVentDlg::FuegeNameHinzu(const CString& name)
-{
-    m_typen.AddString(name);
-}
-
-void CVentDlg::WaehleName(int index)
-{
-    m_typen.SetCurSel(index);
-}
-
-int CVentDlg::GewaehlterName() const
-{
-    return m_typen.GetCurSel();
 }
 
 void CVentDlg::WaehleAnschlussTyp()
 {
     Aktiviere(kPunktFelder, false);
     m_Preset = -1;
-    int index = m_typen.GetCurSel();
-    if (index < 0) {
+    if (!UebernehmeTyp(m_zustand, m_typen)) {
         return;
     }
-    Anschlussliste& liste = m_zustand.m_Anschlussliste;
-    if (index >= liste.GetSize()) {
-        index = 0;
-        m_typen.SetCurSel(index);
-    }
-    m_bInverti = false;
-    m_zustand.m_Aktuell = liste[index];
-    LeseSeitAbstaende();
-    m_zustand.m_TextName = m_zustand.m_Aktuell.Name;
     ZeigeFelder();
     LesePunkt();
     ZeichneAnschluss();
@@ -336,61 +319,19 @@ void CVentDlg::WaehleAnschlussTyp()
 void CVentDlg::LesePunkt()
 {
     LeseFelder();
-    const ConnValues& werte = m_zustand.m_Aktuell;
-    if (m_zustand.m_Punkt == Punkt::keiner) {
-        return;
+    if (::LesePunkt(m_zustand)) {
+        Aktiviere(kPunktFelder, true);
+        ZeigeFelder();
     }
-    const CString& text =
-        m_zustand.m_Punkt == Punkt::vorlauf ? werte.AnschlussAN : werte.AnschlussRI;
-    ConnVector position{};
-    ConnVector offset{};
-    ConnVector winkel{};
-    double seitAbstand = 0.0;
-    double kreuzAbstand = 0.0;
-    int kreuzTyp = 0;
-    double wandAbstand = 0.0;
-    if (lmGet_K_APUNKT_X(text, position.data(), offset.data(), winkel.data(), seitAbstand,
-                         kreuzAbstand, kreuzTyp, wandAbstand) == 0) {
-        return;
-    }
-    m_Rel = position;
-    m_Offset = offset;
-    m_Winkel = {winkel[0], winkel[1]};
-    Aktiviere(kPunktFelder, true);
-    ZeigeFelder();
 }
 
 void CVentDlg::SchreibePunkt()
 {
     LeseFelder();
-    ConnValues& werte = m_zustand.m_Aktuell;
-    const ConnVector winkel = {m_Winkel[0], m_Winkel[1], 0.0};
-    CString text;
-    lmSet_K_APUNKT_X(text, m_Rel.data(), m_Offset.data(), winkel.data(), 0.0, 0.0, 0, 0.0);
-    switch (m_zustand.m_Punkt) {
-    case Punkt::keiner:
-        return;
-    case Punkt::vorlauf:
-        werte.PosAN = m_Rel;
-        werte.OffsetAN = m_Offset;
-        werte.WinkelAN = winkel;
-        werte.AnschlussAN = text;
-        break;
-    case Punkt::ruecklauf:
-        werte.PosRI = m_Rel;
-        werte.OffsetRI = m_Offset;
-        werte.WinkelRI = winkel;
-        werte.AnschlussRI = text;
-        break;
+    if (::SchreibePunkt(m_zustand)) {
+        ZeichneAnschluss();
+        ZeichneVorschau();
     }
-    ZeichneAnschluss();
-    ZeichneVorschau();
-}
-
-void CVentDlg::LeseSeitAbstaende()
-{
-    m_zustand.m_Aktuell.SeitAbstandAN = TextToMeter(m_zustand.m_TextSeitAN);
-    m_zustand.m_Aktuell.SeitAbstandRI = TextToMeter(m_zustand.m_TextSeitRI);
 }
 
 void CVentDlg::Aktiviere(std::initializer_list<int> ids, bool aktiv)
@@ -414,32 +355,30 @@ void CVentDlg::OnTypAktiv()
 void CVentDlg::OnVentileAktiv()
 {
     LeseFelder();
-    Aktiviere({idDnAN, idWaehleAN, idPunktAN, 363, 364, idDnRI, 365, 366, idWaehleRI, idPunktRI,
-               idLeereAN, idLeereRI},
+    Aktiviere({idDnAN, idWaehleAN, idPunktAN, idGruppeAN, idBezeichnungAN, idDnRI, idGruppeRI,
+               idBezeichnungRI, idWaehleRI, idPunktRI, idLeereAN, idLeereRI},
               m_bVentileAktiv);
 }
 
 void CVentDlg::OnKreuz()
 {
     LeseFelder();
-    Aktiviere({idKreuzAbstand}, m_Kreuz != 0);
+    Aktiviere({idKreuzAbstand}, m_zustand.m_Kreuz != 0);
     ZeigeFelder();
 }
 
 void CVentDlg::OnSeitAbstand()
 {
     LeseFelder();
-    LeseSeitAbstaende();
+    LeseSeitAbstaende(m_zustand);
     PruefeSeitAbstand(m_zustand, *this);
 }
 
 void CVentDlg::OnVonWand()
 {
     LeseFelder();
-    Aktiviere({idWand}, m_bVonWand);
-    if (m_bVonWand && TextToMeter(m_TextWand) == 0.0) {
-        m_TextWand = m_zustand.m_TextSeitAN;
-    }
+    Aktiviere({idWand}, m_zustand.m_bVonWand);
+    ErgaenzeWandAbstand(m_zustand);
     ZeigeFelder();
 }
 
@@ -460,27 +399,101 @@ void CVentDlg::OnPreset()
 
 void CVentDlg::OnSchritt(CNotify& notify)
 {
-    const auto ruecke = [&](const auto& ids, std::array<double, 3>& felder) {
-        const auto* gefunden = std::ranges::find(ids, notify.id);
-        if (gefunden != std::end(ids)) {
-            felder[static_cast<std::size_t>(gefunden - std::begin(ids))] +=
-                notify.delta < 1 ? -kSchritt : kSchritt;
-        }
-    };
-    ruecke(kPfeileRel, m_Rel);
-    ruecke(kPfeileOffset, m_Offset);
+    const auto* const pfeil = std::ranges::find(kPfeile, notify.id, &CPfeilFeld::id);
+    double& zahl = (m_zustand.*pfeil->zahlen)[pfeil->achse];
+    zahl = Geschoben(zahl, notify.delta);
     ZeigeFelder();
     SchreibePunkt();
 }
 
 void CVentDlg::OnRichtung(CNotify& notify)
 {
-    constexpr int kAnzahl = static_cast<int>(kRichtungen.size());
-    const int schritt = notify.delta < 1 ? kAnzahl - 1 : 1;
-    m_RichtungIndex = (m_RichtungIndex + schritt) % kAnzahl;
-    m_Winkel = kRichtungen[static_cast<std::size_t>(m_RichtungIndex)];
+    const std::size_t schritt = notify.delta < 1 ? kRichtungen - 1 : 1;
+    m_RichtungIndex = (m_RichtungIndex + schritt) % kRichtungen;
+    std::ranges::copy(m_Richtungen[m_RichtungIndex], m_zustand.m_Winkel.begin());
     ZeigeFelder();
     SchreibePunkt();
+}
+
+void CVentDlg::ZeigeVentile()
+{
+    ZeigeVentil(Punkt::vorlauf);
+    ZeigeVentil(Punkt::ruecklauf);
+    ZeigeNennweiten(m_ventile);
+    ZeigeFelder();
+}
+
+void CVentDlg::ZeigeVentil(Punkt punkt)
+{
+    const VDI3805_VENTIL_KV& ventil = SeiteVon(m_ventile, punkt).ventil;
+    const CVentilLabels labels = LabelsVon(punkt);
+    SetzeText(labels.gruppe, ventil.Gruppe);
+    SetzeText(labels.bezeichnung, ventil.Bezeichnung);
+    SetzeText(labels.einstellbar,
+              VentilString(ventil.Einstellbar != 0 ? textRegolabile : textNonRegolabile));
+}
+
+/// A point without a valve takes over the one that was just picked for the other.
+void CVentDlg::OnVentil(CNotify& notify)
+{
+    const Punkt von = notify.id == idWaehleRI ? Punkt::ruecklauf : Punkt::vorlauf;
+    const CVentilSeite seite = SeiteVon(m_ventile, von);
+    if (!ZeigeVentilDialog(seite.ventil.VentilNr, seite.ventil.Hersteller, seite.ventil)) {
+        return;
+    }
+    ZeigeVentile();
+    const Punkt nach = Gegenueber(von);
+    if (SeiteVon(m_ventile, nach).ventil.Bezeichnung.empty()) {
+        SetzeText(LabelsVon(nach).einstellbar, UebernehmeText(von));
+        seite.uebernehmen = true;
+        UebernehmeVentil(von);
+    }
+}
+
+void CVentDlg::OnUebernehme(CNotify& notify)
+{
+    UebernehmeVentil(notify.id == idEinstellbarRI ? Punkt::vorlauf : Punkt::ruecklauf);
+}
+
+void CVentDlg::UebernehmeVentil(Punkt von)
+{
+    if (Uebernehme(m_ventile, von)) {
+        ZeigeVentil(Gegenueber(von));
+        ZeigeFelder();
+    }
+}
+
+void CVentDlg::OnLeereVentil(CNotify& notify)
+{
+    SeiteVon(m_ventile, notify.id == idLeereRI ? Punkt::ruecklauf : Punkt::vorlauf).ventil.Init();
+    ZeigeVentile();
+}
+
+void CVentDlg::FuelleGrafikListen()
+{
+    if (m_pDrawer != nullptr) {
+        ::FuelleGrafikListen(*m_pDrawer, m_zustand.m_Eingang, m_grafikenAN, m_grafikenRI);
+    }
+}
+
+void CVentDlg::OnGrafik()
+{
+    if (const int index = m_grafikenAN.GetCurSel(); index >= 0) {
+        m_GrafikAN = m_grafikenAN.GetItemText(index);
+    }
+    if (const int index = m_grafikenRI.GetCurSel(); index >= 0) {
+        m_GrafikRI = m_grafikenRI.GetItemText(index);
+    }
+}
+
+void CVentDlg::OnLeereGrafik()
+{
+    LeseFelder();
+    m_grafikenAN.SetCurSel(-1);
+    m_grafikenRI.SetCurSel(-1);
+    m_GrafikAN.clear();
+    m_GrafikRI.clear();
+    ZeigeFelder();
 }
 
 void CVentDlg::OnSalva()
@@ -492,12 +505,7 @@ void CVentDlg::OnSalva()
 void CVentDlg::OnMemorizza()
 {
     LeseFelder();
-    m_zustand.m_bNeu = true;
-    for (const ConnValues& eintrag : m_zustand.m_Anschlussliste) {
-        if (eintrag.Name == m_zustand.m_TextName) {
-            m_zustand.m_bNeu = false;
-        }
-    }
+    m_zustand.m_bNeu = !IstNameVergeben(m_zustand);
     SchreibeVentTxt(m_zustand, *this);
 }
 
@@ -510,48 +518,24 @@ void CVentDlg::OnPaint()
 void CVentDlg::OnOK()
 {
     LeseFelder();
-    if (m_pDrawer != nullptr) {
-        m_pDrawer->ClearPreview();
-    }
+    LoescheVorschau();
     if (m_bErweitert) {
         PlatzierungSpeichern(*this, kPlatzierung, &kDeckend);
     }
-    UebernehmeFelder();
+    ErgaenzeNennweiten(m_ventile);
+    SchliesseAb(m_zustand);
     EndDialog(kIdOk);
-}
-
-/// The distance from the wall is no matter of the points, and so is no part of their texts.
-void CVentDlg::UebernehmeFelder()
-{
-    for (const Ventilseite& seite : {SeiteAN(), SeiteRI()}) {
-        if (seite.ventil.DN <= 0) {
-            seite.ventil.DN = ParseNumber(seite.textDn);
-        }
-    }
-    LeseSeitAbstaende();
-    ConnValues& werte = m_zustand.m_Aktuell;
-    // Each point on its own here: what leaves upward or downward has no distance at its side.
-    if (werte.WinkelAN[1] != 0.0) {
-        werte.SeitAbstandAN = 0.0;
-    }
-    if (werte.WinkelRI[1] != 0.0) {
-        werte.SeitAbstandRI = 0.0;
-    }
-    werte.KreuzTyp = m_Kreuz;
-    werte.KreuzAbstand = TextToMeter(m_TextKreuz);
-    werte.WandAbstand = m_bVonWand ? TextToMeter(m_TextWand) : 0.0;
-    lmSet_K_APUNKT_X(werte.AnschlussAN, werte.PosAN.data(), werte.OffsetAN.data(),
-                     werte.WinkelAN.data(), werte.SeitAbstandAN, werte.KreuzAbstand, werte.KreuzTyp,
-                     0.0);
-    lmSet_K_APUNKT_X(werte.AnschlussRI, werte.PosRI.data(), werte.OffsetRI.data(),
-                     werte.WinkelRI.data(), werte.SeitAbstandRI, werte.KreuzAbstand, werte.KreuzTyp,
-                     0.0);
 }
 
 void CVentDlg::OnCancel()
 {
+    LoescheVorschau();
+    CBrushedDialog::OnCancel();
+}
+
+void CVentDlg::LoescheVorschau()
+{
     if (m_pDrawer != nullptr) {
         m_pDrawer->ClearPreview();
     }
-    CBrushedDialog::OnCancel();
 }

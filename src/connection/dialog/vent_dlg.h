@@ -1,14 +1,34 @@
 #pragma once
 
 #include "connection/anschluss_zustand.h"
+#include "connection/ventil_paar.h"
 #include "dialogs/brushed_dialog.h"
-#include "frame/ventil_kv.h"
-#include "uikit/combo_box.h"
+#include "dialogs/combo_liste.h"
+#include "platform/geometry.h"
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
 
 class CDrawer;
 struct TGA_LIST;
+
+/// What the connection dialog opens on.
+struct CVentVorgaben
+{
+    const ConnValues& anschluss;
+    const VDI3805_VENTIL_KV& ventilAN;
+    const VDI3805_VENTIL_KV& ventilRI;
+    /// Radiators of a drawing that show their connection points in it, and the drawing; either may
+    /// be null, and must outlive the dialog.
+    TGA_LIST* liste;
+    CDrawer* drawer;
+    bool superUser;
+    /// The user may switch the groups of connection type and valves off.
+    bool gruppenWaehlbar;
+    bool fanCoil;
+};
 
 /// Lets the user set up how a radiator is connected: a connection type out of the short list or
 /// points placed by hand, the two valves, distances and valve graphics. Radiators of a drawing show
@@ -19,23 +39,14 @@ struct TGA_LIST;
 class CVentDlg : public CBrushedDialog, private CAnschlussAnsicht
 {
 public:
-    CVentDlg();
+    explicit CVentDlg(const CVentVorgaben& vorgaben);
     ~CVentDlg() override;
 
-    /// What is edited, copied. This and the following setters are for before DoModal().
-    void SetzeEingang(const ConnValues& anschluss, const VDI3805_VENTIL_KV& ventilAN,
-                      const VDI3805_VENTIL_KV& ventilRI);
-    /// Where the connection points show; both may be null, and must outlive the dialog.
-    void SetzeZeichnung(TGA_LIST* liste, CDrawer* drawer);
-    void SetzeRechte(bool superUser, bool gruppenWaehlbar);
-    void SetzeFanCoil(bool fanCoil) { m_bFanCoil = fanCoil; }
-
-    /// What the user chose, after DoModal() gave kIdOk.
+    /// What the user chose, after DoModal() gave kIdOk: connection, valves, and whether the groups
+    /// of valves and connection type and the fan coil were ticked. The graphics are those chosen
+    /// here: a user who leaves their lists alone takes the graphics away.
     void HoleErgebnis(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilAN,
-                      VDI3805_VENTIL_KV& ventilRI) const;
-    bool TypAktiv() const { return m_bTypAktiv; }
-    bool VentileAktiv() const { return m_bVentileAktiv; }
-    bool FanCoil() const { return m_bFanCoil; }
+                      VDI3805_VENTIL_KV& ventilRI, bool& ventile, bool& typ, bool& fanCoil) const;
 
 protected:
     const CMessageMap& GetMessageMap() const override;
@@ -46,28 +57,12 @@ protected:
     void OnPaint() override;
 
 private:
-    /// One of the two valves with its controls.
-    struct Ventilseite
-    {
-        VDI3805_VENTIL_KV& ventil;
-        CString& textDn;
-        bool& uebernehmen;
-        int idGruppe;
-        int idBezeichnung;
-        int idEinstellbar;
-    };
-    Ventilseite SeiteAN();
-    Ventilseite SeiteRI();
-
     void ZeichneAnschluss() override;
     void ZeichneVorschau() override;
-    void ZeigeFelder() override;
-    void LeseFelder() override;
+    void ZeigeFelder() override { UpdateData(false); }
+    void LeseFelder() override { UpdateData(true); }
     void ZeigePunkt(Punkt punkt) override;
-    int AnzahlNamen() const override;
-    void FuegeNameHinzu(const CString& name) override;
-    void WaehleName(int index) override;
-    int GewaehlterName() const override;
+    CAuswahlListe& Typen() override { return m_typen; }
     void WaehleAnschlussTyp() override;
 
     void LadeKurzliste();
@@ -75,16 +70,13 @@ private:
     void ZeigeEingang();
     void LadeIcons();
     void FuelleGrafikListen();
-    void WaehleGrafiken(const CString& pfad);
     void UmschaltenErweitert();
     void ZeigeVentile();
-    void ZeigeVentil(const Ventilseite& seite);
-    void WaehleVentil(const Ventilseite& von, const Ventilseite& nach, int nummer);
-    void Uebernehme(const Ventilseite& von, const Ventilseite& nach);
+    void ZeigeVentil(Punkt punkt);
+    void UebernehmeVentil(Punkt von);
     void LesePunkt();
     void SchreibePunkt();
-    void LeseSeitAbstaende();
-    void UebernehmeFelder();
+    void LoescheVorschau();
     void Aktiviere(std::initializer_list<int> ids, bool aktiv);
     void SetzeText(int id, const CString& text);
 
@@ -97,48 +89,39 @@ private:
     void OnPreset();
     void OnSchritt(CNotify& notify);
     void OnRichtung(CNotify& notify);
-    void OnVentilAN();
-    void OnVentilRI();
-    void OnUebernehmeAN();
-    void OnUebernehmeRI();
-    void OnLeereAN();
-    void OnLeereRI();
+    void OnVentil(CNotify& notify);
+    void OnUebernehme(CNotify& notify);
+    void OnLeereVentil(CNotify& notify);
     void OnGrafik();
     void OnLeereGrafik();
     void OnSalva();
     void OnMemorizza();
 
+    static constexpr std::size_t kRichtungen = 4;
+
     CAnschlussZustand m_zustand;
-    VDI3805_VENTIL_KV m_VentilAN;
-    VDI3805_VENTIL_KV m_VentilRI;
-    /// A copy of that valve to the other side is pending.
-    bool m_bUebernehmeAN = false;
-    bool m_bUebernehmeRI = false;
-    TGA_LIST* m_pListe = nullptr;
-    CDrawer* m_pDrawer = nullptr;
+    /// The radiator's front view in the sketch, in pixels of its frame.
+    CRect m_BildRect;
+    CVentilPaar m_ventile;
+    TGA_LIST* m_pListe;
+    CDrawer* m_pDrawer;
     bool m_bErweitert = true;
-    int m_RichtungIndex = 0;
-    bool m_bSuperUser = false;
-    bool m_bGruppenWaehlbar = false;
+    /// The pairs of angles in degrees that the arrows beside the angles go through, and the place
+    /// there, which starts at the first pair whatever the angles are.
+    std::array<std::array<std::int32_t, 2>, kRichtungen> m_Richtungen = {
+        {{0, 0}, {180, 0}, {0, 90}, {0, 270}}};
+    std::size_t m_RichtungIndex = 0;
+    bool m_bSuperUser;
+    bool m_bGruppenWaehlbar;
     CString m_GrafikAN;
     CString m_GrafikRI;
 
     bool m_bTypAktiv = true;
     bool m_bVentileAktiv = true;
-    bool m_bInverti = false;
-    bool m_bVonWand = false;
-    bool m_bFanCoil = false;
-    int m_Kreuz = -1;
+    bool m_bFanCoil;
     int m_Preset = -1;
-    CString m_TextKreuz;
-    CString m_TextWand;
-    CString m_TextDnAN = L"15";
-    CString m_TextDnRI = L"15";
-    std::array<double, 3> m_Rel{};
-    std::array<double, 3> m_Offset{};
-    std::array<double, 2> m_Winkel{};
 
-    CComboBox m_typen;
-    CComboBox m_grafikenAN;
-    CComboBox m_grafikenRI;
+    CComboListe m_typen;
+    CComboListe m_grafikenAN;
+    CComboListe m_grafikenRI;
 };

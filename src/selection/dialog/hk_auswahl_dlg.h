@@ -4,7 +4,7 @@
 #include "dialogs/resizing_dialog.h"
 #include "host/drawer.h"
 #include "selection/auswahl_kriterien.h"
-#include "selection/dialog/combo_liste.h"
+#include "dialogs/combo_liste.h"
 #include "selection/dialog/hk_auswahl_grid_control.h"
 #include "selection/dialog/katalog_baum.h"
 

@@ -34,14 +34,14 @@ TEST(ConnectionSamples, EveryTypeIsReadUnderItsNameAndDiffersFromAllOthers)
     ASSERT_TRUE(LeseVentTxt(zustand, ansicht));
     const Anschlussliste& liste = zustand.m_Anschlussliste;
     EXPECT_GE(liste.GetSize(), 12);
-    ASSERT_EQ(ansicht.namen.size(), static_cast<std::size_t>(liste.GetSize()));
+    ASSERT_EQ(ansicht.typen.texte.size(), static_cast<std::size_t>(liste.GetSize()));
 
     std::set<CString> names;
     // What the search for a record's type compares.
     std::set<std::tuple<ConnVector, ConnVector, ConnVector, ConnVector, ConnVector>> points;
     for (int i = 0; i < liste.GetSize(); ++i) {
         const ConnValues& typ = liste[i];
-        EXPECT_EQ(typ.Name, ansicht.namen[static_cast<std::size_t>(i)]);
+        EXPECT_EQ(typ.Name, ansicht.typen.texte[static_cast<std::size_t>(i)]);
         names.insert(typ.Name);
         points.emplace(typ.PosAN, typ.OffsetAN, typ.PosRI, typ.OffsetRI, typ.WinkelRI);
         for (const CString& text : {typ.AnschlussAN, typ.AnschlussRI}) {
@@ -52,8 +52,8 @@ TEST(ConnectionSamples, EveryTypeIsReadUnderItsNameAndDiffersFromAllOthers)
                 << Utf8FromWide(typ.Name);
         }
     }
-    EXPECT_EQ(names.size(), ansicht.namen.size());
-    EXPECT_EQ(points.size(), ansicht.namen.size());
+    EXPECT_EQ(names.size(), ansicht.typen.texte.size());
+    EXPECT_EQ(points.size(), ansicht.typen.texte.size());
 }
 
 } // namespace

@@ -159,13 +159,14 @@ TEST_F(AnschlussTest, ExchangingTwiceRestoresTheRecordAndOnceLeavesTheSidesAlone
 
 TEST_F(AnschlussTest, ARecordIsFoundByItsPointsWhateverTheAnglesOfItsFlow)
 {
+    m_ansicht.typen.texte = {L"altro", L"primo", L"secondo"};
     m_zustand.m_Anschlussliste.Add(Eintrag(2, 3, L"altro"));
     m_zustand.m_Anschlussliste.Add(Eintrag(0, 1, L"primo"));
     m_zustand.m_Anschlussliste.Add(Eintrag(0, 1, L"secondo"));
     m_zustand.m_Eingang = Eintrag(0, 1);
     m_zustand.m_Eingang.WinkelAN = {1, 2, 3};
     FindeAnschlussTyp(m_zustand, m_ansicht);
-    EXPECT_EQ(m_ansicht.gewaehlt, 1) << "the first match";
+    EXPECT_EQ(m_ansicht.typen.gewaehlt, 1) << "the first match";
     EXPECT_EQ(m_ansicht.aufrufe, "Apply ");
 
     // Any other difference, in whichever of the five vectors and axes, is another type.
@@ -184,12 +185,12 @@ TEST_F(AnschlussTest, ARecordIsFoundByItsPointsWhateverTheAnglesOfItsFlow)
 
 TEST_F(AnschlussTest, ARecordWithoutAMatchGetsANameOfItsOwn)
 {
-    m_ansicht.namen = {L"a", L"b", L"c"};
+    m_ansicht.typen.texte = {L"a", L"b", L"c"};
     m_zustand.m_Anschlussliste.Add(Eintrag(2, 3));
     m_zustand.m_Eingang = Eintrag(0, 1, L"mio");
     FindeAnschlussTyp(m_zustand, m_ansicht);
-    EXPECT_EQ(m_ansicht.namen.back(), L"_3_");
-    EXPECT_EQ(m_ansicht.gewaehlt, 3);
+    EXPECT_EQ(m_ansicht.typen.texte.back(), L"_3_");
+    EXPECT_EQ(m_ansicht.typen.gewaehlt, 3);
     EXPECT_EQ(m_zustand.m_Anschlussliste.GetSize(), 1) << "a name without an entry";
     EXPECT_EQ(m_zustand.m_Aktuell.Name, L"mio");
     EXPECT_EQ(m_ansicht.aufrufe, "Preview ");
@@ -199,7 +200,7 @@ TEST_F(AnschlussTest, ARecordWithoutAMatchGetsANameOfItsOwn)
     m_zustand.m_Eingang.AnschlussRI = L"0;0;0;0;0;";
     FindeAnschlussTyp(m_zustand, m_ansicht);
     EXPECT_EQ(m_ansicht.aufrufe, "");
-    EXPECT_EQ(m_ansicht.gewaehlt, -1);
+    EXPECT_EQ(m_ansicht.typen.gewaehlt, -1);
     EXPECT_EQ(m_zustand.m_Aktuell.AnschlussRI, L"0;0;0;0;0;")
         << "the record is taken over all the same";
 }
@@ -207,11 +208,12 @@ TEST_F(AnschlussTest, ARecordWithoutAMatchGetsANameOfItsOwn)
 TEST_F(AnschlussTest, UnsetNumbersAreReadFromTheTextsInPlace)
 {
     // Distances behind the eighth number: 0.2 and 0.3 arrive crossed.
+    m_ansicht.typen.texte = {L"tipo"};
     m_zustand.m_Anschlussliste.Add(Eintrag(0, 1));
     m_zustand.m_Eingang.AnschlussAN = AnschlussPreset(0) + L"; 0.2; 0.3; 1; 0.4";
     m_zustand.m_Eingang.AnschlussRI = AnschlussPreset(1) + L"; 0.5; 0.6; 2; 0.7";
     FindeAnschlussTyp(m_zustand, m_ansicht);
-    EXPECT_EQ(m_ansicht.gewaehlt, 0);
+    EXPECT_EQ(m_ansicht.typen.gewaehlt, 0);
     const ConnValues& eingang = m_zustand.m_Eingang;
     EXPECT_EQ(eingang.PosRI, (ConnVector{-0.5, 0, -0.5}));
     EXPECT_EQ(eingang.SeitAbstandAN, 0.3);
@@ -228,12 +230,13 @@ TEST_F(AnschlussTest, OneMissingTextIsEnoughToReplaceTheFlowText)
     FindeAnschlussTyp(m_zustand, m_ansicht);
     EXPECT_EQ(m_zustand.m_Eingang.AnschlussAN, AnschlussPreset(15));
 
+    m_ansicht.typen.texte = {L"tipo"};
     m_zustand.m_Anschlussliste.Add(Eintrag(15, 1));
     m_zustand.m_Eingang = {};
     m_zustand.m_Eingang.AnschlussRI = AnschlussPreset(1);
     FindeAnschlussTyp(m_zustand, m_ansicht);
     EXPECT_EQ(m_zustand.m_Eingang.AnschlussAN, AnschlussPreset(15));
-    EXPECT_EQ(m_ansicht.gewaehlt, 0) << "the search goes on with it";
+    EXPECT_EQ(m_ansicht.typen.gewaehlt, 0) << "the search goes on with it";
 }
 
 TEST_F(AnschlussTest, ARecordWithoutTextsGetsOneForItsFlowAndSelectsNothing)
@@ -244,7 +247,7 @@ TEST_F(AnschlussTest, ARecordWithoutTextsGetsOneForItsFlowAndSelectsNothing)
     EXPECT_EQ(m_zustand.m_Eingang.AnschlussRI, L"");
     EXPECT_EQ(m_zustand.m_Eingang.PosAN, (ConnVector{0.5, 0, -0.5}))
         << "read before the return failed";
-    EXPECT_EQ(m_ansicht.gewaehlt, -1);
+    EXPECT_EQ(m_ansicht.typen.gewaehlt, -1);
     EXPECT_EQ(m_ansicht.aufrufe, "");
 }
 

@@ -93,7 +93,7 @@ TEST_F(KurzlisteTest, NamesAndEntriesFollowTheirLinesAlone)
         m_zustand = {};
         m_ansicht = {};
         EXPECT_TRUE(LeseVentTxt(m_zustand, m_ansicht));
-        EXPECT_EQ(m_ansicht.namen, c.names);
+        EXPECT_EQ(m_ansicht.typen.texte, c.names);
         std::vector<CString> entries;
         for (const ConnValues& eintrag : m_zustand.m_Anschlussliste) {
             entries.push_back(eintrag.Name);
@@ -110,7 +110,7 @@ TEST_F(KurzlisteTest, AMissingOrEmptyFileIsNoListAndAHalfPairRaises)
     EXPECT_FALSE(LeseVentTxt(m_zustand, m_ansicht));
     Schreibe({L"[a]", CString(L"V") + kPunkt});
     EXPECT_THROW(LeseVentTxt(m_zustand, m_ansicht), CInvalidArgException);
-    EXPECT_EQ(m_ansicht.namen, std::vector<CString>{L"a"});
+    EXPECT_EQ(m_ansicht.typen.texte, std::vector<CString>{L"a"});
 }
 
 TEST_F(KurzlisteTest, DistancesOfAnEntryComeInTheOrderOfTheText)
@@ -138,25 +138,25 @@ TEST_F(KurzlisteTest, StoringChangesTheListInMemoryAndNeverVentTxt)
     SchreibeVentTxt(m_zustand, m_ansicht);
     EXPECT_EQ(m_zustand.m_Anschlussliste[0].Name, L"a") << "nothing selected, nothing stored";
 
-    m_ansicht.gewaehlt = 0;
+    m_ansicht.typen.gewaehlt = 0;
     m_zustand.m_TextName = L"vecchio";
     m_ansicht.beimLesen = [this] { m_zustand.m_TextName = L"nuovo"; };
     SchreibeVentTxt(m_zustand, m_ansicht);
     m_ansicht.beimLesen = {};
     EXPECT_EQ(m_ansicht.aufrufe, "Read ");
     EXPECT_EQ(m_zustand.m_Anschlussliste[0].Name, L"nuovo");
-    EXPECT_EQ(m_ansicht.namen.size(), 2U) << "overwritten, the name stays";
+    EXPECT_EQ(m_ansicht.typen.texte.size(), 2U) << "overwritten, the name stays";
 
     m_zustand.m_bNeu = true;
     m_zustand.m_TextName = L"terzo";
     SchreibeVentTxt(m_zustand, m_ansicht);
     EXPECT_EQ(m_zustand.m_Anschlussliste.GetSize(), 3);
     EXPECT_EQ(m_zustand.m_Anschlussliste[2].Name, L"terzo");
-    EXPECT_EQ(m_ansicht.namen.back(), L"terzo");
-    EXPECT_EQ(m_ansicht.gewaehlt, 2);
+    EXPECT_EQ(m_ansicht.typen.texte.back(), L"terzo");
+    EXPECT_EQ(m_ansicht.typen.gewaehlt, 2);
 
     m_zustand.m_bNeu = false;
-    m_ansicht.gewaehlt = 3;
+    m_ansicht.typen.gewaehlt = 3;
     EXPECT_THROW(SchreibeVentTxt(m_zustand, m_ansicht), CInvalidArgException);
 
     EXPECT_EQ(m_folder.ReadBytes("HEIZUNG/Vent.txt"), before);

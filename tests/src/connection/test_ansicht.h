@@ -1,12 +1,12 @@
 #pragma once
 
 #include "connection/anschluss_zustand.h"
+#include "tests/support/test_liste.h"
 
 #include <functional>
 #include <string>
-#include <vector>
 
-/// A view without a screen: holds the list of names and notes what it was asked for.
+/// A view without a screen: holds the names of the types and notes what it was asked for.
 class CTestAnsicht : public CAnschlussAnsicht
 {
 public:
@@ -27,14 +27,10 @@ public:
         }
     }
     void ZeigePunkt(Punkt punkt) override { gezeigt = punkt; }
-    int AnzahlNamen() const override { return static_cast<int>(namen.size()); }
-    void FuegeNameHinzu(const CString& name) override { namen.push_back(name); }
-    void WaehleName(int index) override { gewaehlt = index; }
-    int GewaehlterName() const override { return gewaehlt; }
+    CAuswahlListe& Typen() override { return typen; }
     void WaehleAnschlussTyp() override { aufrufe += "Apply "; }
 
-    std::vector<CString> namen;
-    int gewaehlt = -1;
+    CTestListe typen;
     Punkt gezeigt = Punkt::keiner;
     std::string aufrufe;
     /// What else is to happen at these calls.

@@ -1,11 +1,11 @@
-#include "connection/dialog/anschluss_bild_control.h"
+#include "connection/dialog/anschluss_bild.h"
 
+#include "connection/anschluss_punkt.h"
 #include "connection/bild_geometrie.h"
 #include "uikit/dc.h"
 
 namespace {
 
-constexpr int kRand = 12;
 constexpr int kHalbeMarke = 6;
 constexpr int kPfeilBreite = 3;
 constexpr COLORREF kSchwarz = RGB(0, 0, 0);
@@ -28,15 +28,18 @@ void ZeichnePfeil(CDC& dc, Pfeil richtung, CPoint ort, COLORREF farbe)
     }
 }
 
-void ZeichnePunkt(CDC& dc, CPoint ort, Pfeil richtung, COLORREF farbe)
+void ZeichnePunkt(CDC& dc, const CRect& front, const ConnValues& werte, Punkt punkt, COLORREF farbe)
 {
+    const CPunktFelder& felder = FelderVon(punkt);
+    const CPoint ort = PunktAufBild(front, werte.*felder.position, werte.*felder.offset);
+    const ConnVector& winkel = werte.*felder.winkel;
     ZeichneMarke(dc, ort);
-    ZeichnePfeil(dc, richtung, ort, farbe);
+    ZeichnePfeil(dc, Pfeilrichtung(winkel[0], winkel[1], punkt == Punkt::vorlauf), ort, farbe);
 }
 
 } // namespace
 
-void ZeichneAnschlussBild(CWnd rahmen, const ConnValues& werte)
+void ZeichneAnschlussBild(CWnd rahmen, const CRect& front, const ConnValues& werte)
 {
     if (!rahmen.IsWindow()) {
         return;
@@ -44,13 +47,8 @@ void ZeichneAnschlussBild(CWnd rahmen, const ConnValues& werte)
     // What a canvas holds is erased at once; it shows when the drawing is complete.
     rahmen.Invalidate();
     CClientDC dc(rahmen);
-    const CRect client = rahmen.GetClientRect();
-    const CRect flaeche{client.left + kRand, client.top + kRand, client.right - kRand,
-                        client.bottom - kRand};
     dc.SetPen(kSchwarz, 1);
-    dc.Rectangle(flaeche);
-    ZeichnePunkt(dc, PunktAufBild(flaeche, werte.PosAN, werte.OffsetAN),
-                 Pfeilrichtung(werte.WinkelAN[0], werte.WinkelAN[1], true), kVorlauf);
-    ZeichnePunkt(dc, PunktAufBild(flaeche, werte.PosRI, werte.OffsetRI),
-                 Pfeilrichtung(werte.WinkelRI[0], werte.WinkelRI[1], false), kRuecklauf);
+    dc.Rectangle(front);
+    ZeichnePunkt(dc, front, werte, Punkt::vorlauf, kVorlauf);
+    ZeichnePunkt(dc, front, werte, Punkt::ruecklauf, kRuecklauf);
 }
