@@ -1,11 +1,12 @@
 #pragma once
 
-#include "dialogs/bitmap_control.h"
+#include "dialogs/bitmap_ctrl.h"
+#include "dialogs/combo_liste.h"
+#include "dialogs/platzierung.h"
 #include "dialogs/resizing_dialog.h"
 #include "host/drawer.h"
 #include "selection/auswahl_kriterien.h"
-#include "dialogs/combo_liste.h"
-#include "selection/dialog/hk_auswahl_grid_control.h"
+#include "selection/dialog/hk_auswahl_grid.h"
 #include "selection/dialog/katalog_baum.h"
 
 #include <map>

@@ -1,7 +1,7 @@
 // The scrolling picture in a dialog, as the user sees and scrolls it.
 
 #include "connection/bild_geometrie.h"
-#include "dialogs/bitmap_control.h"
+#include "dialogs/bitmap_ctrl.h"
 #include "tests/dialog_support/dialog_driver.h"
 #include "tests/dialog_support/widget_look.h"
 #include "tests/support/temp_folder.h"

@@ -1,4 +1,4 @@
-#include "selection/dialog/hk_auswahl_grid_control.h"
+#include "selection/dialog/hk_auswahl_grid.h"
 
 #include "selection/dialog/hk_auswahl_dlg.h"
 

@@ -19,7 +19,7 @@ public:
 protected:
     void OnSetup() override;
     void OnRowChange(int oldRow, int newRow) override;
-    /// On a row: as OK.
+    /// On a row, confirms the dialog as its OK button does.
     void OnDoubleClick(int column, int row) override;
     void OnHeadingClick(int column, int row, bool down) override;
     /// Esc closes the dialog as its close box does.
@@ -47,6 +47,6 @@ private:
     CErgebnisZeilen m_zeilen;
     /// Cell type of headings that show a direction.
     int m_nSortPfeil = kGridSortArrowType;
-    /// One cell for all writes of a rebuild, which so asks for no memory.
+    /// One cell for all writes of a rebuild, so that writing a cell allocates no memory.
     CUGCell m_zelle;
 };

@@ -1,4 +1,4 @@
-#include "dialogs/bitmap_control.h"
+#include "dialogs/bitmap_ctrl.h"
 
 #include "dialogs/bild_rollen.h"
 #include "uikit/picture_file.h"
@@ -24,7 +24,7 @@ bool CBitmapCtrl::Create(unsigned style, const CRect& rect, const CWnd& parent)
     return true;
 }
 
-/// Everything grey, without bars.
+/// Makes everything grey and takes the scroll bars away.
 void CBitmapCtrl::Leere()
 {
     m_ScrollX = 0;
@@ -77,7 +77,7 @@ void CBitmapCtrl::LoadFile(const CString& path)
 
 void CBitmapCtrl::Zeichne()
 {
-    // What a picture leaves transparent shows the ground, not where it stood before.
+    // Transparent parts of the picture must show grey, not the picture at its former place.
     m_speicher->FillRect(m_client, kGrau);
     m_speicher->DrawBitmap({-m_ScrollX, -m_ScrollY}, *m_pBitmap);
     Show(*m_speicher);
