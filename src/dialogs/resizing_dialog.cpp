@@ -1,11 +1,16 @@
 #include "dialogs/resizing_dialog.h"
 
+#include "dialogs/list_tree.h"
+#include "host/host_prompts.h"
 #include "uikit/application.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
+
+/// The low four bits of a system command belong to the window system.
+constexpr unsigned kSysCommandMaske = 0xFFF0;
 
 constexpr int kGriffId = 17733;
 constexpr int kGriffKante = 14;
@@ -79,6 +84,17 @@ void CResizingDialog::GroesseErlauben(bool x, bool y)
     if (!x && !y && m_bGeoeffnet) {
         GetDlgItem(kGriffId).ShowWindow(false);
     }
+}
+
+bool CResizingDialog::AendereTransparenz(unsigned id, int& alpha)
+{
+    if ((id & kSysCommandMaske) != kMenuTransparenz) {
+        return false;
+    }
+    if (ShowTransDlg(alpha)) {
+        SetWindowAlpha(*this, alpha);
+    }
+    return true;
 }
 
 CRect CResizingDialog::NeuesRechteck(const AnkerSatz& satz, const CRect& client) const

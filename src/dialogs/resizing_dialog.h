@@ -18,8 +18,6 @@ enum Anker
 
 /// Entry that the system menu of a resizing dialog has; what it does is the dialog's matter.
 inline constexpr unsigned kMenuTransparenz = 16;
-/// The low four bits of a system command belong to the window system.
-inline constexpr unsigned kSysCommandMaske = 0xFFF0;
 
 /// A dialog whose controls follow when it is sized. It never gets smaller than it opened.
 class CResizingDialog : public CBrushedDialog
@@ -37,6 +35,11 @@ protected:
     /// Allows or locks sizing in the two directions. Locking both of an open dialog takes its grip
     /// away.
     void GroesseErlauben(bool x, bool y);
+
+    /// For dialogs whose opacity the user may choose: on the entry "Transparency..." of the system
+    /// menu, asks for it and applies it when confirmed; `alpha` is the opacity before and after,
+    /// 255 opaque. False, with nothing done, if `id` is any other command.
+    bool AendereTransparenz(unsigned id, int& alpha);
 
     bool OnInitDialog() override;
     void OnSize(SizeKind kind) override;

@@ -1,8 +1,8 @@
 #include "selection/auswahl_speicher.h"
 
 #include "common/layer_text.h"
+#include "common/startwerte.h"
 #include "frame/hkauswahl_uebergabe.h"
-#include "frame/vdi6030_start.h"
 #include "host/host_catalog.h"
 #include "host/host_prefs.h"
 
@@ -56,10 +56,7 @@ void LayerMerken(const CString& layer, int farbe)
 void AuswahlMerken(const HK_DATEN_VDI3805_UEBERGABE& uebergabe, const CString& systemName,
                    double vorlauf, double ruecklauf)
 {
-    VDI6030START start;
-    if (const VDI6030START* const letzter = ReadDefFile_VDI6030START(false)) {
-        start = *letzter;
-    }
+    VDI6030START start = LeseStartwerte();
     start.SystemVorlauf = GanzeGrade(vorlauf);
     start.SystemRuecklauf = GanzeGrade(ruecklauf);
     start.SystemName = systemName;

@@ -1,5 +1,6 @@
 #include "connection/dialog/wand_ab_dlg.h"
 
+#include "common/startwerte.h"
 #include "common/units.h"
 #include "connection/dialog/wand_ab_template.h"
 #include "host/host_prefs.h"
@@ -42,9 +43,7 @@ bool CWandAbDlg::OnInitDialog()
 {
     CBrushedDialog::OnInitDialog();
     ResetUnits();
-    if (const VDI6030START* start = ReadDefFile_VDI6030START(false)) {
-        m_Start = *start;
-    }
+    m_Start = LeseStartwerte();
     const CString einheit = GetUnitText(false);
     GetDlgItem(idEinheitWand).SetWindowText(einheit);
     GetDlgItem(idEinheitBoden).SetWindowText(einheit);

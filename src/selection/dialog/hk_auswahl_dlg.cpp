@@ -1,12 +1,12 @@
 #include "selection/dialog/hk_auswahl_dlg.h"
 
+#include "common/startwerte.h"
 #include "common/units.h"
 #include "connection/dialog/anschluss_dialog.h"
 #include "connection/dialog/wand_ab_dlg.h"
 #include "dialogs/banner.h"
 #include "dialogs/list_tree.h"
 #include "dialogs/platzierung.h"
-#include "frame/vdi6030_start.h"
 #include "host/host_base.h"
 #include "host/host_prefs.h"
 #include "host/host_prompts.h"
@@ -86,15 +86,6 @@ CString BlockOrdner()
     CString ordner;
     lmGetDWGDefPath(LumoDWGDefsNames::heizkoerper, ordner);
     return ordner;
-}
-
-VDI6030START LeseStart()
-{
-    VDI6030START start;
-    if (const VDI6030START* gespeichert = ReadDefFile_VDI6030START(false)) {
-        start = *gespeichert;
-    }
-    return start;
 }
 
 } // namespace
@@ -410,7 +401,7 @@ void CHKAuswahlVdi3805Dlg::ZeichneFarbe()
 
 void CHKAuswahlVdi3805Dlg::OnVentile()
 {
-    VDI6030START start = LeseStart();
+    VDI6030START start = LeseStartwerte();
     bool gruppenWaehlbar = false;
     bool ventile = true;
     bool typ = true;
@@ -434,12 +425,8 @@ void CHKAuswahlVdi3805Dlg::OnPaint()
 
 void CHKAuswahlVdi3805Dlg::OnSysCommand(unsigned id)
 {
-    if ((id & kSysCommandMaske) != kMenuTransparenz) {
+    if (!AendereTransparenz(id, m_nTransparenz)) {
         CResizingDialog::OnSysCommand(id);
-        return;
-    }
-    if (ShowTransDlg(m_nTransparenz)) {
-        SetWindowAlpha(*this, m_nTransparenz);
     }
 }
 

@@ -4,7 +4,6 @@
 #include "dialogs/platzierung.h"
 #include "host/host_catalog.h"
 #include "host/host_prefs.h"
-#include "host/host_prompts.h"
 #include "platform/folder.h"
 #include "platform/format.h"
 #include "uikit/column_label.h"
@@ -341,11 +340,7 @@ void CVentVdiDlg::OnOK()
 
 void CVentVdiDlg::OnSysCommand(unsigned id)
 {
-    if ((id & kSysCommandMaske) != kMenuTransparenz) {
+    if (!AendereTransparenz(id, m_nTransparenz)) {
         CResizingDialog::OnSysCommand(id);
-        return;
-    }
-    if (ShowTransDlg(m_nTransparenz)) {
-        SetWindowAlpha(*this, m_nTransparenz);
     }
 }
