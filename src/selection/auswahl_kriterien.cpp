@@ -27,8 +27,9 @@ CString GanzeZahl(double value)
 
 } // namespace
 
-CAuswahlKriterien::CAuswahlKriterien(CAuswahlAnsicht& ansicht, bool treffer)
-    : m_bTreffer(treffer), m_ansicht(ansicht)
+CAuswahlKriterien::CAuswahlKriterien(CAuswahlAnsicht& ansicht, CHKVdi3805& katalog, bool treffer,
+                                     bool warnen)
+    : m_pVdi(&katalog), m_bTreffer(treffer), m_bWarnen(warnen), m_ansicht(ansicht)
 {
     lmGetHKLayer(m_strLayerEingabe);
     m_strLayer = m_strLayerEingabe;

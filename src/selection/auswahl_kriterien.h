@@ -51,9 +51,10 @@ public:
 class CAuswahlKriterien
 {
 public:
-    /// `treffer`: the pass before the dialog has found a best row. Layer fields start with the
-    /// host's default. The view must outlive the object.
-    CAuswahlKriterien(CAuswahlAnsicht& ansicht, bool treffer);
+    /// `katalog` brings the hand-over that the criteria read and write. `treffer`: the pass before
+    /// the dialog has found a best row; with `warnen` the user is told once when no row fits. Layer
+    /// fields start with the host's default. View and catalogue must outlive the object.
+    CAuswahlKriterien(CAuswahlAnsicht& ansicht, CHKVdi3805& katalog, bool treffer, bool warnen);
 
     /// Read the criteria into the hand-over and rebuild the grid. With a best row found, the first
     /// call leaves the pass of the entry point as it stands.
@@ -123,14 +124,12 @@ public:
     /// fields are not read: temperatures typed last are taken only if an event has read them.
     void Uebernehmen();
 
-    /// Precondition of every operation; must outlive the object. The hand-over is the one that it
-    /// is bound to.
-    CHKVdi3805* m_pVdi = nullptr;
+    CHKVdi3805* const m_pVdi;
 
     /// A best row exists.
     bool m_bTreffer;
-    /// Once, when no row fits, the user is told and the size range is widened.
-    bool m_bWarnen = false;
+    /// When no row fits for the first time, the user is to be told and the size range widened.
+    bool m_bWarnen;
     /// The opening is finished.
     bool m_bInitialisiert = false;
 

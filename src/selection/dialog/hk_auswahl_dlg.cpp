@@ -91,10 +91,9 @@ CString BlockOrdner()
 } // namespace
 
 CHKAuswahlVdi3805Dlg::CHKAuswahlVdi3805Dlg(CHKVdi3805& katalog, bool treffer, bool warnen)
-    : CResizingDialog(HKAuswahlTemplate()), m_kriterien(*this, treffer), m_nTransparenz(kDeckend)
+    : CResizingDialog(HKAuswahlTemplate()), m_kriterien(*this, katalog, treffer, warnen),
+      m_baum(katalog)
 {
-    m_kriterien.m_pVdi = &katalog;
-    m_kriterien.m_bWarnen = warnen;
 }
 
 CHKAuswahlVdi3805Dlg::~CHKAuswahlVdi3805Dlg() = default;
@@ -194,7 +193,7 @@ bool CHKAuswahlVdi3805Dlg::OnInitDialog()
     CResizingDialog::OnInitDialog();
     LadeIcons();
     ResetUnits();
-    m_baum.Fuelle(*m_kriterien.m_pVdi);
+    m_baum.Fuelle();
     m_strPfad = GetHKDir(false);
     m_kriterien.LeistungFilterAus();
     GitterAnlegen();

@@ -81,7 +81,7 @@ private:
     void ZeichneFarbe();
 
     CAuswahlKriterien m_kriterien;
-    int m_nTransparenz;
+    int m_nTransparenz = kDeckend;
     CDrawer* m_pDrawer = nullptr;
     CString m_strPfad;
     /// The block as its picture shows it; empty while none was chosen.

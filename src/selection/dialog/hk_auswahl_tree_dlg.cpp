@@ -13,7 +13,7 @@ constexpr int idBaum = 18000;
 } // namespace
 
 CHKAuswahlVdi3805TreeDlg::CHKAuswahlVdi3805TreeDlg(CHKVdi3805* vdi)
-    : CResizingDialog(HKAuswahlTreeTemplate()), m_pVdi(vdi)
+    : CResizingDialog(HKAuswahlTreeTemplate()), m_pVdi(vdi), m_baum(*m_pVdi)
 {
 }
 
@@ -40,7 +40,7 @@ void CHKAuswahlVdi3805TreeDlg::DoDataExchange(CDataExchange* pDX)
 bool CHKAuswahlVdi3805TreeDlg::OnInitDialog()
 {
     CResizingDialog::OnInitDialog();
-    m_baum.Fuelle(*m_pVdi);
+    m_baum.Fuelle();
     SetzeAnker();
     PlatzierungLaden(*this, kPlatzierung, nullptr, false);
     m_baum.WaehleVorgabe();

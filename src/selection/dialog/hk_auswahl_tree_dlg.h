@@ -26,6 +26,6 @@ private:
     void OnBaumSelChanged(CNotify& notify);
     void SetzeAnker();
 
-    CKatalogBaum m_baum;
     CHKVdi3805* m_pVdi;
+    CKatalogBaum m_baum;
 };

@@ -28,9 +28,10 @@ CImageList LadeBilder()
 
 } // namespace
 
-void CKatalogBaum::Fuelle(CHKVdi3805& katalog)
+CKatalogBaum::CKatalogBaum(CHKVdi3805& katalog) : m_pVdi(&katalog) {}
+
+void CKatalogBaum::Fuelle()
 {
-    m_pVdi = &katalog;
     SetImageList(LadeBilder());
     CPtrArray liste;
     const int anzahl = m_pVdi->GetHerstellerListe(liste);

@@ -16,9 +16,12 @@ struct HK_VDI3805_HERSTELLER;
 class CKatalogBaum : public CTreeCtrl
 {
 public:
+    /// `katalog` must outlive the control and have made a filter pass.
+    explicit CKatalogBaum(CHKVdi3805& katalog);
+
     /// Sets the pictures and adds all manufacturers; those that are read come with their kinds and
-    /// products. `katalog` must outlive the control and have made a filter pass.
-    void Fuelle(CHKVdi3805& katalog);
+    /// products.
+    void Fuelle();
 
     /// True for the item of a manufacturer whose file is not read, whether or not reading it has
     /// failed before.
@@ -46,5 +49,5 @@ private:
     HK_VDI3805_HERSTELLER* Hersteller(HTREEITEM item) const;
     void FuelleHersteller(HTREEITEM item);
 
-    CHKVdi3805* m_pVdi = nullptr;
+    CHKVdi3805* m_pVdi;
 };

@@ -30,7 +30,7 @@ void CTestGitter::PasseBreiteAn(int erste, int anzahl, int count, int mindestens
 }
 
 CTestDialog::CTestDialog(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
-    : vdi(&uebergabe), kriterien(*this, false), zeilen(gitter, kriterien)
+    : vdi(&uebergabe), kriterien(*this, vdi, false, false), zeilen(gitter, kriterien)
 {
     using K = CAuswahlKriterien;
     m_textFelder = {{7007, &K::m_strSystemName},     {18002, &K::m_strLaengeVon},
@@ -57,7 +57,6 @@ void CTestDialog::Oeffnen(bool mitProdukt)
 {
     vdi.Filtern();
     kriterien.m_bTreffer = vdi.BesteAuswahl() != -1;
-    kriterien.m_pVdi = &vdi;
     kriterien.LeistungFilterAus();
     zeilen.ZeileWaehlen(0);
     kriterien.UebergabeLesen();
