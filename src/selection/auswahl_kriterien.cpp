@@ -42,10 +42,10 @@ void CAuswahlKriterien::Neuberechnen()
 {
     HK_DATEN_VDI3805_UEBERGABE& uebergabe = Uebergabe();
     m_ansicht.UpdateData(true);
-    LiesMass(kListeHoeheVon, m_nHoeheVon, uebergabe.HoeheMin);
-    LiesMass(kListeHoeheBis, m_nHoeheBis, uebergabe.HoeheMax);
-    LiesMass(kListeTiefeVon, m_nTiefeVon, uebergabe.TiefeMin);
-    LiesMass(kListeTiefeBis, m_nTiefeBis, uebergabe.TiefeMax);
+    LiesMass(idHoeheVon, m_nHoeheVon, uebergabe.HoeheMin);
+    LiesMass(idHoeheBis, m_nHoeheBis, uebergabe.HoeheMax);
+    LiesMass(idTiefeVon, m_nTiefeVon, uebergabe.TiefeMin);
+    LiesMass(idTiefeBis, m_nTiefeBis, uebergabe.TiefeMax);
     uebergabe.LaengeMin = _wtof(m_strLaengeVon);
     uebergabe.LaengeMax = _wtof(m_strLaengeBis);
     uebergabe.Leistung = _wtof(m_strLeistungSoll);
@@ -74,7 +74,7 @@ void CAuswahlKriterien::FelderAnzeigen()
     m_strLaengeVon = GanzeZahl(Uebergabe().LaengeMin);
     m_strLaengeBis = GanzeZahl(Uebergabe().LaengeMax);
     m_strLeistungSoll = GanzeZahl(Uebergabe().Leistung);
-    m_ansicht.EnableControl(kFeldProzent, m_bProzent != 0);
+    m_ansicht.EnableControl(idProzent, m_bProzent != 0);
     m_ansicht.UpdateData(false);
 }
 
@@ -129,7 +129,7 @@ void CAuswahlKriterien::RaumdatenLesen()
 
 void CAuswahlKriterien::HeizsystemeLesen()
 {
-    CAuswahlListe& liste = m_ansicht.Liste(kListeSystem);
+    CAuswahlListe& liste = m_ansicht.Liste(idHeizsysteme);
     ListeLesen(kListeHeizsysteme, liste, kGewerkHeizung);
     m_Vorlauf = Uebergabe().Vorlauf;
     m_Ruecklauf = Uebergabe().Ruecklauf;
@@ -163,15 +163,15 @@ void CAuswahlKriterien::LiesMass(int listId, int index, double& mass)
 
 void CAuswahlKriterien::NeuesProdukt()
 {
-    for (const int id : {kListeHoeheVon, kListeTiefeVon, kListeHoeheBis, kListeTiefeBis}) {
+    for (const int id : {idHoeheVon, idTiefeVon, idHoeheBis, idTiefeBis}) {
         ListeLeeren(m_ansicht.Liste(id));
     }
     m_pVdi->Filtern();
     const HK_DATEN_VDI3805_UEBERGABE& uebergabe = Uebergabe();
-    FuelleMassListen(m_pVdi->GetHoehen(), kListeHoeheVon, kListeHoeheBis);
-    SucheBereich(kListeHoeheVon, uebergabe.HoeheMin, uebergabe.HoeheMax, m_nHoeheVon, m_nHoeheBis);
-    FuelleMassListen(m_pVdi->GetTiefen(), kListeTiefeVon, kListeTiefeBis);
-    SucheBereich(kListeTiefeVon, uebergabe.TiefeMin, uebergabe.TiefeMax, m_nTiefeVon, m_nTiefeBis);
+    FuelleMassListen(m_pVdi->GetHoehen(), idHoeheVon, idHoeheBis);
+    SucheBereich(idHoeheVon, uebergabe.HoeheMin, uebergabe.HoeheMax, m_nHoeheVon, m_nHoeheBis);
+    FuelleMassListen(m_pVdi->GetTiefen(), idTiefeVon, idTiefeBis);
+    SucheBereich(idTiefeVon, uebergabe.TiefeMin, uebergabe.TiefeMax, m_nTiefeVon, m_nTiefeBis);
     FelderAnzeigen();
     Neuberechnen();
 }
@@ -207,8 +207,8 @@ void CAuswahlKriterien::LeistungAngabeGeklickt()
 void CAuswahlKriterien::LeistungAngabeAnwenden()
 {
     m_pVdi->SetLeistungFilter(m_bLeistungAngabe);
-    m_ansicht.EnableControl(kFeldLeistungSoll, m_bLeistungAngabe != 0);
-    m_ansicht.EnableControl(kFeldLeistungIst, m_bLeistungAngabe != 0);
+    m_ansicht.EnableControl(idLeistungSoll, m_bLeistungAngabe != 0);
+    m_ansicht.EnableControl(idLeistungIst, m_bLeistungAngabe != 0);
     KatalogNeuLesen();
 }
 
@@ -217,11 +217,11 @@ void CAuswahlKriterien::AlleAnzeigenGeklickt()
     m_ansicht.UpdateData(true);
     m_pVdi->SetAlleAnzeigen(m_bAlleAnzeigen);
     m_ansicht.ZeilenAufbauen(true);
-    for (const int id : {kListeHoeheBis, kListeHoeheVon, kListeTiefeBis, kListeTiefeVon}) {
+    for (const int id : {idHoeheBis, idHoeheVon, idTiefeBis, idTiefeVon}) {
         m_ansicht.EnableControl(id, m_bAlleAnzeigen == 0);
     }
-    m_ansicht.EnableControl(kFeldLaengeVon, m_bAlleAnzeigen == 0);
-    m_ansicht.EnableControl(kFeldLaengeBis, m_bAlleAnzeigen == 0);
+    m_ansicht.EnableControl(idLaengeVon, m_bAlleAnzeigen == 0);
+    m_ansicht.EnableControl(idLaengeBis, m_bAlleAnzeigen == 0);
 }
 
 void CAuswahlKriterien::RestGeklickt()
@@ -285,7 +285,7 @@ void CAuswahlKriterien::SystemGewaehlt()
     if (m_nHeizsystem < 0) {
         return;
     }
-    SystemZerlegen(m_ansicht.Liste(kListeSystem).Text(m_nHeizsystem), m_strSystemName, m_Vorlauf,
+    SystemZerlegen(m_ansicht.Liste(idHeizsysteme).Text(m_nHeizsystem), m_strSystemName, m_Vorlauf,
                    m_Ruecklauf);
     SystemAnwenden();
 }
@@ -306,7 +306,7 @@ void CAuswahlKriterien::SystemSpeichern()
     if (eintrag.empty()) {
         return;
     }
-    CAuswahlListe& liste = m_ansicht.Liste(kListeSystem);
+    CAuswahlListe& liste = m_ansicht.Liste(idHeizsysteme);
     m_nHeizsystem = EintragSuchen(liste, eintrag);
     liste.Waehlen(m_nHeizsystem);
     SystemAnwenden();
@@ -315,7 +315,7 @@ void CAuswahlKriterien::SystemSpeichern()
 void CAuswahlKriterien::SystemLoeschen()
 {
     m_ansicht.UpdateData(true);
-    CAuswahlListe& liste = m_ansicht.Liste(kListeSystem);
+    CAuswahlListe& liste = m_ansicht.Liste(idHeizsysteme);
     EintragLoeschen(liste, liste.Text(liste.Gewaehlt()));
     m_nHeizsystem = 0;
     SystemGewaehlt();
@@ -329,6 +329,6 @@ void CAuswahlKriterien::Uebernehmen()
     uebergabe.Ruecklauf = m_Ruecklauf;
     uebergabe.Leistung = _wtof(m_strLeistungIst);
     LayerMerken(m_strLayer, m_nLayerFarbe);
-    ListeSchreiben(kListeHeizsysteme, m_ansicht.Liste(kListeSystem), kGewerkHeizung);
+    ListeSchreiben(kListeHeizsysteme, m_ansicht.Liste(idHeizsysteme), kGewerkHeizung);
     AuswahlMerken(uebergabe, m_strSystemName, m_Vorlauf, m_Ruecklauf);
 }

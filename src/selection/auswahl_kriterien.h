@@ -5,21 +5,7 @@
 #include "platform/array.h"
 #include "platform/text.h"
 #include "radiator/hk_vdi3805.h"
-
-/// Controls of the selection dialog that the criteria know by their numbers.
-enum AuswahlControl : int
-{
-    kListeSystem = 7006,
-    kFeldLaengeVon = 18002,
-    kFeldLaengeBis = 18003,
-    kListeHoeheVon = 18004,
-    kFeldLeistungSoll = 18005,
-    kListeHoeheBis = 18008,
-    kListeTiefeVon = 18009,
-    kListeTiefeBis = 18010,
-    kFeldLeistungIst = 18011,
-    kFeldProzent = 18016,
-};
+#include "selection/auswahl_controls.h"
 
 /// What the criteria ask of the dialog.
 class CAuswahlAnsicht

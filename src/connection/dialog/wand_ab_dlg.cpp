@@ -5,18 +5,6 @@
 #include "connection/dialog/wand_ab_template.h"
 #include "host/host_prefs.h"
 
-namespace {
-
-enum Control
-{
-    idWand = 1529,
-    idBoden = 1530,
-    idEinheitWand = 7020,
-    idEinheitBoden = 7023,
-};
-
-} // namespace
-
 CWandAbDlg::CWandAbDlg() : CBrushedDialog(WandAbTemplate()) {}
 
 CWandAbDlg::~CWandAbDlg() = default;

@@ -1,5 +1,7 @@
 #include "connection/dialog/wand_ab_template.h"
 
+#include "dialogs/brushed_dialog.h"
+
 const DialogTemplate& WandAbTemplate()
 {
     using enum ControlKind;
@@ -11,18 +13,18 @@ const DialogTemplate& WandAbTemplate()
         112,
         frameFixed,
         {
-            {563, canvas, L"", 0, 0, 16, 112},
+            {kBannerId, canvas, L"", 0, 0, 16, 112},
 
             {kNoId, groupBox, L"Posiziona nel disegno", 22, 6, 146, 78},
             {kNoId, label, L"Distanza dal muro", 31, 33, 64, 9},
-            {1529, edit, L"", 98, 31, 48, 13, styleRight},
-            {7020, label, L"m", 150, 33, 14, 9},
+            {idWand, edit, L"", 98, 31, 48, 13, styleRight},
+            {idEinheitWand, label, L"m", 150, 33, 14, 9},
             {kNoId, label, L"Distanza dal pav:", 31, 55, 64, 9},
-            {1530, edit, L"", 98, 53, 48, 13, styleRight},
-            {7023, label, L"m", 150, 55, 14, 9},
+            {idBoden, edit, L"", 98, 53, 48, 13, styleRight},
+            {idEinheitBoden, label, L"m", 150, 55, 14, 9},
 
-            {1, defaultButton, L"OK", 64, 92, 50, 14},
-            {2, button, L"Annulla", 118, 92, 50, 14},
+            {kIdOk, defaultButton, L"OK", 64, 92, 50, 14},
+            {kIdCancel, button, L"Annulla", 118, 92, 50, 14},
         },
     };
     return vorlage;

@@ -2,5 +2,14 @@
 
 #include "uikit/dialog_template.h"
 
+/// Controls of the dialog for the distances.
+enum WandAbControl : int
+{
+    idWand = 1529,
+    idEinheitWand = 7020,
+    idBoden = 1530,
+    idEinheitBoden = 7023,
+};
+
 /// The dialog for the distances of radiators from wall and floor, as data.
 const DialogTemplate& WandAbTemplate();

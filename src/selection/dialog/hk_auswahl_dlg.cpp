@@ -34,35 +34,12 @@ constexpr int kGroesseDesHosts = 0;
 /// manage layers, its large layer dialog in place of the swatch.
 constexpr bool kOhneBlock = false;
 
-enum Control
-{
-    idFarbe = 250,
-    idSpeichern = 268,
-    idLoeschen = 269,
-    idLayerAktiv = 3144,
-    idLayer = 3187,
-    idLayerDialog = 3232,
-    idVentile = 7028,
-    idAbstaende = 7022,
-    idVorschau = 16022,
-    idBaum = 18000,
-    idGitter = 18001,
-    idAbweichung = 18015,
-    idLeistungAngabe = 18017,
-    idAlleAnzeigen = 18019,
-    idRest = 18047,
-    idProzentAngabe = 18049,
-    idBlockTitel = 18051,
-    idBloecke = 18080,
-    idRaumtemperatur = 18107,
-};
+constexpr int kListen[] = {idHeizsysteme, idHoeheVon, idHoeheBis, idTiefeVon,
+                           idTiefeBis,    idLayer,    idBloecke};
 
-constexpr int kListen[] = {kListeSystem,   kListeHoeheVon, kListeHoeheBis, kListeTiefeVon,
-                           kListeTiefeBis, idLayer,        idBloecke};
-
-/// A number that the exchange leaves alone until its text was changed, since it runs many times
-/// between two inputs and a text may have fewer digits than the number. A text without a number
-/// reads as 0.0 and is no error: the user may be typing still.
+/// Exchanges a number that may have more digits than its text. The exchange runs many times between
+/// two inputs and must not round it: the number changes only when its text was changed. A text
+/// without a number reads as 0.0 and is no error, since the user may still be typing.
 void DDX_Zahl(CDataExchange* pDX, int id, double& value)
 {
     const CString shown = FormatPlain(value);
@@ -125,19 +102,19 @@ const CMessageMap& CHKAuswahlVdi3805Dlg::GetMessageMap() const
         {
             On(treeItemExpanding, idBaum, &Dlg::OnBaumItemExpanding),
             On(treeSelectionChanged, idBaum, &Dlg::OnBaumSelChanged),
-            Zu(textChanged, kFeldLaengeVon, kFeldLaengeVon, &K::NeuberechnenWennBereit),
-            Zu(textChanged, kFeldLaengeBis, kFeldLaengeBis, &K::NeuberechnenWennBereit),
-            Zu(textChanged, kFeldLeistungSoll, kFeldLeistungSoll, &K::NeuberechnenWennBereit),
-            Zu(selectionEnded, kListeHoeheVon, kListeHoeheVon, &K::NeuberechnenWennBereit),
-            Zu(selectionEnded, kListeHoeheBis, kListeTiefeBis, &K::NeuberechnenWennBereit),
+            Zu(textChanged, idLaengeVon, idLaengeVon, &K::NeuberechnenWennBereit),
+            Zu(textChanged, idLaengeBis, idLaengeBis, &K::NeuberechnenWennBereit),
+            Zu(textChanged, idLeistungSoll, idLeistungSoll, &K::NeuberechnenWennBereit),
+            Zu(selectionEnded, idHoeheVon, idHoeheVon, &K::NeuberechnenWennBereit),
+            Zu(selectionEnded, idHoeheBis, idTiefeBis, &K::NeuberechnenWennBereit),
             Zu(clicked, idLeistungAngabe, idLeistungAngabe, &K::LeistungAngabeGeklickt),
             Zu(clicked, idAlleAnzeigen, idAlleAnzeigen, &K::AlleAnzeigenGeklickt),
             Zu(clicked, idRest, idRest, &K::RestGeklickt),
             Zu(clicked, idProzentAngabe, idProzentAngabe, &K::ProzentGeaendert),
-            Zu(textChanged, idAbweichung, kFeldProzent, &K::ProzentGeaendert),
+            Zu(textChanged, idAbweichung, idProzent, &K::ProzentGeaendert),
             Zu(textChanged, idRaumtemperatur, idRaumtemperatur, &K::RaumtemperaturGeaendert),
             Zu(focusLost, idRaumtemperatur, idRaumtemperatur, &K::RaumtemperaturVerlassen),
-            Zu(selectionEnded, kListeSystem, kListeSystem, &K::SystemGewaehlt),
+            Zu(selectionEnded, idHeizsysteme, idHeizsysteme, &K::SystemGewaehlt),
             Zu(clicked, idSpeichern, idSpeichern, &K::SystemSpeichern),
             Zu(clicked, idLoeschen, idLoeschen, &K::SystemLoeschen),
             On(clicked, idLayerAktiv, &Dlg::WendeLayerAktivAn),
@@ -166,26 +143,26 @@ void CHKAuswahlVdi3805Dlg::DoDataExchange(CDataExchange* pDX)
     DDX_Check(pDX, idAlleAnzeigen, k.m_bAlleAnzeigen);
     DDX_Check(pDX, idRest, k.m_bRest);
     DDX_Check(pDX, idProzentAngabe, k.m_bProzent);
-    DDX_CBIndex(pDX, kListeSystem, k.m_nHeizsystem);
-    DDX_CBIndex(pDX, kListeHoeheVon, k.m_nHoeheVon);
-    DDX_CBIndex(pDX, kListeHoeheBis, k.m_nHoeheBis);
-    DDX_CBIndex(pDX, kListeTiefeVon, k.m_nTiefeVon);
-    DDX_CBIndex(pDX, kListeTiefeBis, k.m_nTiefeBis);
+    DDX_CBIndex(pDX, idHeizsysteme, k.m_nHeizsystem);
+    DDX_CBIndex(pDX, idHoeheVon, k.m_nHoeheVon);
+    DDX_CBIndex(pDX, idHoeheBis, k.m_nHoeheBis);
+    DDX_CBIndex(pDX, idTiefeVon, k.m_nTiefeVon);
+    DDX_CBIndex(pDX, idTiefeBis, k.m_nTiefeBis);
     DDX_Text(pDX, idLayer, k.m_strLayerEingabe);
-    DDX_Text(pDX, 7007, k.m_strSystemName);
-    DDX_Zahl(pDX, 7008, k.m_Vorlauf);
-    DDX_Zahl(pDX, 7009, k.m_Ruecklauf);
-    DDX_Text(pDX, kFeldLaengeVon, k.m_strLaengeVon);
-    DDX_Text(pDX, kFeldLaengeBis, k.m_strLaengeBis);
-    DDX_Text(pDX, kFeldLeistungSoll, k.m_strLeistungSoll);
-    DDX_Text(pDX, kFeldLeistungIst, k.m_strLeistungIst);
-    DDX_Zahl(pDX, 18012, k.m_RaumBedarf);
+    DDX_Text(pDX, idSystemName, k.m_strSystemName);
+    DDX_Zahl(pDX, idVorlauf, k.m_Vorlauf);
+    DDX_Zahl(pDX, idRuecklauf, k.m_Ruecklauf);
+    DDX_Text(pDX, idLaengeVon, k.m_strLaengeVon);
+    DDX_Text(pDX, idLaengeBis, k.m_strLaengeBis);
+    DDX_Text(pDX, idLeistungSoll, k.m_strLeistungSoll);
+    DDX_Text(pDX, idLeistungIst, k.m_strLeistungIst);
+    DDX_Zahl(pDX, idRaumBedarf, k.m_RaumBedarf);
     DDX_Text(pDX, idAbweichung, k.m_strAbweichung);
-    DDX_Zahl(pDX, kFeldProzent, k.m_Prozent);
-    DDX_Text(pDX, 18018, k.m_strExponent);
-    DDX_Text(pDX, 18048, k.m_strRaum);
+    DDX_Zahl(pDX, idProzent, k.m_Prozent);
+    DDX_Text(pDX, idExponent, k.m_strExponent);
+    DDX_Text(pDX, idRaum, k.m_strRaum);
     DDX_Text(pDX, idRaumtemperatur, k.m_strRaumtemperatur);
-    DDX_Text(pDX, 18109, m_strPfad);
+    DDX_Text(pDX, idPfad, m_strPfad);
 }
 
 bool CHKAuswahlVdi3805Dlg::OnInitDialog()

@@ -8,7 +8,6 @@
 namespace {
 
 constexpr wchar_t kPlatzierung[] = L"RADSEL_HK_AUSWAHL_TREE";
-constexpr int idBaum = 18000;
 
 } // namespace
 
@@ -25,8 +24,8 @@ const CMessageMap& CHKAuswahlVdi3805TreeDlg::GetMessageMap() const
     static const CMessageMap map(
         &CResizingDialog::GetMessageMap(),
         {
-            On(ControlEvent::treeItemExpanding, idBaum, &Dlg::OnBaumItemExpanding),
-            On(ControlEvent::treeSelectionChanged, idBaum, &Dlg::OnBaumSelChanged),
+            On(ControlEvent::treeItemExpanding, idProduktBaum, &Dlg::OnBaumItemExpanding),
+            On(ControlEvent::treeSelectionChanged, idProduktBaum, &Dlg::OnBaumSelChanged),
         });
     return map;
 }
@@ -34,7 +33,7 @@ const CMessageMap& CHKAuswahlVdi3805TreeDlg::GetMessageMap() const
 void CHKAuswahlVdi3805TreeDlg::DoDataExchange(CDataExchange* pDX)
 {
     CResizingDialog::DoDataExchange(pDX);
-    DDX_Control(pDX, idBaum, m_baum);
+    DDX_Control(pDX, idProduktBaum, m_baum);
 }
 
 bool CHKAuswahlVdi3805TreeDlg::OnInitDialog()
@@ -51,7 +50,7 @@ bool CHKAuswahlVdi3805TreeDlg::OnInitDialog()
 void CHKAuswahlVdi3805TreeDlg::SetzeAnker()
 {
     GroesseErlauben(true, true);
-    AnkerSetzen(idBaum, ankerStrecken, ankerStrecken, false);
+    AnkerSetzen(idProduktBaum, ankerStrecken, ankerStrecken, false);
     AnkerSetzen(kIdOk, ankerMitgehen, ankerMitgehen, false);
     AnkerSetzen(kIdCancel, ankerMitgehen, ankerMitgehen, false);
     AnkerSetzen(kBannerId, ankerFest, ankerStrecken, false);

@@ -1,5 +1,7 @@
 #include "selection/dialog/hk_auswahl_tree_template.h"
 
+#include "dialogs/brushed_dialog.h"
+
 const DialogTemplate& HKAuswahlTreeTemplate()
 {
     using enum ControlKind;
@@ -10,10 +12,10 @@ const DialogTemplate& HKAuswahlTreeTemplate()
         169,
         frameResizable,
         {
-            {563, canvas, L"", 0, 0, 16, 169},
-            {18000, tree, L"", 22, 6, 138, 137},
-            {1, defaultButton, L"OK", 56, 149, 50, 14},
-            {2, button, L"Annulla", 110, 149, 50, 14},
+            {kBannerId, canvas, L"", 0, 0, 16, 169},
+            {idProduktBaum, tree, L"", 22, 6, 138, 137},
+            {kIdOk, defaultButton, L"OK", 56, 149, 50, 14},
+            {kIdCancel, button, L"Annulla", 110, 149, 50, 14},
         },
     };
     return vorlage;

@@ -33,14 +33,6 @@ enum Ebene
     ebeneArtikel
 };
 
-enum Control
-{
-    idKvListe = 18029,
-    idBaum = 18019,
-    idHersteller = 18039,
-    idKvKopf = 18066,
-};
-
 } // namespace
 
 CVentVdiDlg::CVentVdiDlg() : CResizingDialog(VentVdiTemplate()) {}
@@ -63,7 +55,7 @@ const CMessageMap& CVentVdiDlg::GetMessageMap() const
     static const CMessageMap map(
         &CResizingDialog::GetMessageMap(),
         {
-            On(ControlEvent::treeSelectionChanged, idBaum, &CVentVdiDlg::OnBaumSelChanged),
+            On(ControlEvent::treeSelectionChanged, idVentilBaum, &CVentVdiDlg::OnBaumSelChanged),
             On(ControlEvent::selectionEnded, idHersteller, &CVentVdiDlg::WechsleHersteller),
         });
     return map;
@@ -74,15 +66,15 @@ void CVentVdiDlg::DoDataExchange(CDataExchange* pDX)
     CResizingDialog::DoDataExchange(pDX);
     DDX_Control(pDX, idHersteller, m_hersteller);
     DDX_Control(pDX, idKvListe, m_kvListe);
-    DDX_Control(pDX, idBaum, m_baum);
-    DDX_Text(pDX, 18030, TextAntrieb);
-    DDX_Text(pDX, 18031, TextBauform);
-    DDX_Text(pDX, 18032, TextWerkstoff);
-    DDX_Text(pDX, 371, TextDN);
-    DDX_Text(pDX, 18035, TextDruck);
-    DDX_Text(pDX, 18036, TextKvs);
-    DDX_Check(pDX, 18037, CheckEinstellbar);
-    DDX_Text(pDX, 18043, AnzeigeZeile);
+    DDX_Control(pDX, idVentilBaum, m_baum);
+    DDX_Text(pDX, idAntrieb, TextAntrieb);
+    DDX_Text(pDX, idBauform, TextBauform);
+    DDX_Text(pDX, idWerkstoff, TextWerkstoff);
+    DDX_Text(pDX, idNennweite, TextDN);
+    DDX_Text(pDX, idDruck, TextDruck);
+    DDX_Text(pDX, idKvs, TextKvs);
+    DDX_Check(pDX, idEinstellbar, CheckEinstellbar);
+    DDX_Text(pDX, idZeile, AnzeigeZeile);
 }
 
 bool CVentVdiDlg::OnInitDialog()
@@ -122,18 +114,19 @@ void CVentVdiDlg::SetzeAnker()
     GroesseErlauben(true, true);
     AnkerSetzen(kIdOk, ankerMitgehen, ankerMitgehen, false);
     AnkerSetzen(kIdCancel, ankerMitgehen, ankerMitgehen, false);
-    AnkerSetzen(idBaum, ankerStrecken, ankerStrecken, false);
+    AnkerSetzen(idVentilBaum, ankerStrecken, ankerStrecken, false);
+    // Ids of controls that move alike follow each other.
     const auto gehtMit = [this](int erste, int letzte) {
         for (int id = erste; id <= letzte; ++id) {
             AnkerSetzen(id, ankerMitgehen, ankerFest, false);
         }
     };
-    gehtMit(18051, 18066);
-    gehtMit(18022, 18032);
-    gehtMit(371, 371);
-    gehtMit(18035, 18037);
+    gehtMit(idNormDatumTitel, idKvKopf);
+    gehtMit(idHerstellerName, idWerkstoff);
+    gehtMit(idNennweite, idNennweite);
+    gehtMit(idDruck, idEinstellbar);
     AnkerSetzen(idHersteller, ankerStrecken, ankerFest, false);
-    AnkerSetzen(18043, ankerMitgehen, ankerFest, false);
+    AnkerSetzen(idZeile, ankerMitgehen, ankerFest, false);
     AnkerSetzen(kBannerId, ankerFest, ankerStrecken, false);
 }
 
@@ -176,9 +169,9 @@ void CVentVdiDlg::WechsleHersteller()
 
 void CVentVdiDlg::ZeigeKopf()
 {
-    SetzeText(18024, AusfuehrungDatum);
-    SetzeText(18022, HerstellerName);
-    SetzeText(18023, NormDatum);
+    SetzeText(idAusfuehrung, AusfuehrungDatum);
+    SetzeText(idHerstellerName, HerstellerName);
+    SetzeText(idNormDatum, NormDatum);
 }
 
 void CVentVdiDlg::FuelleBaum()
@@ -273,9 +266,9 @@ void CVentVdiDlg::SetzeStelle(const VentilStelle& stelle)
 
 void CVentVdiDlg::ZeigeVentil(const VENT_VDI3805_ARTIKEL& artikel)
 {
-    SetzeText(18025, artikel.BestellNr);
-    SetzeText(18027, artikel.Datanorm);
-    SetzeText(18026, artikel.TgaNr);
+    SetzeText(idBestellNr, artikel.BestellNr);
+    SetzeText(idDatanorm, artikel.Datanorm);
+    SetzeText(idTgaNr, artikel.TgaNr);
     AnzeigeZeile = artikel.ZeilenNr;
     UpdateData(false);
 
@@ -324,7 +317,7 @@ void CVentVdiDlg::ZeigeTexte(const VENT_VDI3805_ARTIKEL& artikel)
 
 void CVentVdiDlg::ZeigeVentilArt()
 {
-    SetzeText(18028, VentilArtText(Ventil.VentilArt));
+    SetzeText(idVentilArt, VentilArtText(Ventil.VentilArt));
 }
 
 void CVentVdiDlg::SetzeText(int id, const CString& text)

@@ -95,7 +95,7 @@ void CTestDialog::Hake(int id, bool an)
 void CTestDialog::Waehle(int id, int index)
 {
     listen[id].Waehlen(index);
-    if (id == kListeSystem) {
+    if (id == idHeizsysteme) {
         kriterien.SystemGewaehlt();
     } else {
         kriterien.NeuberechnenWennBereit();
