@@ -131,7 +131,7 @@ int VergleicheZellen(const CErgebnisZelle& erste, const CErgebnisZelle& zweite, 
 }
 
 CErgebnisZeilen::CErgebnisZeilen(CErgebnisGitter& gitter, CAuswahlKriterien& kriterien)
-    : m_gitter(gitter), m_kriterien(kriterien)
+    : m_gitter(gitter), m_kriterien(kriterien), m_strTitel(ErgebnisText(kTextTitel))
 {
     m_Sortierung.fill(true);
 }
@@ -146,7 +146,7 @@ void CErgebnisZeilen::ZeilenAufbauen(bool filtern)
     }
     const int beste = BesteOderErweiterte();
     ZeilenEinfuegen();
-    SpaltenAnpassen(0, kErgebnisSpalten, m_nZeilen);
+    SpaltenAnpassen(0, m_nSpalten, m_nZeilen);
     m_gitter.SetzeZeichnen(true);
     ZeileWaehlen(beste);
     m_gitter.ZeichneAlles();
@@ -172,7 +172,7 @@ void CErgebnisZeilen::Erweitern()
 {
     HK_DATEN_VDI3805_UEBERGABE& uebergabe = m_kriterien.m_pVdi->GetDaten();
     ShowMessage(
-        {ErgebnisText(kTextTitel),
+        {m_strTitel,
          MitZahlen(ErgebnisText(kTextNichtGefunden), uebergabe.LaengeMax, uebergabe.HoeheMax),
          MessageIcon::information});
     m_kriterien.m_bWarnen = false;
@@ -230,7 +230,7 @@ void CErgebnisZeilen::ZeileGewechselt(int zeile)
 
 void CErgebnisZeilen::UeberschriftGeklickt(int spalte)
 {
-    if (!IsSpalte(spalte) || m_nZeilen == 0) {
+    if (spalte < 0 || spalte >= m_nSpalten || m_nZeilen == 0) {
         return;
     }
     bool& aufsteigend = m_Sortierung[static_cast<std::size_t>(spalte)];

@@ -130,7 +130,10 @@ private:
     CErgebnisGitter& m_gitter;
     CAuswahlKriterien& m_kriterien;
     int m_nAktuelleZeile = 0;
-    int m_nZeilen = 0;
-    /// Direction of each column's last sort.
+    /// Direction of each column's last sort, true for ascending.
     std::array<bool, kErgebnisSpalten> m_Sortierung;
+    int m_nZeilen = 0;
+    int m_nSpalten = kErgebnisSpalten;
+    /// Caption of the message.
+    CString m_strTitel;
 };
