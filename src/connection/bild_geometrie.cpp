@@ -54,7 +54,7 @@ CPoint PunktAufBild(const CRect& bild, const ConnVector& position, const ConnVec
 Pfeil Pfeilrichtung(double winkel1, double winkel2, bool istVorlauf)
 {
     if (winkel2 == 0.0) {
-        // One quarter of a turn only: anything else counts as left.
+        // Only the first quarter of a turn counts as right, so that 300 degrees are left as well.
         const double t = Gedreht(winkel1, istVorlauf);
         return t >= 0.0 && t < 90.0 ? Pfeil::rechts : Pfeil::links;
     }

@@ -28,7 +28,8 @@ void ZeichnePunkte(const TGA_LIST& objekt, CDrawer& drawer)
     LM_TRAFO trafo(objekt.Trafo);
     const int anzahl =
         lmGet_K_APUNKT_BLOCK_Wc(objekt.Attribute, punkte.data(), &trafo, TgaGewerk(0), L"");
-    // The second half are the far ends of the pipes, which the first half draws by its distances.
+    // The points of the second half are the far ends of the pipes that begin at those of the first;
+    // drawing a point draws its pipe as far as that.
     for (int i = 0; i < anzahl / 2; ++i) {
         const LM_APUNKT& punkt = punkte[static_cast<std::size_t>(i)];
         drawer.DrawConnectionPoint(punkt.Punkt, punkt.Richtung, punkt.Wert,

@@ -14,8 +14,8 @@ constexpr int kAbstandUnten = 10;
 
 const CFont kBannerFont = {L"Segoe UI", 14, 700, true};
 
-/// No system that the module runs on has a theme with a banner of its own; the setting is the
-/// host's all the same.
+/// The host may ask for a banner in the style of the system's theme. No system that the module runs
+/// on has one, so that the module's own is drawn.
 bool ZeichneThemenBanner(const CWnd& /*control*/)
 {
     return false;

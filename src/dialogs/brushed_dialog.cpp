@@ -51,7 +51,7 @@ bool CBrushedDialog::OnHelp()
     return true;
 }
 
-/// The place of the help icon is one on the screen and is taken while the frame is painted.
+/// Painting the frame notes where on the screen the help icon lies, which a move has changed.
 void CBrushedDialog::OnMove()
 {
     CDialog::OnMove();

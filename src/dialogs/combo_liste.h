@@ -3,7 +3,7 @@
 #include "common/auswahl_liste.h"
 #include "uikit/combo_box.h"
 
-/// A combo box as the list that work without a window sees.
+/// A combo box as a list for code that knows no windows.
 class CComboListe : public CComboBox, public CAuswahlListe
 {
 public:

@@ -4,7 +4,8 @@
 
 namespace {
 
-/// Signs like that of degrees are none, though catalogues put them right behind words.
+/// Letters of the writings that catalogues use. A sign such as that of degrees is no letter, so
+/// that a word ends before it.
 bool IsLetter(wchar_t c)
 {
     constexpr wchar_t kFirstAccented = 0xC0;

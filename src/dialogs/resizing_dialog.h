@@ -56,7 +56,7 @@ private:
         int y = ankerFest;
         CRect rect;
         bool keinHintergrund = false;
-        /// Of left and top from the middle of the client area.
+        /// Distances of the left and the top edge from the middle of the client area.
         int mitteX = 0;
         int mitteY = 0;
     };

@@ -14,10 +14,10 @@
 
 namespace {
 
-/// Share of its demand that a room with nothing covered yet starts with.
+/// Percentage of its demand that a room starts with when nothing of it is covered yet.
 constexpr double kStartProzent = 50.0;
 
-/// From this output on the rows of a catalogue are worth making anew.
+/// Watts below which a new percentage does not read the catalogue again.
 constexpr double kKleinsteLeistung = 100.0;
 
 CString GanzeZahl(double value)
@@ -49,8 +49,8 @@ void CAuswahlKriterien::Neuberechnen()
     uebergabe.LaengeMin = _wtof(m_strLaengeVon);
     uebergabe.LaengeMax = _wtof(m_strLaengeBis);
     uebergabe.Leistung = _wtof(m_strLeistungSoll);
-    // The host's own bounds and tolerance hold in the pass that found the best row, and that pass
-    // stands until the user changes something.
+    // The pass before the dialog was made with the tolerance and the bounds that the host wanted.
+    // If it found a best row, its result stands until the user changes something.
     m_ansicht.ZeilenAufbauen(!m_pVdi->IsErsterLauf() || !m_bTreffer);
     m_pVdi->SetErsterLauf(false);
 }
@@ -241,7 +241,8 @@ void CAuswahlKriterien::ProzentGeaendert()
     const double prozent = m_Prozent;
     const int angehakt = m_bProzent;
     m_ansicht.UpdateData(true);
-    // The deviation is among the fields whose change comes here, and each showing changes it.
+    // The field of the deviation raises this event too, whenever the dialog itself shows a new
+    // deviation. The user has changed nothing then.
     if (m_Prozent == prozent && m_bProzent == angehakt) {
         return;
     }

@@ -13,15 +13,16 @@ class CAuswahlAnsicht
 public:
     virtual ~CAuswahlAnsicht() = default;
 
-    /// True: reads all controls into the members; false: writes all members to the controls. A
-    /// control that gets the text which it holds raises no event. The others raise theirs after the
-    /// whole exchange has written, in the order of the controls, and the handlers come back here: a
-    /// handler that met half of an exchange would read the other half from old texts.
+    /// True: reads all controls into the members; false: writes all members to the controls.
+    /// Writing a text that a control already holds raises no event. Other writes raise the change
+    /// events of their controls, but only after the last control is written: a handler calls
+    /// UpdateData(true) itself, and must not read controls that still hold their old texts.
     virtual void UpdateData(bool lesen) = 0;
 
     virtual void EnableControl(int id, bool enable) = 0;
 
-    /// The list behind one of the numbers kListe...; always the same one.
+    /// The list of that control: heating systems or one of the four size lists; always the same
+    /// one.
     virtual CAuswahlListe& Liste(int id) = 0;
 
     /// CErgebnisZeilen::ZeilenAufbauen().
@@ -32,8 +33,8 @@ public:
 /// the filter pass, and what opening and OK do with them. Lengths are millimetres, outputs watts,
 /// temperatures degrees Celsius.
 ///
-/// Handlers re-enter: each showing of the fields may raise change events. It ends since showing
-/// equal texts raises none.
+/// Showing the fields raises change events, so that an operation may be called again while it is
+/// still at work. This comes to an end because showing the same texts once more raises none.
 class CAuswahlKriterien
 {
 public:
@@ -42,8 +43,8 @@ public:
     /// fields start with the host's default. View and catalogue must outlive the object.
     CAuswahlKriterien(CAuswahlAnsicht& ansicht, CHKVdi3805& katalog, bool treffer, bool warnen);
 
-    /// Read the criteria into the hand-over and rebuild the grid. With a best row found, the first
-    /// call leaves the pass of the entry point as it stands.
+    /// Reads the criteria into the hand-over and rebuilds the grid. The first call filters only if
+    /// the pass before the dialog has found no best row.
     void Neuberechnen();
 
     /// The same once the dialog has opened, before that nothing. For a change of a size list
@@ -64,12 +65,13 @@ public:
     /// wanted), and the exponent of the radiator in the hand-over.
     void AbweichungAnzeigen();
 
-    /// Opening, in this order: before the grid is there, the output filter of the caller's pass is
-    /// switched off, ...
+    /// First step of the opening, before the grid is made: switches the output filter off that the
+    /// caller's filter pass may have had.
     void LeistungFilterAus();
-    /// ... then room data, room temperature and heating systems come in, ...
+    /// Second step, before the tree selects the product: takes room data, room temperature and
+    /// heating systems from the hand-over and the list file.
     void UebergabeLesen();
-    /// ... and, once the tree has selected the product, the layer. `layerListe` are the layers of
+    /// Third step, when the product is selected: chooses the layer. `layerListe` are the layers of
     /// the drawing; an empty list leaves the layer field alone. FelderAnzeigen() and setting
     /// m_bInitialisiert end the opening.
     void LayerLesen(CAuswahlListe& layerListe);

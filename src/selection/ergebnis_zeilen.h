@@ -43,8 +43,8 @@ struct CErgebnisZelle
 };
 
 /// Order of two cells, -1, 0 or 1, as the art of the first one says: numbers by value, texts with
-/// case counting and cells without text behind all others. `absteigend` exchanges the cells. Two
-/// cells of another art without text are in the wrong order whichever way they stand.
+/// case counting and cells without text behind all others. `absteigend` exchanges the cells. Of two
+/// cells of another art that both have no text, the one that stands first counts as the greater.
 int VergleicheZellen(const CErgebnisZelle& erste, const CErgebnisZelle& zweite, bool absteigend);
 
 /// What the rows ask of the grid control. None of it raises a row change: that is the user's
@@ -95,8 +95,8 @@ public:
     /// Removes all rows.
     void ZeilenLeeren();
 
-    /// The same for the user's eyes, for a place in the catalogue that is no product. Criteria and
-    /// outputs stay shown as they are.
+    /// Removes all rows from the screen, when the user has selected a manufacturer or a kind in the
+    /// catalogue instead of a product. Criteria and outputs stay shown as they are.
     void ErgebnisEntfernen();
 
     /// Makes a row current and shows its output. A row that does not exist shows an empty output,
@@ -112,8 +112,9 @@ public:
     void ZeileGewechselt(int zeile);
 
     /// The user has clicked a heading: sorts by the column, against the direction of its last sort.
-    /// As ascending is what a column starts with, the first click sorts descending. The current row
-    /// keeps its number and may show another radiator than the hand-over holds.
+    /// A column that was never sorted counts as ascending, so that the first click sorts
+    /// descending. The current row keeps its number, and may then show another radiator than the
+    /// one in the hand-over.
     void UeberschriftGeklickt(int spalte);
 
     /// Fits the columns to all rows; none gets narrower than 60 pixels.

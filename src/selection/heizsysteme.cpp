@@ -37,8 +37,9 @@ std::optional<CStringArray> LeseZeilen(CString* rest = nullptr)
     return zeilen;
 }
 
-/// The same with what stands behind the last line end, which is someone's list all the same. But a
-/// header of this list that has nothing behind it would hide the one that is written.
+/// The same with a last line that has no line end: it belongs to someone's list and must survive
+/// the writing. Left out is only a header of this very list without entries behind it, since it
+/// would be found in place of the list that is written now.
 std::optional<CStringArray> LeseZeilenMitRest(const CString& name)
 {
     CString rest;

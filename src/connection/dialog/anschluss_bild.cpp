@@ -44,7 +44,7 @@ void ZeichneAnschlussBild(CWnd rahmen, const CRect& front, const ConnValues& wer
     if (!rahmen.IsWindow()) {
         return;
     }
-    // What a canvas holds is erased at once; it shows when the drawing is complete.
+    // This erases the canvas at once; the user sees it again when the drawing below is complete.
     rahmen.Invalidate();
     CClientDC dc(rahmen);
     dc.SetPen(kSchwarz, 1);

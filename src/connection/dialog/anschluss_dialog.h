@@ -9,8 +9,7 @@ class CDrawer;
 /// are fetched anew from the catalogues first. `heizkoerper` are the drawn radiators that the
 /// dialog shows its work on, `drawer` the drawing; either may be null. `gruppenWaehlbar` and
 /// `fanCoil` are read, and `ventile`, `typ` and `fanCoil` tell on OK which groups were active. True
-/// when confirmed; otherwise connection, flags and whatever the dialog changed stay as the host
-/// keeps them.
+/// when the user confirmed; otherwise connection and flags stay as they were.
 bool ZeigeAnschlussDialog(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilVorlauf,
                           VDI3805_VENTIL_KV& ventilRuecklauf, bool& gruppenWaehlbar, bool& ventile,
                           bool& typ, bool& fanCoil, TGA_LIST* heizkoerper, CDrawer* drawer);

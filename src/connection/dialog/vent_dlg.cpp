@@ -86,8 +86,8 @@ CString UebernehmeText(Punkt von)
     return text;
 }
 
-/// Pixels by which the dialog is lower when collapsed. They are pixels at the size for which the
-/// template is made: at a larger font the rows that give way are higher too.
+/// Pixels by which the dialog is lower when collapsed: 120 at the font that the template is made
+/// for, more at a larger one, whose rows are higher.
 int Einklappung()
 {
     constexpr int kVorlagenPixel = 120;
@@ -104,7 +104,7 @@ CVentDlg::CVentDlg(const CVentVorgaben& vorgaben)
     m_zustand.m_Eingang = vorgaben.anschluss;
     m_ventile.m_VentilAN = vorgaben.ventilAN;
     m_ventile.m_VentilRI = vorgaben.ventilRI;
-    // A field that shows a value tells nothing that the user did.
+    // Handlers of fields are meant for what the user types, not for what the dialog shows.
     DropExchangeEvents(true);
 }
 
@@ -164,7 +164,8 @@ const CMessageMap& CVentDlg::GetMessageMap() const
     return map;
 }
 
-/// The order counts: a field that cannot be read keeps those behind it from being read.
+/// The order counts: reading stops at a field that holds no number, and the fields behind it keep
+/// their values.
 void CVentDlg::DoDataExchange(CDataExchange* pDX)
 {
     CBrushedDialog::DoDataExchange(pDX);
@@ -232,7 +233,8 @@ void CVentDlg::ZeigeEinheiten()
     }
 }
 
-/// The numbers handed in win over those of the entry that was found for them, which stays chosen.
+/// By now an entry of the short list may have been found for the record handed in and applied. The
+/// numbers handed in replace those of the entry, which stays selected in the list.
 void CVentDlg::ZeigeEingang()
 {
     FuelleFelder(m_zustand);
@@ -253,8 +255,8 @@ void CVentDlg::LadeIcons()
     }
 }
 
-/// The row with the name and its buttons stays where it is: collapsed, it lies below the edge,
-/// where the Tab key must not find it either.
+/// The row with the name and its buttons stays where it is. When the dialog is collapsed the row
+/// lies below its lower edge, and is disabled so that the Tab key does not lead there.
 void CVentDlg::UmschaltenErweitert()
 {
     m_bErweitert = !m_bErweitert;
@@ -267,7 +269,7 @@ void CVentDlg::UmschaltenErweitert()
     for (const int id : {kIdOk, kIdCancel, int(idErweitern)}) {
         zuege.push_back({id, GetDlgItem(id).GetPlace().MovedBy(0, dy)});
     }
-    // The banner is as high as the dialog, so that its text begins at the lower edge.
+    // The text of the banner begins at its lower edge and must stay in sight.
     CRect banner = GetDlgItem(kBannerId).GetPlace();
     banner.bottom += dy;
     zuege.push_back({kBannerId, banner});
@@ -391,7 +393,7 @@ void CVentDlg::OnInverti()
 void CVentDlg::OnPreset()
 {
     LeseFelder();
-    // A field in front of the buttons that could not be read leaves them unread too.
+    // Reading may have stopped at a field without a number, before it came to the buttons.
     if (m_Preset >= 0) {
         SetzePreset(m_Preset, m_zustand, *this);
     }

@@ -25,13 +25,15 @@ constexpr int kIconKante = 16;
 constexpr int kTimerBesteZeile = 1;
 constexpr int kTimerMillisekunden = 100;
 
-/// Layers that the user may draw on; blocks of every kind; a preview of the host's own size.
+/// What the drawing is asked for: the layers that the user may draw on, blocks of every kind, and a
+/// preview in the size that the host chooses.
 constexpr int kZeichenLayer = 2;
 constexpr int kAlleBloecke = 0;
 constexpr int kGroesseDesHosts = 0;
 
-/// For hosts that draw radiators without blocks: no block and preview, and where the host does not
-/// manage layers, its large layer dialog in place of the swatch.
+/// To be set for a host that draws radiators without blocks. The dialog then shows no blocks and no
+/// preview, and offers the host's large layer dialog in place of the swatch where the host does not
+/// manage the layers itself.
 constexpr bool kOhneBlock = false;
 
 constexpr int kListen[] = {idHeizsysteme, idHoeheVon, idHoeheBis, idTiefeVon,
@@ -129,7 +131,7 @@ const CMessageMap& CHKAuswahlVdi3805Dlg::GetMessageMap() const
     return map;
 }
 
-/// Texts in the order of their numbers: their change events arrive in the same.
+/// Texts stand in the order of their ids, since change events arrive in the order of the exchange.
 void CHKAuswahlVdi3805Dlg::DoDataExchange(CDataExchange* pDX)
 {
     CResizingDialog::DoDataExchange(pDX);
@@ -288,7 +290,7 @@ void CHKAuswahlVdi3805Dlg::OnBaumItemExpanding(CNotify& notify)
 
 void CHKAuswahlVdi3805Dlg::OnBaumSelChanged(CNotify& notify)
 {
-    if (m_baum.LeseProdukt(notify.item)) {
+    if (m_baum.UebernehmeProdukt(notify.item)) {
         m_kriterien.NeuesProdukt();
     } else if (notify.item != nullptr) {
         m_pGrid->Zeilen().ErgebnisEntfernen();
@@ -320,7 +322,7 @@ void CHKAuswahlVdi3805Dlg::OnLayerGewaehlt()
     }
     m_kriterien.m_strLayer = layer.GetItemText(layer.GetCurSel());
     m_kriterien.m_nLayerFarbe = m_pDrawer->GetLayerColor(m_kriterien.m_strLayer);
-    // Or the next showing of the fields would bring the former layer back.
+    // Showing the fields writes this text to the list, which would go back to the former layer.
     m_kriterien.m_strLayerEingabe = m_kriterien.m_strLayer;
     ZeichneFarbe();
 }
@@ -357,7 +359,8 @@ void CHKAuswahlVdi3805Dlg::OnBlockGewaehlt()
             lmSetHKBlock(block);
         }
     }
-    // A block without a picture is no fault that the user should read of.
+    // An empty picture and never null, which shows that a file is missing: a block without a
+    // preview is no fault.
     m_vorschauBild.SetBitmap(&m_vorschau);
 }
 

@@ -66,7 +66,7 @@ void CHKAuswahlVdi3805TreeDlg::OnBaumItemExpanding(CNotify& notify)
 
 void CHKAuswahlVdi3805TreeDlg::OnBaumSelChanged(CNotify& notify)
 {
-    m_baum.LeseProdukt(notify.item);
+    m_baum.UebernehmeProdukt(notify.item);
 }
 
 void CHKAuswahlVdi3805TreeDlg::OnOK()

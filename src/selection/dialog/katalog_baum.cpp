@@ -66,8 +66,7 @@ void CKatalogBaum::LeseHersteller(HTREEITEM item)
     }
     if (HTREEITEM erstes = GetChildItem(item)) {
         if (GetItemData(erstes) != kPlatzhalter) {
-            // The kinds of an earlier reading stand here still: the file failed when it was read
-            // again.
+            // The kinds are those of an earlier reading; reading the file again has failed since.
             return;
         }
         DeleteItem(erstes);
@@ -96,14 +95,14 @@ void CKatalogBaum::WaehleVorgabe()
         item = FindTreeItem(name, *this, {}, item);
     }
     if (GetItemData(item) == kPlatzhalter) {
-        // Opening its manufacturer deletes it, so that there is nothing left to select.
+        // Opening the manufacturer replaces the placeholder, which cannot be selected then.
         Expand(GetParentItem(item));
         return;
     }
     SelectItem(item);
 }
 
-bool CKatalogBaum::LeseProdukt(HTREEITEM item) const
+bool CKatalogBaum::UebernehmeProdukt(HTREEITEM item) const
 {
     if (item == nullptr || ItemHasChildren(item)) {
         return false;

@@ -43,7 +43,7 @@ public:
     /// Puts an item without children and its two parents into the hand-over as product, kind and
     /// manufacturer, parents that it does not have as empty texts. False, with the hand-over left
     /// alone, for an item that has children and for none.
-    bool LeseProdukt(HTREEITEM item) const;
+    bool UebernehmeProdukt(HTREEITEM item) const;
 
 private:
     HK_VDI3805_HERSTELLER* Hersteller(HTREEITEM item) const;

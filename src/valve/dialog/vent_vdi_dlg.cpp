@@ -145,7 +145,7 @@ void CVentVdiDlg::FuelleHersteller()
 
 void CVentVdiDlg::WaehleHersteller(const CString& text)
 {
-    // Longest name that a folder can have where the catalogues come from.
+    // Longest name of a folder on the systems that the catalogues come from.
     constexpr std::size_t kLaengster = 260;
     for (int i = 0; i < m_hersteller.GetCount(); ++i) {
         if (m_hersteller.GetItemText(i).substr(0, kLaengster) == text.substr(0, kLaengster)) {
@@ -188,7 +188,8 @@ void CVentVdiDlg::FuelleBaum()
     m_baum.SelectItem(vorgabe);
 }
 
-/// Returns the last item of the valve to open on; null if there is none.
+/// Returns the item of the valve to open on, the last one if several have its key; null if there is
+/// none.
 HTREEITEM CVentVdiDlg::FuelleGruppen(const VENT_VDI3805_HAUPTGRUPPE& haupt, HTREEITEM oben)
 {
     HTREEITEM vorgabe = nullptr;
@@ -232,8 +233,8 @@ void CVentVdiDlg::OnBaumSelChanged(CNotify& notify)
     }
 }
 
-/// Of articles that share a name the first one is shown, whichever was clicked; the names of the
-/// groups are those of the item clicked.
+/// The article is looked up by its name: if several share it, the data shown are those of the
+/// first, while the names of the groups are those of the item clicked.
 void CVentVdiDlg::WaehleArtikel(HTREEITEM item)
 {
     const CString text = m_baum.GetItemText(item);
@@ -241,15 +242,16 @@ void CVentVdiDlg::WaehleArtikel(HTREEITEM item)
     SuchePfad(item);
     SetzeStelle(SucheArtikel(ErsteHauptgruppe, text));
     if (SelArtikel == nullptr) {
-        // Characters that no screen can show do not come back out of the tree as they stood in the
-        // file.
+        // A name with characters that cannot be shown reads differently from the tree than it
+        // stands in the file.
         return;
     }
     ZeigeVentil(*SelArtikel);
     GetDlgItem(kIdOk).EnableWindow(true);
 }
 
-/// The nearer parent goes to Hauptgruppe: hosts know a picked valve by that.
+/// The group right above the article goes to Hauptgruppe and the main group to Gruppe, the other
+/// way round than in a fetched valve: hosts tell a picked valve by that.
 void CVentVdiDlg::SuchePfad(HTREEITEM item)
 {
     HTREEITEM gruppe = m_baum.GetParentItem(item);

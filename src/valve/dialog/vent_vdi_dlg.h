@@ -8,9 +8,10 @@
 #include "valve/ventil_auswahl.h"
 #include "valve/ventil_katalog.h"
 
-/// Lets the user choose a valve out of the manufacturers' files: manufacturer, then article in a
-/// tree, with all that is known of it. Also the catalogue that it shows: an object that never opens
-/// serves as a reader and needs no application.
+/// Lets the user choose a valve out of the manufacturers' files: first the manufacturer, then the
+/// article in a tree, beside which the dialog shows the article's data. The dialog is at the same
+/// time the catalogue of the manufacturer that it shows. An object that is never opened serves as
+/// a reader of valve files and needs no application object.
 ///
 /// The choice is the valve's identity with its nominal diameter; its kv table is fetched by its
 /// key.
