@@ -21,9 +21,9 @@ double RemainderOf(const CRoom& room)
     return room.bedarf - CoveredOf(room);
 }
 
-double WeakestOutputOf(const CRoom& room)
+double WeakestOutput(double asked)
 {
-    return (1.0 - kCoverTolerance) * room.GetLeistung();
+    return (1.0 - kCoverTolerance) * asked;
 }
 
 Coverage CoverageOf(const CRoom& room)
@@ -34,7 +34,8 @@ Coverage CoverageOf(const CRoom& room)
     if (room.heizkoerper.empty()) {
         return Coverage::empty;
     }
-    return OutputOf(room) >= WeakestOutputOf(room) ? Coverage::covered : Coverage::lacking;
+    return OutputOf(room) >= WeakestOutput(room.GetLeistung()) ? Coverage::covered
+                                                               : Coverage::lacking;
 }
 
 bool IsOpen(Coverage coverage)

@@ -29,8 +29,8 @@ double CoveredOf(const CRoom& room);
 /// What is left of the demand, in watts; below 0 if more is met than asked.
 double RemainderOf(const CRoom& room);
 
-/// The least output of radiators that counts as covering the room, in watts.
-double WeakestOutputOf(const CRoom& room);
+/// The least output that counts as giving what is asked, both in watts.
+double WeakestOutput(double asked);
 
 Coverage CoverageOf(const CRoom& room);
 

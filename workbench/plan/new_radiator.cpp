@@ -5,9 +5,6 @@
 #include "reference_host/catalog/room_layer.h"
 #include "workbench/plan/placement.h"
 #include "workbench/plan/radiator_block.h"
-#include "workbench/plan/room_request.h"
-
-#include <tuple>
 
 namespace workbench {
 
@@ -29,13 +26,22 @@ CString LayerOf(const CString& vorlage, const CString& floor, const CString& roo
     return reference_host::LayerOfRoom(vorlage, RoomIdOf(floor, room));
 }
 
-bool IsSameProduct(const CPlacedRadiator& radiator, const HK_DATEN_VDI3805_UEBERGABE& chosen)
+} // namespace
+
+CRadiatorLayer KeptLayer()
 {
-    return std::tie(radiator.strHersteller, radiator.strArt, radiator.strProdukt) ==
-           std::tie(chosen.Hersteller, chosen.Art, chosen.Produkt);
+    CRadiatorLayer layer;
+    lmGetHKLayer(layer.strName);
+    lmGetHKLayerColor(layer.nFarbe);
+    return layer;
 }
 
-} // namespace
+CString KeptBlock()
+{
+    CString block;
+    lmGetHKBlock(block);
+    return block;
+}
 
 CRadiatorStart ReadRadiatorStart()
 {
@@ -44,18 +50,16 @@ CRadiatorStart ReadRadiatorStart()
         start.abstandWand = Kept(kept->AbstandWand);
         start.abstandBoden = Kept(kept->AbstandBoden);
     }
-    lmGetHKLayer(start.strLayerVorlage);
-    lmGetHKLayerColor(start.nFarbe);
-    lmGetHKBlock(start.strBlock);
+    start.layer = KeptLayer();
+    start.strBlock = KeptBlock();
     return start;
 }
 
 std::optional<CPlacedRadiator> PlaceRadiator(const CBuilding& building, const CRoom& room,
-                                             const CString& floor,
-                                             const HK_DATEN_VDI3805_UEBERGABE& chosen,
+                                             const CString& floor, const CRadiatorChoice& chosen,
                                              const CRadiatorStart& start)
 {
-    const std::optional<std::size_t> place = FindFreePlace(room, building.abstaende, chosen.Daten);
+    const std::optional<std::size_t> place = FindFreePlace(room, building.abstaende, chosen.daten);
     if (!place) {
         return std::nullopt;
     }
@@ -64,43 +68,32 @@ std::optional<CPlacedRadiator> PlaceRadiator(const CBuilding& building, const CR
     radiator.nPlatz = *place;
     radiator.abstandWand = start.abstandWand.value_or(kUsualWallDistance);
     radiator.abstandBoden = start.abstandBoden.value_or(kMillimetre * building.abstaende.boden);
-    radiator.strLayer = LayerOf(start.strLayerVorlage, floor, room.strName);
-    radiator.nFarbe = start.nFarbe;
+    if (radiator.strLayer.empty()) {
+        radiator.strLayer = LayerOf(start.layer.strName, floor, room.strName);
+        radiator.nFarbe = start.layer.nFarbe;
+    }
     radiator.ventile = room.ventile;
     return radiator;
 }
 
-std::optional<CPlacedRadiator> PlaceRadiator(const CBuilding& building, const CRoom& room,
-                                             const CString& floor,
-                                             const HK_DATEN_VDI3805_UEBERGABE& chosen,
-                                             const CString& layer, int farbe)
-{
-    std::optional<CPlacedRadiator> radiator =
-        PlaceRadiator(building, room, floor, chosen, ReadRadiatorStart());
-    if (radiator && !layer.empty()) {
-        radiator->strLayer = layer;
-        radiator->nFarbe = farbe;
-    }
-    return radiator;
-}
-
-void TakeChoice(CPlacedRadiator& radiator, const HK_DATEN_VDI3805_UEBERGABE& chosen,
+void TakeChoice(CPlacedRadiator& radiator, const CRadiatorChoice& chosen,
                 const CRadiatorStart& start)
 {
-    if (!IsSameProduct(radiator, chosen)) {
-        const CString block = BlockOf(chosen.Art, chosen.Produkt);
+    if (chosen.block) {
+        radiator.strBlock = *chosen.block;
+    } else if (ProductOf(radiator) != chosen.produkt) {
+        const CString block = BlockOf(chosen.produkt.strArt, chosen.produkt.strProdukt);
         radiator.strBlock = block.empty() ? start.strBlock : block;
     }
-    radiator.strHersteller = chosen.Hersteller;
-    radiator.strArt = chosen.Art;
-    radiator.strProdukt = chosen.Produkt;
-    radiator.strTyp = chosen.TypName;
-    radiator.daten = chosen.Daten;
-}
-
-void TakeChoice(CPlacedRadiator& radiator, const HK_DATEN_VDI3805_UEBERGABE& chosen)
-{
-    TakeChoice(radiator, chosen, ReadRadiatorStart());
+    if (chosen.layer) {
+        radiator.strLayer = chosen.layer->strName;
+        radiator.nFarbe = chosen.layer->nFarbe;
+    }
+    radiator.strHersteller = chosen.produkt.strHersteller;
+    radiator.strArt = chosen.produkt.strArt;
+    radiator.strProdukt = chosen.produkt.strProdukt;
+    radiator.strTyp = chosen.strTyp;
+    radiator.daten = chosen.daten;
 }
 
 } // namespace workbench

@@ -1,7 +1,7 @@
 #include "workbench/plan/plan_edit.h"
 
-#include "frame/entry_points.h"
 #include "platform/rounding.h"
+#include "workbench/plan/wish_handover.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -16,18 +16,13 @@ namespace {
 
 constexpr double kWatt = 1.0;
 
-/// The factor from standard output to that at the system's temperatures: every silent selection
-/// leaves it in the hand-over, with a product or without.
+/// The factor from standard output to that at the system's temperatures, which no product decides.
 double AskFactor(const CHeatingSystem& system, double raumtemperatur)
 {
-    HK_DATEN_VDI3805_UEBERGABE uebergabe;
-    uebergabe.Vorlauf = system.vorlauf;
-    uebergabe.Ruecklauf = system.ruecklauf;
-    uebergabe.Raumtemperatur = raumtemperatur;
-    CString layer;
-    int layerColor = 0;
-    HeizkoerperauswahlVDI3805(nullptr, &uebergabe, layer, layerColor, false, false);
-    return uebergabe.Umrechnungsfaktor;
+    CRadiatorWish wish;
+    wish.system = system;
+    wish.raumtemperatur = raumtemperatur;
+    return FillHandover(wish).Umrechnungsfaktor;
 }
 
 /// Asks the module once for every temperature that rooms have.
@@ -141,15 +136,15 @@ void UpdateOutputs(CBuilding& building, const CRoomRef& ref)
     ReplaceRoom(building, ref, RoomAt(room, CFactors(building.system).Of(room.raumtemperatur)));
 }
 
-void SetProduct(CBuilding& building, const std::vector<CRoomRef>& rooms, const CString& hersteller,
-                const CString& art, const CString& produkt)
+void SetProduct(CBuilding& building, const std::vector<CRoomRef>& rooms,
+                const CRadiatorProduct& produkt)
 {
     for (const CRoomRef& ref : rooms) {
         if (Exists(building, ref)) {
             CRoom room = RoomOf(building, ref);
-            room.strHersteller = hersteller;
-            room.strArt = art;
-            room.strProdukt = produkt;
+            room.strHersteller = produkt.strHersteller;
+            room.strArt = produkt.strArt;
+            room.strProdukt = produkt.strProdukt;
             ReplaceRoom(building, ref, std::move(room));
         }
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/building/building.h"
+#include "workbench/plan/radiator_product.h"
 
 #include <compare>
 #include <cstddef>
@@ -54,7 +54,7 @@ void UpdateOutputs(CBuilding& building, const CRoomRef& ref);
 
 /// Writes a product into rooms as the one wished for; radiators stay. Rooms that do not exist are
 /// passed over.
-void SetProduct(CBuilding& building, const std::vector<CRoomRef>& rooms, const CString& hersteller,
-                const CString& art, const CString& produkt);
+void SetProduct(CBuilding& building, const std::vector<CRoomRef>& rooms,
+                const CRadiatorProduct& produkt);
 
 } // namespace workbench

@@ -5,6 +5,7 @@
 #include "platform/format.h"
 #include "workbench/plan/catalogue_check.h"
 #include "workbench/plan/coverage.h"
+#include "workbench/plan/wish_handover.h"
 
 #include <algorithm>
 #include <vector>
@@ -13,88 +14,55 @@ namespace workbench {
 
 namespace {
 
-/// The module takes rows up to this much higher than the height asked for, in mm. A sill gives no
-/// such grace, so the limit is handed over lowered by it.
-constexpr double kHeightGrace = 10.0;
-
 /// Larger than any radiator, in mm.
 constexpr double kNoLimit = 1e6;
 
 constexpr CSizeLimits kAnySize{kNoLimit, kNoLimit, 0.0, kNoLimit};
 
-HK_DATEN_VDI3805_UEBERGABE MakeCriteria(const CRoom& room, const CHeatingSystem& system,
-                                        const CSizeLimits& limits)
-{
-    HK_DATEN_VDI3805_UEBERGABE criteria;
-    criteria.Hersteller = room.strHersteller;
-    criteria.Art = room.strArt;
-    criteria.Produkt = room.strProdukt;
-    criteria.Leistung = room.GetLeistung();
-    criteria.LeistungMin = -1.0;
-    criteria.LeistungMax = -1.0;
-    criteria.Toleranz = kCoverTolerance;
-    criteria.HoeheMax = limits.hoeheMax - kHeightGrace;
-    criteria.LaengeMax = limits.laengeMax;
-    criteria.TiefeMin = limits.tiefeMin;
-    criteria.TiefeMax = limits.tiefeMax;
-    criteria.Vorlauf = system.vorlauf;
-    criteria.Ruecklauf = system.ruecklauf;
-    criteria.Raumtemperatur = room.raumtemperatur;
-    criteria.Raumname = room.strName;
-    criteria.RaumBedarf = room.bedarf;
-    criteria.RaumGedeckt = room.gedeckt;
-    // Radiators built to measure are made around the need, which is another for each room.
-    criteria.NeuLesen = 1;
-    return criteria;
-}
-
-std::optional<CRadiator> Search(HK_DATEN_VDI3805_UEBERGABE criteria)
+std::optional<CRadiatorChoice> Search(HK_DATEN_VDI3805_UEBERGABE handover)
 {
     CString layer;
     int layerColor = 0;
-    if (HeizkoerperauswahlVDI3805(nullptr, &criteria, layer, layerColor, false, false) < 0) {
+    if (HeizkoerperauswahlVDI3805(nullptr, &handover, layer, layerColor, false, false) < 0) {
         return std::nullopt;
     }
-    return CRadiator{criteria.TypName, criteria.Daten};
+    return ReadHandover(handover);
 }
 
 /// The row nearest to the need; where that is too weak, the one that the module finds when rows
 /// below the bound must not hold their place, provided that it is strong enough.
-std::optional<CRadiator> SearchWithin(const CRoom& room, const CHeatingSystem& system)
+std::optional<CRadiatorChoice> SearchWithin(const CRadiatorWish& wish)
 {
-    HK_DATEN_VDI3805_UEBERGABE criteria = MakeCriteria(room, system, room.grenzen);
-    std::optional<CRadiator> nearest = Search(criteria);
-    if (!nearest || nearest->daten.Leistung >= WeakestOutputOf(room)) {
+    HK_DATEN_VDI3805_UEBERGABE handover = FillHandover(wish);
+    std::optional<CRadiatorChoice> nearest = Search(handover);
+    if (!nearest || nearest->daten.Leistung >= WeakestOutput(wish.leistung)) {
         return nearest;
     }
-    criteria.LeistungMin = WeakestOutputOf(room);
-    std::optional<CRadiator> stronger = Search(criteria);
-    return stronger && stronger->daten.Leistung >= WeakestOutputOf(room) ? stronger : nearest;
+    handover.LeistungMin = WeakestOutput(wish.leistung);
+    std::optional<CRadiatorChoice> stronger = Search(handover);
+    return stronger && stronger->daten.Leistung >= WeakestOutput(wish.leistung) ? stronger
+                                                                                : nearest;
 }
 
-/// The lowest height of the product; the room's limit if the product has no heights.
-double LowestHeight(const CRoom& room, const CHeatingSystem& system)
+HK_DATEN_VDI3805_UEBERGABE FillWithLimits(CRadiatorWish wish, const CSizeLimits& limits)
 {
-    HK_DATEN_VDI3805_UEBERGABE criteria = MakeCriteria(room, system, kAnySize);
-    OCArray<double> heights;
-    OCArray<double> depths;
-    Read_HK_Masse(criteria, heights, depths);
-    return heights.IsEmpty() ? room.grenzen.hoeheMax : heights[0];
+    wish.grenzen = limits;
+    return FillHandover(wish);
 }
 
-/// The nearest radiator beyond the room's limits: where one limit given up is enough, only that
+/// The nearest radiator beyond the wished limits: where one limit given up is enough, only that
 /// one, and the height no further than to the lowest radiator that there is.
-std::optional<CRadiator> SearchBeyond(const CRoom& room, const CHeatingSystem& system)
+std::optional<CRadiatorChoice> SearchBeyond(const CRadiatorWish& wish)
 {
-    CSizeLimits longer = room.grenzen;
+    CSizeLimits longer = wish.grenzen;
     longer.laengeMax = kNoLimit;
-    CSizeLimits higher = room.grenzen;
-    higher.hoeheMax = std::max(higher.hoeheMax, LowestHeight(room, system));
-    CSizeLimits deeper = room.grenzen;
+    CSizeLimits higher = wish.grenzen;
+    higher.hoeheMax = std::max(higher.hoeheMax, FillWithLimits(wish, kAnySize).HoeheMin);
+    CSizeLimits deeper = wish.grenzen;
     deeper.tiefeMin = 0.0;
     deeper.tiefeMax = kNoLimit;
     for (const CSizeLimits& limits : {longer, higher, deeper, kAnySize}) {
-        if (std::optional<CRadiator> found = Search(MakeCriteria(room, system, limits))) {
+        if (std::optional<CRadiatorChoice> found = Search(FillWithLimits(wish, limits))) {
             return found;
         }
     }
@@ -113,32 +81,32 @@ void AddExcess(std::vector<CString>& lacks, const CString& name, double value, d
     }
 }
 
-std::vector<CString> FindLacks(const CRoom& room, const HK_DATEN_VDI3805& daten)
+std::vector<CString> FindLacks(const CRadiatorWish& wish, const HK_DATEN_VDI3805& daten)
 {
     std::vector<CString> lacks;
-    AddExcess(lacks, L"altezza", daten.Hoehe, room.grenzen.hoeheMax);
-    AddExcess(lacks, L"lunghezza", daten.Laenge, room.grenzen.laengeMax);
-    AddExcess(lacks, L"profondità", daten.Tiefe, room.grenzen.tiefeMax);
-    if (daten.Tiefe < room.grenzen.tiefeMin) {
+    AddExcess(lacks, L"altezza", daten.Hoehe, wish.grenzen.hoeheMax);
+    AddExcess(lacks, L"lunghezza", daten.Laenge, wish.grenzen.laengeMax);
+    AddExcess(lacks, L"profondità", daten.Tiefe, wish.grenzen.tiefeMax);
+    if (daten.Tiefe < wish.grenzen.tiefeMin) {
         lacks.push_back(L"profondità " + Millimetres(daten.Tiefe) + L", richiesti almeno " +
-                        Millimetres(room.grenzen.tiefeMin));
+                        Millimetres(wish.grenzen.tiefeMin));
     }
-    if (daten.Leistung < WeakestOutputOf(room)) {
-        const double missing = room.GetLeistung() - daten.Leistung;
+    if (daten.Leistung < WeakestOutput(wish.leistung)) {
+        const double missing = wish.leistung - daten.Leistung;
         lacks.push_back(L"mancano " + FormatFixed(missing, 0) + L" W (" +
-                        FormatFixed(100.0 * missing / room.GetLeistung(), 1) + L" %)");
+                        FormatFixed(100.0 * missing / wish.leistung, 1) + L" %)");
     }
     return lacks;
 }
 
-CString DescribeNearest(const CRoom& room, const CRadiator& nearest)
+CString DescribeNearest(const CRadiatorWish& wish, const CRadiatorChoice& nearest)
 {
     const HK_DATEN_VDI3805& daten = nearest.daten;
     CString text = L"il più vicino è " + nearest.strTyp + L", " + FormatExact(daten.Hoehe) +
                    L" x " + FormatExact(daten.Tiefe) + L" x " + Millimetres(daten.Laenge) + L", " +
                    FormatFixed(daten.Leistung, 0) + L" W";
     CString separator = L": ";
-    for (const CString& lack : FindLacks(room, daten)) {
+    for (const CString& lack : FindLacks(wish, daten)) {
         text += separator + lack;
         separator = L"; ";
     }
@@ -146,49 +114,49 @@ CString DescribeNearest(const CRoom& room, const CRadiator& nearest)
 }
 
 /// Why not even an unlimited size found a row: the module answers all of these with silence.
-CRoomOutcome ExplainEmptySearch(const CRoom& room)
+CRoomOutcome ExplainEmptySearch(const CRadiatorProduct& produkt)
 {
     const auto unknown = [](const CString& note) {
         return CRoomOutcome{RoomStatus::unknownProduct, {}, note};
     };
-    HK_VDI3805_HERSTELLER* maker = FindHersteller(room.strHersteller);
+    HK_VDI3805_HERSTELLER* maker = FindHersteller(produkt.strHersteller);
     if (!maker) {
-        return unknown(L"i cataloghi non hanno il produttore \"" + room.strHersteller + L"\"");
+        return unknown(L"i cataloghi non hanno il produttore \"" + produkt.strHersteller + L"\"");
     }
     if (const std::optional<reference_host::CCatalogueError> error =
-            reference_host::GetCatalogueError(room.strHersteller)) {
+            reference_host::GetCatalogueError(produkt.strHersteller)) {
         return {RoomStatus::badCatalogue, {}, FormatCatalogueError(*error)};
     }
-    HK_VDI3805_ART* kind = FindArt(maker, room.strArt);
+    HK_VDI3805_ART* kind = FindArt(maker, produkt.strArt);
     if (!kind) {
-        return unknown(L"il catalogo di " + room.strHersteller + L" non ha la categoria \"" +
-                       room.strArt + L"\"");
+        return unknown(L"il catalogo di " + produkt.strHersteller + L" non ha la categoria \"" +
+                       produkt.strArt + L"\"");
     }
-    if (!FindProdukt(kind, room.strProdukt)) {
-        return unknown(L"la categoria \"" + room.strArt + L"\" non ha il prodotto \"" +
-                       room.strProdukt + L"\"");
+    if (!FindProdukt(kind, produkt.strProdukt)) {
+        return unknown(L"la categoria \"" + produkt.strArt + L"\" non ha il prodotto \"" +
+                       produkt.strProdukt + L"\"");
     }
-    return unknown(L"il prodotto \"" + room.strProdukt + L"\" non ha misure utilizzabili");
+    return unknown(L"il prodotto \"" + produkt.strProdukt + L"\" non ha misure utilizzabili");
 }
 
 } // namespace
 
-CRoomOutcome SelectRadiator(const CRoom& room, const CHeatingSystem& system)
+CRoomOutcome SelectRadiator(const CRadiatorWish& wish)
 {
-    if (room.GetLeistung() <= 0.0) {
+    if (wish.leistung <= 0.0) {
         return {RoomStatus::covered, {}, L"nessun corpo scaldante necessario"};
     }
-    std::optional<CRadiator> found = SearchWithin(room, system);
-    if (found && found->daten.Leistung >= WeakestOutputOf(room)) {
+    std::optional<CRadiatorChoice> found = SearchWithin(wish);
+    if (found && found->daten.Leistung >= WeakestOutput(wish.leistung)) {
         return {RoomStatus::chosen, found, {}};
     }
     if (!found) {
-        found = SearchBeyond(room, system);
+        found = SearchBeyond(wish);
     }
     if (!found) {
-        return ExplainEmptySearch(room);
+        return ExplainEmptySearch(wish.produkt);
     }
-    return {RoomStatus::unfitting, found, DescribeNearest(room, *found)};
+    return {RoomStatus::unfitting, found, DescribeNearest(wish, *found)};
 }
 
 } // namespace workbench

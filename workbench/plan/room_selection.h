@@ -1,7 +1,6 @@
 #pragma once
 
-#include "frame/handover.h"
-#include "workbench/building/building.h"
+#include "workbench/plan/radiator_choice.h"
 
 #include <optional>
 
@@ -26,25 +25,18 @@ enum class RoomStatus
     lacking,
 };
 
-/// A row of a product: outputs are those of the whole radiator.
-struct CRadiator
-{
-    CString strTyp;
-    HK_DATEN_VDI3805 daten;
-};
-
 struct CRoomOutcome
 {
     RoomStatus status = RoomStatus::covered;
     /// The chosen radiator; for an unfitting room the nearest one of the product.
-    std::optional<CRadiator> radiator;
+    std::optional<CRadiatorChoice> radiator;
     /// What the nearest radiator lacks, or why there is none; a text for the user.
     CString strNote;
 };
 
-/// Chooses the radiator of the room's product whose output at design temperatures is nearest to
-/// what the room needs, through the module's silent selection. One weaker than 90 per cent of the
-/// need is not accepted. The catalogues are those of the host's settings.
-CRoomOutcome SelectRadiator(const CRoom& room, const CHeatingSystem& system);
+/// Chooses the radiator of the wished product and within the wished limits whose output at design
+/// temperatures is nearest to the wished one, through the module's silent selection. One weaker
+/// than 90 per cent of it is not accepted. The catalogues are those of the host's settings.
+CRoomOutcome SelectRadiator(const CRadiatorWish& wish);
 
 } // namespace workbench

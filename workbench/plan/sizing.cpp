@@ -11,17 +11,6 @@ namespace workbench {
 
 namespace {
 
-HK_DATEN_VDI3805_UEBERGABE ChoiceFor(const CRoom& room, const CRadiator& radiator)
-{
-    HK_DATEN_VDI3805_UEBERGABE chosen;
-    chosen.Hersteller = room.strHersteller;
-    chosen.Art = room.strArt;
-    chosen.Produkt = room.strProdukt;
-    chosen.TypName = radiator.strTyp;
-    chosen.Daten = radiator.daten;
-    return chosen;
-}
-
 /// Sizes the radiators of one room.
 class CRoomSizing
 {
@@ -58,7 +47,7 @@ private:
     void AddRadiator()
     {
         for (const std::size_t place : FreePlaces(m_room)) {
-            if (const auto found = Select(place, m_room.GetLeistung())) {
+            if (const auto found = Select(WishForPlace(m_building, m_floor, m_room, place))) {
                 m_room.heizkoerper.push_back(
                     PlaceRadiator(m_building, m_room, m_floor.strName, *found, m_start).value());
                 return;
@@ -73,28 +62,24 @@ private:
     {
         const double all = OutputOf(m_room);
         const double even = 1.0 / static_cast<double>(m_room.heizkoerper.size());
-        for (CPlacedRadiator& radiator : m_room.heizkoerper) {
+        for (std::size_t i = 0; i < m_room.heizkoerper.size(); ++i) {
+            CPlacedRadiator& radiator = m_room.heizkoerper[i];
             const double share = all > 0.0 ? radiator.daten.Leistung / all : even;
-            if (const auto found = Select(radiator.nPlatz, share * m_room.GetLeistung())) {
+            CRadiatorWish wish = WishForRadiator(m_building, m_floor, m_room, i);
+            wish.produkt = ProductOf(m_room);
+            wish.leistung = share * m_room.GetLeistung();
+            if (const auto found = Select(wish)) {
                 TakeChoice(radiator, *found, m_start);
             }
         }
     }
 
-    std::optional<HK_DATEN_VDI3805_UEBERGABE> Select(std::size_t place, double leistung)
+    std::optional<CRadiatorChoice> Select(const CRadiatorWish& wish)
     {
-        CRoom wish;
-        wish.strName = m_room.strName;
-        wish.raumtemperatur = m_room.raumtemperatur;
-        wish.bedarf = leistung;
-        wish.grenzen = LimitsOfPlace(m_room, m_room.plaetze.at(place), m_building.abstaende);
-        wish.strHersteller = m_room.strHersteller;
-        wish.strArt = m_room.strArt;
-        wish.strProdukt = m_room.strProdukt;
-        CRoomOutcome outcome = SelectRadiator(wish, m_building.system);
+        CRoomOutcome outcome = SelectRadiator(wish);
         if (outcome.status == RoomStatus::chosen) {
             ++m_nSized;
-            return ChoiceFor(m_room, *outcome.radiator);
+            return std::move(outcome.radiator);
         }
         if (outcome.status != RoomStatus::covered && !m_failure) {
             m_failure = std::move(outcome);

@@ -1,18 +1,16 @@
 #include "workbench/program/radiator_run.h"
 
-#include "frame/entry_points.h"
-#include "host/host_prefs.h"
 #include "platform/encoding.h"
 #include "platform/format.h"
 #include "workbench/building/building_json.h"
 #include "workbench/building/json_fields.h"
 #include "workbench/drawing/drawing_blocks.h"
 #include "workbench/drawing/scene_drawer.h"
-#include "workbench/plan/room_request.h"
 #include "workbench/program/arguments.h"
 #include "workbench/program/batch.h"
 #include "workbench/program/dialog_run.h"
 #include "workbench/program/host_folders.h"
+#include "workbench/window/module_calls.h"
 
 #include <QGraphicsScene>
 
@@ -70,13 +68,14 @@ CPlacedRoom FindRoom(const CBuilding& building, const CString& name)
                              name + L"\"");
 }
 
-CString DescribeRadiator(const HK_DATEN_VDI3805_UEBERGABE& uebergabe, const CString& layer)
+CString DescribeRadiator(const CString& room, const CRadiatorChoice& chosen)
 {
-    const HK_DATEN_VDI3805& daten = uebergabe.Daten;
-    return uebergabe.Raumname + L": " + uebergabe.Hersteller + L" / " + uebergabe.Art + L" / " +
-           uebergabe.Produkt + L" / " + uebergabe.TypName + L", " + FormatExact(daten.Hoehe) +
-           L" x " + FormatExact(daten.Tiefe) + L" x " + FormatExact(daten.Laenge) + L" mm, " +
-           FormatFixed(daten.Leistung, 0) + L" W, layer " + layer;
+    const CRadiatorProduct& produkt = chosen.produkt;
+    const HK_DATEN_VDI3805& daten = chosen.daten;
+    return room + L": " + produkt.strHersteller + L" / " + produkt.strArt + L" / " +
+           produkt.strProdukt + L" / " + chosen.strTyp + L", " + FormatExact(daten.Hoehe) + L" x " +
+           FormatExact(daten.Tiefe) + L" x " + FormatExact(daten.Laenge) + L" mm, " +
+           FormatFixed(daten.Leistung, 0) + L" W, layer " + chosen.layer->strName;
 }
 
 bool Choose(const CRoomChoice& choice, std::ostream& out)
@@ -85,19 +84,14 @@ bool Choose(const CRoomChoice& choice, std::ostream& out)
     CBuilding building = ReadBuilding(choice.arguments.strBuilding);
     building.system = choice.arguments.system.value_or(building.system);
     const CPlacedRoom place = FindRoom(building, choice.strRoom);
-    HK_DATEN_VDI3805_UEBERGABE uebergabe = MakeRequest(building, *place.floor, *place.room);
-    CString layer;
-    int layerColor = 0;
-    lmGetHKLayer(layer);
-    lmGetHKLayerColor(layerColor);
+    const CRadiatorWish wish = WishForRoom(building, *place.floor, *place.room);
     SetWorkplace(choice.arguments);
     StartWindows();
     QGraphicsScene scene;
     CSceneDrawer drawer(scene, ReadDrawingBlocks().heizkoerper.layers);
-    const bool chosen =
-        HeizkoerperauswahlVDI3805(&drawer, &uebergabe, layer, layerColor, true, true) == 0;
-    Write(out, chosen ? DescribeRadiator(uebergabe, layer) : L"Nessun corpo scaldante scelto");
-    return chosen;
+    const auto chosen = AskForRadiator(wish, drawer);
+    Write(out, chosen ? DescribeRadiator(wish.strRaum, *chosen) : L"Nessun corpo scaldante scelto");
+    return chosen.has_value();
 }
 
 } // namespace

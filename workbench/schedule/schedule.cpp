@@ -85,7 +85,7 @@ public:
             row.room.strHersteller = radiator.strHersteller;
             row.room.strArt = radiator.strArt;
             row.room.strProdukt = radiator.strProdukt;
-            row.outcome.radiator = CRadiator{radiator.strTyp, radiator.daten};
+            row.outcome.radiator = ChoiceOf(radiator);
             row.ventile = m_valves.Fetch(radiator.ventile);
             rows.push_back(row);
             row.bErster = false;

@@ -54,7 +54,7 @@ CString RoomNumber(const CScheduleRow& row, const CString& number)
 
 void AppendRadiator(std::vector<CString>& fields, const CScheduleRow& row)
 {
-    const CRadiator& radiator = *row.outcome.radiator;
+    const CRadiatorChoice& radiator = *row.outcome.radiator;
     const HK_DATEN_VDI3805& daten = radiator.daten;
     const double deviation = GetDeviation(row.leistungRaum, GetRequired(row.room));
     fields.insert(fields.end(),

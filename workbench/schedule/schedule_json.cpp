@@ -39,7 +39,7 @@ QString StatusCode(RoomStatus status)
     return {};
 }
 
-QJsonObject MakeRadiator(const CRadiator& radiator)
+QJsonObject MakeRadiator(const CRadiatorChoice& radiator)
 {
     const HK_DATEN_VDI3805& daten = radiator.daten;
     return {{"type", Text(radiator.strTyp)},

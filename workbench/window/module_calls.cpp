@@ -2,10 +2,11 @@
 
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
-#include "host/host_prefs.h"
 #include "workbench/plan/new_radiator.h"
 #include "workbench/plan/radiator_list.h"
-#include "workbench/plan/room_request.h"
+#include "workbench/plan/wish_handover.h"
+
+#include <utility>
 
 namespace workbench {
 
@@ -29,28 +30,21 @@ std::optional<CValveKey> KeyOf(const VDI3805_VENTIL_KV& record)
     return CValveKey{record.Hersteller, record.VentilNr};
 }
 
-/// The block that the designer drew radiators with last; empty if there is none.
-CString LastBlock()
+/// Puts what was chosen into the room, for the radiator or as a further one; false if there is no
+/// place for it.
+bool TakeOver(const CBuilding& building, const CString& floor, CRoom& room,
+              std::optional<std::size_t> radiator, const CRadiatorChoice& chosen)
 {
-    CString block;
-    lmGetHKBlock(block);
-    return block;
-}
-
-/// The room's radiator as the dialog left it; nothing if there is no place for it.
-CPlacedRadiator* TakeOver(const CBuilding& building, const CString& floor, CRoom& room,
-                          std::optional<std::size_t> radiator,
-                          const HK_DATEN_VDI3805_UEBERGABE& chosen, const CString& layer, int farbe)
-{
+    const CRadiatorStart start = ReadRadiatorStart();
     if (radiator) {
-        CPlacedRadiator& placed = room.heizkoerper[*radiator];
-        TakeChoice(placed, chosen);
-        placed.strLayer = layer;
-        placed.nFarbe = farbe;
-        return &placed;
+        TakeChoice(room.heizkoerper[*radiator], chosen, start);
+        return true;
     }
-    const auto placed = PlaceRadiator(building, room, floor, chosen, layer, farbe);
-    return placed ? &room.heizkoerper.emplace_back(*placed) : nullptr;
+    auto placed = PlaceRadiator(building, room, floor, chosen, start);
+    if (placed) {
+        room.heizkoerper.push_back(std::move(*placed));
+    }
+    return placed.has_value();
 }
 
 /// What the connection dialog gives back.
@@ -79,39 +73,40 @@ void Apply(const CConnectionResult& result, CPlacedRadiator& radiator)
 
 } // namespace
 
+std::optional<CRadiatorChoice> AskForRadiator(const CRadiatorWish& wish, CDrawer& drawer)
+{
+    HK_DATEN_VDI3805_UEBERGABE handover = FillHandover(wish);
+    CRadiatorLayer layer = wish.layer ? *wish.layer : KeptLayer();
+    const CString blockBefore = KeptBlock();
+    if (HeizkoerperauswahlVDI3805(&drawer, &handover, layer.strName, layer.nFarbe, true, true) !=
+        0) {
+        return std::nullopt;
+    }
+    CRadiatorChoice chosen = ReadHandover(handover);
+    chosen.layer = layer;
+    if (CString block = KeptBlock(); block != blockBefore) {
+        chosen.block = std::move(block);
+    }
+    return chosen;
+}
+
 std::optional<CBuilding> ChooseRadiator(const CBuilding& building, const CRoomRef& room,
                                         std::optional<std::size_t> radiator, CDrawer& drawer)
 {
     const CFloor& floor = building.floors[room.nFloor];
     CRoom changed = RoomOf(building, room);
-    HK_DATEN_VDI3805_UEBERGABE uebergabe = MakeRequest(building, floor, changed, radiator);
-    CString layer;
-    int farbe = 0;
-    if (radiator) {
-        layer = changed.heizkoerper[*radiator].strLayer;
-        farbe = changed.heizkoerper[*radiator].nFarbe;
-    } else {
-        lmGetHKLayer(layer);
-        lmGetHKLayerColor(farbe);
-    }
-    const CString blockBefore = LastBlock();
-    if (HeizkoerperauswahlVDI3805(&drawer, &uebergabe, layer, farbe, true, true) != 0) {
+    const auto chosen =
+        AskForRadiator(radiator ? WishForRadiator(building, floor, changed, *radiator)
+                                : WishForRoom(building, floor, changed),
+                       drawer);
+    if (!chosen || !TakeOver(building, floor.strName, changed, radiator, *chosen)) {
         return std::nullopt;
-    }
-    CPlacedRadiator* const placed =
-        TakeOver(building, floor.strName, changed, radiator, uebergabe, layer, farbe);
-    if (placed == nullptr) {
-        return std::nullopt;
-    }
-    // A block that the designer picked in the dialog wins over the one for the kind.
-    if (const CString block = LastBlock(); block != blockBefore) {
-        placed->strBlock = block;
     }
     CBuilding result = building;
     const bool isOnly = changed.heizkoerper.size() == 1;
     ReplaceRoom(result, room, std::move(changed));
     if (isOnly) {
-        SetProduct(result, {room}, uebergabe.Hersteller, uebergabe.Art, uebergabe.Produkt);
+        SetProduct(result, {room}, chosen->produkt);
     }
     UpdateOutputs(result, room);
     return result;
@@ -152,13 +147,13 @@ std::optional<CBuilding> ChooseProduct(const CBuilding& building,
                                        const std::vector<CRoomRef>& rooms)
 {
     const CRoomRef& first = rooms.front();
-    HK_DATEN_VDI3805_UEBERGABE uebergabe =
-        MakeRequest(building, building.floors[first.nFloor], RoomOf(building, first));
-    if (HeizkoerperauswahlVDI3805Tree(&uebergabe) != 0) {
+    HK_DATEN_VDI3805_UEBERGABE handover =
+        FillHandover(WishForRoom(building, building.floors[first.nFloor], RoomOf(building, first)));
+    if (HeizkoerperauswahlVDI3805Tree(&handover) != 0) {
         return std::nullopt;
     }
     CBuilding changed = building;
-    SetProduct(changed, rooms, uebergabe.Hersteller, uebergabe.Art, uebergabe.Produkt);
+    SetProduct(changed, rooms, ReadHandover(handover).produkt);
     return changed;
 }
 

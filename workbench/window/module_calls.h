@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/plan/plan_edit.h"
+#include "workbench/plan/radiator_choice.h"
 
 #include <optional>
 
@@ -8,8 +9,11 @@ class CDrawer;
 
 namespace workbench {
 
-/// The module's dialogs, opened on parts of a building as a CAD does. Each runs until the user
-/// closes it and gives the building with what he chose; nothing if he cancelled.
+/// The module's dialogs, opened as a CAD does. Each runs until the user closes it and gives what he
+/// chose, or the building with it; nothing if he cancelled.
+
+/// The selection dialog for a wish. The radiators of the wish's room stay as they are.
+std::optional<CRadiatorChoice> AskForRadiator(const CRadiatorWish& wish, CDrawer& drawer);
 
 /// A further radiator of a room, which must have a free place, or with `radiator` another one in
 /// place of that. Its product becomes that of the room, unless others stand there. The output is

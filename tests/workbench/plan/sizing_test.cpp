@@ -3,7 +3,6 @@
 #include "frame/vdi6030_start.h"
 #include "host/host_prefs.h"
 #include "tests/workbench/plan/plan_fixture.h"
-#include "workbench/plan/room_request.h"
 
 namespace workbench {
 
@@ -61,20 +60,39 @@ TEST_F(SizingTest, NewRadiatorsStandAtTheDistancesThatTheHostKeeps)
     }
 }
 
-TEST_F(SizingTest, TheDialogsLayerWinsAndAnUnknownKindTakesTheLastBlock)
+TEST_F(SizingTest, LayerAndBlockOfTheDialogWin)
 {
-    HK_DATEN_VDI3805_UEBERGABE chosen;
-    chosen.Art = L"Altro";
-    chosen.Daten = Radiator(1000.0).daten;
     const CRoom& room = RoomOf(m_building, kSala);
-    const auto radiator = PlaceRadiator(m_building, room, L"Terra", chosen, L"ALTRO", 5);
-    ASSERT_TRUE(radiator);
-    EXPECT_EQ(radiator->strLayer, L"ALTRO");
-    EXPECT_EQ(radiator->nFarbe, 5);
-    EXPECT_EQ(radiator->strBlock, L"ULTIMO");
-    CRoom full = room;
-    full.heizkoerper = {*radiator};
-    EXPECT_FALSE(PlaceRadiator(m_building, full, L"Terra", chosen));
+    const CRadiatorStart start = ReadRadiatorStart();
+    const struct
+    {
+        std::optional<CRadiatorLayer> layer;
+        std::optional<CString> block;
+        const wchar_t* art;
+        const wchar_t* expectedLayer;
+        int expectedColor;
+        const wchar_t* expectedBlock;
+    } cases[] = {
+        {CRadiatorLayer{L"ALTRO", 5}, L"MIO", L"Radiatori a piastra", L"ALTRO", 5, L"MIO"},
+        {CRadiatorLayer{L"ALTRO", 5}, {}, L"Altro", L"ALTRO", 5, L"ULTIMO"},
+        {CRadiatorLayer{L"", 5}, L"", L"Altro", L"HEIZ_Terra", 3, L""},
+        {{}, {}, L"Radiatori a piastra", L"HEIZ_Terra", 3, L"RAD_PIASTRA_22_PIANTA"},
+    };
+    for (const auto& test : cases) {
+        const CRadiatorChoice chosen = {{L"Prova", test.art, L"Tipo 22"},
+                                        L"22/600",
+                                        Radiator(1000.0).daten,
+                                        test.layer,
+                                        test.block};
+        const auto radiator = PlaceRadiator(m_building, room, L"Terra", chosen, start);
+        ASSERT_TRUE(radiator);
+        EXPECT_EQ(radiator->strLayer, test.expectedLayer);
+        EXPECT_EQ(radiator->nFarbe, test.expectedColor);
+        EXPECT_EQ(radiator->strBlock, test.expectedBlock);
+        CRoom full = room;
+        full.heizkoerper = {*radiator};
+        EXPECT_FALSE(PlaceRadiator(m_building, full, L"Terra", chosen, start));
+    }
 }
 
 TEST_F(SizingTest, AnotherSizeKeepsWhatTheDesignerArranged)
@@ -90,8 +108,8 @@ TEST_F(SizingTest, AnotherSizeKeepsWhatTheDesignerArranged)
         sala.heizkoerper = {present};
         ReplaceRoom(m_building, kSala, sala);
         if (otherProduct) {
-            SetProduct(m_building, AllRooms(m_building), L"Prova", L"Radiatori a piastra",
-                       L"Tipo 11");
+            SetProduct(m_building, AllRooms(m_building),
+                       {L"Prova", L"Radiatori a piastra", L"Tipo 11"});
         }
         const CSizingResult result = SizeRooms(m_building, {kSala}, {});
         const CPlacedRadiator& radiator = FirstOf(result.building, kSala);
@@ -202,46 +220,6 @@ TEST_F(SizingTest, CancellingAtAnyMomentLeavesTheBuildingAsItWas)
         for (const CRoomRef& ref : AllRooms(m_building)) {
             EXPECT_EQ(&RoomOf(result.building, ref), &RoomOf(m_building, ref));
         }
-    }
-}
-
-TEST_F(SizingTest, RequestsAskForWhatTheOtherRadiatorsLeave)
-{
-    CRoom sala = Room(L"Sala", 2000.0);
-    sala.gedeckt = 300.0;
-    sala.plaetze.push_back({PlaceKind::wall, 650.0, 1200.0, Wall::ost, 0.0});
-    sala.plaetze.push_back({PlaceKind::wall, 900.0, 1800.0, Wall::nord, 0.0});
-    sala.heizkoerper = {Radiator(1000.0), Radiator(400.0)};
-    sala.heizkoerper[1].strProdukt = L"Tipo 11";
-    sala.heizkoerper[1].nPlatz = 1;
-    CRoom warm = sala;
-    warm.gedeckt = 1500.0;
-    const struct
-    {
-        const CRoom& room;
-        std::optional<std::size_t> radiator;
-        const wchar_t* produkt;
-        double gedeckt, leistung, laengeMax, hoeheMin, hoeheMax, tiefeMax;
-    } cases[] = {
-        {sala, std::nullopt, L"Tipo 22", 1700, 300, 1800, 600, 600, 100},
-        {sala, 0, L"Tipo 22", 700, 1300, 2000, 600, 600, 100},
-        // 550 mm of height: the product, 600 mm high, has none within, and the range stays.
-        {sala, 1, L"Tipo 11", 1300, 700, 1200, 0, 550, 60},
-        {warm, std::nullopt, L"Tipo 22", 2900, 0, 1800, 600, 600, 100},
-    };
-    for (const auto& test : cases) {
-        const HK_DATEN_VDI3805_UEBERGABE request =
-            MakeRequest(m_building, m_building.floors[0], test.room, test.radiator);
-        EXPECT_EQ(request.Raumname, L"Terra.Sala");
-        EXPECT_EQ(request.Produkt, test.produkt);
-        EXPECT_EQ(request.RaumBedarf, 2000.0);
-        EXPECT_EQ(request.RaumGedeckt, test.gedeckt);
-        EXPECT_EQ(request.Leistung, test.leistung);
-        EXPECT_EQ(request.LaengeMax, test.laengeMax);
-        EXPECT_EQ(request.HoeheMin, test.hoeheMin);
-        EXPECT_EQ(request.HoeheMax, test.hoeheMax);
-        EXPECT_EQ(request.TiefeMax, test.tiefeMax);
-        EXPECT_EQ(request.Vorlauf, 75.0);
     }
 }
 

@@ -51,6 +51,16 @@ protected:
         room.strProdukt = produkt;
         return room;
     }
+
+    /// Within the limits that the room has, wherever its places are.
+    static CRoomOutcome Select(const CRoom& room, const CHeatingSystem& system = kStandard)
+    {
+        CBuilding building;
+        building.system = system;
+        CRadiatorWish wish = WishForPlace(building, {}, room, 0);
+        wish.grenzen = room.grenzen;
+        return SelectRadiator(wish);
+    }
 };
 
 } // namespace
@@ -61,7 +71,7 @@ TEST_F(ScheduleTest, NearestRadiatorWithinTheLimitsIsChosen)
     // (300 off) and 600x1000 with 1000 W (200 off).
     CRoom room = Room(L"Sala", 1000.0, L"Piastre", L"P10");
     room.gedeckt = 200.0;
-    const CRoomOutcome outcome = SelectRadiator(room, kStandard);
+    const CRoomOutcome outcome = Select(room);
     ASSERT_EQ(outcome.status, RoomStatus::chosen);
     EXPECT_EQ(outcome.radiator->strTyp, L"P10/600");
     EXPECT_EQ(outcome.radiator->daten.Laenge, 1000.0);
@@ -74,11 +84,10 @@ TEST_F(ScheduleTest, RowsBuiltToMeasureFollowEachRoomsNeed)
 {
     // 850 W: eight sections (800 W) and nine (900 W) are equally near, and the earlier row stays.
     // 2000 W: twenty sections, 20 x 80 mm long.
-    const CRoomOutcome small =
-        SelectRadiator(Room(L"Piccolo", 850.0, L"Elementi", L"E80"), kStandard);
+    const CRoomOutcome small = Select(Room(L"Piccolo", 850.0, L"Elementi", L"E80"));
     CRoom large = Room(L"Grande", 2000.0, L"Elementi", L"E80");
     large.grenzen.laengeMax = 1600.0;
-    const CRoomOutcome outcome = SelectRadiator(large, kStandard);
+    const CRoomOutcome outcome = Select(large);
 
     ASSERT_EQ(small.status, RoomStatus::chosen);
     EXPECT_EQ(small.radiator->daten.Elemente, 8.0);
@@ -90,7 +99,7 @@ TEST_F(ScheduleTest, RowsBuiltToMeasureFollowEachRoomsNeed)
 TEST_F(ScheduleTest, StrongEnoughRadiatorTakesThePlaceOfANearerWeakOne)
 {
     // 800 W: the unit of 700 W is nearest but below 720 W; that of 1000 W serves.
-    const CRoomOutcome outcome = SelectRadiator(Room(L"Bagno", 800.0, L"Bagno", L"B"), kStandard);
+    const CRoomOutcome outcome = Select(Room(L"Bagno", 800.0, L"Bagno", L"B"));
     ASSERT_EQ(outcome.status, RoomStatus::chosen);
     EXPECT_EQ(outcome.radiator->daten.Leistung, 1000.0);
 }
@@ -125,7 +134,7 @@ TEST_F(ScheduleTest, UnfittingRoomsSayWhatTheNearestRadiatorLacks)
          L"il più vicino è P10/600, 600 x 60 x 1000 mm, 495 W: mancano 305 W (38.1 %)"},
     };
     for (const auto& [room, system, note] : cases) {
-        const CRoomOutcome outcome = SelectRadiator(room, system);
+        const CRoomOutcome outcome = Select(room, system);
         EXPECT_EQ(outcome.status, RoomStatus::unfitting);
         EXPECT_EQ(outcome.strNote, note);
     }
@@ -144,7 +153,7 @@ TEST_F(ScheduleTest, UnknownNamesAndDamagedCataloguesAreTold)
         {damaged, RoomStatus::badCatalogue, m_folder.Path("Rotto/hk.tga") + L": riga 4: "},
     };
     for (const auto& [room, status, told] : cases) {
-        const CRoomOutcome outcome = SelectRadiator(room, kStandard);
+        const CRoomOutcome outcome = Select(room);
         EXPECT_EQ(outcome.status, status);
         EXPECT_FALSE(outcome.radiator);
         EXPECT_NE(outcome.strNote.find(told), CString::npos)

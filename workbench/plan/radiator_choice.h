@@ -1,0 +1,30 @@
+#pragma once
+
+#include "workbench/plan/radiator_wish.h"
+
+#include <optional>
+
+namespace workbench {
+
+/// What was chosen for a place, by the silent search or by the user in the module's dialog.
+struct CRadiatorChoice
+{
+    CRadiatorProduct produkt;
+    /// The row: its type text, and its sizes and outputs as those of the whole radiator. Leistung
+    /// is the output at the temperatures of the wish, or at those that the user set in the dialog.
+    CString strTyp;
+    HK_DATEN_VDI3805 daten;
+    /// The layer that the dialog gave back; nothing after a silent search.
+    std::optional<CRadiatorLayer> layer;
+    /// The block that the user picked in the dialog; nothing if he left the one of last time.
+    std::optional<CString> block;
+};
+
+/// The choice that a radiator of the plan stands for.
+inline CRadiatorChoice ChoiceOf(const CPlacedRadiator& radiator)
+{
+    return {ProductOf(radiator), radiator.strTyp, radiator.daten,
+            CRadiatorLayer{radiator.strLayer, radiator.nFarbe}, radiator.strBlock};
+}
+
+} // namespace workbench
