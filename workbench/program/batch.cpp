@@ -4,12 +4,12 @@
 #include "platform/file.h"
 #include "platform/path.h"
 #include "workbench/building/building_json.h"
-#include "workbench/building/json_fields.h"
 #include "workbench/building/whole_file.h"
 #include "workbench/drawing/drawing_blocks.h"
 #include "workbench/plan/sizing.h"
 #include "workbench/program/arguments.h"
-#include "workbench/program/dialog_run.h"
+#include "workbench/program/asked_building.h"
+#include "workbench/program/console.h"
 #include "workbench/program/host_folders.h"
 #include "workbench/report/plan_files.h"
 #include "workbench/schedule/schedule_csv.h"
@@ -28,24 +28,6 @@ namespace {
 
 constexpr wchar_t kCsvName[] = L"corpi-scaldanti.csv";
 constexpr wchar_t kJsonName[] = L"corpi-scaldanti.json";
-
-CBuilding LoadBuilding(const CArguments& arguments)
-{
-    CBuilding building = ReadBuilding(arguments.strBuilding);
-    if (!arguments.strRoom.empty() && !KeepRoom(building, arguments.strRoom)) {
-        throw CArgumentException(L"--room: l'edificio non ha il locale \"" + arguments.strRoom +
-                                 L"\"");
-    }
-    if (arguments.system) {
-        building.system = *arguments.system;
-        if (const CRoom* room = FindRoomTooWarm(building)) {
-            throw CArgumentException(L"--system: il ritorno non supera la temperatura del locale "
-                                     L"\"" +
-                                     room->strName + L"\"");
-        }
-    }
-    return building;
-}
 
 /// What a run comes to.
 struct CResult
@@ -86,20 +68,6 @@ void WriteFiles(const CResult& result, const CDrawingBlocks& blocks, const CArgu
     }
 }
 
-ExitCode Report(std::ostream& err, const CString& message, ExitCode code)
-{
-    err << Utf8FromWide(L"radsel_workbench: " + message) << '\n';
-    return code;
-}
-
-/// Shows a text; a screen that cannot be written to is an error whatever came before.
-ExitCode Show(const CString& text, ExitCode code, std::ostream& out, std::ostream& err)
-{
-    out << Utf8FromWide(text) << std::flush;
-    return out ? code
-               : Report(err, L"l'uscita standard non è scrivibile", ExitCode::outputNotWritable);
-}
-
 /// Plans are drawn without the blocks that cannot be read.
 CDrawingBlocks ReadBlocks(ExitCode& code, std::ostream& err)
 {
@@ -127,44 +95,16 @@ ExitCode Deliver(const CResult& result, const CArguments& arguments, std::ostrea
     return Show(text, code, out, err);
 }
 
-ExitCode RunValveDialog(const CArguments& arguments, std::ostream& out, std::ostream& err)
-{
-    SetValveFolder(arguments, true);
-    SetWorkplace(arguments);
-    const auto ventil = ChooseValve(arguments.strMaker, arguments.strValveNumber);
-    return ventil ? Show(FormatChosenValve(*ventil), ExitCode::ok, out, err)
-                  : Report(err, L"finestra annullata", ExitCode::cancelled);
-}
-
-ExitCode Run(const CArguments& arguments, std::ostream& out, std::ostream& err)
-{
-    if (arguments.bHelp) {
-        return Show(GetHelpText(), ExitCode::ok, out, err);
-    }
-    if (arguments.bValveDialog) {
-        return RunValveDialog(arguments, out, err);
-    }
-    SetCatalogueFolder(arguments);
-    const CBuilding building = LoadBuilding(arguments);
-    SetValveFolder(arguments, HasValves(building));
-    return Deliver(Calculate(building), arguments, out, err);
-}
-
 } // namespace
 
-ExitCode RunBatch(const std::vector<CString>& arguments, std::ostream& out, std::ostream& err)
+ExitCode RunBatch(const CArguments& arguments, std::ostream& out, std::ostream& err)
 {
-    try {
-        return Run(ParseArguments(arguments), out, err);
-    } catch (const CArgumentException& error) {
-        return Report(err, error.GetErrorMessage() + L" (--help mostra le opzioni)",
-                      ExitCode::wrongArguments);
-    } catch (const CContentException& error) {
-        return Report(err, error.GetErrorMessage(), ExitCode::badBuilding);
-    } catch (const std::exception& error) {
-        return Report(err, L"errore imprevisto: " + WideFromUtf8(error.what()),
-                      ExitCode::unexpected);
+    RequireCatalogueFolder();
+    const CBuilding building = ReadAskedBuilding(arguments, L"--room");
+    if (HasValves(building)) {
+        RequireValveFolder();
     }
+    return Deliver(Calculate(building), arguments, out, err);
 }
 
 } // namespace workbench

@@ -6,6 +6,7 @@
 #include "platform/exception.h"
 #include "platform/format.h"
 #include "reference_host/files/short_list_file.h"
+#include "workbench/program/arguments.h"
 
 #include <cmath>
 #include <cstddef>
@@ -223,6 +224,11 @@ ExitCode ListConnections(const CString& path, std::ostream& out, std::ostream& e
         return ExitCode::badCatalogue;
     }
     return CListPrinter(list.strFile, list.lines, out, err).Print();
+}
+
+ExitCode RunConnectionList(const CArguments& arguments, std::ostream& out, std::ostream& err)
+{
+    return ListConnections(arguments.strConnectionList, out, err);
 }
 
 CString DescribeConnectionPoint(const CString& text)

@@ -3,18 +3,16 @@
 #include "frame/entry_points.h"
 #include "platform/encoding.h"
 #include "platform/format.h"
-#include "reference_host/prefs/host_settings.h"
 #include "workbench/drawing/beside_window.h"
 #include "workbench/drawing/drawing_blocks.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/drawing/sample_plan.h"
 #include "workbench/drawing/scene_drawer.h"
 #include "workbench/program/connection_list.h"
+#include "workbench/program/console.h"
 #include "workbench/program/dialog_run.h"
 #include "workbench/schedule/text_columns.h"
 
-#include <algorithm>
-#include <iterator>
 #include <ostream>
 
 namespace workbench {
@@ -25,41 +23,6 @@ namespace {
 const CDxfLayer kLayer = {L"RISCALDAMENTO", 1};
 
 constexpr QSize kPlanSize(520, 480);
-
-/// Value of the last option of that name; empty if there is none.
-CString OptionOf(const std::vector<CString>& arguments, const CString& name)
-{
-    CString value;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        if (arguments[i] == name && i + 1 < arguments.size()) {
-            value = arguments[i + 1];
-        } else if (arguments[i].starts_with(name + L"=")) {
-            value = arguments[i].substr(name.size() + 1);
-        }
-    }
-    return value;
-}
-
-void ApplyOptions(const std::vector<CString>& arguments)
-{
-    const struct
-    {
-        const wchar_t* option;
-        const wchar_t* setting;
-    } folders[] = {
-        {L"--valve-catalogues", reference_host::kSettingVEDir},
-        {L"--workplace", reference_host::kSettingLocalPath},
-    };
-    for (const auto& folder : folders) {
-        const CString value = OptionOf(arguments, folder.option);
-        if (!value.empty()) {
-            reference_host::OverrideHostSetting(folder.setting, value);
-        }
-    }
-    if (std::ranges::find(arguments, L"--superuser") != arguments.end()) {
-        reference_host::OverrideHostSetting(reference_host::kSettingSuperUser, L"1");
-    }
-}
 
 /// The blocks of radiators; without their drawing a plan shows plain rectangles.
 CDxfDrawing RadiatorBlocks(std::ostream& err)
@@ -144,23 +107,14 @@ CString FormatConnectionChoice(const CConnectionChoice& choice)
     return lines.Format();
 }
 
-ExitCode RunConnectionDialog(const std::vector<CString>& arguments, std::ostream& out,
-                             std::ostream& err)
+ExitCode RunConnectionDialog(const CArguments& /*arguments*/, std::ostream& out, std::ostream& err)
 {
-    try {
-        ApplyOptions(arguments);
-        StartWindows();
-        CConnectionChoice choice;
-        if (!Edit(choice, err)) {
-            err << "radsel_workbench: finestra annullata\n";
-            return ExitCode::cancelled;
-        }
-        out << Utf8FromWide(FormatConnectionChoice(choice));
-        return ExitCode::ok;
-    } catch (const std::exception& error) {
-        err << "radsel_workbench: errore imprevisto: " << error.what() << '\n';
-        return ExitCode::unexpected;
+    StartWindows();
+    CConnectionChoice choice;
+    if (!Edit(choice, err)) {
+        return Report(err, L"finestra annullata", ExitCode::cancelled);
     }
+    return Show(FormatConnectionChoice(choice), ExitCode::ok, out, err);
 }
 
 } // namespace workbench

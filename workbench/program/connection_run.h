@@ -2,12 +2,13 @@
 
 #include "frame/conn_values.h"
 #include "frame/ventil_kv.h"
-#include "workbench/program/batch.h"
+#include "workbench/program/exit_code.h"
 
 #include <iosfwd>
-#include <vector>
 
 namespace workbench {
+
+struct CArguments;
 
 /// What the connection dialog works on and gives back.
 struct CConnectionChoice
@@ -24,12 +25,8 @@ struct CConnectionChoice
 CString FormatConnectionChoice(const CConnectionChoice& choice);
 
 /// Opens the module's connection dialog beside a plan with three radiators that show their
-/// connections live, and prints on `out` what the user confirmed; `cancelled` if he did not.
-///
-/// `arguments` are those behind the program's name. "--superuser" lets the user expand the dialog,
-/// "--valve-catalogues DIR" and "--workplace DIR" are those of the other runs, and anything else is
-/// left to them.
-ExitCode RunConnectionDialog(const std::vector<CString>& arguments, std::ostream& out,
-                             std::ostream& err);
+/// connections live, and prints on `out` what the user confirmed; `cancelled` if he did not. Needs
+/// a display.
+ExitCode RunConnectionDialog(const CArguments& arguments, std::ostream& out, std::ostream& err);
 
 } // namespace workbench

@@ -23,29 +23,22 @@ bool IsFolder(const CString& path)
 
 } // namespace
 
-void SetCatalogueFolder(const CArguments& arguments)
+void UseCatalogueFolder(const CArguments& arguments)
 {
     if (!arguments.strCatalogues.empty()) {
         reference_host::OverrideHostSetting(reference_host::kSettingHKDir, arguments.strCatalogues);
     }
-    if (!IsFolder(GetHKDir(false))) {
-        throw CArgumentException(L"la cartella dei cataloghi non esiste: " + GetHKDir(false));
-    }
 }
 
-void SetValveFolder(const CArguments& arguments, bool needed)
+void UseValveFolder(const CArguments& arguments)
 {
     if (!arguments.strValveCatalogues.empty()) {
         reference_host::OverrideHostSetting(reference_host::kSettingVEDir,
                                             arguments.strValveCatalogues);
     }
-    if (needed && !IsFolder(GetVEDir(false))) {
-        throw CArgumentException(L"--valve-catalogues: la cartella delle valvole non esiste: " +
-                                 GetVEDir(false));
-    }
 }
 
-void SetWorkplace(const CArguments& arguments)
+void UseWorkplace(const CArguments& arguments)
 {
     if (arguments.strWorkplace.empty()) {
         return;
@@ -54,6 +47,21 @@ void SetWorkplace(const CArguments& arguments)
         throw CArgumentException(L"--workplace: la cartella non esiste: " + arguments.strWorkplace);
     }
     reference_host::OverrideHostSetting(reference_host::kSettingLocalPath, arguments.strWorkplace);
+}
+
+void RequireCatalogueFolder()
+{
+    if (!IsFolder(GetHKDir(false))) {
+        throw CArgumentException(L"la cartella dei cataloghi non esiste: " + GetHKDir(false));
+    }
+}
+
+void RequireValveFolder()
+{
+    if (!IsFolder(GetVEDir(false))) {
+        throw CArgumentException(L"--valve-catalogues: la cartella delle valvole non esiste: " +
+                                 GetVEDir(false));
+    }
 }
 
 std::optional<fs::path> InstalledDataFolder()

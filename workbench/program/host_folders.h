@@ -8,15 +8,20 @@ namespace workbench {
 struct CArguments;
 
 /// Folders of the arguments become those of the process, in front of the user's settings; those
-/// that the arguments leave out stay as they are. All raise CArgumentException for a folder that
-/// does not exist.
+/// that the arguments leave out stay as they are.
 
-void SetCatalogueFolder(const CArguments& arguments);
+void UseCatalogueFolder(const CArguments& arguments);
 
-/// A folder that is missing matters only if valves are `needed`.
-void SetValveFolder(const CArguments& arguments, bool needed);
+void UseValveFolder(const CArguments& arguments);
 
-void SetWorkplace(const CArguments& arguments);
+/// Raises CArgumentException for a folder that does not exist.
+void UseWorkplace(const CArguments& arguments);
+
+/// These raise CArgumentException if the folder that is in force does not exist.
+
+void RequireCatalogueFolder();
+
+void RequireValveFolder();
 
 /// The sample data that was installed beside the program; nothing where it runs from elsewhere.
 std::optional<std::filesystem::path> InstalledDataFolder();

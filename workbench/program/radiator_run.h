@@ -1,20 +1,17 @@
 #pragma once
 
-#include "platform/text.h"
-#include "workbench/program/batch.h"
+#include "workbench/program/exit_code.h"
 
 #include <iosfwd>
-#include <vector>
 
 namespace workbench {
 
-/// The option that RunRadiatorDialog() serves; the name of a room may stand behind it.
-inline constexpr wchar_t kRadiatorDialogOption[] = L"--radiator-dialog";
+struct CArguments;
 
-/// Opens the radiator selection for a room of the building, the first one if none is named, as a
-/// CAD does, and prints the radiator that was chosen on `out`. Errors go to `err`. `arguments` are
-/// those behind the program's name. `cancelled` if no radiator was chosen. Needs a display.
-ExitCode RunRadiatorDialog(const std::vector<CString>& arguments, std::ostream& out,
-                           std::ostream& err);
+/// Opens the radiator selection for the arguments' room of the building, the first one if they name
+/// none, as a CAD does, and prints the radiator that was chosen on `out`; `cancelled` if none was.
+/// Raises CArgumentException for what the batch run would refuse as well, and CContentException for
+/// a building that cannot be read. Needs a display.
+ExitCode RunRadiatorDialog(const CArguments& arguments, std::ostream& out, std::ostream& err);
 
 } // namespace workbench

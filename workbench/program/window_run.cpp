@@ -1,9 +1,7 @@
 #include "workbench/program/window_run.h"
 
 #include "host/host_base.h"
-#include "platform/encoding.h"
 #include "reference_host/prefs/host_settings.h"
-#include "workbench/building/json_fields.h"
 #include "workbench/plan/recovery_file.h"
 #include "workbench/program/arguments.h"
 #include "workbench/program/dialog_run.h"
@@ -14,17 +12,10 @@
 #include <QApplication>
 
 #include <memory>
-#include <ostream>
 
 namespace workbench {
 
 namespace {
-
-ExitCode Report(std::ostream& err, const CString& message, ExitCode code)
-{
-    err << Utf8FromWide(L"radsel_workbench: " + message) << '\n';
-    return code;
-}
 
 /// Unsaved work that an earlier run left behind, if the user wants to go on with it.
 bool RecoverWork(const CRecoveryFile& file, CPlanDocument& document, const CPrompts& prompts,
@@ -98,21 +89,11 @@ ExitCode Run(const CArguments& arguments)
 
 } // namespace
 
-ExitCode RunWindow(const std::vector<CString>& arguments, std::ostream& err)
+ExitCode RunWindow(const CArguments& arguments, std::ostream& /*out*/, std::ostream& /*err*/)
 {
-    try {
-        const CArguments parsed = ParseArguments(arguments);
-        SetCatalogueFolder(parsed);
-        SetValveFolder(parsed, false);
-        SetWorkplace(parsed);
-        StartWindows();
-        return Run(parsed);
-    } catch (const CArgumentException& error) {
-        return Report(err, error.GetErrorMessage() + L" (--help mostra le opzioni)",
-                      ExitCode::wrongArguments);
-    } catch (const CContentException& error) {
-        return Report(err, error.GetErrorMessage(), ExitCode::badBuilding);
-    }
+    RequireCatalogueFolder();
+    StartWindows();
+    return Run(arguments);
 }
 
 } // namespace workbench

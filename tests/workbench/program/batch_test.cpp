@@ -1,4 +1,4 @@
-#include "workbench/program/batch.h"
+#include "workbench/program/command_line.h"
 
 #include "common/text_file.h"
 #include "platform/encoding.h"
@@ -55,7 +55,7 @@ protected:
         arguments.insert(arguments.end(), more.begin(), more.end());
         m_out.str({});
         m_err.str({});
-        return RunBatch(arguments, m_out, m_err);
+        return RunCommandLine(arguments, false, m_out, m_err);
     }
 
     QJsonValue ReadJson() const
@@ -152,7 +152,7 @@ TEST_F(BatchTest, EachKindOfErrorHasItsOwnCodeAndMessage)
     m_folder.WriteBytes("bad.json", "{\n}}");
     m_folder.WriteBytes("file", "");
     const std::tuple<std::vector<CString>, ExitCode, CString> cases[] = {
-        {{L"--colour"}, ExitCode::wrongArguments, L"--colour"},
+        {{L"--building", L""}, ExitCode::wrongArguments, L"--building"},
         {{L"--room", L"Cantina"}, ExitCode::wrongArguments, L"\"Cantina\""},
         {{L"--system", L"40/22"}, ExitCode::wrongArguments, L"\"Bagno degli ospiti\""},
         {{L"--catalogues", m_folder.Path("none")}, ExitCode::wrongArguments, L"none"},

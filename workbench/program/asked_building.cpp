@@ -1,0 +1,26 @@
+#include "workbench/program/asked_building.h"
+
+#include "workbench/building/building_json.h"
+#include "workbench/program/arguments.h"
+
+namespace workbench {
+
+CBuilding ReadAskedBuilding(const CArguments& arguments, const CString& roomOption)
+{
+    CBuilding building = ReadBuilding(arguments.strBuilding);
+    if (!arguments.strRoom.empty() && !KeepRoom(building, arguments.strRoom)) {
+        throw CArgumentException(roomOption + L": l'edificio non ha il locale \"" +
+                                 arguments.strRoom + L"\"");
+    }
+    if (arguments.system) {
+        building.system = *arguments.system;
+        if (const CRoom* room = FindRoomTooWarm(building)) {
+            throw CArgumentException(L"--system: il ritorno non supera la temperatura del locale "
+                                     L"\"" +
+                                     room->strName + L"\"");
+        }
+    }
+    return building;
+}
+
+} // namespace workbench

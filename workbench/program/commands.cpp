@@ -1,0 +1,116 @@
+#include "workbench/program/commands.h"
+
+#include "reference_host/prefs/host_settings.h"
+#include "workbench/program/batch.h"
+#include "workbench/program/connection_list.h"
+#include "workbench/program/connection_run.h"
+#include "workbench/program/help_run.h"
+#include "workbench/program/host_folders.h"
+#include "workbench/program/radiator_run.h"
+#include "workbench/program/tree_run.h"
+#include "workbench/program/valve_run.h"
+#include "workbench/program/window_run.h"
+
+namespace workbench {
+
+namespace {
+
+template <CString CArguments::*FIELD>
+void KeepText(CArguments& arguments, const CString& value)
+{
+    arguments.*FIELD = value;
+}
+
+template <bool CArguments::*FIELD>
+void KeepYes(CArguments& arguments, const CString& /*value*/)
+{
+    arguments.*FIELD = true;
+}
+
+void KeepSystem(CArguments& arguments, const CString& value)
+{
+    arguments.system = ParseHeatingSystem(value);
+    if (!arguments.system) {
+        throw CArgumentException(L"--system: \"" + value +
+                                 L"\" non è una coppia mandata/ritorno come 75/65, con il "
+                                 L"ritorno sotto la mandata e la mandata non oltre 110 °C");
+    }
+}
+
+void RequireBuilding(const CArguments& arguments)
+{
+    if (arguments.strBuilding.empty()) {
+        throw CArgumentException(L"manca l'edificio: indicarlo con --building FILE");
+    }
+}
+
+void UseSuperUser(const CArguments& arguments)
+{
+    if (arguments.bSuperUser) {
+        reference_host::OverrideHostSetting(reference_host::kSettingSuperUser, L"1");
+    }
+}
+
+constexpr COption kBuilding{L"--building", true, KeepText<&CArguments::strBuilding>,
+                            RequireBuilding, true};
+constexpr COption kOutput{L"--output", true, KeepText<&CArguments::strOutput>, nullptr, true};
+constexpr COption kWorkplace{L"--workplace", true, KeepText<&CArguments::strWorkplace>,
+                             UseWorkplace, true};
+constexpr COption kCatalogues{L"--catalogues", true, KeepText<&CArguments::strCatalogues>,
+                              UseCatalogueFolder};
+constexpr COption kValveCatalogues{L"--valve-catalogues", true,
+                                   KeepText<&CArguments::strValveCatalogues>, UseValveFolder};
+constexpr COption kSystem{L"--system", true, KeepSystem};
+constexpr COption kRoom{L"--room", true, KeepText<&CArguments::strRoom>};
+constexpr COption kSave{L"--save", true, KeepText<&CArguments::strSave>};
+constexpr COption kValves{L"--valves", false, KeepYes<&CArguments::bValves>};
+constexpr COption kSuperUser{L"--superuser", false, KeepYes<&CArguments::bSuperUser>, UseSuperUser};
+
+} // namespace
+
+std::span<const CCommand> GetCommands()
+{
+    static const CCommand commands[] = {
+        {CommandId::window,
+         nullptr,
+         {},
+         {&kBuilding, &kCatalogues, &kValveCatalogues, &kWorkplace},
+         RunWindow},
+        {CommandId::batch,
+         L"--batch",
+         {},
+         {&kBuilding, &kCatalogues, &kValveCatalogues, &kSystem, &kRoom, &kValves, &kOutput,
+          &kSave},
+         RunBatch},
+        {CommandId::radiatorDialog,
+         L"--radiator-dialog",
+         {&CArguments::strRoom},
+         {&kBuilding, &kCatalogues, &kValveCatalogues, &kSystem, &kRoom, &kWorkplace},
+         RunRadiatorDialog},
+        {CommandId::treeDialog,
+         L"--tree-dialog",
+         {},
+         {&kCatalogues, &kSystem, &kWorkplace},
+         RunTreeDialog},
+        {CommandId::connectionDialog,
+         L"--connection-dialog",
+         {},
+         {&kValveCatalogues, &kWorkplace, &kSuperUser},
+         RunConnectionDialog},
+        {CommandId::valveDialog,
+         L"--valve-dialog",
+         {&CArguments::strMaker, &CArguments::strValveNumber},
+         {&kValveCatalogues, &kWorkplace},
+         RunValveDialog},
+        {CommandId::listConnections,
+         L"--list-connections",
+         {&CArguments::strConnectionList},
+         {},
+         RunConnectionList},
+        {CommandId::help, L"--help", {}, {}, ShowHelp, true},
+        {CommandId::version, L"--version", {}, {}, ShowVersion, true},
+    };
+    return commands;
+}
+
+} // namespace workbench
