@@ -4,6 +4,7 @@
 #include "frame/handover.h"
 #include "host/host_catalog.h"
 #include "host/host_prefs.h"
+#include "platform/format.h"
 #include "workbench/program/arguments.h"
 #include "workbench/program/console.h"
 #include "workbench/program/dialog_run.h"
@@ -35,6 +36,10 @@ CString DescribePick(const HK_DATEN_VDI3805_UEBERGABE& uebergabe, bool confirmed
 ExitCode RunTreeDialog(const CArguments& arguments, std::ostream& out, std::ostream& err)
 {
     const CHeatingSystem system = arguments.system.value_or(kSystem);
+    if (kRaumtemperatur >= system.ruecklauf) {
+        throw CArgumentException(L"--system: il ritorno non supera la temperatura del locale, " +
+                                 FormatFixed(kRaumtemperatur, 0) + L" °C");
+    }
     if (ReadHKDaten() == nullptr) {
         return Report(err, L"nessun catalogo in " + GetHKDir(false), ExitCode::badCatalogue);
     }

@@ -39,6 +39,7 @@ for command in "${dialogs[@]}" --list-connections; do
 done
 answers 2 'ritorno non supera' --batch "${catalogues[@]}" --system 30/10
 answers 2 'ritorno non supera' --radiator-dialog "${catalogues[@]}" --system 30/10
+answers 2 'ritorno non supera' --tree-dialog "${catalogues[@]}" --system 30/10
 
 answers 7 'nessuno schermo' --radiator-dialog "${catalogues[@]}" --system 40/30
 answers 7 'nessuno schermo' --tree-dialog "${catalogues[@]}"
