@@ -43,7 +43,6 @@ enum class CommandId
 /// One of the things that the program does.
 struct CCommand
 {
-    CommandId id;
     /// What the user types; null for the window, which opens where no command is typed.
     const wchar_t* name;
     /// Texts that may stand behind the name, in this order.
@@ -53,6 +52,7 @@ struct CCommand
     std::vector<const COption*> options;
     /// Errors that end the command are raised or go to the second stream.
     ExitCode (*run)(const CArguments& arguments, std::ostream& out, std::ostream& err);
+    CommandId id;
     /// The command only tells something: it goes before any other command on the line and accepts
     /// every option without using it.
     bool onlyTells = false;
