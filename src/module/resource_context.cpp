@@ -1,24 +1,10 @@
 #include "module/resource_context.h"
 
-#include <utility>
+#include "module/radsel_app.h"
 
-namespace {
-
-ResourceOwner currentOwner = ResourceOwner::host;
-
-} // namespace
-
-CResourceContext::CResourceContext()
-    : m_previous(std::exchange(currentOwner, ResourceOwner::module))
-{
-}
+CResourceContext::CResourceContext() : m_previous(CWinApp::MakeCurrent(&theApp)) {}
 
 CResourceContext::~CResourceContext()
 {
-    currentOwner = m_previous;
-}
-
-ResourceOwner CResourceContext::Current()
-{
-    return currentOwner;
+    CWinApp::MakeCurrent(m_previous);
 }

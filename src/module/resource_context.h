@@ -1,15 +1,10 @@
 #pragma once
 
-/// Whose resources (texts, templates, icons) a look-up by number finds.
-enum class ResourceOwner
-{
-    host,
-    module
-};
+class CWinApp;
 
-/// Makes the module's own resources current for the life of the object and puts back what was
-/// current before, on every way out. Every export that opens a dialog or works on a catalogue holds
-/// one. Scopes nest.
+/// Makes the module's application object the current one for the life of the object, so that
+/// dialogs are created as it says, and puts back what was current before, on every way out. Every
+/// export that opens a dialog or works on a catalogue holds one. Scopes nest.
 class CResourceContext
 {
 public:
@@ -19,8 +14,6 @@ public:
     CResourceContext(const CResourceContext&) = delete;
     CResourceContext& operator=(const CResourceContext&) = delete;
 
-    static ResourceOwner Current();
-
 private:
-    ResourceOwner m_previous;
+    CWinApp* m_previous;
 };

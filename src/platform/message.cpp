@@ -19,8 +19,13 @@ void ShowMessage(const MessageBoxText& message)
 {
     if (const MessageHandler handler = CurrentHandler()) {
         handler(message);
-        return;
+    } else {
+        WriteMessage(message);
     }
+}
+
+void WriteMessage(const MessageBoxText& message)
+{
     std::string line = Utf8FromWide(message.text);
     if (!message.caption.empty()) {
         line = Utf8FromWide(message.caption) + ": " + line;

@@ -27,6 +27,9 @@ using MessageHandler = std::function<void(const MessageBoxText&)>;
 /// there is a window.
 void ShowMessage(const MessageBoxText& message);
 
+/// Writes a message to standard error, for handlers that find nobody who could answer.
+void WriteMessage(const MessageBoxText& message);
+
 /// Makes `handler` the one that shows messages; an empty one stands for standard error. Returns the
 /// handler that was in force.
 MessageHandler SetMessageHandler(MessageHandler handler);

@@ -1,26 +1,18 @@
 #include "uikit/application.h"
 
-#include "platform/message.h"
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
 #include "uikit/native/caption_bar.h"
-#include "uikit/native/dialog_font.h"
 
 #include <QApplication>
-#include <QFontMetrics>
 #include <QMessageBox>
 #include <QScreen>
 #include <QStyleFactory>
 
-#include <algorithm>
 #include <utility>
 
 namespace {
 
-constexpr char kTemplateFace[] = "Tahoma";
-constexpr double kTemplatePoints = 8;
-
-double g_fontPoints = 0;
 DialogObserver g_observer;
 
 QMessageBox::Icon NativeIcon(MessageIcon icon)
@@ -38,19 +30,6 @@ QMessageBox::Icon NativeIcon(MessageIcon icon)
     return QMessageBox::NoIcon;
 }
 
-void ShowMessageBox(const MessageBoxText& message)
-{
-    QMessageBox box(QApplication::activeModalWidget());
-    box.setFont(GetDialogFont());
-    box.setIcon(NativeIcon(message.icon));
-    box.setWindowTitle(message.caption.empty() ? QApplication::applicationDisplayName()
-                                               : ToNative(message.caption));
-    box.setTextFormat(Qt::PlainText);
-    box.setText(ToNative(message.text));
-    box.addButton("OK", QMessageBox::AcceptRole);
-    box.exec();
-}
-
 /// The application object of a host that has none. It lives to the end of the process, as windows
 /// of other modules may by then depend on it.
 void MakeApplication()
@@ -64,21 +43,50 @@ void MakeApplication()
     static_cast<void>(application);
 }
 
-double SystemPoints()
+bool HasWindows()
 {
-    const double points = QApplication::font().pointSizeF();
-    return points > 0 ? points : kTemplatePoints;
+    return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
 }
 
 } // namespace
 
-void EnsureApplication()
+bool EnsureApplication()
 {
-    if (qApp == nullptr) {
+    if (QCoreApplication::instance() == nullptr) {
         MakeApplication();
     }
-    MessageHandler present = SetMessageHandler({});
-    SetMessageHandler(present ? std::move(present) : ShowMessageBox);
+    return HasWindows();
+}
+
+void ShowMessageBox(const MessageBoxText& message)
+{
+    if (!HasWindows()) {
+        WriteMessage(message);
+        return;
+    }
+    QMessageBox box(QApplication::activeModalWidget());
+    box.setIcon(NativeIcon(message.icon));
+    box.setWindowTitle(message.caption.empty() ? QApplication::applicationDisplayName()
+                                               : ToNative(message.caption));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToNative(message.text));
+    box.addButton("OK", QMessageBox::AcceptRole);
+    box.exec();
+}
+
+int GetPrimaryScreenHeight()
+{
+    return QGuiApplication::primaryScreen()->geometry().height();
+}
+
+DialogFont GetMessageFont()
+{
+    constexpr double kPointsPerInch = 72;
+    const QFont font = QApplication::font("QMessageBox");
+    const double points = font.pointSizeF();
+    const double inch = QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+    return {FromNative(font.family()),
+            points > 0 ? points : font.pixelSize() * kPointsPerInch / inch};
 }
 
 CSize GetVirtualScreenSize()
@@ -90,36 +98,6 @@ CSize GetVirtualScreenSize()
 int GetCaptionButtonWidth()
 {
     return CCaptionBar::ButtonWidth();
-}
-
-QFont GetDialogFont()
-{
-    QFont font(kTemplateFace);
-    font.setStyleHint(QFont::SansSerif);
-    const double wanted = g_fontPoints > 0 ? g_fontPoints : SystemPoints();
-    font.setPointSizeF(std::max(wanted, kTemplatePoints));
-    return font;
-}
-
-QSize GetDialogBaseUnits(const QFont& font)
-{
-    const QFontMetrics metrics(font);
-    const QString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-    const int width = (metrics.horizontalAdvance(letters) / 26 + 1) / 2;
-    return {width, metrics.height()};
-}
-
-double GetDialogScale()
-{
-    QFont standard = GetDialogFont();
-    const int actual = QFontMetrics(standard).height();
-    standard.setPixelSize(11);
-    return double(actual) / QFontMetrics(standard).height();
-}
-
-void SetDialogFontSize(double points)
-{
-    g_fontPoints = points;
 }
 
 CWaitCursor::CWaitCursor()

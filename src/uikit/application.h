@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/geometry.h"
+#include "platform/message.h"
+#include "uikit/dialog_template.h"
 
 #include <functional>
 
@@ -8,9 +10,19 @@ class CDialog;
 
 /// What dialogs need around them.
 
-/// Makes sure that there is an application object; a host that has one keeps it. From then on
-/// messages of the module come as message boxes. Called by every dialog that opens.
-void EnsureApplication();
+/// Makes sure that there is an application object; a host that has one keeps it. False if that one
+/// has no windows, so that no dialog can be shown. Called by every dialog that opens.
+bool EnsureApplication();
+
+/// Shows a message in a box above the active dialog and returns when the user has closed it. Where
+/// at that moment no application object with windows exists it writes to standard error instead.
+void ShowMessageBox(const MessageBoxText& message);
+
+/// Height of the primary screen, in the pixels in which dialogs are measured.
+int GetPrimaryScreenHeight();
+
+/// The font in which the system shows messages.
+DialogFont GetMessageFont();
 
 /// Size of all screens together.
 CSize GetVirtualScreenSize();
@@ -18,10 +30,11 @@ CSize GetVirtualScreenSize();
 /// Width of a button of the caption bar in pixels.
 int GetCaptionButtonWidth();
 
-/// Factor by which dialogs are larger than at the size of their templates.
+/// Factor by which the open dialog is larger than at the size for which templates are made.
 double GetDialogScale();
 
-/// Makes dialogs open as if the system's font had that size in points; 0 for the system's own.
+/// Makes all dialogs open in that size in points, whatever font they are to have; 0 for the size of
+/// that font.
 void SetDialogFontSize(double points);
 
 /// Shows the busy cursor while it lives.

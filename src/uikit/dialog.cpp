@@ -7,6 +7,7 @@
 #include "uikit/native/caption_bar.h"
 #include "uikit/native/dialog_window.h"
 #include "uikit/native/observer.h"
+#include "uikit/win_app.h"
 
 #include <QApplication>
 #include <QMetaObject>
@@ -22,6 +23,18 @@ bool IsCommand(ControlEvent event)
            event != ControlEvent::treeItemExpanding && event != ControlEvent::step;
 }
 
+/// What the application object at work puts in the place of a template, if anything.
+std::optional<DialogTemplate> AskForReplacement(const DialogTemplate& dialogTemplate)
+{
+    CWinApp* const app = CWinApp::Current();
+    if (app == nullptr) {
+        return std::nullopt;
+    }
+    app->Start();
+    COccManager* const manager = app->GetOccManager();
+    return manager != nullptr ? manager->PreCreateDialog(dialogTemplate) : std::nullopt;
+}
+
 } // namespace
 
 CDialog::CDialog(const DialogTemplate& dialogTemplate) : m_template(dialogTemplate) {}
@@ -32,18 +45,20 @@ void CDialog::Create()
 {
     auto* window = new CDialogWindow(*this, QApplication::activeWindow());
     CNativeAccess::Attach(*this, window);
-    SetWindowText(m_template.caption);
-    for (const ControlTemplate& control : m_template.controls) {
-        window->Add(control, window->MapUnits({control.x, control.y, control.x + control.cx,
-                                               control.y + control.cy}));
-    }
-    window->SetClientSize(window->MapUnits({0, 0, m_template.cx, m_template.cy}).size());
+    SetWindowText(GetTemplate().caption);
+    window->Fill(GetTemplate());
     window->DefaultPlace();
 }
 
 int CDialog::DoModal()
 {
-    EnsureApplication();
+    if (!EnsureApplication()) {
+        WriteMessage({m_template.caption,
+                      L"il programma non può mostrare finestre, questa vale come annullata",
+                      MessageIcon::stop});
+        return kIdCancel;
+    }
+    m_replacement = AskForReplacement(m_template);
     m_result = kIdCancel;
     m_ended = false;
     m_systemMenu.Clear();

@@ -65,7 +65,9 @@ public:
     CDialog& operator=(const CDialog&) = delete;
 
     /// Opens the dialog above the active window, which waits, and runs it until it ends. Returns
-    /// the value that EndDialog() was given, kIdOk and kIdCancel for the two buttons.
+    /// the value that EndDialog() was given, kIdOk and kIdCancel for the two buttons. In a program
+    /// whose application object has no windows it returns kIdCancel at once and says so on standard
+    /// error.
     int DoModal();
 
     /// Ends DoModal() with that result, once the event at work is done.
@@ -74,7 +76,12 @@ public:
     bool HasEnded() const { return m_ended; }
 
     int GetTemplateId() const { return m_template.id; }
-    const DialogTemplate& GetTemplate() const { return m_template; }
+    /// What the window is created from: the template, or what the application object put in its
+    /// place when the dialog opened last.
+    const DialogTemplate& GetTemplate() const
+    {
+        return m_replacement ? *m_replacement : m_template;
+    }
 
     /// The control of that id; a handle without a window if there is none.
     CWnd GetDlgItem(int id) const;
@@ -118,7 +125,7 @@ public:
     /// Rectangle in pixels for one in dialog units.
     CRect MapDialogRect(const CRect& units) const;
 
-    bool IsResizable() const { return (m_template.frame & frameResizable) != 0; }
+    bool IsResizable() const { return (GetTemplate().frame & frameResizable) != 0; }
 
 protected:
     virtual void DoDataExchange(CDataExchange* pDX);
@@ -166,6 +173,7 @@ private:
     void DeliverDeferred();
 
     const DialogTemplate& m_template;
+    std::optional<DialogTemplate> m_replacement;
     CMenu m_systemMenu;
     int m_result = kIdCancel;
     bool m_ended = false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/text.h"
+
 #include <vector>
 
 /// Kinds of controls that templates name.
@@ -53,8 +55,9 @@ enum ControlStyle : unsigned
 /// Id of every control that is only there to be seen, such as a caption.
 inline constexpr int kNoId = -1;
 
-/// One control: id, kind, caption and rectangle in dialog units, which are a quarter of the dialog
-/// font's average width across and an eighth of its height down.
+/// One control: id, kind, caption and rectangle in dialog units, which are an eighth of the
+/// height of the dialog's font down and a quarter of its average width across, or more where a
+/// caption of the dialog needs it.
 struct ControlTemplate
 {
     int id;
@@ -78,6 +81,13 @@ enum FrameStyle : unsigned
     frameMaximizeBox = 4,
 };
 
+/// The font of a dialog; where the face is missing, the nearest one stands in.
+struct DialogFont
+{
+    CString face = L"Tahoma";
+    double points = 8;
+};
+
 /// A dialog as data. Controls stand in the order in which Tab visits them.
 struct DialogTemplate
 {
@@ -87,4 +97,5 @@ struct DialogTemplate
     int cy;
     unsigned frame;
     std::vector<ControlTemplate> controls;
+    DialogFont font = {};
 };

@@ -4,10 +4,10 @@
 #include "uikit/native/access.h"
 #include "uikit/native/canvas_widget.h"
 #include "uikit/native/caption_bar.h"
+#include "uikit/native/caption_room.h"
 #include "uikit/native/colors.h"
 #include "uikit/native/combo_widget.h"
 #include "uikit/native/control_factory.h"
-#include "uikit/native/dialog_font.h"
 #include "uikit/native/small_widgets.h"
 #include "uikit/native/surface.h"
 #include "uikit/native/tree_widget.h"
@@ -24,6 +24,8 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace {
 
@@ -85,7 +87,8 @@ CDialogWindow* WindowOf(const CDialog& dialog)
 }
 
 CDialogWindow::CDialogWindow(CDialog& dialog, QWidget* owner)
-    : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), m_dialog(dialog)
+    : QWidget(owner, Qt::Dialog | Qt::FramelessWindowHint), m_dialog(dialog),
+      m_font(dialog.GetTemplate().font), m_baseUnits(GetDialogBaseUnits(GetDialogFont()))
 {
     setWindowModality(Qt::ApplicationModal);
     setFont(GetDialogFont());
@@ -119,11 +122,30 @@ int CDialogWindow::Border() const
 
 QRect CDialogWindow::MapUnits(const CRect& units) const
 {
-    const QSize base = GetDialogBaseUnits(font());
-    const auto across = [&](int x) { return qRound(x * base.width() / 4.0); };
-    const auto down = [&](int y) { return qRound(y * base.height() / 8.0); };
+    const auto across = [&](int x) { return qRound(x * m_baseUnits.width() / 4.0); };
+    const auto down = [&](int y) { return qRound(y * m_baseUnits.height() / 8.0); };
     const QPoint corner(across(units.left), down(units.top));
     return {corner, QSize(across(units.right) - corner.x(), down(units.bottom) - corner.y())};
+}
+
+void CDialogWindow::Fill(const DialogTemplate& dialogTemplate)
+{
+    const auto place = [this](const ControlTemplate& control) {
+        return MapUnits({control.x, control.y, control.x + control.cx, control.y + control.cy});
+    };
+    std::vector<QWidget*> widgets;
+    double width = m_baseUnits.width();
+    for (const ControlTemplate& control : dialogTemplate.controls) {
+        widgets.push_back(Add(control, place(control)));
+        width = std::max(width, BaseWidthForCaption(control, *widgets.back()));
+    }
+    if (width > m_baseUnits.width()) {
+        m_baseUnits.setWidth(width);
+        for (std::size_t i = 0; i < widgets.size(); ++i) {
+            widgets[i]->setGeometry(place(dialogTemplate.controls[i]));
+        }
+    }
+    SetClientSize(MapUnits({0, 0, dialogTemplate.cx, dialogTemplate.cy}).size());
 }
 
 QWidget* CDialogWindow::Find(int id) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "uikit/dialog.h"
+#include "uikit/native/dialog_font.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -37,6 +38,8 @@ public:
     CCaptionBar& Caption() const { return *m_caption; }
     QWidget* Find(int id) const;
     QWidget* Add(const ControlTemplate& control, const QRect& pixels);
+    /// Adds all controls of the template and takes its size.
+    void Fill(const DialogTemplate& dialogTemplate);
     QRect MapUnits(const CRect& units) const;
 
     /// Radio buttons of the group that begins with that id, in template order.
@@ -90,6 +93,9 @@ private:
     int Border() const;
 
     CDialog& m_dialog;
+    CDialogFontScope m_font;
+    /// Average character of the font; all dialog units are parts of it.
+    QSizeF m_baseUnits;
     CCaptionBar* m_caption;
     QWidget* m_client;
     std::map<int, QPointer<QWidget>> m_controls;

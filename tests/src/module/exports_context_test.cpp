@@ -1,10 +1,12 @@
-// The exports compiled together with a catalogue whose reading fails: what the host sees of the
-// module's resources while an export works, and after an exception has passed through it.
+// The exports compiled together with a host whose services fail: which application object is
+// current while an export works, and after an exception has passed through it.
 
+#include "frame/conn_values.h"
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
 #include "host/host_catalog.h"
-#include "module/resource_context.h"
+#include "host/host_prefs.h"
+#include "module/radsel_app.h"
 
 #include <gtest/gtest.h>
 
@@ -14,8 +16,15 @@
 namespace {
 
 HK_VDI3805_HERSTELLER maker;
-int readings = 0;
-ResourceOwner ownerDuringReading = ResourceOwner::host;
+int failures = 0;
+CWinApp* appDuringFailure = nullptr;
+
+[[noreturn]] void Fail(const CString& name)
+{
+    ++failures;
+    appDuringFailure = CWinApp::Current();
+    throw CFileException::FromErrno(0, name);
+}
 
 } // namespace
 
@@ -38,9 +47,19 @@ HK_VDI3805_PRODUKT* FindProdukt(HK_VDI3805_ART* /*art*/, const CString& /*name*/
 
 int ReadVdiFile(const CString& name, HK_VDI3805_ART** /*art*/, double /*leistungEN442*/)
 {
-    ++readings;
-    ownerDuringReading = CResourceContext::Current();
-    throw CFileException::FromErrno(0, name);
+    Fail(name);
+}
+
+/// Asked while valves are fetched.
+CString GetVEDir(bool /*unused*/)
+{
+    Fail(L"VEDir");
+}
+
+/// Asked by every dialog that is made.
+bool lmGetAllowLumoSkin(bool& /*allowed*/)
+{
+    Fail(L"Skin");
 }
 
 namespace {
@@ -60,7 +79,7 @@ static_assert(std::is_same_v<decltype(ShowVentVDI3805Dlg),
                              bool(const CString&, const CString&, VDI3805_VENTIL_KV&)>);
 static_assert(std::is_same_v<decltype(DummyCall), void()>);
 
-TEST(ExportsContext, TheModulesResourcesAreCurrentDuringACallAndTheHostsAfterAnException)
+TEST(ExportsContext, TheModulesApplicationIsCurrentDuringACallAndTheHostsAfterAnException)
 {
     CString layer;
     int color = 0;
@@ -68,6 +87,10 @@ TEST(ExportsContext, TheModulesResourcesAreCurrentDuringACallAndTheHostsAfterAnE
     OCArray<double> sizes;
     short places[2] = {};
     double contents[1] = {};
+    VDI3805_VENTIL_KV valve;
+    ConnValues connection;
+    bool flag = false;
+    const CString number(36, L'0');
     const std::function<void()> calls[] = {
         [&] { HeizkoerperauswahlVDI3805(nullptr, &uebergabe, layer, color, false, false); },
         [&] { HeizkoerperauswahlVDI3805(nullptr, &uebergabe, layer, color, true, false); },
@@ -77,14 +100,17 @@ TEST(ExportsContext, TheModulesResourcesAreCurrentDuringACallAndTheHostsAfterAnE
         [&] { HKGetMinTiefe(uebergabe); },
         [&] { HKGetMaxTiefe(uebergabe); },
         [&] { GetHK_Inhalt(uebergabe, 0.6, 0.1, 1.0); },
+        [&] { ShowVentDlg(connection, valve, valve, flag, flag, flag, flag, nullptr, nullptr); },
+        [&] { ShowVentVDI3805Dlg(L"", L"", valve); },
+        [&] { VDI3805GetVentil(L"marca", number, L"marca", number, valve, valve); },
     };
     for (const auto& call : calls) {
-        const int before = readings;
-        ownerDuringReading = ResourceOwner::host;
+        const int before = failures;
+        appDuringFailure = nullptr;
         EXPECT_THROW(call(), CFileException);
-        EXPECT_EQ(readings, before + 1);
-        EXPECT_EQ(ownerDuringReading, ResourceOwner::module);
-        EXPECT_EQ(CResourceContext::Current(), ResourceOwner::host);
+        EXPECT_EQ(failures, before + 1);
+        EXPECT_EQ(appDuringFailure, &theApp);
+        EXPECT_EQ(CWinApp::Current(), nullptr);
     }
 }
 

@@ -1,3 +1,4 @@
+#include "module/radsel_app.h"
 #include "tests/dialog_support/dialog_driver.h"
 #include "tests/support/message_log.h"
 #include "tests/support/setting_override.h"
@@ -234,8 +235,49 @@ Complaints Check(const CDialog& dialog)
     return complaints;
 }
 
+/// Gives all dialogs one font.
+class CGivenFont : public COccManager
+{
+public:
+    explicit CGivenFont(DialogFont font) : m_font(std::move(font)) {}
+
+    std::optional<DialogTemplate> PreCreateDialog(const DialogTemplate& dialogTemplate) override
+    {
+        DialogTemplate replaced = dialogTemplate;
+        replaced.font = m_font;
+        return replaced;
+    }
+
+private:
+    DialogFont m_font;
+};
+
+/// A dialog whose captions lose half of the room that it has made for them.
+class CNarrowed : public CDialog
+{
+public:
+    CNarrowed(const DialogTemplate& dialogTemplate, std::vector<int> ids)
+        : CDialog(dialogTemplate), m_ids(std::move(ids))
+    {
+    }
+
+protected:
+    bool OnInitDialog() override
+    {
+        for (const int id : m_ids) {
+            CRect place = GetDlgItem(id).GetPlace();
+            place.right = place.left + place.Width() / 2;
+            MoveControls({{id, place}});
+        }
+        return CDialog::OnInitDialog();
+    }
+
+private:
+    std::vector<int> m_ids;
+};
+
 /// Checks every dialog that opens, then cancels it.
-class AllDialogs : public ::testing::TestWithParam<double>
+class AllDialogs : public ::testing::TestWithParam<DialogFont>
 {
 protected:
     AllDialogs()
@@ -248,10 +290,14 @@ protected:
               dialog.EndDialog(kIdCancel);
           }))
     {
-        SetDialogFontSize(GetParam());
+        SetDialogFontSize(0);
+        theApp.Start();
+        theApp.EnableControlContainer(std::make_unique<CGivenFont>(GetParam()));
     }
     ~AllDialogs() override
     {
+        CWinApp::MakeCurrent(m_appBefore);
+        theApp.EnableControlContainer(nullptr);
         SetDialogObserver(m_before);
         SetDialogFontSize(8);
     }
@@ -261,6 +307,7 @@ protected:
     int m_opened = 0;
     std::vector<int> m_presses;
     DialogObserver m_before;
+    CWinApp* m_appBefore = CWinApp::MakeCurrent(&theApp);
 };
 
 TEST_P(AllDialogs, FitTheirCaptionsAndWorkByKeyboard)
@@ -291,8 +338,8 @@ TEST_P(AllDialogs, FaultsAreFound)
         200,
         100,
         frameFixed,
-        {{10, label, L"Una didascalia troppo lunga", 4, 4, 30, 9},
-         {11, button, L"Un pulsante troppo lungo", 4, 16, 50, 14},
+        {{10, label, L"Una didascalia troppo lunga", 4, 4, 90, 9},
+         {11, button, L"Un pulsante troppo lungo", 4, 16, 80, 14},
          {12, label, L"Bassa", 100, 4, 40, 5},
          {20, groupBox, L"Cornice", 4, 34, 90, 40},
          {21, edit, L"", 8, 36, 40, 13},
@@ -305,7 +352,7 @@ TEST_P(AllDialogs, FaultsAreFound)
          {kIdCancel, button, L"No", 180, 90, 44, 14, styleNoTabStop},
          {30, button, L"Ancora", 60, 80, 44, 14, styleDisabled}},
     };
-    CDialog(dialog).DoModal();
+    CNarrowed(dialog, {10, 11}).DoModal();
     EXPECT_EQ(m_complaints, (Complaints{
                                 "caption does not fit: 10 \"Una didascalia troppo lunga\"",
                                 "caption does not fit: 11 \"Un pulsante troppo lungo\"",
@@ -318,6 +365,9 @@ TEST_P(AllDialogs, FaultsAreFound)
                             }));
 }
 
-INSTANTIATE_TEST_SUITE_P(FontSizes, AllDialogs, ::testing::Values(8.0, 12.0));
+/// The last one is wider than others where captions are, in letters of the lower case.
+INSTANTIATE_TEST_SUITE_P(Fonts, AllDialogs,
+                         ::testing::Values(DialogFont{L"Tahoma", 8}, DialogFont{L"Tahoma", 12},
+                                           DialogFont{L"DejaVu Sans Mono", 9}));
 
 } // namespace

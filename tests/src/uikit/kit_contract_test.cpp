@@ -244,8 +244,7 @@ TEST_F(KitContract, DialogsNestAndTheInnerOneEndsFirst)
 TEST_F(KitContract, MessageBoxesBlockTheDialogBehindThem)
 {
     Run([&](CDialogUser&) {
-        const MessageHandler recording = SetMessageHandler({});
-        EnsureApplication();
+        const MessageHandler recording = SetMessageHandler(ShowMessageBox);
         QTimer::singleShot(0, [&] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);

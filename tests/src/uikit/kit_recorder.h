@@ -62,7 +62,7 @@ inline const DialogTemplate& RecorderTemplate()
             {idTree, tree, L"", 140, 4, 96, 80},
             {idSpin, spin, L"", 64, 4, 6, 13},
             {idCanvas, canvas, L"", 4, 90, 80, 40, styleNotify},
-            {idLabel, label, L"Una didascalia lunga", 90, 90, 40, 9},
+            {idLabel, label, L"Una", 90, 90, 40, 9},
             {idCheck, checkBox, L"sì", 90, 104, 40, 11},
             {idButton, button, L"Altro", 4, 140, 40, 14},
             {idReadOnly, edit, L"", 50, 140, 40, 13, styleReadOnly},
