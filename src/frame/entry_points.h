@@ -6,7 +6,8 @@
 
 /// What a host calls. One caller at a time, on the thread of the host's user interface. Unknown
 /// catalogue names are no error: they read as "nothing fits". Exceptions of the framework, and
-/// those of the host's own libraries, pass through.
+/// those of the host's own libraries, pass through. In a program whose application object has no
+/// windows a dialog counts as cancelled.
 
 class CDrawer;
 class ConnValues;
