@@ -3,6 +3,7 @@
 #include "reference_host/prefs/host_settings.h"
 #include "tools/large_floor.h"
 #include "workbench/building/building_json.h"
+#include "workbench/building/qt_text.h"
 #include "workbench/building/radiator_records.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/plan/sizing.h"
@@ -25,19 +26,14 @@ constexpr QSize kSmallWindow(420, 300);
 constexpr CRoomRef kLivingRoom{0, 1};
 constexpr CRoomRef kKitchen{0, 3};
 
-CString WideFrom(const QString& text)
-{
-    return text.toStdWString();
-}
-
 /// A window with a plan in it, to be brought into a state and photographed.
 class CPlanWindow
 {
 public:
     CPlanWindow(const QString& data, const QDir& folder) : m_folder(folder), m_view(&m_scene)
     {
-        const CBlockLibrary valves(WideFrom(data + "/drawing/ventile.dxf"));
-        const auto radiators = ReadDxfFile(WideFrom(data + "/drawing/heizkoerper.dxf"));
+        const CBlockLibrary valves(FromQt(data + "/drawing/ventile.dxf"));
+        const auto radiators = ReadDxfFile(FromQt(data + "/drawing/heizkoerper.dxf"));
         if (const auto* const drawing = std::get_if<CDxfDrawing>(&radiators)) {
             m_scene.SetBlocks(*drawing, &valves);
         }
@@ -143,8 +139,8 @@ void TakeLarge(CPlanWindow& window)
 
 bool WritePlanPictures(const QString& data, const QDir& folder)
 {
-    OverrideHostSetting(kSettingHKDir, WideFrom(data + "/catalogues"));
-    const CBuilding house = ReadBuilding(WideFrom(data + "/buildings/villa-dei-tigli.json"));
+    OverrideHostSetting(kSettingHKDir, FromQt(data + "/catalogues"));
+    const CBuilding house = ReadBuilding(FromQt(data + "/buildings/villa-dei-tigli.json"));
     CPlanWindow window(data, folder);
     TakeHouse(window, house);
     TakeNear(window, house);

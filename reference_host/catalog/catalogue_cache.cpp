@@ -1,12 +1,8 @@
 #include "reference_host/catalog/catalogue_cache.h"
 
 #include "platform/exception.h"
-#include "platform/file.h"
 #include "platform/path.h"
-
-#include <cstddef>
-#include <cstdint>
-#include <vector>
+#include "platform/whole_file.h"
 
 namespace reference_host {
 
@@ -32,23 +28,16 @@ bool IsSameState(const struct stat& a, const struct stat& b)
            IsSameTime(a.st_mtim, b.st_mtim) && IsSameTime(a.st_ctim, b.st_ctim);
 }
 
-std::vector<std::uint8_t> ReadAll(CFile& file)
-{
-    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(file.GetLength()));
-    bytes.resize(file.Read(bytes.data(), bytes.size()));
-    return bytes;
-}
-
 CCatalogueCache::CResult ReadCatalogue(const std::filesystem::path& path)
 {
     try {
-        CFile file(TextFromPath(path), CFile::modeRead | CFile::shareDenyWrite);
-        if (file.GetLength() > kMaxCatalogueBytes) {
-            return CCatalogueFault{0, L"Il file è troppo grande per un catalogo."};
+        const auto bytes = ReadWholeFile(TextFromPath(path), kMaxCatalogueBytes);
+        if (!bytes) {
+            return CFileFault{0, L"Il file è troppo grande per un catalogo."};
         }
-        return ParseCatalogue(ReadAll(file));
+        return ParseCatalogue(BytesOf(*bytes));
     } catch (const CFileException& error) {
-        return CCatalogueFault{0, L"Il catalogo non si può leggere: " + error.GetErrorMessage()};
+        return CFileFault{0, L"Il catalogo non si può leggere: " + error.GetErrorMessage()};
     }
 }
 } // namespace

@@ -17,7 +17,7 @@ namespace reference_host {
 class CCatalogueCache
 {
 public:
-    using CResult = std::variant<CCatalogue, CCatalogueFault>;
+    using CResult = std::variant<CCatalogue, CFileFault>;
 
     /// The model of the file or why there is none. Good until the next call for the same path.
     const CResult& Get(const std::filesystem::path& path);

@@ -20,7 +20,7 @@ struct CLibrary
 {
     CCatalogueTree tree;
     CCatalogueCache cache;
-    std::map<CString, CCatalogueError> errors;
+    std::map<CString, CFileFault> errors;
 };
 
 CLibrary& Library()
@@ -40,9 +40,9 @@ NODE* FindByName(NODE* first, const CString& name)
 }
 
 /// Keeps the error and gives the result of a reading that failed.
-int Fail(const CString& hersteller, CCatalogueError error)
+int Fail(const CString& hersteller, CFileFault error)
 {
-    Library().errors[hersteller] = std::move(error);
+    Library().errors.insert_or_assign(hersteller, std::move(error));
     return -1;
 }
 } // namespace
@@ -82,12 +82,12 @@ int ReadVdiFile(const CString& hersteller, HK_VDI3805_ART** art, double leistung
     const CString folder = GetHKDir(false);
     const std::optional<std::filesystem::path> file = FindCatalogueFile(folder, hersteller);
     if (!file) {
-        return Fail(hersteller, {TextFromPath(ResolvePath(folder)), 0,
-                                 L"Nessun catalogo di \"" + hersteller + L"\"."});
+        return Fail(hersteller, {0, L"Nessun catalogo di \"" + hersteller + L"\".",
+                                 TextFromPath(ResolvePath(folder))});
     }
     const CCatalogueCache::CResult& result = library.cache.Get(*file);
-    if (const auto* fault = std::get_if<CCatalogueFault>(&result)) {
-        return Fail(hersteller, {TextFromPath(*file), fault->nLine, fault->strMessage});
+    if (const auto* fault = std::get_if<CFileFault>(&result)) {
+        return Fail(hersteller, {fault->nLine, fault->strMessage, TextFromPath(*file)});
     }
     int rowCount = 0;
     *art = library.tree.Hang(folder, hersteller, std::get<CCatalogue>(result), leistungEN442,
@@ -97,7 +97,7 @@ int ReadVdiFile(const CString& hersteller, HK_VDI3805_ART** art, double leistung
 
 namespace reference_host {
 
-std::optional<CCatalogueError> GetCatalogueError(const CString& hersteller)
+std::optional<CFileFault> GetCatalogueError(const CString& hersteller)
 {
     const auto& errors = Library().errors;
     const auto found = errors.find(hersteller);

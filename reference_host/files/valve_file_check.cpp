@@ -58,8 +58,8 @@ CString DescribeMissing(const RecordRule& rule, std::size_t count)
                           : L" mancano i campi da " + first + L" a " + last);
 }
 
-std::optional<CValveFileFault> FindFault(const CStringArray& lines,
-                                         std::span<const RecordRule> rules)
+std::optional<CFileFault> FindFault(const CString& file, const CStringArray& lines,
+                                    std::span<const RecordRule> rules)
 {
     std::set<std::wstring_view> seen;
     int number = 0;
@@ -77,12 +77,13 @@ std::optional<CValveFileFault> FindFault(const CStringArray& lines,
             continue;
         }
         if (!rule->parent.empty() && !seen.contains(rule->parent)) {
-            return CValveFileFault{number, L"il record " + CString(rule->type) +
-                                               L" non ha un record " + CString(rule->parent) +
-                                               L" sopra di sé"};
+            return CFileFault{number,
+                              L"il record " + CString(rule->type) + L" non ha un record " +
+                                  CString(rule->parent) + L" sopra di sé",
+                              file};
         }
         if (fields.size() < rule->nFields) {
-            return CValveFileFault{number, DescribeMissing(*rule, fields.size())};
+            return CFileFault{number, DescribeMissing(*rule, fields.size()), file};
         }
     }
     return std::nullopt;
@@ -90,38 +91,40 @@ std::optional<CValveFileFault> FindFault(const CStringArray& lines,
 
 } // namespace
 
-CValveFileCheck::CValveFileCheck(const CString& path)
+CValveFileCheck::CValveFileCheck(const CString& path) : m_strFile(path)
 {
     CFile file(path, CFile::modeRead | CFile::shareDenyWrite);
     ReadTextLines(file, m_lines, -1);
 }
 
-std::optional<CValveFileFault> CValveFileCheck::FindReadingFault() const
+std::optional<CFileFault> CValveFileCheck::FindReadingFault() const
 {
     if (!m_lines.IsEmpty()) {
         const Fields head = Split(m_lines[0]);
         if (!head.empty() && head[0] == kNewHead) {
-            return CValveFileFault{1, L"la testata 000 è di un altro tipo di file"};
+            return CFileFault{1, L"la testata 000 è di un altro tipo di file", m_strFile};
         }
     }
-    return FindFault(m_lines, kReadingRules);
+    return FindFault(m_strFile, m_lines, kReadingRules);
 }
 
-std::optional<CValveFileFault> CValveFileCheck::FindDataFault() const
+std::optional<CFileFault> CValveFileCheck::FindDataFault() const
 {
-    return FindFault(m_lines, kDataRules);
+    return FindFault(m_strFile, m_lines, kDataRules);
 }
 
-std::optional<CValveFileFault> CValveFileCheck::FindArticle(const CString& ventilNr) const
+std::optional<CFileFault> CValveFileCheck::FindArticle(const CString& ventilNr) const
 {
     int number = 0;
     for (const CString& line : m_lines) {
         ++number;
         const Fields fields = Split(line);
         if (fields.size() > 1 && fields[0] == kArticle && fields[1] == ventilNr) {
-            return CValveFileFault{number, L"alla valvola " + ventilNr +
-                                               L" manca il numero d'ordine o il record 700 a cui "
-                                               L"rimanda"};
+            return CFileFault{number,
+                              L"alla valvola " + ventilNr +
+                                  L" manca il numero d'ordine o il record 700 a cui "
+                                  L"rimanda",
+                              m_strFile};
         }
     }
     return std::nullopt;

@@ -1,20 +1,12 @@
 #pragma once
 
 #include "platform/array.h"
+#include "platform/file_fault.h"
 #include "platform/text.h"
 
 #include <optional>
 
 namespace reference_host {
-
-/// What is wrong in a line of a valve file.
-struct CValveFileFault
-{
-    /// Line number from 1, as the module's reader counts lines.
-    int nLine = 0;
-    /// A sentence for the user.
-    CString strMessage;
-};
 
 /// Looks for the line that keeps the module from taking a valve out of a file, since the module
 /// itself does not tell it. The rules are those of docs/valve-format.md.
@@ -27,16 +19,17 @@ public:
     /// The first line that makes the module give up the whole file: a record that lacks a field
     /// that the reader needs, or one that has no record above it to stand under, or the head of
     /// another kind of file.
-    std::optional<CValveFileFault> FindReadingFault() const;
+    std::optional<CFileFault> FindReadingFault() const;
 
     /// The first data set or kv row that lacks a field. It spoils the valves of that data set only.
-    std::optional<CValveFileFault> FindDataFault() const;
+    std::optional<CFileFault> FindDataFault() const;
 
     /// The line of an article that the module does not find although it is there, because it lacks
     /// its order number or its data set. Nothing if the file has no article of that number.
-    std::optional<CValveFileFault> FindArticle(const CString& ventilNr) const;
+    std::optional<CFileFault> FindArticle(const CString& ventilNr) const;
 
 private:
+    CString m_strFile;
     CStringArray m_lines;
 };
 

@@ -2,8 +2,8 @@
 
 #include "platform/encoding.h"
 #include "platform/exception.h"
-#include "platform/file.h"
 #include "platform/path.h"
+#include "platform/whole_file.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -23,13 +23,6 @@ constexpr std::string_view kVersion = "1";
 std::string HeadOf(const CString& key)
 {
     return Utf8FromWide(key) + '=';
-}
-
-std::string ReadAll(CFile& file)
-{
-    std::string bytes(static_cast<std::size_t>(file.GetLength()), '\0');
-    bytes.resize(file.Read(bytes.data(), bytes.size()));
-    return bytes;
 }
 
 std::vector<std::string> LinesOf(std::string_view bytes)
@@ -55,13 +48,9 @@ CSettingsFile::State CSettingsFile::Load()
 {
     std::vector<std::string> lines;
     try {
-        CFile file;
-        if (!file.Open(m_path, CFile::modeRead)) {
-            return file.GetOpenError() == ENOENT ? State::missing : State::untouchable;
-        }
-        lines = LinesOf(ReadAll(file));
-    } catch (const CFileException&) {
-        return State::untouchable;
+        lines = LinesOf(*ReadWholeFile(m_path));
+    } catch (const CFileException& error) {
+        return error.GetOsError() == ENOENT ? State::missing : State::untouchable;
     }
 
     if (lines.empty() || !lines.front().starts_with(kVersionHead)) {
@@ -126,9 +115,7 @@ void CSettingsFile::Write() const
     for (const std::string& line : m_lines) {
         bytes.append(line).append("\n");
     }
-    CFile file(m_path, CFile::modeCreate | CFile::modeWrite);
-    file.Write(bytes.data(), bytes.size());
-    file.Close();
+    WriteWholeFile(m_path, bytes);
 }
 
 } // namespace reference_host

@@ -26,7 +26,7 @@ void CheckRows(const CCatalogueProduct& produkt, double requiredOutput)
 void RunCatalogue(std::span<const std::uint8_t> bytes)
 {
     const auto parsed = ParseCatalogue(bytes);
-    if (const auto* const fault = std::get_if<CCatalogueFault>(&parsed)) {
+    if (const auto* const fault = std::get_if<CFileFault>(&parsed)) {
         Require(!fault->strMessage.empty() && fault->nLine >= 0, "a fault says what and where");
         return;
     }

@@ -115,7 +115,7 @@ void Shorten(CDxfDrawing& drawing)
 void RunDxfBlocks(std::span<const std::uint8_t> bytes)
 {
     auto parsed = ParseDxf(bytes);
-    if (const auto* const fault = std::get_if<CDxfFault>(&parsed)) {
+    if (const auto* const fault = std::get_if<CFileFault>(&parsed)) {
         Require(!fault->strMessage.empty() && fault->nLine >= 0, "a fault says what and where");
         return;
     }

@@ -1,13 +1,13 @@
 #include "workbench/building/building_json.h"
 
 #include "platform/format.h"
+#include "platform/whole_file.h"
 #include "workbench/building/building_layout.h"
 #include "workbench/building/json_fields.h"
 #include "workbench/building/json_note.h"
 #include "workbench/building/json_writer.h"
 #include "workbench/building/room_json.h"
 #include "workbench/building/valve_keys_json.h"
-#include "workbench/building/whole_file.h"
 
 #include <algorithm>
 #include <limits>

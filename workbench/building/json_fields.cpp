@@ -1,8 +1,9 @@
 #include "workbench/building/json_fields.h"
 
 #include "platform/encoding.h"
-#include "platform/file.h"
+#include "platform/file_fault.h"
 #include "platform/format.h"
+#include "platform/whole_file.h"
 
 #include <QJsonDocument>
 
@@ -45,29 +46,35 @@ bool IsFinite(const QJsonValue& value)
     return value.isDouble() && std::isfinite(value.toDouble());
 }
 
-std::string ReadWholeFile(const CString& path)
+[[noreturn]] void Raise(const CFileFault& fault)
+{
+    throw CContentException(FormatFileFault(fault));
+}
+
+std::string ReadText(const CString& path)
 {
     try {
-        CFile file(path, CFile::modeRead);
-        if (file.GetLength() > kLargestFile) {
-            throw CContentException(path + L": il file è troppo grande");
+        auto bytes = ReadWholeFile(path, kLargestFile);
+        if (!bytes) {
+            Raise({0, L"il file è troppo grande", path});
         }
-        std::string bytes(static_cast<std::size_t>(file.GetLength()), '\0');
-        bytes.resize(file.Read(bytes.data(), bytes.size()));
-        return bytes;
+        return *std::move(bytes);
     } catch (const CFileException& error) {
         throw CContentException(L"file non leggibile: " + error.GetErrorMessage());
     }
 }
 
-CString LineAndColumn(const std::string& bytes, int offset)
+/// The fault stands at an offset in bytes.
+CFileFault FaultAt(const CString& path, const std::string& bytes, int offset,
+                   const CString& message)
 {
     const std::string_view before(bytes.data(),
                                   std::min(bytes.size(), static_cast<std::size_t>(offset)));
     const auto line = std::count(before.begin(), before.end(), '\n') + 1;
-    const std::size_t start = before.rfind('\n') + 1;
-    const std::size_t column = WideFromUtf8(before.substr(start)).size() + 1;
-    return L"riga " + FormatInt(line) + L", colonna " + FormatInt(static_cast<long long>(column));
+    const std::string_view start = before.substr(before.rfind('\n') + 1);
+    CFileFault fault(static_cast<int>(line), message, path);
+    fault.nColumn = static_cast<int>(WideFromUtf8(start).size()) + 1;
+    return fault;
 }
 
 CString DescribeParseError(QJsonParseError::ParseError error)
@@ -237,8 +244,8 @@ void CJsonFields::RefuseUnknown() const
 
 void CJsonFields::Fail(const CString& name, const CString& what) const
 {
-    throw CContentException(m_strFile + L": " + (m_strPlace.empty() ? L"" : m_strPlace + L": ") +
-                            L"campo \"" + name + L"\": " + what);
+    const CString place = m_strPlace.empty() ? CString() : m_strPlace + L": ";
+    Raise({0, place + L"campo \"" + name + L"\": " + what, m_strFile});
 }
 
 QJsonValue CJsonFields::Take(const char* name)
@@ -253,16 +260,15 @@ QJsonValue CJsonFields::Take(const char* name)
 
 CJsonFields ReadJsonFile(const CString& path)
 {
-    const std::string bytes = ReadWholeFile(path);
+    const std::string bytes = ReadText(path);
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(
         QByteArray::fromRawData(bytes.data(), qsizetype(bytes.size())), &error);
     if (error.error != QJsonParseError::NoError) {
-        throw CContentException(path + L": " + LineAndColumn(bytes, error.offset) + L": " +
-                                DescribeParseError(error.error));
+        Raise(FaultAt(path, bytes, error.offset, DescribeParseError(error.error)));
     }
     if (!document.isObject()) {
-        throw CContentException(path + L": atteso un oggetto { } al livello più alto");
+        Raise({0, L"atteso un oggetto { } al livello più alto", path});
     }
     return {document.object(), path, {}};
 }

@@ -53,7 +53,7 @@ CBlockLibrary::CBlockLibrary(const CString& path)
 void CBlockLibrary::Read(const CString& path)
 {
     auto read = ReadDxfFile(path);
-    if (auto* const error = std::get_if<CDxfError>(&read)) {
+    if (auto* const error = std::get_if<CFileFault>(&read)) {
         m_errors.push_back(std::move(*error));
     } else {
         m_drawings.push_back(std::move(std::get<CDxfDrawing>(read)));

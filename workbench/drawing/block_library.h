@@ -31,13 +31,13 @@ public:
     CFound Find(std::wstring_view name) const;
 
     /// What went wrong, in the order of the files.
-    const std::vector<CDxfError>& GetErrors() const { return m_errors; }
+    const std::vector<CFileFault>& GetErrors() const { return m_errors; }
 
 private:
     void Read(const CString& path);
 
     std::vector<CDxfDrawing> m_drawings;
-    std::vector<CDxfError> m_errors;
+    std::vector<CFileFault> m_errors;
 };
 
 } // namespace workbench

@@ -1,7 +1,6 @@
 #include "workbench/drawing/drawing_blocks.h"
 
 #include "host/host_prefs.h"
-#include "platform/format.h"
 
 #include <utility>
 
@@ -13,7 +12,7 @@ CDrawingBlocks ReadDrawingBlocks()
     CString path;
     if (lmGetDWGDefPath(LumoDWGDefsNames::heizkoerper, path)) {
         auto read = ReadDxfFile(path);
-        if (auto* const error = std::get_if<CDxfError>(&read)) {
+        if (auto* const error = std::get_if<CFileFault>(&read)) {
             blocks.errors.push_back(std::move(*error));
         } else {
             blocks.heizkoerper = std::get<CDxfDrawing>(std::move(read));
@@ -25,12 +24,6 @@ CDrawingBlocks ReadDrawingBlocks()
         blocks.errors.insert(blocks.errors.end(), errors.begin(), errors.end());
     }
     return blocks;
-}
-
-CString FormatDxfError(const CDxfError& error)
-{
-    const CString line = error.nLine > 0 ? L": riga " + FormatInt(error.nLine) : CString();
-    return error.strFile + line + L": " + error.strMessage;
 }
 
 } // namespace workbench

@@ -13,14 +13,11 @@ struct CDrawingBlocks
     /// Nothing if the settings name none.
     std::optional<CBlockLibrary> ventile;
     /// What could not be read, in the order of the files. What could is there.
-    std::vector<CDxfError> errors;
+    std::vector<CFileFault> errors;
 
     const CBlockLibrary* Valves() const { return ventile ? &*ventile : nullptr; }
 };
 
 CDrawingBlocks ReadDrawingBlocks();
-
-/// File, line and reason in one line, as messages show it.
-CString FormatDxfError(const CDxfError& error);
 
 } // namespace workbench

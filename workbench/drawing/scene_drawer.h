@@ -58,12 +58,12 @@ public:
                              int farbe, bool ruecklauf) override;
 
     /// What went wrong in the last reading of a block library.
-    const std::vector<CDxfError>& GetErrors() const { return m_errors; }
+    const std::vector<CFileFault>& GetErrors() const { return m_errors; }
 
 private:
     QPointer<QGraphicsScene> m_scene;
     std::vector<CDxfLayer> m_layers;
-    std::vector<CDxfError> m_errors;
+    std::vector<CFileFault> m_errors;
     /// Previews in the scene, which owns them.
     std::vector<QPointer<QGraphicsObject>> m_previews;
     /// The open preview, not in the scene yet; owned.

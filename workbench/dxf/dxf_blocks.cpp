@@ -2,8 +2,8 @@
 
 #include "platform/encoding.h"
 #include "platform/exception.h"
-#include "platform/file.h"
 #include "platform/path.h"
+#include "platform/whole_file.h"
 
 #include <dxflib/dl_creationadapter.h>
 #include <dxflib/dl_dxf.h>
@@ -232,7 +232,7 @@ private:
         }
     }
 
-    [[noreturn]] void Refuse(const CString& message) const { throw CDxfFault{m_nLine, message}; }
+    [[noreturn]] void Refuse(const CString& message) const { throw CFileFault{m_nLine, message}; }
 
     bool m_bUtf8;
     int m_nLine = 0;
@@ -265,49 +265,38 @@ CDxfDrawing Build(const CScreenedDxf& screened)
     return builder.TakeDrawing();
 }
 
-std::variant<std::vector<std::uint8_t>, CDxfFault> ReadAll(const CString& path)
+std::variant<CDxfDrawing, CFileFault> ReadDrawing(const CString& path, DxfContent content)
 {
     try {
-        CFile file(path, CFile::modeRead);
-        if (file.GetLength() > kMaxDxfBytes) {
-            return CDxfFault{0, L"Il file è troppo grande."};
+        const auto bytes = ReadWholeFile(path, kMaxDxfBytes);
+        if (!bytes) {
+            return CFileFault{0, L"Il file è troppo grande."};
         }
-        std::vector<std::uint8_t> bytes(static_cast<std::size_t>(file.GetLength()));
-        bytes.resize(file.Read(bytes.data(), bytes.size()));
-        return bytes;
+        return ParseDxf(BytesOf(*bytes), content);
     } catch (const CFileException&) {
-        return CDxfFault{0, L"Il file non si può leggere."};
+        return CFileFault{0, L"Il file non si può leggere."};
     }
-}
-
-std::variant<CDxfDrawing, CDxfFault> ReadDrawing(const CString& path, DxfContent content)
-{
-    const auto bytes = ReadAll(path);
-    if (const auto* const fault = std::get_if<CDxfFault>(&bytes)) {
-        return *fault;
-    }
-    return ParseDxf(std::get<std::vector<std::uint8_t>>(bytes), content);
 }
 
 } // namespace
 
-std::variant<CDxfDrawing, CDxfFault> ParseDxf(std::span<const std::uint8_t> bytes,
-                                              DxfContent content)
+std::variant<CDxfDrawing, CFileFault> ParseDxf(std::span<const std::uint8_t> bytes,
+                                               DxfContent content)
 {
     try {
         return Build(ScreenDxf(bytes, content));
-    } catch (const CDxfFault& fault) {
+    } catch (const CFileFault& fault) {
         return fault;
     }
 }
 
-std::variant<CDxfDrawing, CDxfError> ReadDxfFile(const CString& path, DxfContent content)
+std::variant<CDxfDrawing, CFileFault> ReadDxfFile(const CString& path, DxfContent content)
 {
     auto read = ReadDrawing(path, content);
-    if (const auto* const fault = std::get_if<CDxfFault>(&read)) {
-        return CDxfError{TextFromPath(ResolvePath(path)), fault->nLine, fault->strMessage};
+    if (auto* const fault = std::get_if<CFileFault>(&read)) {
+        fault->strFile = TextFromPath(ResolvePath(path));
     }
-    return std::move(std::get<CDxfDrawing>(read));
+    return read;
 }
 
 } // namespace workbench

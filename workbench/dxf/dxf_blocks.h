@@ -9,17 +9,6 @@
 
 namespace workbench {
 
-/// Why a DXF file could not be read.
-struct CDxfError
-{
-    /// The file, as a system path.
-    CString strFile;
-    /// Line number from 1; 0 if the file as a whole is at fault.
-    int nLine = 0;
-    /// What is wrong, in a sentence for the user.
-    CString strMessage;
-};
-
 /// Largest DXF file that is read, in bytes.
 inline constexpr std::size_t kMaxDxfBytes = 32u << 20;
 
@@ -35,12 +24,12 @@ inline constexpr std::size_t kMaxDxfBytes = 32u << 20;
 /// number that is none or beyond 1e9, a curve without a radius, a block without a name or with
 /// that of an earlier one, an attribute without one, a text of more than 1000 bytes.
 /// The result does not depend on the locale of the process.
-std::variant<CDxfDrawing, CDxfFault> ParseDxf(std::span<const std::uint8_t> bytes,
-                                              DxfContent content = DxfContent::wholeDrawing);
+std::variant<CDxfDrawing, CFileFault> ParseDxf(std::span<const std::uint8_t> bytes,
+                                               DxfContent content = DxfContent::wholeDrawing);
 
 /// Reads a file of at most kMaxDxfBytes. Files are libraries of blocks, as a rule, and whatever
 /// their drawing shows does not count.
-std::variant<CDxfDrawing, CDxfError> ReadDxfFile(const CString& path,
-                                                 DxfContent content = DxfContent::layersAndBlocks);
+std::variant<CDxfDrawing, CFileFault> ReadDxfFile(const CString& path,
+                                                  DxfContent content = DxfContent::layersAndBlocks);
 
 } // namespace workbench

@@ -83,7 +83,7 @@ public:
         group.nLine = m_nLine;
         const std::optional<int> number = ParseNumber<int>(code);
         if (!number) {
-            throw CDxfFault{m_nLine, L"Manca il codice di gruppo: il file non è un DXF di testo."};
+            throw CFileFault{m_nLine, L"Manca il codice di gruppo: il file non è un DXF di testo."};
         }
         group.nCode = *number;
         group.value = TakeLine();
@@ -95,7 +95,7 @@ private:
     {
         ++m_nLine;
         if (m_rest.empty()) {
-            throw CDxfFault{m_nLine, L"Il file finisce prima della riga EOF."};
+            throw CFileFault{m_nLine, L"Il file finisce prima della riga EOF."};
         }
         const std::size_t end = std::min(m_rest.find('\n'), m_rest.size());
         std::string_view line = m_rest.substr(0, end);
@@ -234,7 +234,7 @@ private:
     {
         const CString needy = NeedOfName(record);
         if (!needy.empty() && std::ranges::count(m_groups, kCodeName, &CGroup::nCode) == 0) {
-            throw CDxfFault{m_nRecordLine, needy + L" non ha nome."};
+            throw CFileFault{m_nRecordLine, needy + L" non ha nome."};
         }
         Write(kCodeRecord, record == "ATTDEF" ? "ATTRIB" : record);
         if (record == "LWPOLYLINE") {
@@ -272,8 +272,8 @@ private:
         const bool hasControl = std::ranges::any_of(
             group.value, [](char c) { return static_cast<unsigned char>(c) < ' '; });
         if (group.value.size() < least || group.value.size() > most || hasControl) {
-            throw CDxfFault{group.nLine + 1,
-                            L"Testo vuoto, troppo lungo o con caratteri illeciti."};
+            throw CFileFault{group.nLine + 1,
+                             L"Testo vuoto, troppo lungo o con caratteri illeciti."};
         }
         Write(group.nCode, group.value);
     }
@@ -298,8 +298,8 @@ private:
 
     [[noreturn]] static void RefuseNumber(const CGroup& group)
     {
-        throw CDxfFault{group.nLine + 1, L"Gruppo " + FormatInt(group.nCode) +
-                                             L": il valore non è un numero ammesso."};
+        throw CFileFault{group.nLine + 1, L"Gruppo " + FormatInt(group.nCode) +
+                                              L": il valore non è un numero ammesso."};
     }
 
     void Write(int code, std::string_view value)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/text.h"
+#include "platform/file_fault.h"
 
 #include <cstdint>
 #include <span>
@@ -8,15 +8,6 @@
 #include <vector>
 
 namespace workbench {
-
-/// What is wrong with a DXF file.
-struct CDxfFault
-{
-    /// Line number from 1; 0 if the file as a whole is at fault.
-    int nLine = 0;
-    /// A sentence for the user.
-    CString strMessage;
-};
 
 /// What of a file is wanted.
 enum class DxfContent
@@ -42,7 +33,7 @@ struct CScreenedDxf
 
 /// Screens a file. dxflib itself cannot be handed any bytes: an over-long line makes it loop, a
 /// polyline allocates whatever count it states, a hatch without a boundary aborts the process.
-/// Throws CDxfFault at the first line that is no DXF.
+/// Throws CFileFault at the first line that is no DXF.
 CScreenedDxf ScreenDxf(std::span<const std::uint8_t> bytes, DxfContent content);
 
 } // namespace workbench

@@ -1,7 +1,6 @@
 #include "workbench/plan/catalogue_check.h"
 
 #include "host/host_catalog.h"
-#include "platform/format.h"
 
 namespace workbench {
 
@@ -12,9 +11,9 @@ constexpr double kAnyOutput = 1000.0;
 
 } // namespace
 
-std::vector<reference_host::CCatalogueError> CheckCatalogues()
+std::vector<CFileFault> CheckCatalogues()
 {
-    std::vector<reference_host::CCatalogueError> errors;
+    std::vector<CFileFault> errors;
     for (HK_VDI3805_HERSTELLER* maker = ReadHKDaten(); maker != nullptr; maker = maker->pNext) {
         ReadVdiFile(maker->Name, &maker->pArt, kAnyOutput);
         if (const auto error = reference_host::GetCatalogueError(maker->Name)) {
@@ -22,12 +21,6 @@ std::vector<reference_host::CCatalogueError> CheckCatalogues()
         }
     }
     return errors;
-}
-
-CString FormatCatalogueError(const reference_host::CCatalogueError& error)
-{
-    const CString line = error.nLine > 0 ? L": riga " + FormatInt(error.nLine) : CString();
-    return error.strFile + line + L": " + error.strMessage;
 }
 
 } // namespace workbench

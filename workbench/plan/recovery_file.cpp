@@ -3,10 +3,11 @@
 #include "platform/exception.h"
 #include "platform/format.h"
 #include "platform/path.h"
+#include "platform/whole_file.h"
 #include "workbench/building/building_json.h"
 #include "workbench/building/json_fields.h"
 #include "workbench/building/json_writer.h"
-#include "workbench/building/whole_file.h"
+#include "workbench/building/qt_text.h"
 
 #include <QDateTime>
 
@@ -60,12 +61,12 @@ int Lock(const CString& path)
 
 CString FormatTime(const QDateTime& time)
 {
-    return time.toUTC().toString(Qt::ISODate).toStdWString();
+    return FromQt(time.toUTC().toString(Qt::ISODate));
 }
 
 std::int64_t ReadTime(CJsonFields& fields)
 {
-    const QString text = QString::fromStdWString(fields.Text("time"));
+    const QString text = ToQt(fields.Text("time"));
     const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
     if (!time.isValid()) {
         fields.Fail(L"time", L"attesa una data come \"2026-03-01T14:05:00Z\"");

@@ -2,6 +2,7 @@
 
 #include "frame/entry_points.h"
 #include "host/host_catalog.h"
+#include "platform/file_fault.h"
 #include "platform/format.h"
 #include "workbench/plan/catalogue_check.h"
 #include "workbench/plan/coverage.h"
@@ -123,9 +124,9 @@ CRoomOutcome ExplainEmptySearch(const CRadiatorProduct& produkt)
     if (!maker) {
         return unknown(L"i cataloghi non hanno il produttore \"" + produkt.strHersteller + L"\"");
     }
-    if (const std::optional<reference_host::CCatalogueError> error =
+    if (const std::optional<CFileFault> error =
             reference_host::GetCatalogueError(produkt.strHersteller)) {
-        return {RoomStatus::badCatalogue, {}, FormatCatalogueError(*error)};
+        return {RoomStatus::badCatalogue, {}, FormatFileFault(*error)};
     }
     HK_VDI3805_ART* kind = FindArt(maker, produkt.strArt);
     if (!kind) {

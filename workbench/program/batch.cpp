@@ -2,9 +2,10 @@
 
 #include "platform/encoding.h"
 #include "platform/file.h"
+#include "platform/file_fault.h"
 #include "platform/path.h"
+#include "platform/whole_file.h"
 #include "workbench/building/building_json.h"
-#include "workbench/building/whole_file.h"
 #include "workbench/drawing/drawing_blocks.h"
 #include "workbench/plan/sizing.h"
 #include "workbench/program/arguments.h"
@@ -72,8 +73,8 @@ void WriteFiles(const CResult& result, const CDrawingBlocks& blocks, const CArgu
 CDrawingBlocks ReadBlocks(ExitCode& code, std::ostream& err)
 {
     CDrawingBlocks blocks = ReadDrawingBlocks();
-    for (const CDxfError& error : blocks.errors) {
-        code = Report(err, FormatDxfError(error), ExitCode::badCatalogue);
+    for (const CFileFault& error : blocks.errors) {
+        code = Report(err, FormatFileFault(error), ExitCode::badCatalogue);
     }
     return blocks;
 }

@@ -4,6 +4,7 @@
 #include "host/host_fittings.h"
 #include "platform/encoding.h"
 #include "platform/exception.h"
+#include "platform/file_fault.h"
 #include "platform/format.h"
 #include "reference_host/files/short_list_file.h"
 #include "workbench/program/arguments.h"
@@ -144,7 +145,7 @@ private:
     void Fault(int index, const CString& message)
     {
         m_bFault = true;
-        Write(m_err, m_file + L": riga " + FormatInt(index + 1) + L": " + message);
+        Write(m_err, FormatFileFault({index + 1, message, m_file}));
     }
 
     void CheckNameUsed()

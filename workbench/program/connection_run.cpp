@@ -2,6 +2,7 @@
 
 #include "frame/entry_points.h"
 #include "platform/encoding.h"
+#include "platform/file_fault.h"
 #include "platform/format.h"
 #include "workbench/drawing/beside_window.h"
 #include "workbench/drawing/drawing_blocks.h"
@@ -28,8 +29,8 @@ constexpr QSize kPlanSize(520, 480);
 CDxfDrawing RadiatorBlocks(std::ostream& err)
 {
     const CDrawingBlocks blocks = ReadDrawingBlocks();
-    for (const CDxfError& error : blocks.errors) {
-        err << Utf8FromWide(FormatDxfError(error)) << '\n';
+    for (const CFileFault& error : blocks.errors) {
+        err << Utf8FromWide(FormatFileFault(error)) << '\n';
     }
     return blocks.heizkoerper;
 }

@@ -1,12 +1,14 @@
 #include "workbench/program/window_run.h"
 
 #include "host/host_base.h"
+#include "platform/encoding.h"
+#include "platform/file_fault.h"
 #include "reference_host/prefs/host_settings.h"
+#include "workbench/building/qt_text.h"
 #include "workbench/plan/recovery_file.h"
 #include "workbench/program/arguments.h"
 #include "workbench/program/dialog_run.h"
 #include "workbench/program/host_folders.h"
-#include "workbench/window/window_text.h"
 #include "workbench/window/workbench_window.h"
 
 #include <QApplication>
@@ -60,8 +62,8 @@ std::unique_ptr<CRecoveryFile> OpenRecovery(QStringList& messages)
 CDrawingBlocks ReadBlocks(QStringList& messages)
 {
     CDrawingBlocks blocks = ReadDrawingBlocks();
-    for (const CDxfError& error : blocks.errors) {
-        messages += ToQt(FormatDxfError(error));
+    for (const CFileFault& error : blocks.errors) {
+        messages += ToQt(FormatFileFault(error));
     }
     return blocks;
 }

@@ -1,8 +1,8 @@
 #include "workbench/report/plan_files.h"
 
 #include "platform/path.h"
+#include "platform/whole_file.h"
 #include "reference_host/base/qt_application.h"
-#include "workbench/building/whole_file.h"
 #include "workbench/drawing/drawing_blocks.h"
 #include "workbench/report/plan_dxf.h"
 #include "workbench/report/plan_pdf.h"

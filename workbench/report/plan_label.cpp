@@ -1,5 +1,6 @@
 #include "workbench/report/plan_label.h"
 
+#include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/report/plan_legend.h"
 
@@ -54,8 +55,8 @@ public:
         const QRectF along({-size.width() / 2, -size.height() / 2}, size);
         const double line = kLeastPoints * kPointHeight;
         if ((!isUpright || !PaintFigures(along)) && line <= size.height()) {
-            PaintName({along.left(), -line / 2, along.width(), line},
-                      QString::fromStdWString(m_room.strName), kLeastPoints);
+            PaintName({along.left(), -line / 2, along.width(), line}, ToQt(m_room.strName),
+                      kLeastPoints);
         }
         painter.restore();
     }
@@ -64,7 +65,7 @@ private:
     /// False, with nothing painted, if there is no space.
     bool PaintFigures(const QRectF& free)
     {
-        const QString name = QString::fromStdWString(m_room.strName);
+        const QString name = ToQt(m_room.strName);
         const QString figures[] = {"Fabbisogno " + Watt(m_room.bedarf),
                                    "Coperto " + Watt(CoveredOf(m_room)),
                                    "Resto " + Watt(RemainderOf(m_room))};

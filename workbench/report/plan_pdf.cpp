@@ -1,6 +1,7 @@
 #include "workbench/report/plan_pdf.h"
 
-#include "platform/file.h"
+#include "platform/whole_file.h"
+#include "workbench/building/qt_text.h"
 #include "workbench/report/plan_picture.h"
 #include "workbench/report/plan_tables.h"
 
@@ -28,11 +29,6 @@ const QColor kInk(30, 36, 44);
 const QColor kGrey(98, 106, 116);
 const QColor kAccent(176, 58, 20);
 
-QString Text(const CString& text)
-{
-    return QString::fromStdWString(text);
-}
-
 QString Degrees(double value)
 {
     return QString::number(value).replace('.', ',');
@@ -59,7 +55,7 @@ public:
         ChoosePaper();
         AddTables({MakeTotalsTable(m_schedule)}, kTitleHeight);
         for (std::size_t i = 0; i < m_pictures.size(); ++i) {
-            m_contents.emplace_back("Pianta: " + Text(building.floors[i].strName), m_pages.size());
+            m_contents.emplace_back("Pianta: " + ToQt(building.floors[i].strName), m_pages.size());
             m_pages.push_back([this, i](CReportSheet& sheet) { PaintFloor(sheet, i); });
         }
         AddTables({MakeScheduleTable(m_schedule), MakeOpenRoomsTable(m_schedule),
@@ -75,7 +71,7 @@ public:
             QPdfWriter writer(&buffer);
             writer.setResolution(CReportSheet::kDotsPerInch);
             writer.setPageLayout(QPageLayout(m_paper, QPageLayout::Landscape, {}));
-            writer.setTitle(Text(m_building.strName));
+            writer.setTitle(ToQt(m_building.strName));
             QPainter painter(&writer);
             CReportSheet sheet(painter);
             for (std::size_t i = 0; i < m_pages.size(); ++i) {
@@ -168,7 +164,7 @@ private:
         const QRectF area = Area();
         sheet.Fill({area.left(), area.top(), 3.0, 26.0}, kAccent);
         const QRectF text = area.adjusted(8.0, 0.0, 0.0, 0.0);
-        sheet.Text({text.left(), text.top(), text.width(), 14.0}, Text(m_building.strName),
+        sheet.Text({text.left(), text.top(), text.width(), 14.0}, ToQt(m_building.strName),
                    {30.0, true, kInk, Qt::AlignLeft});
         sheet.Text({text.left(), text.top() + 15.0, text.width(), 10.0},
                    "Progetto dei corpi scaldanti", {16.0, false, kGrey, Qt::AlignLeft});
@@ -218,7 +214,7 @@ private:
         const QRectF area = Area();
         const CScheduleTotals& totals = m_schedule.floors[floor].totals;
         sheet.Text({area.left(), area.top(), area.width() / 2, 8.0},
-                   Text(m_building.floors[floor].strName), {16.0, true, kInk, Qt::AlignLeft});
+                   ToQt(m_building.floors[floor].strName), {16.0, true, kInk, Qt::AlignLeft});
         sheet.Text({area.left(), area.top() + 7.5, area.width() - 20.0, 5.0},
                    QString("Fabbisogno %1, richiesto %2, resa %3")
                        .arg(Watt(totals.bedarf), Watt(totals.required), Watt(totals.leistung)),
@@ -232,7 +228,7 @@ private:
         const QRectF area = Area();
         const QRectF foot(area.left(), area.bottom() + 3.0, area.width(), kFootHeight - 3.0);
         sheet.Line(foot.topLeft(), foot.topRight(), 0.15, kGrey);
-        sheet.Text(foot, Text(m_building.strName), {7.5, false, kGrey, Qt::AlignLeft});
+        sheet.Text(foot, ToQt(m_building.strName), {7.5, false, kGrey, Qt::AlignLeft});
         sheet.Text(foot, m_strDate, {7.5, false, kGrey, Qt::AlignHCenter});
         sheet.Text(foot, QString("Pagina %1 di %2").arg(page + 1).arg(m_pages.size()),
                    {7.5, false, kGrey, Qt::AlignRight});
@@ -255,9 +251,7 @@ int WritePlanPdf(const CString& path, const CBuilding& building, const CDxfDrawi
 {
     const CPlanReport report(building, radiators, valves, date);
     const QByteArray bytes = report.Paint();
-    CFile file(path, CFile::modeCreate | CFile::modeWrite);
-    file.Write(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-    file.Close();
+    WriteWholeFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
     return report.GetPages();
 }
 

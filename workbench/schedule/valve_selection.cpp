@@ -3,7 +3,7 @@
 #include "frame/entry_points.h"
 #include "host/host_prefs.h"
 #include "platform/exception.h"
-#include "platform/format.h"
+#include "platform/file_fault.h"
 #include "platform/path.h"
 #include "reference_host/files/valve_file_check.h"
 
@@ -26,11 +26,9 @@ CValveOutcome MakeMissing(const CValveKey& key, ValveStatus status, const CStrin
     return outcome;
 }
 
-CValveOutcome MakeFaulty(const CValveKey& key, const CString& file,
-                         const reference_host::CValveFileFault& fault)
+CValveOutcome MakeFaulty(const CValveKey& key, const CFileFault& fault)
 {
-    return MakeMissing(key, ValveStatus::badFile,
-                       file + L": riga " + FormatInt(fault.nLine) + L": " + fault.strMessage);
+    return MakeMissing(key, ValveStatus::badFile, FormatFileFault(fault));
 }
 
 CString GetFolder(const CValveKey& key)
@@ -51,15 +49,15 @@ CValveOutcome ExplainException(const CValveKey& key, const CException& error)
     try {
         const reference_host::CValveFileCheck check(file);
         if (const auto fault = check.FindReadingFault()) {
-            return MakeFaulty(key, file, *fault);
+            return MakeFaulty(key, *fault);
         }
         if (const auto fault = check.FindDataFault()) {
-            return MakeFaulty(key, file, *fault);
+            return MakeFaulty(key, *fault);
         }
     } catch (const CFileException& unreadable) {
         return MakeMissing(key, ValveStatus::badFile, unreadable.GetErrorMessage());
     }
-    return MakeMissing(key, ValveStatus::badFile, file + L": " + error.GetErrorMessage());
+    return MakeFaulty(key, {0, error.GetErrorMessage(), file});
 }
 
 /// The module answers a file that it refuses or cannot open with the same silence as a number that
@@ -79,10 +77,10 @@ CValveOutcome ExplainSilence(const CValveKey& key)
     try {
         const reference_host::CValveFileCheck check(file);
         if (const auto fault = check.FindReadingFault()) {
-            return MakeFaulty(key, file, *fault);
+            return MakeFaulty(key, *fault);
         }
         if (const auto fault = check.FindArticle(key.strVentilNr)) {
-            return MakeFaulty(key, file, *fault);
+            return MakeFaulty(key, *fault);
         }
     } catch (const CFileException& unreadable) {
         return MakeMissing(key, ValveStatus::badFile, unreadable.GetErrorMessage());

@@ -3,9 +3,11 @@
 #include "host/host_prefs.h"
 #include "platform/encoding.h"
 #include "platform/file.h"
+#include "platform/file_fault.h"
+#include "platform/whole_file.h"
 #include "reference_host/prefs/host_settings.h"
 #include "workbench/building/json_fields.h"
-#include "workbench/building/whole_file.h"
+#include "workbench/building/qt_text.h"
 #include "workbench/drawing/drawing_blocks.h"
 #include "workbench/plan/catalogue_check.h"
 #include "workbench/report/plan_dxf.h"
@@ -14,7 +16,6 @@
 #include "workbench/schedule/schedule_json.h"
 #include "workbench/window/plan_document.h"
 #include "workbench/window/prompts.h"
-#include "workbench/window/window_text.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -190,8 +191,8 @@ void CFileCommands::ChooseCatalogues()
 QString DescribeCatalogueErrors()
 {
     QStringList lines;
-    for (const reference_host::CCatalogueError& error : CheckCatalogues()) {
-        lines += ToQt(FormatCatalogueError(error));
+    for (const CFileFault& error : CheckCatalogues()) {
+        lines += ToQt(FormatFileFault(error));
     }
     return lines.join('\n');
 }

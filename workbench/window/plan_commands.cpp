@@ -1,6 +1,7 @@
 #include "workbench/window/plan_commands.h"
 
 #include "platform/format.h"
+#include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/placement.h"
 #include "workbench/plan/sizing.h"
@@ -9,7 +10,6 @@
 #include "workbench/window/prompts.h"
 #include "workbench/window/sizing_progress.h"
 #include "workbench/window/system_dialog.h"
-#include "workbench/window/window_text.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,7 +2,7 @@
 
 #include "platform/file.h"
 #include "workbench/building/building_json.h"
-#include "workbench/window/window_text.h"
+#include "workbench/building/qt_text.h"
 
 #include <chrono>
 #include <utility>

@@ -1,5 +1,6 @@
 #include "workbench/window/plan_texts.h"
 
+#include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/window/coverage_look.h"
 
@@ -14,11 +15,6 @@ namespace workbench {
 namespace {
 
 using Row = std::pair<QString, QString>;
-
-QString TextFrom(const CString& text)
-{
-    return QString::fromStdWString(text);
-}
 
 /// A number with a comma, as Italians write it, and without zeros that say nothing.
 QString Number(double value, int decimals)
@@ -62,7 +58,7 @@ QString Area(const CFloorRect& rect)
 
 QString Valve(const std::optional<CValveKey>& key)
 {
-    return key ? TextFrom(key->strHersteller) + " " + TextFrom(key->strVentilNr) : QString();
+    return key ? ToQt(key->strHersteller) + " " + ToQt(key->strVentilNr) : QString();
 }
 
 QString Connection(const ConnValues& anschluss)
@@ -70,7 +66,7 @@ QString Connection(const ConnValues& anschluss)
     if (anschluss.AnschlussAN.empty() && anschluss.AnschlussRI.empty()) {
         return "da definire";
     }
-    return anschluss.Name.empty() ? QString("definito") : TextFrom(anschluss.Name);
+    return anschluss.Name.empty() ? QString("definito") : ToQt(anschluss.Name);
 }
 
 QString Place(const CRoom& room, const CPlacedRadiator& radiator)
@@ -92,7 +88,7 @@ QString WattText(double value)
 QString ShortLabelOf(const CPlacedRadiator& radiator)
 {
     const HK_DATEN_VDI3805& daten = radiator.daten;
-    const QString type = TextFrom(radiator.strTyp);
+    const QString type = ToQt(radiator.strTyp);
     const QString length = Number(daten.Laenge, 0);
     // Most makers have the size in the type.
     return type.contains(length)
@@ -102,19 +98,19 @@ QString ShortLabelOf(const CPlacedRadiator& radiator)
 
 QString ToolTipOf(const CRoom& room)
 {
-    return Table(TextFrom(room.strName),
-                 {{"Temperatura", Number(room.raumtemperatur, 1) + QStringLiteral(" °C")},
-                  {"Superficie", Area(room.grundriss)},
-                  {"Fabbisogno", WattText(room.bedarf)},
-                  {"Altro riscaldamento", room.gedeckt != 0.0 ? WattText(room.gedeckt) : QString()},
-                  {"Corpi scaldanti",
-                   QString::number(room.heizkoerper.size()) + ", " + WattText(OutputOf(room))},
-                  {"Coperto", WattText(CoveredOf(room))},
-                  {"Resto", WattText(RemainderOf(room))},
-                  {"Stato", TextOf(CoverageOf(room))},
-                  {"Prodotto scelto", Joined({TextFrom(room.strHersteller), TextFrom(room.strArt),
-                                              TextFrom(room.strProdukt)},
-                                             ", ")}});
+    return Table(
+        ToQt(room.strName),
+        {{"Temperatura", Number(room.raumtemperatur, 1) + QStringLiteral(" °C")},
+         {"Superficie", Area(room.grundriss)},
+         {"Fabbisogno", WattText(room.bedarf)},
+         {"Altro riscaldamento", room.gedeckt != 0.0 ? WattText(room.gedeckt) : QString()},
+         {"Corpi scaldanti",
+          QString::number(room.heizkoerper.size()) + ", " + WattText(OutputOf(room))},
+         {"Coperto", WattText(CoveredOf(room))},
+         {"Resto", WattText(RemainderOf(room))},
+         {"Stato", TextOf(CoverageOf(room))},
+         {"Prodotto scelto",
+          Joined({ToQt(room.strHersteller), ToQt(room.strArt), ToQt(room.strProdukt)}, ", ")}});
 }
 
 QString ToolTipOf(const CRoom& room, const CPlacedRadiator& radiator)
@@ -122,10 +118,10 @@ QString ToolTipOf(const CRoom& room, const CPlacedRadiator& radiator)
     const HK_DATEN_VDI3805& daten = radiator.daten;
     const QString times = QStringLiteral(" × ");
     return Table(
-        Joined({TextFrom(radiator.strProdukt), TextFrom(radiator.strTyp)}, ", "),
-        {{"Produttore", TextFrom(radiator.strHersteller)},
-         {"Tipo di corpo", TextFrom(radiator.strArt)},
-         {"Locale", TextFrom(room.strName)},
+        Joined({ToQt(radiator.strProdukt), ToQt(radiator.strTyp)}, ", "),
+        {{"Produttore", ToQt(radiator.strHersteller)},
+         {"Tipo di corpo", ToQt(radiator.strArt)},
+         {"Locale", ToQt(room.strName)},
          {"Posto", Place(room, radiator)},
          {"Lunghezza × altezza × profondità", Number(daten.Laenge, 0) + times +
                                                   Number(daten.Hoehe, 0) + times +
@@ -137,7 +133,7 @@ QString ToolTipOf(const CRoom& room, const CPlacedRadiator& radiator)
          {"Contenuto d'acqua", daten.Inhalt > 0.0 ? Number(daten.Inhalt, 2) + " l" : QString()},
          {"Dalla parete", Number(radiator.abstandWand * 1000.0, 0) + " mm"},
          {"Dal pavimento", Number(radiator.abstandBoden * 1000.0, 0) + " mm"},
-         {"Layer", TextFrom(radiator.strLayer)},
+         {"Layer", ToQt(radiator.strLayer)},
          {"Attacco", Connection(radiator.anschluss)},
          {"Valvola di mandata", Valve(radiator.ventile.vorlauf)},
          {"Valvola di ritorno", Valve(radiator.ventile.ruecklauf)}});

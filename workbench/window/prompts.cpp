@@ -1,6 +1,6 @@
 #include "workbench/window/prompts.h"
 
-#include "workbench/window/window_text.h"
+#include "workbench/building/qt_text.h"
 
 #include <QFileDialog>
 #include <QMessageBox>

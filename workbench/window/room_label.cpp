@@ -1,5 +1,6 @@
 #include "workbench/window/room_label.h"
 
+#include "workbench/building/qt_text.h"
 #include "workbench/window/coverage_look.h"
 #include "workbench/window/fitted_text.h"
 #include "workbench/window/plan_texts.h"
@@ -37,10 +38,10 @@ int PixelsFor(double metres, double scale, int least, int most)
 } // namespace
 
 CRoomLabel::CRoomLabel(const CRoom& room)
-    : m_strName(QString::fromStdWString(room.strName)),
-      m_figures{{{"Fabbisogno", WattText(room.bedarf), kNameColor},
-                 {"Coperto", WattText(CoveredOf(room)), kNameColor},
-                 {"Resto", WattText(RemainderOf(room)), InkOf(CoverageOf(room))}}}
+    : m_strName(ToQt(room.strName)), m_figures{{{"Fabbisogno", WattText(room.bedarf), kNameColor},
+                                                {"Coperto", WattText(CoveredOf(room)), kNameColor},
+                                                {"Resto", WattText(RemainderOf(room)),
+                                                 InkOf(CoverageOf(room))}}}
 {
 }
 

@@ -1,8 +1,8 @@
 #include "workbench/window/room_table.h"
 
+#include "workbench/building/qt_text.h"
 #include "workbench/window/coverage_look.h"
 #include "workbench/window/plan_texts.h"
-#include "workbench/window/window_text.h"
 
 #include <QColor>
 
@@ -37,7 +37,8 @@ void CRoomRows::Show(const CBuilding& building)
     for (const CRoomRef& ref : AllRooms(building)) {
         const CRoom& room = RoomOf(building, ref);
         m_rooms.push_back({ref, ToQt(building.floors[ref.nFloor].strName), ToQt(room.strName),
-                           room.bedarf, CoveredOf(room), RemainderOf(room), workbench::CoverageOf(room)});
+                           room.bedarf, CoveredOf(room), RemainderOf(room),
+                           workbench::CoverageOf(room)});
     }
     endResetModel();
 }

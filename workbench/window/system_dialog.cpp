@@ -1,7 +1,7 @@
 #include "workbench/window/system_dialog.h"
 
+#include "workbench/building/qt_text.h"
 #include "workbench/window/plan_commands.h"
-#include "workbench/window/window_text.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>

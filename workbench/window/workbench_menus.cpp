@@ -1,8 +1,8 @@
+#include "workbench/building/qt_text.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/plan/placement.h"
 #include "workbench/window/floor_scene.h"
 #include "workbench/window/room_list.h"
-#include "workbench/window/window_text.h"
 #include "workbench/window/workbench_window.h"
 
 #include <QDockWidget>

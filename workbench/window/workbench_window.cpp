@@ -1,5 +1,6 @@
 #include "workbench/window/workbench_window.h"
 
+#include "workbench/building/qt_text.h"
 #include "workbench/drawing/beside_window.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/drawing/scene_drawer.h"
@@ -8,7 +9,6 @@
 #include "workbench/window/floor_scene.h"
 #include "workbench/window/plan_texts.h"
 #include "workbench/window/room_list.h"
-#include "workbench/window/window_text.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>

@@ -46,10 +46,10 @@ double ReadOptional(const CRecordLine& line, int field, const wchar_t* name, CLi
 class CCatalogueParser
 {
 public:
-    /// Takes the next record. Throws CCatalogueFault.
+    /// Takes the next record. Throws CFileFault.
     void Take(const CRecordLine& line);
 
-    /// The model, once all records have been taken. Throws CCatalogueFault.
+    /// The model, once all records have been taken. Throws CFileFault.
     CCatalogue Finish();
 
 private:
@@ -126,10 +126,10 @@ void CCatalogueParser::Take(const CRecordLine& line)
 CCatalogue CCatalogueParser::Finish()
 {
     if (!m_bKopf) {
-        throw CCatalogueFault{0, L"Il file non contiene la testata 010: non è un catalogo."};
+        throw CFileFault{0, L"Il file non contiene la testata 010: non è un catalogo."};
     }
     if (m_katalog.arten.empty()) {
-        throw CCatalogueFault{0, L"Il catalogo non contiene alcuna categoria (record 100)."};
+        throw CFileFault{0, L"Il catalogo non contiene alcuna categoria (record 100)."};
     }
     CheckArtComplete();
     return std::move(m_katalog);
@@ -279,8 +279,8 @@ void CCatalogueParser::CheckArtComplete() const
     }
     const CCatalogueKind& art = m_katalog.arten.back();
     if (art.produkte.empty()) {
-        throw CCatalogueFault{m_nArtLine, L"La categoria \"" + art.strName +
-                                              L"\" non contiene prodotti (record 110)."};
+        throw CFileFault{m_nArtLine, L"La categoria \"" + art.strName +
+                                         L"\" non contiene prodotti (record 110)."};
     }
     CheckProduktComplete();
 }
@@ -292,8 +292,8 @@ void CCatalogueParser::CheckProduktComplete() const
     }
     const CCatalogueProduct& produkt = m_katalog.arten.back().produkte.back();
     if (produkt.serien.empty()) {
-        throw CCatalogueFault{m_nProduktLine, L"Il prodotto \"" + produkt.strName +
-                                                  L"\" non contiene serie (record 700)."};
+        throw CFileFault{m_nProduktLine, L"Il prodotto \"" + produkt.strName +
+                                             L"\" non contiene serie (record 700)."};
     }
     CheckSerieComplete();
 }
@@ -306,9 +306,9 @@ void CCatalogueParser::CheckSerieComplete() const
     }
     const CCatalogueSeries& serie = produkt.serien.back();
     if (serie.normLaengen.empty() && !serie.zuschnitt && !serie.glieder) {
-        throw CCatalogueFault{m_nSerieLine, L"La serie \"" + serie.strTyp +
-                                                L"\" non ha misure (record 710.01, 710.02 o "
-                                                L"710.03)."};
+        throw CFileFault{m_nSerieLine, L"La serie \"" + serie.strTyp +
+                                           L"\" non ha misure (record 710.01, 710.02 o "
+                                           L"710.03)."};
     }
 }
 
@@ -349,16 +349,16 @@ CCatalogue ParseText(std::wstring_view text)
 }
 } // namespace
 
-std::variant<CCatalogue, CCatalogueFault> ParseCatalogue(std::span<const std::uint8_t> bytes)
+std::variant<CCatalogue, CFileFault> ParseCatalogue(std::span<const std::uint8_t> bytes)
 {
     const std::optional<CString> text = DecodeCatalogue(bytes);
     if (!text) {
-        return CCatalogueFault{0, L"La codifica del file non è ammessa: si attende Windows 1252 o "
-                                  L"UTF-16 little endian."};
+        return CFileFault{0, L"La codifica del file non è ammessa: si attende Windows 1252 o "
+                             L"UTF-16 little endian."};
     }
     try {
         return ParseText(*text);
-    } catch (const CCatalogueFault& fault) {
+    } catch (const CFileFault& fault) {
         return fault;
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/file_fault.h"
 #include "platform/text.h"
 
 #include <cstddef>
@@ -84,20 +85,11 @@ struct CCatalogue
     std::vector<CCatalogueKind> arten;
 };
 
-/// Why a file is no catalogue.
-struct CCatalogueFault
-{
-    /// Line number from 1; 0 if the file as a whole is at fault.
-    int nLine = 0;
-    /// A sentence for the user.
-    CString strMessage;
-};
-
 /// The largest file that is worth reading, in bytes.
 inline constexpr std::size_t kMaxCatalogueBytes = 16u << 20;
 
 /// Model of a catalogue file's bytes, or its first fault. Takes any bytes; memory stays within a
 /// small multiple of their count, and the sizes of all series together within 200,000.
-std::variant<CCatalogue, CCatalogueFault> ParseCatalogue(std::span<const std::uint8_t> bytes);
+std::variant<CCatalogue, CFileFault> ParseCatalogue(std::span<const std::uint8_t> bytes);
 
 } // namespace reference_host

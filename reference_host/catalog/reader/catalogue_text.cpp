@@ -135,7 +135,7 @@ int CRecordLine::ReadInt(int field, const wchar_t* name, int min, int max) const
 
 void CRecordLine::Refuse(const CString& message) const
 {
-    throw CCatalogueFault{m_nLine, message};
+    throw CFileFault{m_nLine, message};
 }
 
 void CRecordLine::RefuseField(int field, const wchar_t* name, const CString& message) const

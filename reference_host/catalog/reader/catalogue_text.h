@@ -21,7 +21,7 @@ std::wstring_view TakeLine(std::wstring_view& rest);
 /// One record: a line cut into fields at each ";". Field 0 is the record type. The record looks
 /// into the text of the line, which must outlive it.
 ///
-/// Messages count fields from 0, as the format does. All Read functions throw CCatalogueFault with
+/// Messages count fields from 0, as the format does. All Read functions throw CFileFault with
 /// the line of the record if the field does not hold what is asked for; `name` tells the user which
 /// field that is.
 class CRecordLine

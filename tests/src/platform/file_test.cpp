@@ -2,6 +2,7 @@
 
 #include "platform/exception.h"
 #include "platform/path.h"
+#include "platform/whole_file.h"
 #include "tests/support/file_size_limit.h"
 #include "tests/support/temp_folder.h"
 
@@ -197,6 +198,17 @@ TEST_F(FileTest, ExistingFilesAreReadAndChangedInPlace)
     file.Close();
     file.Close();
     EXPECT_EQ(m_folder.ReadBytes("a.txt"), "aXcd");
+}
+
+TEST_F(FileTest, AWholeFileIsReadUpToALimit)
+{
+    const std::string bytes("a\0b\r\n\xff", 6);
+    WriteWholeFile(m_folder.Path("a.bin"), bytes);
+    EXPECT_EQ(ReadWholeFile(m_folder.Path("a.bin")), bytes);
+    EXPECT_EQ(ReadWholeFile(m_folder.Path("a.bin"), 6), bytes);
+    EXPECT_EQ(ReadWholeFile(m_folder.Path("a.bin"), 5), std::nullopt);
+    EXPECT_EQ(BytesOf(bytes).back(), 0xff);
+    EXPECT_THROW(ReadWholeFile(m_folder.Path("b.bin")), CFileException);
 }
 
 TEST_F(FileTest, PathsHoldBackslashesAndForgiveCase)

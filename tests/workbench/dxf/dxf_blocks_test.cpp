@@ -81,7 +81,7 @@ TEST(DxfBlocks, WhoWantsBlocksIsNotStoppedByTheDrawing)
     EXPECT_TRUE(std::holds_alternative<CDxfDrawing>(
         ParseDxf({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()},
                  DxfContent::layersAndBlocks)));
-    EXPECT_TRUE(std::holds_alternative<CDxfFault>(Parse(text)));
+    EXPECT_TRUE(std::holds_alternative<CFileFault>(Parse(text)));
 }
 
 TEST(DxfBlocks, AttributesGoToTheInsertTheyFollow)
@@ -205,7 +205,7 @@ TEST(DxfBlocks, BrokenFilesSayWhereTheyBreak)
     };
     for (const auto& [text, line] : cases) {
         const auto parsed = Parse(text);
-        const auto* const fault = std::get_if<CDxfFault>(&parsed);
+        const auto* const fault = std::get_if<CFileFault>(&parsed);
         ASSERT_NE(fault, nullptr) << text;
         EXPECT_EQ(fault->nLine, line) << text;
         EXPECT_FALSE(fault->strMessage.empty());
@@ -218,7 +218,7 @@ TEST(DxfBlocks, AFaultInAFileNamesTheFile)
     folder.WriteBytes("rotto.dxf", "0\nSECTION\n");
     for (const auto& [name, line] : {std::pair("rotto.dxf", 3), std::pair("manca.dxf", 0)}) {
         const auto read = ReadDxfFile(folder.Path(name));
-        const auto* const error = std::get_if<CDxfError>(&read);
+        const auto* const error = std::get_if<CFileFault>(&read);
         ASSERT_NE(error, nullptr) << name;
         EXPECT_TRUE(error->strFile.ends_with(WideFromUtf8(name)));
         EXPECT_EQ(error->nLine, line);

@@ -31,7 +31,7 @@ inline std::string DxfWithBlocks(const std::string& groups, const std::string& v
     return DxfWith("BLOCKS", groups, version);
 }
 
-inline std::variant<CDxfDrawing, CDxfFault> Parse(const std::string& text)
+inline std::variant<CDxfDrawing, CFileFault> Parse(const std::string& text)
 {
     return ParseDxf({reinterpret_cast<const std::uint8_t*>(text.data()), text.size()});
 }
@@ -40,7 +40,7 @@ inline std::variant<CDxfDrawing, CDxfFault> Parse(const std::string& text)
 inline CDxfDrawing ParseSound(const std::string& text)
 {
     auto parsed = Parse(text);
-    if (const auto* const fault = std::get_if<CDxfFault>(&parsed)) {
+    if (const auto* const fault = std::get_if<CFileFault>(&parsed)) {
         ADD_FAILURE() << "line " << fault->nLine << ": "
                       << testing::PrintToString(fault->strMessage);
         return {};

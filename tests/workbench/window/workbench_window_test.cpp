@@ -2,9 +2,9 @@
 
 #include "platform/encoding.h"
 #include "workbench/building/building_json.h"
+#include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/window/floor_scene.h"
-#include "workbench/window/window_text.h"
 
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"

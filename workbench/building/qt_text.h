@@ -6,7 +6,7 @@
 
 namespace workbench {
 
-/// Text between the module's strings and the toolkit's.
+/// A text of the system as one of the toolkit, and back.
 inline QString ToQt(const CString& text)
 {
     return QString::fromStdWString(text);
