@@ -45,11 +45,13 @@ void AppendNotesWithin(const QJsonObject& object, QJsonArray& notes)
     }
 }
 
-/// Documents hold lists and objects only, so that a single value goes in a list of its own.
 CString FormatValue(const QJsonValue& value)
 {
-    const QByteArray list = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
-    return TextFromJson(QString::fromUtf8(list.mid(1, list.size() - 2)));
+    CJsonWriter writer({.bDense = true});
+    writer.Value(nullptr, value);
+    std::string text = writer.Take();
+    text.pop_back();
+    return WideFromUtf8(text);
 }
 
 QJsonArray Joined(const QJsonValue& own, const QJsonArray& others)

@@ -1,18 +1,20 @@
 #include "workbench/building/json_writer.h"
 
 #include "platform/encoding.h"
+#include "workbench/building/json_fields.h"
+
+#include <QVariant>
 
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <string_view>
 #include <utility>
 
 namespace workbench {
 
 namespace {
-
-constexpr std::size_t kIndent = 2;
 
 /// Within these bounds numbers of a building are easier to read without an exponent.
 constexpr double kSmallestPlain = 1e-6;
@@ -33,7 +35,10 @@ bool NeedsCode(wchar_t c)
 
 void AppendCharacter(CString& text, wchar_t c)
 {
-    if (NeedsCode(c)) {
+    constexpr std::wstring_view shortCodes = L"\b\f\n\r\t";
+    if (const std::size_t code = shortCodes.find(c); code != shortCodes.npos) {
+        text += {L'\\', L"bfnrt"[code]};
+    } else if (NeedsCode(c)) {
         std::array<wchar_t, 8> code;
         std::swprintf(code.data(), code.size(), L"\\u%04x", static_cast<unsigned>(c));
         text += code.data();
@@ -71,8 +76,8 @@ void CJsonWriter::End()
     const CLevel level = m_levels.back();
     m_levels.pop_back();
     if (!level.bEmpty && level.bLine && !level.bList) {
-        m_text += ' ';
-    } else if (!level.bEmpty && !level.bLine) {
+        m_text += m_style.bDense ? "" : " ";
+    } else if (!level.bLine && (!level.bEmpty || m_style.bOpenEmpty)) {
         BreakLine();
     }
     m_text += level.bList ? ']' : '}';
@@ -106,6 +111,47 @@ void CJsonWriter::Null(const char* name)
     m_text += "null";
 }
 
+void CJsonWriter::Value(const char* name, const QJsonValue& value)
+{
+    switch (value.type()) {
+    case QJsonValue::Object: {
+        BeginObject(name);
+        const QJsonObject object = value.toObject();
+        for (auto field = object.begin(); field != object.end(); ++field) {
+            Value(field.key().toUtf8().constData(), field.value());
+        }
+        End();
+        break;
+    }
+    case QJsonValue::Array:
+        BeginList(name);
+        for (const QJsonValue& item : value.toArray()) {
+            Value(nullptr, item);
+        }
+        End();
+        break;
+    case QJsonValue::String:
+        Text(name, TextFromJson(value.toString()));
+        break;
+    case QJsonValue::Double:
+        if (value.toVariant().metaType() == QMetaType::fromType<qlonglong>()) {
+            // Not every whole number of a reader is a double.
+            Lead(name);
+            m_text += std::to_string(value.toInteger());
+        } else {
+            Number(name, value.toDouble());
+        }
+        break;
+    case QJsonValue::Bool:
+        Lead(name);
+        m_text += value.toBool() ? "true" : "false";
+        break;
+    default:
+        Null(name);
+        break;
+    }
+}
+
 void CJsonWriter::Raw(const char* name, const CString& json)
 {
     Lead(name);
@@ -125,7 +171,8 @@ std::string CJsonWriter::Take()
 void CJsonWriter::Begin(const char* name, bool list, Layout layout)
 {
     Lead(name);
-    const bool line = layout == Layout::line || (!m_levels.empty() && m_levels.back().bLine);
+    const bool line =
+        m_style.bDense || layout == Layout::line || (!m_levels.empty() && m_levels.back().bLine);
     m_levels.push_back({list, line, true});
     m_text += list ? '[' : '{';
 }
@@ -133,7 +180,7 @@ void CJsonWriter::Begin(const char* name, bool list, Layout layout)
 void CJsonWriter::BreakLine()
 {
     m_text += '\n';
-    m_text.append(kIndent * m_levels.size(), ' ');
+    m_text.append(m_style.nIndent * m_levels.size(), ' ');
 }
 
 void CJsonWriter::Lead(const char* name)
@@ -146,14 +193,14 @@ void CJsonWriter::Lead(const char* name)
         }
         if (!level.bLine) {
             BreakLine();
-        } else if (!first || !level.bList) {
+        } else if (!m_style.bDense && (!first || !level.bList)) {
             m_text += ' ';
         }
     }
     if (name) {
         m_text += '"';
         m_text += name;
-        m_text += "\": ";
+        m_text += m_style.bDense ? "\":" : "\": ";
     }
 }
 

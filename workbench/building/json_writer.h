@@ -2,6 +2,9 @@
 
 #include "platform/text.h"
 
+#include <QJsonValue>
+
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -23,6 +26,19 @@ public:
         line,
     };
 
+    struct CStyle
+    {
+        /// Blanks a level.
+        std::size_t nIndent = 2;
+        /// What is empty takes two lines as well.
+        bool bOpenEmpty = false;
+        /// All in one line and without any blank.
+        bool bDense = false;
+    };
+
+    CJsonWriter() = default;
+    explicit CJsonWriter(const CStyle& style) : m_style(style) {}
+
     void BeginObject(const char* name, Layout layout = Layout::lines);
     void BeginList(const char* name, Layout layout = Layout::lines);
     /// Ends the object or list that was begun last.
@@ -37,6 +53,9 @@ public:
     void Number(const char* name, double number);
 
     void Null(const char* name);
+
+    /// A value with all that is in it, the fields of an object by their names.
+    void Value(const char* name, const QJsonValue& value);
 
     /// A value that is JSON already.
     void Raw(const char* name, const CString& json);
@@ -56,6 +75,7 @@ private:
     void BreakLine();
     void Lead(const char* name);
 
+    CStyle m_style;
     std::string m_text;
     std::vector<CLevel> m_levels;
 };

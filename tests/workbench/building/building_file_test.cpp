@@ -185,6 +185,16 @@ TEST_F(BuildingFileTest, TheSampleIsWrittenAsItStands)
     EXPECT_EQ(FormatBuilding(Read(bytes)), bytes);
 }
 
+TEST_F(BuildingFileTest, ANoteOfAnyKindIsWrittenAsItWasRead)
+{
+    const std::string note =
+        R"({"a":[1,true,null,-0.25],"b":"x\n\"y\"","c":9007199254740993,"d":{}})";
+    const CBuilding building =
+        Read(Replaced(kPlan, "\"name\": \"Uno\",", "\"name\": \"Uno\", \"note\": " + note + ","));
+    const std::string written = FormatBuilding(building);
+    EXPECT_NE(written.find("\"note\": " + note), std::string::npos) << written;
+}
+
 TEST_F(BuildingFileTest, NotesWithinARoomJoinItsOwn)
 {
     const std::string noted =
