@@ -24,8 +24,6 @@ constexpr double kPointHeight = 0.46;
 /// Between a room's walls and its texts.
 constexpr double kEdge = 0.6;
 
-const QColor kInk(30, 36, 44);
-
 QString Watt(double value)
 {
     const double whole = std::round(value);

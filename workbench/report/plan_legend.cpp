@@ -10,8 +10,6 @@ namespace workbench {
 
 namespace {
 
-const QColor kInk(30, 36, 44);
-
 struct CCoverageLook
 {
     Coverage coverage;

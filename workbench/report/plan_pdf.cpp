@@ -25,7 +25,6 @@ constexpr double kFootHeight = 8.0;
 /// A plan at this scale or a larger one needs no larger paper.
 constexpr int kSmallPaperScale = 100;
 
-const QColor kInk(30, 36, 44);
 const QColor kGrey(98, 106, 116);
 const QColor kAccent(176, 58, 20);
 

@@ -53,6 +53,11 @@ void CReportSheet::Text(const QRectF& box, const QString& text, const CTextLook&
                        shown);
 }
 
+bool CReportSheet::Fits(double width, const QString& text, const CTextLook& look) const
+{
+    return WidthOf(text, look) * kLeastStretch <= width * 100.0;
+}
+
 double CReportSheet::WidthOf(const QString& text, const CTextLook& look) const
 {
     return QFontMetricsF(FontOf(look), m_painter.device()).horizontalAdvance(text) / kUnits;

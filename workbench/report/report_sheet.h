@@ -7,6 +7,9 @@
 
 namespace workbench {
 
+/// Of texts and of what is drawn as strongly.
+inline const QColor kInk(30, 36, 44);
+
 /// How a text of a report looks.
 struct CTextLook
 {
@@ -33,6 +36,9 @@ public:
     /// Writes a text into the middle of the height of a box. One that is too wide is set closer,
     /// and where that is not enough ends in "…".
     void Text(const QRectF& box, const QString& text, const CTextLook& look);
+
+    /// True if Text() writes a text into a box of this width whole.
+    bool Fits(double width, const QString& text, const CTextLook& look) const;
 
     /// Width of the text in millimetres.
     double WidthOf(const QString& text, const CTextLook& look) const;

@@ -17,7 +17,6 @@ constexpr double kRuleWidth = 0.25;
 constexpr double kTitlePoints = 12.0;
 constexpr double kPoints = 7.0;
 
-const QColor kInk(30, 36, 44);
 const QColor kHeadingFill(225, 230, 236);
 const QColor kGroupFill(240, 243, 246);
 const QColor kWarningFill(252, 236, 226);
@@ -118,13 +117,18 @@ double WidthOf(const CReportTable& table)
 void PaintCells(CReportSheet& sheet, QRectF row, const CReportTable& table,
                 const std::vector<QString>& cells, CTextLook look)
 {
-    for (std::size_t i = 0; i < std::min(cells.size(), table.columns.size()); ++i) {
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
         const CReportColumn& column = table.columns[i];
         row.setWidth(column.dBreite);
         look.ausrichtung = column.bRechts ? Qt::AlignRight : Qt::AlignLeft;
-        sheet.Text(row.adjusted(kPadding, 0.0, -kPadding, 0.0), cells[i], look);
+        sheet.Text(row.adjusted(kPadding, 0.0, -kPadding, 0.0), cells.at(i), look);
         row.translate(column.dBreite, 0.0);
     }
+}
+
+CTextLook HeadingLook()
+{
+    return {kPoints, true, kInk, {}};
 }
 
 void PaintHeadings(CReportSheet& sheet, const QRectF& row, const CReportTable& table)
@@ -134,7 +138,7 @@ void PaintHeadings(CReportSheet& sheet, const QRectF& row, const CReportTable& t
     for (const CReportColumn& column : table.columns) {
         titles.push_back(column.strTitel);
     }
-    PaintCells(sheet, row, table, titles, {kPoints, true, kInk, {}});
+    PaintCells(sheet, row, table, titles, HeadingLook());
     sheet.Line(row.bottomLeft(), row.bottomRight(), kRuleWidth, kInk);
 }
 
@@ -170,6 +174,17 @@ void FitColumns(CReportTable& table, double width)
     for (CReportColumn& column : table.columns) {
         column.dBreite *= factor;
     }
+}
+
+std::vector<QString> FindCutHeadings(const CReportSheet& sheet, const CReportTable& table)
+{
+    std::vector<QString> cut;
+    for (const CReportColumn& column : table.columns) {
+        if (!sheet.Fits(column.dBreite - 2.0 * kPadding, column.strTitel, HeadingLook())) {
+            cut.push_back(column.strTitel);
+        }
+    }
+    return cut;
 }
 
 std::vector<std::vector<CTableLine>> LayOutTables(const std::vector<CReportTable>& tables,

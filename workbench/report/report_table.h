@@ -26,6 +26,7 @@ enum class RowLook
 
 struct CReportRow
 {
+    /// One a column, but for a group.
     std::vector<QString> zellen;
     RowLook look = RowLook::plain;
 };
@@ -64,6 +65,9 @@ struct CTableLine
 /// at the foot of a page. Tables without rows are left out.
 std::vector<std::vector<CTableLine>> LayOutTables(const std::vector<CReportTable>& tables,
                                                   double height);
+
+/// Headings that have no room in their columns and would end in "…".
+std::vector<QString> FindCutHeadings(const CReportSheet& sheet, const CReportTable& table);
 
 /// Paints a line of its table; `corner` is the upper left one of the page's area.
 void PaintTableLine(CReportSheet& sheet, const QPointF& corner, const CReportTable& table,

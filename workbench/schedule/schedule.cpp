@@ -73,7 +73,10 @@ public:
 
     void AppendRows(std::vector<CScheduleRow>& rows, const CRoom& room, const CRoomRef& ref)
     {
-        CScheduleRow row{room, OutcomeOf(room), {}, true, OutputOf(room)};
+        CScheduleRow row;
+        row.room = room;
+        row.outcome = OutcomeOf(room);
+        row.leistungRaum = OutputOf(room);
         row.room.heizkoerper.clear();
         if (room.heizkoerper.empty()) {
             const auto fault = m_faults.find(ref);

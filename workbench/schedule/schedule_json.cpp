@@ -1,10 +1,10 @@
 #include "workbench/schedule/schedule_json.h"
 
+#include "workbench/building/json_writer.h"
+#include "workbench/building/qt_text.h"
+#include "workbench/schedule/json_values.h"
+#include "workbench/schedule/schedule_columns.h"
 #include "workbench/schedule/valve_json.h"
-
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 
 namespace workbench {
 
@@ -12,61 +12,12 @@ namespace {
 
 constexpr int kFormatVersion = 1;
 
-QString Text(const CString& text)
-{
-    return QString::fromStdWString(text);
-}
+constexpr CJsonWriter::CStyle kStyle{.nIndent = 4, .bOpenEmpty = true};
 
-/// Machines get a code that does not change with the user's language.
-QString StatusCode(RoomStatus status)
+/// What the columns say in this part of a room.
+void InsertPart(QJsonObject& object, JsonPart part, const CScheduleLine& line)
 {
-    switch (status) {
-    case RoomStatus::chosen:
-        return QStringLiteral("chosen");
-    case RoomStatus::covered:
-        return QStringLiteral("covered");
-    case RoomStatus::unfitting:
-        return QStringLiteral("unfitting");
-    case RoomStatus::unknownProduct:
-        return QStringLiteral("unknownProduct");
-    case RoomStatus::badCatalogue:
-        return QStringLiteral("badCatalogue");
-    case RoomStatus::missing:
-        return QStringLiteral("missing");
-    case RoomStatus::lacking:
-        return QStringLiteral("lacking");
-    }
-    return {};
-}
-
-QJsonObject MakeRadiator(const CRadiatorChoice& radiator)
-{
-    const HK_DATEN_VDI3805& daten = radiator.daten;
-    return {{"type", Text(radiator.strTyp)},
-            {"height", daten.Hoehe},
-            {"depth", daten.Tiefe},
-            {"length", daten.Laenge},
-            {"outputEN442", daten.LeistungEN442},
-            {"output", daten.Leistung},
-            {"sections", daten.Elemente},
-            {"litres", daten.Inhalt}};
-}
-
-/// The radiator of a room's first row. How far its room is covered is told with it.
-QJsonObject MakeFirstRadiator(const CScheduleRow& row)
-{
-    QJsonObject object = MakeRadiator(*row.outcome.radiator);
-    const double leistung =
-        row.HasRadiator() ? row.leistungRaum : row.outcome.radiator->daten.Leistung;
-    object.insert("deviationPercent", GetDeviation(leistung, GetRequired(row.room)));
-    return object;
-}
-
-void InsertProduct(QJsonObject& object, const CRoom& room)
-{
-    object.insert("maker", Text(room.strHersteller));
-    object.insert("kind", Text(room.strArt));
-    object.insert("product", Text(room.strProdukt));
+    InsertValues(object, ScheduleColumns(), part, line);
 }
 
 void InsertValves(QJsonObject& object, const CRoomValves& ventile)
@@ -76,61 +27,62 @@ void InsertValves(QJsonObject& object, const CRoomValves& ventile)
     }
 }
 
-QJsonObject MakeFurther(const CScheduleRow& row)
+QJsonObject MakeRadiator(const CScheduleLine& line)
 {
     QJsonObject object;
-    InsertProduct(object, row.room);
-    object.insert("radiator", MakeRadiator(*row.outcome.radiator));
-    InsertValves(object, row.ventile);
+    InsertPart(object, JsonPart::radiator, line);
+    if (line.row.bErster) {
+        InsertPart(object, JsonPart::firstRadiator, line);
+    }
     return object;
 }
 
-QJsonObject MakeRoom(const CScheduleRow& row)
+QJsonObject MakeFurther(const CScheduleLine& line)
 {
-    const CRoom& room = row.room;
-    const CRoomOutcome& outcome = row.outcome;
-    QJsonObject object = {{"name", Text(room.strName)},
-                          {"status", StatusCode(outcome.status)},
-                          {"temperature", room.raumtemperatur},
-                          {"demand", room.bedarf},
-                          {"covered", room.gedeckt},
-                          {"required", GetRequired(room)},
-                          {"heightMax", room.grenzen.hoeheMax},
-                          {"lengthMax", room.grenzen.laengeMax}};
-    InsertProduct(object, room);
-    if (outcome.radiator) {
-        object.insert(row.HasRadiator() ? "radiator" : "nearest", MakeFirstRadiator(row));
+    QJsonObject object;
+    InsertPart(object, JsonPart::product, line);
+    object.insert("radiator", MakeRadiator(line));
+    InsertValves(object, line.row.ventile);
+    return object;
+}
+
+QJsonObject MakeRoom(const CScheduleLine& line)
+{
+    QJsonObject object;
+    InsertPart(object, JsonPart::room, line);
+    InsertPart(object, JsonPart::product, line);
+    if (line.row.outcome.radiator) {
+        object.insert(line.row.HasRadiator() ? "radiator" : "nearest", MakeRadiator(line));
     }
-    InsertValves(object, row.ventile);
-    if (!outcome.strNote.empty()) {
-        object.insert("note", Text(outcome.strNote));
-    }
+    InsertValves(object, line.row.ventile);
     return object;
 }
 
 QJsonObject MakeTotals(const CScheduleTotals& totals)
 {
-    return {{"rooms", totals.nRooms},
-            {"chosen", totals.nChosen},
-            {"open", totals.nOpen},
-            {"radiators", totals.nHeizkoerper},
-            {"demand", totals.bedarf},
-            {"required", totals.required},
-            {"outputEN442", totals.leistungEN442},
-            {"output", totals.leistung},
-            {"deviationPercent", GetDeviation(totals.leistung, totals.required)},
-            {"litres", totals.inhalt}};
+    QJsonObject object;
+    for (const CScheduleColumn& column : ScheduleColumns()) {
+        const CCell cell = column.TotalOf({totals, {}, {}, {}});
+        if (column.JsonName() && std::holds_alternative<double>(cell)) {
+            object.insert(column.JsonName(), JsonOf(cell));
+        }
+    }
+    return object;
 }
 
 /// The rooms of a floor; rows of one room follow each other.
-QJsonArray MakeRooms(const std::vector<CScheduleRow>& rows)
+QJsonArray MakeRooms(const CScheduleFloor& floor)
 {
+    const auto lineOf = [&floor](const CScheduleRow& row) {
+        return CScheduleLine{floor.strName, row, {}, true};
+    };
+    const std::vector<CScheduleRow>& rows = floor.rows;
     QJsonArray rooms;
     for (auto row = rows.begin(); row != rows.end();) {
-        QJsonObject room = MakeRoom(*row);
+        QJsonObject room = MakeRoom(lineOf(*row));
         QJsonArray further;
         for (++row; row != rows.end() && !row->bErster; ++row) {
-            further.append(MakeFurther(*row));
+            further.append(MakeFurther(lineOf(*row)));
         }
         if (!further.isEmpty()) {
             room.insert("furtherRadiators", further);
@@ -142,8 +94,8 @@ QJsonArray MakeRooms(const std::vector<CScheduleRow>& rows)
 
 QJsonObject MakeFloor(const CScheduleFloor& floor)
 {
-    return {{"name", Text(floor.strName)},
-            {"rooms", MakeRooms(floor.rows)},
+    return {{"name", ToQt(floor.strName)},
+            {"rooms", MakeRooms(floor)},
             {"totals", MakeTotals(floor.totals)}};
 }
 
@@ -158,12 +110,14 @@ std::string FormatScheduleJson(const CSchedule& schedule)
     const QJsonObject system = {{"supply", schedule.system.vorlauf},
                                 {"return", schedule.system.ruecklauf}};
     const QJsonObject root = {{"version", kFormatVersion},
-                              {"building", Text(schedule.strBuilding)},
+                              {"building", ToQt(schedule.strBuilding)},
                               {"system", system},
                               {"floors", floors},
                               {"totals", MakeTotals(schedule.totals)},
                               {"valves", MakeValveBillJson(MakeValveBill(schedule))}};
-    return QJsonDocument(root).toJson().toStdString();
+    CJsonWriter writer(kStyle);
+    writer.Value(nullptr, root);
+    return writer.Take();
 }
 
 } // namespace workbench

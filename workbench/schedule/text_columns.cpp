@@ -1,5 +1,7 @@
 #include "workbench/schedule/text_columns.h"
 
+#include "platform/format.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <numeric>
@@ -53,6 +55,56 @@ CString WithoutEndBlanks(CString text)
     return text;
 }
 
+/// How many characters of the text fit, up to the last blank among them if there is one behind
+/// `start`.
+std::size_t FittingCharacters(const CString& text, std::size_t start)
+{
+    std::size_t count = 0;
+    for (int used = 0; count < text.size(); ++count) {
+        used += CharWidth(text[count]);
+        if (used > kMostPlaces) {
+            break;
+        }
+    }
+    if (count == text.size()) {
+        return count;
+    }
+    const std::size_t blank = text.rfind(L' ', count);
+    return blank == CString::npos || blank <= start ? count : blank;
+}
+
+/// The text in lines of at most kMostPlaces, all with the blanks at its beginning.
+std::vector<CString> BrokenLines(CString text)
+{
+    constexpr std::size_t deepest = 20;
+    const std::size_t start = std::min({text.find_first_not_of(L' '), text.size(), deepest});
+    const CString indent = text.substr(0, start);
+    std::vector<CString> lines;
+    for (std::size_t count = FittingCharacters(text, start); count < text.size();
+         count = FittingCharacters(text, start)) {
+        lines.push_back(text.substr(0, count));
+        text = indent + text.substr(std::min(text.find_first_not_of(L' ', count), text.size()));
+    }
+    lines.push_back(text);
+    return lines;
+}
+
+int TotalOf(const std::vector<int>& widths)
+{
+    return std::accumulate(widths.begin(), widths.end(), -kGapWidth,
+                           [](int sum, int width) { return sum + width + kGapWidth; });
+}
+
+CString FormatNumber(const CNumberForm& form, double value)
+{
+    if (form.bHideZero && value <= 0.0) {
+        return {};
+    }
+    const CString number =
+        form.nDecimals == kAllDecimals ? FormatExact(value) : FormatFixed(value, form.nDecimals);
+    return form.bSign && value > 0.0 ? L"+" + number : number;
+}
+
 } // namespace
 
 int GetDisplayWidth(const CString& text)
@@ -85,6 +137,19 @@ CString PadToWidth(const CString& text, int width, bool right)
     return right ? blanks + text : text + blanks;
 }
 
+CString FormatTextCell(const CNumberForm& form, const CCell& cell)
+{
+    if (const auto* const number = std::get_if<double>(&cell)) {
+        return FormatNumber(form, *number);
+    }
+    if (const auto* const size = std::get_if<CMeasures>(&cell)) {
+        return FormatFixed(size->hoehe, 0) + L" x " + FormatFixed(size->tiefe, 0, 3) + L" x " +
+               FormatFixed(size->laenge, 0, 4);
+    }
+    const auto* const text = std::get_if<CString>(&cell);
+    return text ? *text : CString();
+}
+
 void CTextColumns::AddRow(const std::vector<CString>& cells)
 {
     Line line{Kind::cells, {}};
@@ -96,7 +161,9 @@ void CTextColumns::AddRow(const std::vector<CString>& cells)
 
 void CTextColumns::AddLine(const CString& text)
 {
-    m_lines.push_back({Kind::text, {Printable(text)}});
+    for (const CString& line : BrokenLines(Printable(text))) {
+        m_lines.push_back({Kind::text, {line}});
+    }
 }
 
 void CTextColumns::AddRule()
@@ -120,17 +187,36 @@ std::vector<int> CTextColumns::GetWidths() const
     return widths;
 }
 
+void CTextColumns::Narrow(std::vector<int>& widths) const
+{
+    // Texts stay readable down to here.
+    constexpr int least = 8;
+    for (int excess = TotalOf(widths) - kMostPlaces; excess > 0; --excess) {
+        int* widest = nullptr;
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            if (!m_columns[i].bRight && widths[i] > (widest ? *widest : least)) {
+                widest = &widths[i];
+            }
+        }
+        if (!widest) {
+            return;
+        }
+        --*widest;
+    }
+}
+
 CString CTextColumns::Format() const
 {
-    const std::vector<int> widths = GetWidths();
-    const int total = std::accumulate(widths.begin(), widths.end(), -kGapWidth,
-                                      [](int sum, int width) { return sum + width + kGapWidth; });
+    std::vector<int> widths = GetWidths();
+    Narrow(widths);
+    const int total = TotalOf(widths);
     const CString rule = CString(static_cast<std::size_t>(std::max(total, 0)), L'-') + L'\n';
 
     const auto formatCells = [&](const auto& textOf) {
         CString text;
         for (std::size_t i = 0; i < widths.size(); ++i) {
-            text += (i == 0 ? L"" : kGap) + PadToWidth(textOf(i), widths[i], m_columns[i].bRight);
+            text += (i == 0 ? L"" : kGap) + PadToWidth(ShortenToWidth(textOf(i), widths[i]),
+                                                       widths[i], m_columns[i].bRight);
         }
         return WithoutEndBlanks(text) + L'\n';
     };

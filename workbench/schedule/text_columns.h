@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/text.h"
+#include "workbench/schedule/columns.h"
 
 #include <vector>
 
@@ -16,6 +17,9 @@ CString ShortenToWidth(const CString& text, int width);
 /// The text with blanks in front (`right`) or behind, up to `width` places.
 CString PadToWidth(const CString& text, int width, bool right = false);
 
+/// Places of a wide terminal. No table takes more; texts beside them are broken.
+inline constexpr int kMostPlaces = 160;
+
 struct CTextColumn
 {
     CString strHeading;
@@ -24,7 +28,23 @@ struct CTextColumn
     int nMaxWidth = 40;
 };
 
-/// A table of aligned columns. Control characters are shown as "?", so that no text can disturb the
+/// What a console shows of a list of columns.
+template <class COLUMN>
+std::vector<CTextColumn> TextColumnsOf(const std::vector<COLUMN>& columns,
+                                       Output output = Output::console)
+{
+    std::vector<CTextColumn> shown;
+    ForEachShown(columns, output, [&](const COLUMN& column, const CColumnLook& look) {
+        shown.push_back({column.HeadingOf(look), look.bRight, static_cast<int>(look.breite)});
+    });
+    return shown;
+}
+
+/// A cell as a console shows it.
+CString FormatTextCell(const CNumberForm& form, const CCell& cell);
+
+/// A table of aligned columns. Where numbers make it wider than kMostPlaces, its widest texts give
+/// way. Control characters are shown as "?", so that no text can disturb the
 /// terminal.
 class CTextColumns
 {
@@ -34,7 +54,8 @@ public:
     /// A row with one cell a column.
     void AddRow(const std::vector<CString>& cells);
 
-    /// A line over the whole width, which has no part in the alignment.
+    /// A line over the whole width, which has no part in the alignment. One of more than
+    /// kMostPlaces goes on below, under its beginning.
     void AddLine(const CString& text);
 
     /// A line of dashes.
@@ -57,6 +78,7 @@ private:
     };
 
     std::vector<int> GetWidths() const;
+    void Narrow(std::vector<int>& widths) const;
 
     std::vector<CTextColumn> m_columns;
     std::vector<Line> m_lines;

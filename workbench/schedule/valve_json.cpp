@@ -1,16 +1,15 @@
 #include "workbench/schedule/valve_json.h"
 
+#include "workbench/building/qt_text.h"
+#include "workbench/schedule/json_values.h"
+#include "workbench/schedule/schedule_columns.h"
+
 #include <charconv>
 #include <cstddef>
 
 namespace workbench {
 
 namespace {
-
-QString Text(const CString& text)
-{
-    return QString::fromStdWString(text);
-}
 
 /// The double with the shortest decimal digits that stand for the float: 0.88 for 0.88F.
 double Decimal(float value)
@@ -38,31 +37,30 @@ QString StatusCode(ValveStatus status)
     return {};
 }
 
-QJsonObject MakeKvRow(const VDI3805_VENTIL_KV& ventil, std::size_t i)
+QJsonObject MakeKvRow(const CKvLine& line)
 {
-    return {{"presetting", Decimal(ventil.Einstellung[i])},
-            {"xp", Decimal(ventil.Xp[i])},
-            {"kv", Decimal(ventil.Kv[i])},
-            {"kvs", Decimal(ventil.KvsTab[i])},
-            {"kvBypass", Decimal(ventil.KvBypass[i])},
-            {"kvRadiator", Decimal(ventil.KvHK[i])},
-            {"radiatorPercent", Decimal(ventil.AnteilHK[i])}};
+    QJsonObject row;
+    InsertValues(row, KvColumns(), JsonPart::item, line);
+    for (QJsonValueRef value : row) {
+        value = Decimal(static_cast<float>(value.toDouble()));
+    }
+    return row;
 }
 
 QJsonArray MakeKvRows(const VDI3805_VENTIL_KV& ventil)
 {
     QJsonArray rows;
     for (std::size_t i = 0; i < static_cast<std::size_t>(ventil.AnzahlKv); ++i) {
-        rows.append(MakeKvRow(ventil, i));
+        rows.append(MakeKvRow({ventil, i}));
     }
     return rows;
 }
 
 void InsertRecord(QJsonObject& object, const VDI3805_VENTIL_KV& ventil)
 {
-    object.insert("name", Text(ventil.Bezeichnung));
-    object.insert("mainGroup", Text(ventil.Hauptgruppe));
-    object.insert("group", Text(ventil.Gruppe));
+    object.insert("name", ToQt(ventil.Bezeichnung));
+    object.insert("mainGroup", ToQt(ventil.Hauptgruppe));
+    object.insert("group", ToQt(ventil.Gruppe));
     object.insert("kind", ventil.VentilArt);
     object.insert("bypass", ventil.VentilTyp == 1);
     object.insert("adjustable", ventil.Einstellbar != 0);
@@ -71,7 +69,7 @@ void InsertRecord(QJsonObject& object, const VDI3805_VENTIL_KV& ventil)
     object.insert("value5", Decimal(ventil.Wert5));
     object.insert("value6", Decimal(ventil.Wert6));
     object.insert("pressureMax", Decimal(ventil.DruckMax));
-    object.insert("text", Text(ventil.Zusatz));
+    object.insert("text", ToQt(ventil.Zusatz));
     object.insert("rows", MakeKvRows(ventil));
 }
 
@@ -81,12 +79,12 @@ void InsertValve(QJsonObject& object, const QString& name, const CValveOutcome& 
         return;
     }
     QJsonObject result = {{"status", StatusCode(valve.status)},
-                          {"maker", Text(valve.ventil.Hersteller)},
-                          {"number", Text(valve.ventil.VentilNr)}};
+                          {"maker", ToQt(valve.ventil.Hersteller)},
+                          {"number", ToQt(valve.ventil.VentilNr)}};
     if (valve.status == ValveStatus::found) {
         InsertRecord(result, valve.ventil);
     } else {
-        result.insert("note", Text(valve.strNote));
+        result.insert("note", ToQt(valve.strNote));
     }
     object.insert(name, result);
 }
@@ -105,11 +103,9 @@ QJsonArray MakeValveBillJson(const CValveBill& bill)
 {
     QJsonArray items;
     for (const CValveItem& item : bill.items) {
-        items.append(QJsonObject{{"maker", Text(item.strHersteller)},
-                                 {"number", Text(item.strVentilNr)},
-                                 {"name", Text(item.strBestellNr)},
-                                 {"DN", item.DN},
-                                 {"count", item.nAnzahl}});
+        QJsonObject object;
+        InsertValues(object, BillColumns(), JsonPart::item, item);
+        items.append(object);
     }
     return items;
 }

@@ -1,6 +1,7 @@
 #include "workbench/schedule/valve_text.h"
 
 #include "platform/format.h"
+#include "workbench/schedule/schedule_columns.h"
 #include "workbench/schedule/text_columns.h"
 
 #include <algorithm>
@@ -49,33 +50,6 @@ bool HasBypass(const VDI3805_VENTIL_KV& ventil)
     return ventil.VentilTyp == 1;
 }
 
-CTextColumns MakeKvColumns(bool bypass)
-{
-    if (bypass) {
-        return CTextColumns({{L"Preregolazione", true},
-                             {L"xp K", true},
-                             {L"kv bypass m³/h", true},
-                             {L"kv corpo m³/h", true},
-                             {L"quota %", true}});
-    }
-    return CTextColumns(
-        {{L"Preregolazione", true}, {L"xp K", true}, {L"kv m³/h", true}, {L"kvs m³/h", true}});
-}
-
-std::vector<CString> MakeKvCells(const VDI3805_VENTIL_KV& ventil, std::size_t i)
-{
-    std::vector<CString> cells = {FormatFixed(ventil.Einstellung[i], 2),
-                                  FormatFixed(ventil.Xp[i], 1)};
-    if (HasBypass(ventil)) {
-        cells.insert(cells.end(),
-                     {FormatFixed(ventil.KvBypass[i], 3), FormatFixed(ventil.KvHK[i], 3),
-                      FormatFixed(ventil.AnteilHK[i], 0)});
-    } else {
-        cells.insert(cells.end(), {FormatFixed(ventil.Kv[i], 3), FormatFixed(ventil.KvsTab[i], 3)});
-    }
-    return cells;
-}
-
 std::vector<CString> SplitLines(const CString& text)
 {
     std::vector<CString> lines;
@@ -95,9 +69,11 @@ std::vector<CString> MakeKvLines(const CValveOutcome& valve)
     if (valve.ventil.AnzahlKv == 0) {
         return {L"senza tabella kv"};
     }
-    CTextColumns table = MakeKvColumns(HasBypass(valve.ventil));
+    const Output output = HasBypass(valve.ventil) ? Output::consoleBypass : Output::console;
+    CTextColumns table(TextColumnsOf(KvColumns(), output));
     for (std::size_t i = 0; i < static_cast<std::size_t>(valve.ventil.AnzahlKv); ++i) {
-        table.AddRow(MakeKvCells(valve.ventil, i));
+        table.AddRow(MakeCells<CString>(KvColumns(), output, CKvLine{valve.ventil, i}, false,
+                                        FormatTextCell));
     }
     return SplitLines(table.Format());
 }
@@ -147,11 +123,10 @@ CString FormatValveBill(const CValveBill& bill)
     if (bill.nValves + bill.nMissing == 0) {
         return {};
     }
-    CTextColumns table(
-        {{L"Valvole", false, 22}, {L"Articolo", false, 30}, {L"DN", true}, {L"Pezzi", true}});
+    CTextColumns table(TextColumnsOf(BillColumns()));
     for (const CValveItem& item : bill.items) {
         table.AddRow(
-            {item.strHersteller, item.strBestellNr, FormatExact(item.DN), FormatInt(item.nAnzahl)});
+            MakeCells<CString>(BillColumns(), Output::console, item, false, FormatTextCell));
     }
     return table.Format() + L"Valvole: " + FormatInt(bill.nValves) + L"; mancanti: " +
            FormatInt(bill.nMissing) + L".\n";

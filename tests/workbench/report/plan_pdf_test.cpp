@@ -7,6 +7,8 @@
 #include "workbench/report/plan_tables.h"
 
 #include <QApplication>
+#include <QImage>
+#include <QPainter>
 
 #include <algorithm>
 #include <filesystem>
@@ -88,6 +90,34 @@ TEST_F(PlanPdfTest, AFailingWriteKeepsTheOldFileAndNamesIt)
     };
     EXPECT_EQ(std::ranges::count_if(std::filesystem::directory_iterator(m_folder.Root()), isPdf),
               1);
+}
+
+TEST_F(PlanPdfTest, NoHeadingIsCutAndNoRowIsShort)
+{
+    CRoom lacking = Room(L"Debole", 1500.0);
+    lacking.heizkoerper = {Radiator(800.0), Radiator(100.0)};
+    lacking.heizkoerper[0].ventile.ruecklauf = CValveKey{L"Nessuno", CString(36, L'1')};
+    Add(0, lacking);
+    const CSchedule schedule = SchedulePlan(m_building);
+    QImage page(1, 1, QImage::Format_RGB32);
+    page.setDotsPerMeterX(CReportSheet::kDotsPerInch * 10000 / 254);
+    page.setDotsPerMeterY(CReportSheet::kDotsPerInch * 10000 / 254);
+    QPainter painter(&page);
+    const CReportSheet sheet(painter);
+    for (CReportTable table : {MakeTotalsTable(schedule), MakeScheduleTable(schedule),
+                               MakeOpenRoomsTable(schedule), MakeValveTable(schedule)}) {
+        // The narrower paper, less its margins.
+        FitColumns(table, 267.0);
+        EXPECT_TRUE(FindCutHeadings(sheet, table).empty())
+            << table.strTitel.toStdString() << ": "
+            << FindCutHeadings(sheet, table).front().toStdString();
+        EXPECT_FALSE(table.rows.empty());
+        for (const CReportRow& row : table.rows) {
+            if (row.look != RowLook::group) {
+                EXPECT_EQ(row.zellen.size(), table.columns.size()) << table.strTitel.toStdString();
+            }
+        }
+    }
 }
 
 TEST(ReportTable, EveryPageRepeatsTitleHeadingsAndGroup)

@@ -1,13 +1,20 @@
 #include "platform/encoding.h"
 #include "tests/workbench/plan/plan_fixture.h"
+#include "workbench/report/plan_tables.h"
 #include "workbench/schedule/schedule_csv.h"
 #include "workbench/schedule/schedule_json.h"
 #include "workbench/schedule/schedule_text.h"
+#include "workbench/schedule/text_columns.h"
 #include "workbench/schedule/valve_bill.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
+#include <sstream>
 
 namespace workbench {
 
@@ -63,6 +70,74 @@ TEST_F(PlanScheduleTest, ColumnsOfTheCsvFileSumToItsTotals)
         EXPECT_NE(csv.find(L"\n" + line + L"\r"), CString::npos)
             << Utf8FromWide(line + L"\nin\n" + csv);
     }
+}
+
+TEST_F(PlanScheduleTest, EveryOutputHasEverySum)
+{
+    const CSchedule schedule = SchedulePlan(m_building);
+    const CString text = FormatScheduleText(schedule, false);
+    const std::size_t start = text.find(L"Totale dell'edificio");
+    std::wistringstream line(text.substr(start, text.find(L'\n', start) - start));
+    const std::vector<CString> words{std::istream_iterator<CString, wchar_t>(line), {}};
+    EXPECT_EQ(words, (std::vector<CString>{L"Totale", L"dell'edificio", L"4000", L"3500", L"1790",
+                                           L"1790", L"-48.9", L"2.5"}));
+
+    const auto root =
+        QJsonDocument::fromJson(QByteArray::fromStdString(FormatScheduleJson(schedule))).object();
+    const QJsonObject totals = root["totals"].toObject();
+    const std::pair<const char*, double> sums[] = {
+        {"chosen", 1},     {"demand", 4000}, {"deviationPercent", -48.857142857142854},
+        {"litres", 2.5},   {"open", 2},      {"output", 1790},
+        {"rooms", 4},      {"radiators", 3}, {"outputEN442", 1790},
+        {"required", 3500}};
+    EXPECT_EQ(totals.size(), qsizetype(std::size(sums)));
+    for (const auto& [name, sum] : sums) {
+        EXPECT_DOUBLE_EQ(totals[name].toDouble(), sum) << name;
+    }
+
+    const auto lastRow = [](const CReportTable& table) {
+        const std::vector<QString>& cells = table.rows.back().zellen;
+        return QStringList(cells.begin(), cells.end()).join('|').toStdString();
+    };
+    EXPECT_EQ(lastRow(MakeScheduleTable(schedule)),
+              "|Totale dell'edificio||4000|3500|3 corpi scaldanti||||1790|1790|-48,9|2,5||");
+    EXPECT_EQ(lastRow(MakeTotalsTable(schedule)),
+              "Totale dell'edificio|4|3|2|4000|3500|1790|1790|-48,9|2,5");
+}
+
+TEST_F(PlanScheduleTest, EveryCsvLineHasAFieldForEveryHeading)
+{
+    std::wistringstream csv(FormatScheduleCsv(SchedulePlan(m_building)));
+    CString line;
+    std::getline(csv, line);
+    const auto headings = std::ranges::count(line, L';');
+    int lines = 0;
+    for (; std::getline(csv, line); ++lines) {
+        EXPECT_EQ(std::ranges::count(line, L';'), headings) << Utf8FromWide(line);
+    }
+    EXPECT_EQ(lines, 8);
+}
+
+TEST_F(PlanScheduleTest, TheWidestTableAndTheLongestNotesStayWithinTheConsole)
+{
+    const CString wide(60, L'W');
+    CRoom room = Room(wide, 2500000.0);
+    room.strHersteller = room.strArt = room.strProdukt = wide;
+    CPlacedRadiator radiator = Radiator(2000000.0, 10000.0);
+    radiator.daten.Hoehe = 2000.0;
+    radiator.daten.Elemente = 100.0;
+    radiator.daten.Inhalt = 400.0;
+    radiator.strTyp = radiator.strHersteller = radiator.strArt = radiator.strProdukt = wide;
+    radiator.ventile.vorlauf = CValveKey{CString(140, L'N'), CString(36, L'1')};
+    room.heizkoerper = {radiator};
+    Add(0, room);
+    std::wistringstream text(FormatScheduleText(SchedulePlan(m_building), true));
+    int widest = 0;
+    for (CString line; std::getline(text, line);) {
+        EXPECT_LE(GetDisplayWidth(line), 160) << Utf8FromWide(line);
+        widest = std::max(widest, GetDisplayWidth(line));
+    }
+    EXPECT_GT(widest, 150) << "nothing here is wide";
 }
 
 TEST_F(PlanScheduleTest, FurtherRadiatorsStandWithTheirRoomInJson)

@@ -221,4 +221,14 @@ TEST(TextColumns, TextsAlignByTheirDisplayWidth)
                               L"?[2J\n");
 }
 
+TEST(TextColumns, LongLinesGoOnBelowTheirBeginning)
+{
+    CTextColumns table({});
+    const CString word(kMostPlaces - 8, L'a');
+    table.AddLine(L"  " + word + L" bb cccc dd");
+    table.AddLine(L"  " + CString(kMostPlaces, L'b'));
+    EXPECT_EQ(table.Format(), L"\n\n  " + word + L" bb\n  cccc dd\n  " +
+                                  CString(kMostPlaces - 2, L'b') + L"\n  bb\n");
+}
+
 } // namespace workbench

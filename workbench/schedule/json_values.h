@@ -1,0 +1,29 @@
+#pragma once
+
+#include "workbench/schedule/columns.h"
+
+#include <QJsonObject>
+
+namespace workbench {
+
+/// A text or a number as JSON; anything else is null.
+QJsonValue JsonOf(const CCell& cell);
+
+/// Gives an object what the columns of a part say of a line, under their names. An empty cell has
+/// no field.
+template <class LINE, class SUM>
+void InsertValues(QJsonObject& object, const std::vector<CColumn<LINE, SUM>>& columns,
+                  JsonPart part, const LINE& line)
+{
+    for (const auto& column : columns) {
+        if (column.GetJsonPart() != part) {
+            continue;
+        }
+        const CCell cell = column.ValueOf(line);
+        if (!std::holds_alternative<std::monostate>(cell)) {
+            object.insert(column.JsonName(), JsonOf(cell));
+        }
+    }
+}
+
+} // namespace workbench
