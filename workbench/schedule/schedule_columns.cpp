@@ -1,6 +1,7 @@
 #include "workbench/schedule/schedule_columns.h"
 
 #include "platform/format.h"
+#include "workbench/schedule/valve_text.h"
 
 namespace workbench {
 
@@ -360,11 +361,10 @@ CString ValveText(const CValveOutcome& valve)
     case ValveStatus::found:
         return valve.ventil.Bezeichnung;
     case ValveStatus::notFound:
-        return L"non trovata";
     case ValveStatus::badFile:
-        return L"file illeggibile";
+        break;
     }
-    return {};
+    return MissingValveText(valve.status);
 }
 
 /// Each output that shows valves names both of them in the same way.

@@ -38,11 +38,10 @@ CString Describe(const CValveOutcome& valve)
     case ValveStatus::found:
         return DescribeFound(valve.ventil);
     case ValveStatus::notFound:
-        return L"non trovata";
     case ValveStatus::badFile:
-        return L"file illeggibile";
+        break;
     }
-    return {};
+    return MissingValveText(valve.status);
 }
 
 bool HasBypass(const VDI3805_VENTIL_KV& ventil)
@@ -84,6 +83,11 @@ CString BlanksLike(const CString& text)
 }
 
 } // namespace
+
+CString MissingValveText(ValveStatus status)
+{
+    return status == ValveStatus::notFound ? L"non trovata" : L"file illeggibile";
+}
 
 std::vector<CString> FormatValves(const CRoomValves& valves)
 {

@@ -7,6 +7,9 @@
 
 namespace workbench {
 
+/// Stands for a valve that is wanted and was not fetched.
+CString MissingValveText(ValveStatus status);
+
 /// The lines under a room of the schedule that name its valves, and then those that say why one is
 /// missing; none if the room has no valves. Names are cut to keep a line below 156 places.
 std::vector<CString> FormatValves(const CRoomValves& valves);
