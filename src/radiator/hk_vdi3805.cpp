@@ -97,7 +97,7 @@ CHKVdi3805::CHKVdi3805(HK_DATEN_VDI3805_UEBERGABE* daten)
 
 CHKVdi3805::~CHKVdi3805()
 {
-    FreeErgebnis();
+    PutRowsAside();
     while (m_pFrei != nullptr) {
         const std::unique_ptr<HK_VDI3805_TYP> row(m_pFrei);
         m_pFrei = row->pNext;
@@ -129,7 +129,7 @@ void CHKVdi3805::Filtern()
     m_Tiefen.RemoveAll();
     m_Hoehen.RemoveAll();
     UpdateLeistungsBand();
-    FreeErgebnis();
+    PutRowsAside();
     FindPosition(standardLeistung);
     if (m_pProdukt == nullptr) {
         return;
@@ -151,7 +151,7 @@ void CHKVdi3805::UpdateLeistungsBand()
     m_pDaten->LeistungMax = m_LeistungMax;
 }
 
-void CHKVdi3805::FreeErgebnis()
+void CHKVdi3805::PutRowsAside()
 {
     HK_VDI3805_TYP** end = &m_pErgebnis;
     while (*end != nullptr) {

@@ -86,7 +86,7 @@ private:
     };
 
     void UpdateLeistungsBand();
-    void FreeErgebnis();
+    void PutRowsAside();
     HK_VDI3805_TYP* NewRow();
     void FindPosition(double standardLeistung);
     void CollectRows();
