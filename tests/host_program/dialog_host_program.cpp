@@ -31,13 +31,13 @@ namespace {
 constexpr char kMessageFace[] = "DejaVu Serif";
 constexpr int kMessagePixels = 12;
 
-int failures = 0;
+int g_failures = 0;
 
 void Expect(bool holds, const std::string& what)
 {
     if (!holds) {
         std::cout << "does not hold: " << what << '\n';
-        ++failures;
+        ++g_failures;
     }
 }
 
@@ -266,5 +266,5 @@ int main(int argc, char** argv)
     } else {
         return EXIT_FAILURE;
     }
-    return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+    return g_failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

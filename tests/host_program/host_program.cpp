@@ -10,13 +10,13 @@
 
 namespace {
 
-int failures = 0;
+int g_failures = 0;
 
 void Expect(bool holds, const char* what)
 {
     if (!holds) {
         std::cerr << "does not hold: " << what << '\n';
-        ++failures;
+        ++g_failures;
     }
 }
 
@@ -110,5 +110,5 @@ int main()
     error = other;
     Expect(error.m_nCode == 5, "errors are assigned");
     DummyCall();
-    return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+    return g_failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -45,13 +45,13 @@ public:
 };
 
 CCountingCache cache;
-int failures = 0;
+int g_failures = 0;
 
 void Expect(bool holds, const char* what)
 {
     if (!holds) {
         std::cerr << "does not hold: " << what << '\n';
-        ++failures;
+        ++g_failures;
     }
 }
 
@@ -116,5 +116,5 @@ int main()
 {
     FetchPairs();
     FetchByRecords();
-    return failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+    return g_failures == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
 }
