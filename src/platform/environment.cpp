@@ -13,15 +13,21 @@ EnvironmentReader& CurrentReader()
     return reader;
 }
 
-} // namespace
-
-std::optional<CString> GetEnvironment(const CString& name)
+std::optional<CString> Read(const CString& name)
 {
     if (const EnvironmentReader reader = CurrentReader()) {
         return reader(name);
     }
     const char* const value = std::getenv(Utf8FromWide(name).c_str());
     return value != nullptr ? std::optional<CString>(WideFromUtf8(value)) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<CString> GetEnvironment(const CString& name)
+{
+    std::optional<CString> value = Read(name);
+    return value && value->empty() ? std::nullopt : value;
 }
 
 EnvironmentReader SetEnvironmentReader(EnvironmentReader reader)

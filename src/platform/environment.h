@@ -7,7 +7,8 @@
 
 using EnvironmentReader = std::function<std::optional<CString>(const CString& name)>;
 
-/// Value of an environment variable; nothing if it does not exist.
+/// Value of an environment variable; nothing if it does not exist or is empty, which is how users
+/// of some shells unset one.
 std::optional<CString> GetEnvironment(const CString& name);
 
 /// Makes `reader` answer GetEnvironment(); an empty one stands for the system's environment.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/byte_stream.h"
+#include "platform/file_replacement.h"
 #include "platform/text.h"
 
 #include <cstddef>
@@ -13,7 +14,8 @@
 /// a crash, a full disk or an exception on the way leaves the old file or the new one, whole.
 /// Without Close() such a file is dropped and the target stays as it was; every other file is
 /// simply closed when the object dies. What a killed process leaves beside the target is used up
-/// when the target is next written to.
+/// when the target is next written to. Owner, group and mode of the target stay; where the folder
+/// lets no neighbour be made, the content goes into the target itself on Close().
 class CFile : public CByteStream
 {
 public:
@@ -85,5 +87,5 @@ private:
     int m_openError = 0;
     CString m_path;
     std::filesystem::path m_target;
-    std::filesystem::path m_temporary;
+    CFileReplacement m_replacement;
 };

@@ -11,10 +11,12 @@
 #include <algorithm>
 #include <csignal>
 #include <filesystem>
+#include <iterator>
 #include <string>
 #include <tuple>
 #include <vector>
 
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -103,6 +105,83 @@ TEST_F(FileTest, ReplacingKeepsPermissionsAndLinks)
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(m_folder.ReadBytes("real.txt"), "new");
     EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_all);
+}
+
+/// Another user for a while, where the process is root; the same one elsewhere.
+class CAsUser
+{
+public:
+    explicit CAsUser(uid_t user) { EXPECT_EQ(geteuid() == 0 ? seteuid(user) : 0, 0); }
+    ~CAsUser() { EXPECT_EQ(seteuid(getuid()), 0); }
+    CAsUser(const CAsUser&) = delete;
+    CAsUser& operator=(const CAsUser&) = delete;
+};
+
+struct stat StatusOf(const fs::path& path)
+{
+    struct stat status = {};
+    EXPECT_EQ(stat(path.c_str(), &status), 0) << path;
+    return status;
+}
+
+TEST_F(FileTest, ReplacingKeepsOwnerAndGroup)
+{
+    constexpr uid_t kColleague = 12345;
+    m_folder.WriteBytes("list.txt", "old");
+    const fs::path list = m_folder.Root() / "list.txt";
+    if (geteuid() == 0) {
+        ASSERT_EQ(chown(list.c_str(), kColleague, kColleague), 0);
+    }
+    const struct stat before = StatusOf(list);
+    Replace(m_folder.Path("list.txt"), "from the administrator");
+    const struct stat after = StatusOf(list);
+    EXPECT_EQ(m_folder.ReadBytes("list.txt"), "from the administrator");
+    EXPECT_EQ(after.st_uid, before.st_uid);
+    EXPECT_EQ(after.st_gid, before.st_gid);
+}
+
+TEST_F(FileTest, AWritableFileIsWrittenInPlaceWhereNoNeighbourCanBeItsHeir)
+{
+    constexpr uid_t kColleague = 12345;
+    m_folder.WriteBytes("closed/list.txt", "a long old content");
+    m_folder.WriteBytes("open/list.txt", "a long old content");
+    const fs::path closed = m_folder.Root() / "closed";
+    const fs::path open = m_folder.Root() / "open";
+    for (const fs::path& folder : {closed, open}) {
+        fs::permissions(folder / "list.txt", fs::perms(0666));
+    }
+    fs::permissions(m_folder.Root(), fs::perms(0777));
+    fs::permissions(closed, fs::perms(0555));
+    fs::permissions(open, fs::perms(0777));
+    const ino_t inode = StatusOf(closed / "list.txt").st_ino;
+    const uid_t owner = StatusOf(open / "list.txt").st_uid;
+    {
+        const CAsUser colleague(kColleague);
+        Replace(m_folder.Path("closed/list.txt"), "new");
+        // Here a neighbour can be made, but not given to the owner of the file.
+        Replace(m_folder.Path("open/list.txt"), "new");
+        CFile dropped(m_folder.Path("closed/list.txt"), kCreate);
+        Put(dropped, "half of");
+    }
+    EXPECT_EQ(m_folder.ReadBytes("closed/list.txt"), "new");
+    EXPECT_EQ(m_folder.ReadBytes("open/list.txt"), "new");
+    EXPECT_EQ(StatusOf(closed / "list.txt").st_ino, inode);
+    EXPECT_EQ(StatusOf(open / "list.txt").st_uid, owner);
+    EXPECT_EQ(std::distance(fs::directory_iterator(open), fs::directory_iterator()), 1);
+    {
+        const CAsUser colleague(kColleague);
+        const CFileSizeLimit limit(4);
+        CFile file(m_folder.Path("closed/list.txt"),
+                   CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite);
+        EXPECT_THROW(
+            {
+                Put(file, "longer than the disk");
+                file.Close();
+            },
+            CFileException);
+    }
+    EXPECT_EQ(m_folder.ReadBytes("closed/list.txt"), "new") << "a full disk leaves the old content";
+    fs::permissions(closed, fs::perms::owner_all);
 }
 
 TEST_F(FileTest, WhatCannotBeOpenedSaysWhy)

@@ -24,8 +24,11 @@ TEST(Message, GoesToTheHandlerOrToStandardError)
 TEST(Environment, AReaderStandsInForTheSystem)
 {
     SetEnvironmentReader([](const CString& name) {
-        return name == L"TGA" ? std::optional<CString>(L"C:\\data") : std::nullopt;
+        return name == L"TGA"     ? std::optional<CString>(L"C:\\data")
+               : name == L"EMPTY" ? std::optional<CString>(L"")
+                                  : std::nullopt;
     });
+    EXPECT_FALSE(GetEnvironment(L"EMPTY"));
     EXPECT_EQ(GetEnvironment(L"TGA"), L"C:\\data");
     EXPECT_FALSE(GetEnvironment(L"PATH"));
     SetEnvironmentReader({});
