@@ -23,15 +23,19 @@ CString Kopfzeile(const CString& name)
     return L"[" + name + L"]";
 }
 
-/// The lines of the file, none of a file that does not exist; nothing if it cannot be opened.
-/// `rest` takes what stands behind the last line end.
+/// The lines of the file, none of a file that does not exist; nothing if it cannot be read. `rest`
+/// takes what stands behind the last line end.
 std::optional<CStringArray> LeseZeilen(CString* rest = nullptr)
 {
     CStringArray zeilen;
     CFile datei;
-    if (datei.Open(HeizungPfad(kDateiName), CFile::modeRead)) {
+    if (!datei.Open(HeizungPfad(kDateiName), CFile::modeRead)) {
+        return datei.GetOpenError() == ENOENT ? std::optional(zeilen) : std::nullopt;
+    }
+    try {
         ReadTextLines(datei, zeilen, -1, rest);
-    } else if (datei.GetOpenError() != ENOENT) {
+    } catch (const CFileException&) {
+        // A list of heating systems that is lost for now must not end the opening of the dialog.
         return std::nullopt;
     }
     return zeilen;

@@ -108,14 +108,22 @@ TEST_F(HeizsystemeTest, TheFirstRunMakesTheFileAndAFileOutOfReachIsLeftAlone)
     }
     EXPECT_EQ(Zeilen(), (Texts{kKopf, L"Standard (75/65)*|"}));
 
-    std::filesystem::remove(m_folder.Root() / "HEIZUNG/CmbData.txt");
-    std::filesystem::create_directory(m_folder.Root() / "HEIZUNG/CmbData.txt");
-    CTestListe none;
-    CString name;
-    EXPECT_FALSE(ListeLesen(kListeHeizsysteme, none, kGewerkHeizung));
-    EXPECT_FALSE(ListeSchreiben(kListeHeizsysteme, list, kGewerkHeizung));
-    EXPECT_EQ(SystemSuchen(name, 75.0, 65.0), -1);
-    EXPECT_EQ(none.texte, Texts());
+    const auto datei = m_folder.Root() / "HEIZUNG/CmbData.txt";
+    const auto isLeftAlone = [&list] {
+        CTestListe none;
+        CString name;
+        EXPECT_FALSE(ListeLesen(kListeHeizsysteme, none, kGewerkHeizung));
+        EXPECT_FALSE(ListeSchreiben(kListeHeizsysteme, list, kGewerkHeizung));
+        EXPECT_EQ(SystemSuchen(name, 75.0, 65.0), -1);
+        EXPECT_EQ(none.texte, Texts());
+    };
+    std::filesystem::remove(datei);
+    std::filesystem::create_directory(datei);
+    isLeftAlone();
+    std::filesystem::remove(datei);
+    // Opens, and cannot be read: nothing lies at the beginning of a process's memory.
+    std::filesystem::create_symlink("/proc/self/mem", datei);
+    isLeftAlone();
 }
 
 TEST_F(HeizsystemeTest, WritingReplacesTheSectionAndKeepsAllOthers)
