@@ -22,14 +22,11 @@ int SucheErsten(const CAuswahlListe& liste, Hit hit)
 
 int Nachkommastellen(const CString& zahl)
 {
-    constexpr std::size_t kMostDecimals = 9;
     auto mark = zahl.rfind(L'.');
     if (mark == CString::npos) {
         mark = zahl.rfind(L',');
     }
-    return mark == CString::npos
-               ? 0
-               : static_cast<int>(std::min(zahl.size() - mark - 1, kMostDecimals));
+    return mark == CString::npos ? 0 : static_cast<int>(zahl.size() - mark - 1);
 }
 
 } // namespace

@@ -38,6 +38,6 @@ int SucheGleichen(const CAuswahlListe& liste, const CString& text);
 int SucheAnfang(const CAuswahlListe& liste, const CString& text);
 
 /// Sorts the entries by the number that they begin with (a comma ends it) and gives all of them as
-/// many decimals as the first one had before, at most nine. Entries of one value stay as
+/// many decimals as the first one had before. Entries of one value stay as
 /// duplicates; nothing is selected afterwards. True.
 bool SortComboNumeric(CAuswahlListe& liste, bool aufsteigend);

@@ -1,5 +1,7 @@
 #include "dialogs/list_tree.h"
 
+#include "uikit/text_case.h"
+
 #include <string_view>
 
 namespace {
@@ -36,8 +38,8 @@ bool HoldsWord(CString text, const CString& word)
 
 bool Hits(const CString& itemText, const CString& text, const TreeSearch& search)
 {
-    const CString seen = search.caseSensitive ? itemText : ToLower(itemText);
-    const CString wanted = search.caseSensitive ? text : ToLower(text);
+    const CString seen = search.caseSensitive ? itemText : LowerCase(itemText);
+    const CString wanted = search.caseSensitive ? text : LowerCase(text);
     const bool holds =
         search.wholeWord ? HoldsWord(seen, wanted) : seen.find(wanted) != CString::npos;
     return holds && (!search.exactLength || itemText.size() == text.size());

@@ -3,8 +3,10 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <optional>
+#include <string>
 
 namespace {
 
@@ -22,6 +24,9 @@ constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 
 std::optional<long long> InLastPlaces(double value, int decimals)
 {
     constexpr double kCertain = 0.25;
+    if (decimals >= static_cast<int>(std::size(kPowersOfTen))) {
+        return std::nullopt;
+    }
     const double scaled = std::fabs(value) * kPowersOfTen[decimals];
     if (!(scaled < kMostDigits)) {
         return std::nullopt;
@@ -61,8 +66,9 @@ void AssignFixed(CString& text, double value, int decimals)
         AssignDigits(text, *lastPlaces, decimals, std::signbit(value));
         return;
     }
-    // The longest double has 309 digits before the point; sign, point and nine decimals follow.
-    std::array<char, 340> buffer;
+    // The longest double has 309 digits before the point; a sign and the point come to them.
+    constexpr std::size_t kBeforeDecimals = 311;
+    std::string buffer(kBeforeDecimals + static_cast<std::size_t>(decimals), '\0');
     char* const last = buffer.data() + buffer.size();
     const auto result =
         std::to_chars(buffer.data(), last, value, std::chars_format::fixed, decimals);

@@ -3,7 +3,8 @@
 #include "platform/text.h"
 
 /// The number with exactly `decimals` places behind a point, as "%.<decimals>f" writes it in the
-/// "C" locale, right-aligned with blanks to at least `width` characters. `decimals` is 0 to 9.
+/// "C" locale, right-aligned with blanks to at least `width` characters. `decimals` is 0 or
+/// more.
 /// Not-a-number and infinity come out as "nan" and "inf", with a sign if it is set.
 CString FormatFixed(double value, int decimals, int width = 0);
 

@@ -21,7 +21,7 @@ TEST(SelectionList, SortingByNumberGivesAllTheDecimalsOfTheFirst)
         {{L"1,55", L"1,2"}, true, {L"1.00", L"1.00"}},
         {{L"1,25.5", L"3", L"3"}, false, {L"3.0", L"3.0", L"1.0"}},
         {{L"1.000,5", L"2"}, true, {L"1.00000", L"2.00000"}},
-        {{L"1.0123456789ab"}, true, {L"1.012345679"}},
+        {{L"1.0123456789ab", L"2"}, true, {L"1.012345678900", L"2.000000000000"}},
         {{L"abc", L"-1"}, true, {L"-1", L"0"}},
         {Texts(), true, Texts()},
     };

@@ -156,6 +156,23 @@ TEST(FindTreeItem, BeginsAtTheSelectionWhereNoStartIsGiven)
     });
 }
 
+TEST(FindTreeItem, CaseIsLeftAsideInEveryAlphabet)
+{
+    CListenDialog dialog;
+    dialog.Run([&] {
+        for (const auto& [capital, small] : {std::pair{L"\u00C4RE", L"\u00E4re"},
+                                             {L"\u0416\u0490", L"\u0436\u0491"},
+                                             {L"\u0531\u054F", L"\u0561\u057F"},
+                                             {L"\u1E9C\u1EA0", L"\u1E9C\u1EA1"},
+                                             {L"\u2C80\uFF21", L"\u2C81\uFF41"}}) {
+            dialog.m_baum.DeleteAllItems();
+            dialog.Add({capital});
+            EXPECT_NE(FindTreeItem(small, dialog.m_baum, kForward, nullptr), nullptr)
+                << testing::PrintToString(small);
+        }
+    });
+}
+
 TEST(FindTreeItem, AWordCountsOnlyAtTheStartOfWhatRemains)
 {
     const std::vector<std::pair<CString, bool>> cases = {

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "platform/text.h"
+
+/// The text in lower case by the toolkit's tables of the whole character set, each character by
+/// itself, so that the length stays.
+CString LowerCase(CString text);
