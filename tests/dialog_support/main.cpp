@@ -1,5 +1,5 @@
-// Dialogs without a screen, at the size of their templates. Controls need an application object
-// even where no dialog has opened yet.
+// Dialogs without a screen, unless the caller names one, at the size of their templates. Controls
+// need an application object even where no dialog has opened yet.
 
 #include "uikit/application.h"
 
@@ -9,7 +9,7 @@
 
 int main(int argc, char** argv)
 {
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
     testing::InitGoogleTest(&argc, argv);
     EnsureApplication();
     SetDialogFontSize(8);

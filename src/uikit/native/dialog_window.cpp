@@ -37,6 +37,16 @@ bool IsSystemMenuKey(const QKeyEvent& event)
     return event.modifiers() == Qt::AltModifier && event.key() == Qt::Key_Space;
 }
 
+bool IsPlain(const QKeyEvent& event)
+{
+    return (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+}
+
+bool IsEnter(const QKeyEvent& event)
+{
+    return IsPlain(event) && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
+}
+
 /// True for an edit or combo box whose focus goes to another control.
 bool LosesFocus(const QWidget& control, Qt::FocusReason reason)
 {
@@ -449,13 +459,15 @@ void CDialogWindow::PressDefault()
 }
 
 /// Sees what happens to controls before they do. They would take the key of the system menu for a
-/// blank or a press.
+/// blank, and on some desktops Enter for a press of a check box or the opening of a list. A list
+/// that is open is a window of its own and keeps its keys.
 bool CDialogWindow::eventFilter(QObject* object, QEvent* event)
 {
     const auto& control = static_cast<const QWidget&>(*object);
     switch (event->type()) {
     case QEvent::KeyPress:
-        if (IsSystemMenuKey(*static_cast<QKeyEvent*>(event))) {
+        if (IsSystemMenuKey(*static_cast<QKeyEvent*>(event)) ||
+            IsEnter(*static_cast<QKeyEvent*>(event))) {
             keyPressEvent(static_cast<QKeyEvent*>(event));
             return true;
         }
@@ -478,8 +490,8 @@ bool CDialogWindow::eventFilter(QObject* object, QEvent* event)
 
 void CDialogWindow::keyPressEvent(QKeyEvent* event)
 {
-    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    const bool plain = IsPlain(*event);
+    if (IsEnter(*event)) {
         PressDefault();
     } else if (plain && event->key() == Qt::Key_Escape) {
         Tell(kIdCancel, ControlEvent::clicked);
@@ -509,20 +521,28 @@ Qt::Edges CDialogWindow::EdgesAt(const QPoint& place) const
     edges.setFlag(Qt::RightEdge, place.x() >= width() - (onBottom ? kCorner : kSizingBorder));
     edges.setFlag(Qt::BottomEdge, onBottom || (onSide && nearBottom));
     edges.setFlag(Qt::TopEdge, onSide && nearTop);
+    // What has one size only has no edge to pull at, and a corner pulls at the other one.
+    if (minimumWidth() == maximumWidth()) {
+        edges &= ~(Qt::LeftEdge | Qt::RightEdge);
+    }
+    if (minimumHeight() == maximumHeight()) {
+        edges &= ~(Qt::TopEdge | Qt::BottomEdge);
+    }
     return edges;
 }
 
 void CDialogWindow::mousePressEvent(QMouseEvent* event)
 {
+    ApplyMinMax(size());
     const Qt::Edges edges = EdgesAt(event->pos());
     if (event->button() == Qt::LeftButton && edges) {
-        ApplyMinMax(size());
         windowHandle()->startSystemResize(edges);
     }
 }
 
 void CDialogWindow::mouseMoveEvent(QMouseEvent* event)
 {
+    ApplyMinMax(size());
     const Qt::Edges edges = EdgesAt(event->pos());
     const bool falling =
         edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);

@@ -4,11 +4,13 @@
 #include "dialogs/resizing_dialog.h"
 #include "tests/dialog_support/dialog_test.h"
 #include "tests/dialog_support/widget_look.h"
+#include "uikit/combo_box.h"
+#include "uikit/data_exchange.h"
 #include "uikit/native/access.h"
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include <cstdlib>
 #include <functional>
@@ -98,6 +100,79 @@ TEST_F(BrushedDialog, EnterMovesOnWhereTheUserWantsThat)
                   user.Click(kIdOk);
               }),
               kIdOk);
+}
+
+const DialogTemplate kEveryKind = {idDialog,
+                                   L"Ogni tipo",
+                                   160,
+                                   120,
+                                   frameFixed,
+                                   {{30, checkBox, L"Casella", 4, 4, 60, 10},
+                                    {31, radioButton, L"Uno", 4, 18, 60, 10, styleGroup},
+                                    {32, radioButton, L"Due", 70, 18, 60, 10},
+                                    {33, comboList, L"", 4, 32, 60, 60},
+                                    {34, comboEdit, L"", 70, 32, 60, 60},
+                                    {35, edit, L"", 4, 48, 60, 12},
+                                    {36, tree, L"", 4, 64, 60, 30},
+                                    {kIdOk, defaultButton, L"OK", 24, 100, 50, 14}}};
+
+/// Counts how often Enter arrives as the command of OK.
+class CEveryKindDialog : public CBrushedDialog
+{
+public:
+    CEveryKindDialog() : CBrushedDialog(kEveryKind) {}
+
+    int m_nOk = 0;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override
+    {
+        CBrushedDialog::DoDataExchange(exchange);
+        DDX_Control(exchange, 33, m_list);
+        DDX_Control(exchange, 34, m_editableList);
+    }
+    bool OnInitDialog() override
+    {
+        CBrushedDialog::OnInitDialog();
+        for (CComboBox* list : {&m_list, &m_editableList}) {
+            list->AddString(L"uno");
+            list->AddString(L"due");
+            list->SetCurSel(0);
+        }
+        return true;
+    }
+    void OnOK() override { ++m_nOk; }
+
+private:
+    CComboBox m_list;
+    CComboBox m_editableList;
+};
+
+/// The journey of this key runs it on the desktops whose toolkit takes Enter for a press.
+TEST_F(BrushedDialog, EnterIsTheDialogsInControlsOfEveryKind)
+{
+    for (const bool asTab : {false, true}) {
+        CSettingOverride setting(kSettingEnterAsTab, asTab ? L"1" : L"0");
+        CEveryKindDialog dialog;
+        m_driver.WhenOpens(idDialog, [&](CDialogUser& user) {
+            for (const int id : {30, 32, 33, 34, 35, 36}) {
+                SCOPED_TRACE(testing::Message() << id << (asTab ? " as Tab" : ""));
+                user.Focus(id);
+                QCoreApplication::processEvents();
+                dialog.m_nOk = 0;
+                user.Press(Qt::Key_Return);
+                QCoreApplication::processEvents();
+                EXPECT_EQ(dialog.m_nOk, asTab ? 0 : 1);
+                EXPECT_EQ(user.Dialog().GetFocusId() != id, asTab);
+                EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "an opened list";
+                EXPECT_FALSE(user.IsChecked(30));
+                EXPECT_FALSE(user.IsChecked(32));
+                EXPECT_EQ(user.Chosen(33), 0);
+            }
+            user.Dialog().EndDialog(kIdOk);
+        });
+        dialog.DoModal();
+    }
 }
 
 constexpr COLORREF kDefault = RGB(0xD6, 0xE4, 0xF5);

@@ -5,11 +5,13 @@
 #include "uikit/native/access.h"
 
 #include <QSizeGrip>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
 #include <cstddef>
 #include <functional>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -94,6 +96,32 @@ protected:
         dialog.DoModal();
     }
 };
+
+TEST_F(ResizingDialog, OnlyEdgesThatCanMoveShowTheSizingPointer)
+{
+    const std::tuple<bool, bool, Qt::CursorShape, Qt::CursorShape, Qt::CursorShape> cases[] = {
+        {true, true, Qt::SizeHorCursor, Qt::SizeVerCursor, Qt::SizeFDiagCursor},
+        {false, true, Qt::ArrowCursor, Qt::SizeVerCursor, Qt::SizeVerCursor},
+        {true, false, Qt::SizeHorCursor, Qt::ArrowCursor, Qt::SizeHorCursor},
+        {false, false, Qt::ArrowCursor, Qt::ArrowCursor, Qt::ArrowCursor},
+    };
+    for (const auto& [wide, high, left, bottom, corner] : cases) {
+        SCOPED_TRACE(testing::Message() << wide << high);
+        CProbeDialog dialog([w = wide, h = high](CProbeDialog& d) { d.GroesseErlauben(w, h); });
+        Run(dialog, [&, left = left, bottom = bottom, corner = corner] {
+            QWidget& window = dialog.Native();
+            const auto pointerAt = [&window](int x, int y) {
+                QTest::mouseMove(&window, QPoint(x, y));
+                return window.cursor().shape();
+            };
+            const int x = window.width() - 1;
+            const int y = window.height() - 1;
+            EXPECT_EQ(pointerAt(0, y / 2), left);
+            EXPECT_EQ(pointerAt(x / 2, y), bottom);
+            EXPECT_EQ(pointerAt(x, y), corner);
+        });
+    }
+}
 
 TEST_F(ResizingDialog, ControlsFollowByTheirAnchors)
 {
