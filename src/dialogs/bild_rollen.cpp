@@ -24,6 +24,9 @@ CScrollBedarf ScrollbalkenFuer(int breite, int hoehe, int bildBreite, int bildHo
 int NeueScrollPosition(int position, ScrollAction action, int daumen, int bildGroesse, int groesse)
 {
     constexpr int kSeite = 20;
+    if (bildGroesse <= groesse) {
+        return position;
+    }
     int neu = position;
     switch (action) {
     case ScrollAction::lineBack:

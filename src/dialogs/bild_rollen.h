@@ -18,5 +18,6 @@ CScrollBedarf ScrollbalkenFuer(int breite, int hoehe, int bildBreite, int bildHo
                                int balkenBreite);
 
 /// The position after a scroll event. `daumen` is the position in the event and counts for the
-/// thumb only. To the start and to the end move by one pixel.
+/// thumb only. To the start and to the end move by one pixel. A
+/// picture that fits, and so has no bar, stays where it is.
 int NeueScrollPosition(int position, ScrollAction action, int daumen, int bildGroesse, int groesse);

@@ -19,13 +19,16 @@ bool CBitmapCtrl::Create(unsigned style, const CRect& rect, const CWnd& parent)
         return false;
     }
     m_balkenBreite = GetScrollBarWidth();
-    Leere();
+    if (!Leere()) {
+        return false;
+    }
     Show(*m_speicher);
     return true;
 }
 
-/// Makes everything grey and takes the scroll bars away.
-void CBitmapCtrl::Leere()
+/// Makes everything grey and takes the scroll bars away. False if there is no memory for the
+/// picture.
+bool CBitmapCtrl::Leere()
 {
     m_ScrollX = 0;
     m_ScrollY = 0;
@@ -36,16 +39,20 @@ void CBitmapCtrl::Leere()
     if (!m_speicher || m_speicher->GetSize() != groesse) {
         m_speicher.emplace(groesse);
     }
+    if (!m_speicher->IsReady()) {
+        m_speicher.reset();
+        return false;
+    }
     m_speicher->FillRect(m_client, kGrau);
+    return true;
 }
 
 void CBitmapCtrl::SetBitmap(const CBitmap* bitmap)
 {
     m_pBitmap = bitmap;
-    if (!IsWindow()) {
+    if (!IsWindow() || !Leere()) {
         return;
     }
-    Leere();
     if (bitmap == nullptr) {
         const CFont schrift = {L"Tahoma", 13};
         m_speicher->TextOut({0, 0}, kNichtGefunden, schrift, kSchrift);

@@ -28,7 +28,7 @@ protected:
     int OnScroll(ScrollAxis axis, ScrollAction action, int position) override;
 
 private:
-    void Leere();
+    bool Leere();
     void Zeichne();
 
     CRect m_client;

@@ -59,6 +59,11 @@ CClientDC::CClientDC(const CWnd& canvas) : CDC(CanvasSurface(canvas)) {}
 
 CMemoryDC::CMemoryDC(CSize size) : CDC(std::make_unique<CNativeSurface>(QSize(size.cx, size.cy))) {}
 
+bool CMemoryDC::IsReady() const
+{
+    return m_surface->painter.isActive();
+}
+
 CSize CDC::GetSize() const
 {
     return {m_surface->size.width(), m_surface->size.height()};

@@ -65,4 +65,7 @@ class CMemoryDC : public CDC
 {
 public:
     explicit CMemoryDC(CSize size);
+
+    /// False if there is no memory for a surface of that size; nothing can be drawn on it then.
+    bool IsReady() const;
 };

@@ -153,6 +153,40 @@ TEST(BitmapControl, EveryMoveOfABarGoesToItsPlace)
     });
 }
 
+TEST(BitmapControl, NoEventOfAnAxisWithoutABarMovesThePicture)
+{
+    WithControl([](CBitmapCtrl& control, QSize client) {
+        // The wheel with Ctrl or Shift acts on bars that do not show.
+        for (const QSize size : {QSize(10, 10), QSize(10, client.height() + 50),
+                                 QSize(client.width() + 50, 10), client}) {
+            const CBitmap bitmap = Coded(size.width(), size.height());
+            control.SetBitmap(&bitmap);
+            auto& area = dynamic_cast<QAbstractScrollArea&>(*CNativeAccess::Widget(control));
+            for (QScrollBar* bar : {area.horizontalScrollBar(), area.verticalScrollBar()}) {
+                if (!bar->isVisible()) {
+                    bar->triggerAction(QScrollBar::SliderPageStepAdd);
+                    bar->triggerAction(QScrollBar::SliderMove);
+                }
+            }
+            EXPECT_EQ(CShown(control).Corner(), QPoint(0, 0))
+                << size.width() << 'x' << size.height();
+        }
+    });
+}
+
+TEST(BitmapControl, ThereIsNoneOfASizeThatNoMemoryHolds)
+{
+    CDialogDriver driver;
+    CDialog dialog(kTemplate);
+    driver.WhenOpens(kDialog, [&](CDialogUser& user) {
+        CBitmapCtrl control;
+        EXPECT_FALSE(control.Create(styleNone, {0, 0, 400000, 400000}, user.Dialog()));
+        control.SetBitmap(nullptr);
+        user.Dialog().EndDialog(kIdOk);
+    });
+    dialog.DoModal();
+}
+
 TEST(BitmapControl, WithoutAPictureTheTextStandsAlone)
 {
     WithControl([](CBitmapCtrl& control, QSize) {
