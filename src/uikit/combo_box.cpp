@@ -5,6 +5,9 @@
 
 #include <QSignalBlocker>
 
+#include <algorithm>
+#include <ranges>
+
 namespace {
 
 CComboWidget* Widget(const CWnd& wnd)
@@ -30,14 +33,17 @@ void ChangeQuietly(CComboWidget& combo, Change change)
     combo.update();
 }
 
-/// Where a new text goes.
+/// Where a new text goes: in a sorted list behind all that are not greater.
 int PlaceOf(const CComboWidget& combo, const QString& text)
 {
-    int place = combo.IsSorted() ? 0 : combo.count();
-    while (place < combo.count() && combo.itemText(place).compare(text, Qt::CaseInsensitive) <= 0) {
-        ++place;
+    if (!combo.IsSorted()) {
+        return combo.count();
     }
-    return place;
+    const auto places = std::views::iota(0, combo.count());
+    const auto place = std::ranges::partition_point(places, [&](int index) {
+        return combo.itemText(index).compare(text, Qt::CaseInsensitive) <= 0;
+    });
+    return static_cast<int>(place - places.begin());
 }
 
 } // namespace

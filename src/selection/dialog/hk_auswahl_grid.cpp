@@ -9,6 +9,8 @@ constexpr wchar_t kEsc = 27;
 constexpr COLORREF kWeiss = RGB(255, 255, 255);
 
 const CFont kGitterFont = {L"Segoe UI", 15, 100};
+const CFont kFesteSchrift = {.face = L"Courier New", .height = 15, .fixedPitch = true};
+const CFont kSymbolSchrift = {.face = L"Symbol", .height = 15};
 
 CErgebnisZelle Zelle(const CUGCell& cell)
 {
@@ -34,6 +36,8 @@ CHKAuswahlVdi3805Grid::~CHKAuswahlVdi3805Grid() = default;
 void CHKAuswahlVdi3805Grid::OnSetup()
 {
     SetDefaultFont(kGitterFont);
+    m_festeSchrift = kFesteSchrift;
+    m_symbolSchrift = kSymbolSchrift;
     SetColumnCount(kErgebnisSpalten);
     SetzeKopf();
     SetCurrentCellMode(currentCellHighlight);

@@ -49,4 +49,7 @@ private:
     int m_nSortPfeil = kGridSortArrowType;
     /// One cell for all writes of a rebuild, so that writing a cell allocates no memory.
     CUGCell m_zelle;
+    /// Beside the grid's own font, for cells of figures in columns and of signs.
+    CFont m_festeSchrift;
+    CFont m_symbolSchrift;
 };
