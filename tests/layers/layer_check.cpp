@@ -1,12 +1,13 @@
 #include "tests/layers/layer_check.h"
 
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <map>
 #include <optional>
-#include <regex>
 #include <set>
 #include <sstream>
+#include <string_view>
 
 namespace {
 
@@ -19,6 +20,37 @@ struct CRoom
     /// All that it may include, by way of the rooms it uses as well.
     std::set<std::string> reach;
 };
+
+/// What an include names, with its opening mark in front; empty for every other line.
+std::string_view IncludedBy(std::string_view line)
+{
+    const auto skipBlanks = [&line] {
+        line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+    };
+    for (const std::string_view word : {"#", "include"}) {
+        skipBlanks();
+        if (!line.starts_with(word)) {
+            return {};
+        }
+        line.remove_prefix(word.size());
+    }
+    skipBlanks();
+    return line.substr(0, line.find_last_of("\">"));
+}
+
+/// True for a name of the toolkit ahead of any comment or text: "Q", a capital, a small letter.
+bool NamesToolkit(std::string_view line)
+{
+    line = line.substr(0, line.find_first_of("/\""));
+    for (std::size_t i = 0; i + 2 < line.size(); ++i) {
+        const bool begins = i == 0 || (std::isalnum(line[i - 1]) == 0 && line[i - 1] != '_');
+        if (begins && line[i] == 'Q' && std::isupper(line[i + 1]) != 0 &&
+            std::islower(line[i + 2]) != 0) {
+            return true;
+        }
+    }
+    return false;
+}
 
 class CLayerCheck
 {
@@ -121,15 +153,15 @@ private:
     void CheckInclude(const std::string& place, const std::string& line, const std::string& folder,
                       const CRoom& room)
     {
-        static const std::regex own(R"re(^\s*#\s*include\s*"([^"]+)")re");
-        std::smatch match;
-        if (!std::regex_search(line, match, own)) {
+        const std::string_view named = IncludedBy(line);
+        if (!named.starts_with('"')) {
             return;
         }
-        const auto target = Resolve(match[1]);
+        const std::string included(named.substr(1));
+        const auto target = Resolve(included);
         const auto targetRoom = target ? RoomOf(*target) : std::nullopt;
         if (!targetRoom) {
-            m_faults.push_back(place + match[1].str() + " is in no room");
+            m_faults.push_back(place + included + " is in no room");
         } else if (*targetRoom != folder && !room.reach.contains(*targetRoom)) {
             m_faults.push_back(place + folder + " may not include " + *targetRoom);
         }
@@ -138,14 +170,13 @@ private:
     void CheckToolkit(const std::string& place, const std::string& line, const std::string& folder,
                       const CRoom& room, bool open)
     {
-        static const std::regex header(R"(^\s*#\s*include\s*[<"]Q[A-Za-z/]+)");
-        static const std::regex name(R"(^[^/"]*\bQ[A-Z][a-z]+)");
+        const std::string_view named = IncludedBy(line);
         if (open) {
             return;
         }
-        if (std::regex_search(line, header)) {
+        if (named.size() > 2 && named[1] == 'Q' && std::isalpha(named[2]) != 0) {
             m_faults.push_back(place + folder + " is free of the toolkit");
-        } else if (room.strToolkit == "toolkit=inside" && std::regex_search(line, name)) {
+        } else if (room.strToolkit == "toolkit=inside" && NamesToolkit(line)) {
             m_faults.push_back(place + "a header of " + folder + " shows the toolkit");
         }
     }
