@@ -10,8 +10,6 @@ constexpr double kNormVorlauf = 75.0;
 constexpr double kNormRuecklauf = 65.0;
 constexpr double kNormRaum = 20.0;
 
-constexpr double kHeizkoerperexponent = 1.33;
-constexpr double kSpreizungsteiler = 1.25;
 constexpr double kSmallestGivenValue = 0.1;
 
 constexpr double kFactorStep = 0.001;
@@ -34,8 +32,8 @@ double GetLeistungsFaktorEx(double vorlauf, double ruecklauf, double raum, doubl
     if (!(vorlauf > 0.0) || !(ruecklauf > 0.0)) {
         return 1.0;
     }
-    const double n = OrDefault(exponent, kHeizkoerperexponent);
-    const double a = OrDefault(spreizungsteiler, kSpreizungsteiler);
+    const double n = OrDefault(exponent, Heizkoerperexponent);
+    const double a = OrDefault(spreizungsteiler, Spreizungsteiler);
     const double design = GetTemperaturDifferenz(vorlauf, ruecklauf, raum, a);
     const double standard = GetTemperaturDifferenz(kNormVorlauf, kNormRuecklauf, kNormRaum, a);
     return RoundTo(std::pow(design / standard, n), kFactorStep);
@@ -47,7 +45,7 @@ double GetTemperaturDifferenz(double vorlauf, double ruecklauf, double raum,
     if (!(vorlauf > 0.0) || !(ruecklauf > 0.0) || !(ruecklauf - raum > 0.0)) {
         return 1.0;
     }
-    const double a = OrDefault(spreizungsteiler, kSpreizungsteiler);
+    const double a = OrDefault(spreizungsteiler, Spreizungsteiler);
     // In this form a supply equal to the return leaves exactly no spread.
     const double supply = ruecklauf + (vorlauf - ruecklauf) / a;
     return (supply - ruecklauf) / std::log((supply - raum) / (ruecklauf - raum));

@@ -1,6 +1,7 @@
 #include "uikit/tree_ctrl.h"
 
 #include "uikit/native/access.h"
+#include "uikit/native/explorer_style.h"
 #include "uikit/native/tree_widget.h"
 
 #include <QTreeWidgetItemIterator>
@@ -156,7 +157,9 @@ void CTreeCtrl::DeleteAllItems()
 void CTreeCtrl::SetExplorerLook()
 {
     if (CTreeWidget* tree = Widget(*this)) {
-        tree->setAllColumnsShowFocus(true);
+        auto* style = new CExplorerStyle;
+        style->setParent(tree);
+        tree->setStyle(style);
         tree->viewport()->setAttribute(Qt::WA_Hover);
     }
 }

@@ -43,6 +43,7 @@ public:
     /// Raises no event.
     void DeleteAllItems();
 
-    /// Full-row selection, rows that light up under the mouse, no lines.
+    /// The selection takes the whole row, and rows light up under the mouse. There are no lines in
+    /// any tree, and openings are not faded.
     void SetExplorerLook();
 };

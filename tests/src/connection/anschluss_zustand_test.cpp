@@ -203,6 +203,10 @@ TEST_F(AnschlussTest, ARecordWithoutAMatchGetsANameOfItsOwn)
     EXPECT_EQ(m_ansicht.typen.gewaehlt, -1);
     EXPECT_EQ(m_zustand.m_Aktuell.AnschlussRI, L"0;0;0;0;0;")
         << "the record is taken over all the same";
+
+    m_zustand.m_Eingang.AnschlussRI = L"0;0;0;0;0;0";
+    FindeAnschlussTyp(m_zustand, m_ansicht);
+    EXPECT_EQ(m_ansicht.typen.texte, std::vector<CString>{L"_0_"}) << "eleven characters do";
 }
 
 TEST_F(AnschlussTest, UnsetNumbersAreReadFromTheTextsInPlace)

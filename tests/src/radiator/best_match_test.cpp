@@ -32,6 +32,8 @@ TEST(BestMatch, TheNearestRowWinsAndTheFirstOfEquals)
         {{}, 1000, -1.0, -1, -1},
         {{101001, 101000}, 1000, -1.0, -1, -1},
         {{101000, 100999}, 1000, -1.0, 1, 1},
+        // Four tenths of a watt are near and yet no hit.
+        {{1000, 1001}, 1000.6, -1.0, 1, 1},
         // The last row is nearer and below the minimum: nothing follows that could replace it.
         {{1000, 890}, 900, 900.0, 1, 1},
         // The first row gives its place up, to a row however far away.

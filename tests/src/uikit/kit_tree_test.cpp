@@ -130,4 +130,35 @@ TEST_F(KitTree, ChoicesAreToldOnceAndNeverTakenBack)
     });
 }
 
+TEST_F(KitTree, AnExplorersTreeChoosesWholeRowsAndLightsUpUnderTheMouse)
+{
+    Run([&](CDialogUser&) {
+        Fill();
+        m_dialog.tree.SetExplorerLook();
+        m_dialog.tree.SelectItem(root);
+        QWidget* viewport = widget->viewport();
+        const QColor plain = widget->palette().color(QPalette::Base);
+        const QColor chosen = widget->palette().color(QPalette::Highlight);
+        const auto endOfRow = [&](HTREEITEM item) {
+            const QPoint place(viewport->width() - 2, Middle(item).y());
+            return QColor(viewport->grab().toImage().pixelColor(place));
+        };
+        const auto pointAt = [&](QEvent::Type what, const QPointF& place) {
+            QHoverEvent hover(what, place, viewport->mapToGlobal(place), QPointF(-1, -1));
+            QApplication::sendEvent(viewport, &hover);
+        };
+        EXPECT_EQ(endOfRow(root), chosen);
+        EXPECT_EQ(endOfRow(last), plain);
+        pointAt(QEvent::HoverEnter, Middle(last));
+        EXPECT_NE(endOfRow(last), plain);
+        EXPECT_NE(endOfRow(last), chosen);
+        pointAt(QEvent::HoverMove, Middle(root));
+        EXPECT_EQ(endOfRow(last), plain);
+        EXPECT_EQ(endOfRow(root), chosen) << "no shade on the choice";
+        pointAt(QEvent::HoverLeave, QPointF(-1, -1));
+        EXPECT_EQ(endOfRow(last), plain);
+        EXPECT_TRUE(viewport->testAttribute(Qt::WA_Hover)) << "else a mouse brings no such event";
+    });
+}
+
 } // namespace
