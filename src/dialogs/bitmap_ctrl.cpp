@@ -92,7 +92,7 @@ void CBitmapCtrl::Zeichne()
 
 int CBitmapCtrl::OnScroll(ScrollAxis axis, ScrollAction action, int position)
 {
-    if (m_pBitmap == nullptr) {
+    if (m_pBitmap == nullptr || !m_speicher) {
         return position;
     }
     const bool quer = axis == ScrollAxis::horizontal;

@@ -2,23 +2,7 @@
 
 #include "uikit/text_case.h"
 
-#include <string_view>
-
 namespace {
-
-/// Letters of the writings that catalogues use. A sign such as that of degrees is no letter, so
-/// that a word ends before it.
-bool IsLetter(wchar_t c)
-{
-    constexpr wchar_t kFirstAccented = 0xC0;
-    constexpr wchar_t kTimes = 0xD7;
-    constexpr wchar_t kDivided = 0xF7;
-    constexpr wchar_t kPunctuation = 0x2000;
-    constexpr std::wstring_view kAmongSigns = L"\u00AA\u00B5\u00BA";
-    const wchar_t lower = ToLower(c);
-    return (lower >= L'a' && lower <= L'z') || kAmongSigns.find(c) != std::wstring_view::npos ||
-           (c >= kFirstAccented && c < kPunctuation && c != kTimes && c != kDivided);
-}
 
 bool IsWordEnd(const CString& text, std::size_t place)
 {

@@ -15,7 +15,8 @@
 /// Without Close() such a file is dropped and the target stays as it was; every other file is
 /// simply closed when the object dies. What a killed process leaves beside the target is used up
 /// when the target is next written to. Owner, group and mode of the target stay; where the folder
-/// lets no neighbour be made, the content goes into the target itself on Close().
+/// lets no neighbour be made, the content goes into the target itself on Close(), and a crash in
+/// the middle of that leaves a mixture.
 class CFile : public CByteStream
 {
 public:

@@ -26,7 +26,7 @@ public:
     virtual CAuswahlListe& Liste(int id) = 0;
 
     /// CErgebnisZeilen::ZeilenAufbauen().
-    virtual void ZeilenAufbauen(bool filtern) = 0;
+    virtual void ZeilenAufbauen(bool bFiltern) = 0;
 };
 
 /// The criteria of the radiator selection: the fields on the right of the dialog, how they drive

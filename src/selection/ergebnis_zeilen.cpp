@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr int kSchmalsteSpalte = 60;
-
 constexpr int kTextTitel = 1;
 constexpr int kTextNichtGefunden = 16;
 
@@ -136,12 +134,12 @@ CErgebnisZeilen::CErgebnisZeilen(CErgebnisGitter& gitter, CAuswahlKriterien& kri
     m_Sortierung.fill(true);
 }
 
-void CErgebnisZeilen::ZeilenAufbauen(bool filtern)
+void CErgebnisZeilen::ZeilenAufbauen(bool bFiltern)
 {
     ZeileWaehlen(0);
     m_gitter.SetzeZeichnen(false);
     ZeilenLeeren();
-    if (filtern) {
+    if (bFiltern) {
         m_kriterien.m_pVdi->Filtern();
     }
     const int beste = BesteOderErweiterte();

@@ -9,6 +9,9 @@
 /// Columns of the result grid. Column 0 is text, all others are numbers.
 inline constexpr int kErgebnisSpalten = 8;
 
+/// No column is narrower, in pixels.
+inline constexpr int kSchmalsteSpalte = 60;
+
 /// Column with the output at design temperatures.
 inline constexpr int kSpalteLeistung = 5;
 
@@ -90,7 +93,7 @@ public:
     ///
     /// Without a best row, and if the criteria have m_bWarnen set, the user is told once and the
     /// pass is repeated with every length up to the largest one and every depth of the product.
-    void ZeilenAufbauen(bool filtern);
+    void ZeilenAufbauen(bool bFiltern);
 
     /// Removes all rows.
     void ZeilenLeeren();

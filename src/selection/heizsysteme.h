@@ -24,8 +24,8 @@ inline constexpr int kGewerkHeizung = 2;
 ///
 /// Where the file does not hold the list, or there is no file, the heating systems are the one
 /// entry "Standard (75/65)", and the result is true; any other list is then left alone with the
-/// result false. False too if the file cannot be opened for another reason, or the trade has no
-/// lists. Exceptions of the file pass through.
+/// result false. False too if the file cannot be opened or read for another reason, or the trade
+/// has no lists.
 bool ListeLesen(const CString& name, CAuswahlListe& liste, int gewerk);
 
 /// Puts the entries into the file, in place of the list of that name or behind all others, with the

@@ -9,7 +9,7 @@ struct CFont
     /// Height of a line in pixels at the size for which templates are made; it grows with the
     /// dialogs' font.
     int height = 0;
-    /// 100 thin to 900 black; 400 is normal, 700 bold.
+    /// 100 thin to 900 black; 400 is normal, 700 bold. Nothing is drawn thinner than 400.
     int weight = 400;
     bool italic = false;
     /// Gives all characters one width, so that texts of several rows line up in columns.

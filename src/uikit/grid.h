@@ -101,6 +101,9 @@ public:
     int GetColumnWidth(int column) const;
     void SetColumnWidth(int column, int width);
 
+    /// The width in pixels below which the user cannot drag a column; 3 unless set.
+    void SetNarrowestColumn(int width);
+
     /// Fits the columns `first` to `count` minus 1 to their headings and their first `rows` rows:
     /// the widest cell and 2 pixels more, not more than the width inside the frame, or than 300
     /// while the control has no width, but in any case not less than `narrowest`.

@@ -54,8 +54,12 @@ public:
             SetBar(axis, 0, 0);
             QScrollBar* bar = Bar(axis);
             connect(bar, &QScrollBar::actionTriggered, this, [this, axis, bar](int action) {
-                if (m_decide) {
-                    bar->setSliderPosition(m_decide(axis, ActionOf(action), bar->sliderPosition()));
+                Ask(axis, ActionOf(action), bar->sliderPosition());
+            });
+            // "Scroll here" of a bar's menu moves it without an action.
+            connect(bar, &QScrollBar::valueChanged, this, [this, axis](int value) {
+                if (value != Decided(axis)) {
+                    Ask(axis, ScrollAction::thumb, value);
                 }
             });
         }
@@ -66,9 +70,10 @@ public:
 
     void SetBar(ScrollAxis axis, int size, int page)
     {
+        Decided(axis) = 0;
+        Bar(axis)->setValue(0);
         Bar(axis)->setRange(0, qMax(size - page, 0));
         Bar(axis)->setPageStep(page);
-        Bar(axis)->setValue(0);
         const auto policy = size > 0 ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff;
         if (axis == ScrollAxis::horizontal) {
             setHorizontalScrollBarPolicy(policy);
@@ -100,7 +105,20 @@ private:
         return axis == ScrollAxis::horizontal ? horizontalScrollBar() : verticalScrollBar();
     }
 
+    int& Decided(ScrollAxis axis) { return axis == ScrollAxis::horizontal ? m_across : m_down; }
+
+    void Ask(ScrollAxis axis, ScrollAction action, int position)
+    {
+        if (m_decide) {
+            Decided(axis) = m_decide(axis, action, position);
+            Bar(axis)->setSliderPosition(Decided(axis));
+        }
+    }
+
     Decide m_decide;
+    // Where the bars were last told to stand.
+    int m_across = 0;
+    int m_down = 0;
     QImage m_picture;
 };
 

@@ -9,3 +9,8 @@ CString LowerCase(CString text)
     }
     return text;
 }
+
+bool IsLetter(wchar_t c)
+{
+    return QChar::isLetter(static_cast<char32_t>(c));
+}

@@ -156,7 +156,8 @@ void CTreeCtrl::DeleteAllItems()
 
 void CTreeCtrl::SetExplorerLook()
 {
-    if (CTreeWidget* tree = Widget(*this)) {
+    CTreeWidget* tree = Widget(*this);
+    if (tree != nullptr && qobject_cast<CExplorerStyle*>(tree->style()) == nullptr) {
         auto* style = new CExplorerStyle;
         style->setParent(tree);
         tree->setStyle(style);

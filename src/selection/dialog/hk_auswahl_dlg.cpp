@@ -269,9 +269,9 @@ void CHKAuswahlVdi3805Dlg::EnableControl(int id, bool enable)
     GetDlgItem(id).EnableWindow(enable);
 }
 
-void CHKAuswahlVdi3805Dlg::ZeilenAufbauen(bool filtern)
+void CHKAuswahlVdi3805Dlg::ZeilenAufbauen(bool bFiltern)
 {
-    m_pGrid->Zeilen().ZeilenAufbauen(filtern);
+    m_pGrid->Zeilen().ZeilenAufbauen(bFiltern);
 }
 
 void CHKAuswahlVdi3805Dlg::OnTimer(int id)

@@ -58,7 +58,7 @@ private:
     void UpdateData(bool lesen) override { CResizingDialog::UpdateData(lesen); }
     void EnableControl(int id, bool enable) override;
     CAuswahlListe& Liste(int id) override { return m_listen.at(id); }
-    void ZeilenAufbauen(bool filtern) override;
+    void ZeilenAufbauen(bool bFiltern) override;
 
     void OnBaumItemExpanding(CNotify& notify);
     void OnBaumSelChanged(CNotify& notify);

@@ -41,6 +41,7 @@ void CHKAuswahlVdi3805Grid::OnSetup()
     SetColumnCount(kErgebnisSpalten);
     SetzeKopf();
     SetCurrentCellMode(currentCellHighlight);
+    SetNarrowestColumn(kSchmalsteSpalte);
     m_zeilen.ZeileWaehlen(0);
     SetzeSortPfeile();
     m_zeilen.SpaltenAnpassen(0, kErgebnisSpalten, 0);

@@ -119,6 +119,13 @@ void CUGCtrl::SetHeadingHeight(int height)
     }
 }
 
+void CUGCtrl::SetNarrowestColumn(int width)
+{
+    if (CGridView* view = View()) {
+        view->horizontalHeader()->setMinimumSectionSize(width);
+    }
+}
+
 void CUGCtrl::SetDefaultFont(const CFont& font)
 {
     if (CGridView* view = View()) {

@@ -148,6 +148,12 @@ TEST(BitmapControl, EveryMoveOfABarGoesToItsPlace)
         down.triggerAction(QScrollBar::SliderPageStepAdd);
         expectAt(19, down.maximum());
 
+        down.setValue(12);
+        expectAt(19, 12);
+        down.triggerAction(QScrollBar::SliderSingleStepAdd);
+        expectAt(19, 13);
+        EXPECT_EQ(QSize(across.pageStep(), down.pageStep()), area.viewport()->size());
+
         control.SetBitmap(&bitmap);
         expectAt(0, 0);
     });
@@ -181,7 +187,10 @@ TEST(BitmapControl, ThereIsNoneOfASizeThatNoMemoryHolds)
     driver.WhenOpens(kDialog, [&](CDialogUser& user) {
         CBitmapCtrl control;
         EXPECT_FALSE(control.Create(styleNone, {0, 0, 400000, 400000}, user.Dialog()));
-        control.SetBitmap(nullptr);
+        const CBitmap bitmap = Coded(190, 150);
+        control.SetBitmap(&bitmap);
+        auto& area = dynamic_cast<QAbstractScrollArea&>(*CNativeAccess::Widget(control));
+        area.horizontalScrollBar()->triggerAction(QScrollBar::SliderPageStepAdd);
         user.Dialog().EndDialog(kIdOk);
     });
     dialog.DoModal();

@@ -176,10 +176,12 @@ TEST(FindTreeItem, CaseIsLeftAsideInEveryAlphabet)
 TEST(FindTreeItem, AWordCountsOnlyAtTheStartOfWhatRemains)
 {
     const std::vector<std::pair<CString, bool>> cases = {
-        {L"tubo", true},       {L"tubo 2", true},      {L"tubo2", true},     {L"Tubo, lungo", true},
-        {L"tubo\u00B0", true}, {L"tubo\u00E0", false}, {L"tubo_2", false},   {L"tubol", false},
-        {L"un tubo", false},   {L"un tubo x", false},  {L"xtubotubo", true}, {L"xtubo tubo", false},
-        {L"tuboltubo", false},
+        {L"tubo", true},        {L"tubo 2", true},      {L"tubo2", true},
+        {L"Tubo, lungo", true}, {L"tubo\u00B0", true},  {L"tubo\u00E0", false},
+        {L"tubo_2", false},     {L"tubol", false},      {L"un tubo", false},
+        {L"un tubo x", false},  {L"xtubotubo", true},   {L"xtubo tubo", false},
+        {L"tuboltubo", false},  {L"tubo\u4E2D", false}, {L"tubo\uFF41", false},
+        {L"tubo\u0663", true},
     };
     CListenDialog dialog;
     dialog.Run([&] {

@@ -357,6 +357,9 @@ TEST_F(GridTest, ColumnsAreDraggedWhereTheGridAllows)
         drag({edge, 8}, {25, 0});
         EXPECT_EQ(m_grid->GetColumnWidth(column), column == 1 ? 80 : 105);
     }
+    m_grid->SetNarrowestColumn(60);
+    drag({104, 8}, {-90, 0});
+    EXPECT_EQ(m_grid->GetColumnWidth(0), 60);
 }
 
 TEST_F(GridTest, HeadingsShowBothLinesInTheMiddle)
