@@ -123,7 +123,8 @@ constexpr double kElement = 0.08;
 
 double StartOfElement(int element)
 {
-    return (element - kElements / 2) * kElement;
+    constexpr int kHalf = kElements / 2;
+    return (element - kHalf) * kElement;
 }
 
 CDxfBlock SectionalPlan()

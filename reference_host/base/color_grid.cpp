@@ -67,7 +67,7 @@ void PaintSwatch(QPainter& painter, const QRectF& place, int index)
 CColorGrid::CColorGrid(QWidget* parent) : QWidget(parent)
 {
     setFocusPolicy(Qt::StrongFocus);
-    setFixedSize(sizeHint());
+    setFixedSize(CColorGrid::sizeHint());
 }
 
 QSize CColorGrid::sizeHint() const

@@ -5,9 +5,6 @@
 
 #include <QSignalBlocker>
 
-#include <algorithm>
-#include <ranges>
-
 namespace {
 
 CComboWidget* Widget(const CWnd& wnd)
@@ -39,11 +36,17 @@ int PlaceOf(const CComboWidget& combo, const QString& text)
     if (!combo.IsSorted()) {
         return combo.count();
     }
-    const auto places = std::views::iota(0, combo.count());
-    const auto place = std::ranges::partition_point(places, [&](int index) {
-        return combo.itemText(index).compare(text, Qt::CaseInsensitive) <= 0;
-    });
-    return static_cast<int>(place - places.begin());
+    int first = 0;
+    int behind = combo.count();
+    while (first < behind) {
+        const int middle = (first + behind) / 2;
+        if (combo.itemText(middle).compare(text, Qt::CaseInsensitive) <= 0) {
+            first = middle + 1;
+        } else {
+            behind = middle;
+        }
+    }
+    return first;
 }
 
 } // namespace

@@ -30,7 +30,8 @@ double ShareAt(double hue)
 
 COLORREF ColorOfWheel(int place)
 {
-    const double hue = 15.0 * (place / 10);
+    const int spoke = place / 10;
+    const double hue = 15.0 * spoke;
     const double brightness = kBrightness[place % 10 / 2];
     const bool isPale = place % 2 == 1;
     const auto part = [&](double primary) {

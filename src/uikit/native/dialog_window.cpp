@@ -491,16 +491,15 @@ bool CDialogWindow::eventFilter(QObject* object, QEvent* event)
 void CDialogWindow::keyPressEvent(QKeyEvent* event)
 {
     const bool plain = IsPlain(*event);
+    const bool closes = event->modifiers() == Qt::AltModifier && event->key() == Qt::Key_F4;
     if (IsEnter(*event)) {
         PressDefault();
-    } else if (plain && event->key() == Qt::Key_Escape) {
+    } else if (closes || (plain && event->key() == Qt::Key_Escape)) {
         Tell(kIdCancel, ControlEvent::clicked);
     } else if (plain && event->key() == Qt::Key_F1) {
         m_dialog.Guard([this] { m_dialog.OnHelp(); });
     } else if (IsSystemMenuKey(*event)) {
         ShowSystemMenu(mapToGlobal(QPoint(0, CCaptionBar::Height())));
-    } else if (event->modifiers() == Qt::AltModifier && event->key() == Qt::Key_F4) {
-        Tell(kIdCancel, ControlEvent::clicked);
     } else {
         QWidget::keyPressEvent(event);
     }

@@ -5,6 +5,7 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <type_traits>
 
 namespace {
 
@@ -67,7 +68,7 @@ double CGridPaint::NumericWidth(std::wstring_view text) const
 {
     double width = 0.0;
     for (const wchar_t c : text) {
-        const auto code = static_cast<std::size_t>(c);
+        const auto code = static_cast<std::make_unsigned_t<wchar_t>>(c);
         if (code >= m_numeric.size() || m_numeric[code] < 0.0) {
             return -1.0;
         }

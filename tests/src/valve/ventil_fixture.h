@@ -42,7 +42,7 @@ protected:
     /// Writes the file of a maker that was never read before, and returns his name.
     CString NeuerHersteller(const std::string& bytes)
     {
-        const CString name = L"Prova" + FormatInt(++m_nMakers);
+        CString name = L"Prova" + FormatInt(++m_nMakers);
         Schreibe(Utf8FromWide(name), bytes);
         return name;
     }

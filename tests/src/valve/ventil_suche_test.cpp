@@ -30,8 +30,8 @@ VDI3805_VENTIL_KV MitSchluessel(const CString& hersteller, const CString& ventil
 class CVentilSucheTest : public CVentilTest
 {
 protected:
-    CVentVdiKatalog katalog;
-    VDI3805_VENTIL_KV ventil;
+    CVentVdiKatalog m_katalog;
+    VDI3805_VENTIL_KV m_ventil;
 };
 
 /// The kept first record outlives a test, so that no two tests may use the same maker.
@@ -42,14 +42,14 @@ protected:
     {
         static int count = 0;
         const std::string suffix = std::to_string(++count);
-        a = WideFromUtf8("AbrufA" + suffix);
-        b = WideFromUtf8("AbrufB" + suffix);
-        Schreibe(Utf8FromWide(a), Datei("1"));
-        Schreibe(Utf8FromWide(b), Datei("2"));
+        m_a = WideFromUtf8("AbrufA" + suffix);
+        m_b = WideFromUtf8("AbrufB" + suffix);
+        Schreibe(Utf8FromWide(m_a), Datei("1"));
+        Schreibe(Utf8FromWide(m_b), Datei("2"));
     }
 
-    CString a;
-    CString b;
+    CString m_a;
+    CString m_b;
 };
 
 } // namespace
@@ -57,13 +57,13 @@ protected:
 TEST_F(CVentilSucheTest, AValveIsFilledWithKeyAndNames)
 {
     const CString maker = NeuerHersteller(Datei("0.9"));
-    ASSERT_TRUE(katalog.SucheVentil(maker, kNr, ventil));
-    EXPECT_EQ(ventil.Hauptgruppe, L"Haupt");
-    EXPECT_EQ(ventil.Gruppe, L"Gruppe");
-    EXPECT_EQ(ventil.Bezeichnung, L"Bestell") << "the order number, not the name";
-    EXPECT_EQ(ventil.Hersteller, maker);
-    EXPECT_EQ(ventil.VentilNr, kNr);
-    EXPECT_EQ(ventil.Kvs, 0.9F);
+    ASSERT_TRUE(m_katalog.SucheVentil(maker, kNr, m_ventil));
+    EXPECT_EQ(m_ventil.Hauptgruppe, L"Haupt");
+    EXPECT_EQ(m_ventil.Gruppe, L"Gruppe");
+    EXPECT_EQ(m_ventil.Bezeichnung, L"Bestell") << "the order number, not the name";
+    EXPECT_EQ(m_ventil.Hersteller, maker);
+    EXPECT_EQ(m_ventil.VentilNr, kNr);
+    EXPECT_EQ(m_ventil.Kvs, 0.9F);
 }
 
 TEST_F(CVentilSucheTest, TheFirstArticleWithExactlyThisNumberCounts)
@@ -103,30 +103,30 @@ TEST_F(CVentilSucheTest, TheFirstArticleWithExactlyThisNumberCounts)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        ventil = MitSchluessel(L"x", L"y");
+        m_ventil = MitSchluessel(L"x", L"y");
         const std::string head = c.records.starts_with("000") ? "" : "100;1;A|";
         const CString maker = NeuerHersteller(Saetze(head + c.records));
-        EXPECT_EQ(katalog.SucheVentil(maker, c.searched, ventil), c.found != nullptr);
-        EXPECT_EQ(ventil.Bezeichnung, c.found ? c.found : L"");
-        EXPECT_EQ(ventil.VentilNr, c.found ? c.searched : L"y");
+        EXPECT_EQ(m_katalog.SucheVentil(maker, c.searched, m_ventil), c.found != nullptr);
+        EXPECT_EQ(m_ventil.Bezeichnung, c.found ? c.found : L"");
+        EXPECT_EQ(m_ventil.VentilNr, c.found ? c.searched : L"y");
     }
 }
 
 TEST_F(CVentilSucheTest, WithoutAFileNothingIsFound)
 {
-    ventil = MitSchluessel(L"x", L"y");
-    EXPECT_FALSE(katalog.SucheVentil(L"Nessuno", kNr, ventil));
-    EXPECT_EQ(ventil.VentilNr, L"y");
-    EXPECT_EQ(katalog.DateiPfad, m_folder.Path() + L"\\Nessuno\\ha.tga");
-    EXPECT_FALSE(katalog.SucheVentil(L"Altro", kNr.substr(0, 29), ventil));
-    EXPECT_EQ(katalog.DateiPfad, m_folder.Path() + L"\\Nessuno\\ha.tga") << "nothing was read";
+    m_ventil = MitSchluessel(L"x", L"y");
+    EXPECT_FALSE(m_katalog.SucheVentil(L"Nessuno", kNr, m_ventil));
+    EXPECT_EQ(m_ventil.VentilNr, L"y");
+    EXPECT_EQ(m_katalog.DateiPfad, m_folder.Path() + L"\\Nessuno\\ha.tga");
+    EXPECT_FALSE(m_katalog.SucheVentil(L"Altro", kNr.substr(0, 29), m_ventil));
+    EXPECT_EQ(m_katalog.DateiPfad, m_folder.Path() + L"\\Nessuno\\ha.tga") << "nothing was read";
 }
 
 TEST_F(CVentilSucheTest, TheKeyMayBeThatOfTheRecordItself)
 {
-    ventil = MitSchluessel(NeuerHersteller(Datei("0.9")), kNr);
-    ASSERT_TRUE(katalog.SucheVentil(ventil.Hersteller, ventil.VentilNr, ventil));
-    EXPECT_EQ(ventil.VentilNr, kNr);
+    m_ventil = MitSchluessel(NeuerHersteller(Datei("0.9")), kNr);
+    ASSERT_TRUE(m_katalog.SucheVentil(m_ventil.Hersteller, m_ventil.VentilNr, m_ventil));
+    EXPECT_EQ(m_ventil.VentilNr, kNr);
 }
 
 TEST_F(CVentilSucheTest, ABadLinePassesThrough)
@@ -136,15 +136,15 @@ TEST_F(CVentilSucheTest, ABadLinePassesThrough)
          {"100;1;A|110;1;B|" + kRows + article + "|110", "100;1;A|110;1;B|700;1|" + article}) {
         SCOPED_TRACE(records);
         const CString maker = NeuerHersteller(Saetze(records));
-        EXPECT_THROW(katalog.SucheVentil(maker, kNr, ventil), CInvalidArgException);
-        EXPECT_EQ(ventil.VentilNr, L"");
+        EXPECT_THROW(m_katalog.SucheVentil(maker, kNr, m_ventil), CInvalidArgException);
+        EXPECT_EQ(m_ventil.VentilNr, L"");
     }
 }
 
 TEST_F(CVentilAbrufTest, TwoValvesOfDifferentMakersAreFetched)
 {
-    VDI3805_VENTIL_KV first = MitSchluessel(a, kNr);
-    VDI3805_VENTIL_KV second = MitSchluessel(b, kNr);
+    VDI3805_VENTIL_KV first = MitSchluessel(m_a, kNr);
+    VDI3805_VENTIL_KV second = MitSchluessel(m_b, kNr);
     EXPECT_TRUE(HoleVentilDaten(first, second));
     EXPECT_EQ(first.Kvs, 1.0F);
     EXPECT_EQ(second.Kvs, 2.0F);
@@ -153,7 +153,7 @@ TEST_F(CVentilAbrufTest, TwoValvesOfDifferentMakersAreFetched)
 
 TEST_F(CVentilAbrufTest, AFailedSearchIsKeptToo)
 {
-    const CString missing = a + L"x";
+    const CString missing = m_a + L"x";
     VDI3805_VENTIL_KV first = MitSchluessel(missing, kNr);
     VDI3805_VENTIL_KV second = MitSchluessel(missing, kNr);
     second.Kvs = 5.0F;
@@ -166,21 +166,21 @@ TEST_F(CVentilAbrufTest, AFailedSearchIsKeptToo)
     EXPECT_TRUE(HoleVentilDaten(first, second));
     EXPECT_EQ(first.Kvs, 77.0F) << "no search for a kept key";
 
-    VDI3805_VENTIL_KV other = MitSchluessel(b, kNr);
+    VDI3805_VENTIL_KV other = MitSchluessel(m_b, kNr);
     EXPECT_TRUE(HoleVentilDaten(other, first));
     EXPECT_EQ(first.Kvs, 3.0F);
 }
 
 TEST_F(CVentilAbrufTest, ABadLineRaisesAndKeepsNothing)
 {
-    const CString bad = a + L"bad";
+    const CString bad = m_a + L"bad";
     Schreibe(Utf8FromWide(bad), Datei("1") + "110\r\n");
     VDI3805_VENTIL_KV first = MitSchluessel(bad, kNr);
     VDI3805_VENTIL_KV second;
     EXPECT_THROW(HoleVentilDaten(first, second), CInvalidArgException);
     EXPECT_THROW(HoleVentilDaten(first, second), CInvalidArgException);
 
-    VDI3805_VENTIL_KV good = MitSchluessel(a, kNr);
+    VDI3805_VENTIL_KV good = MitSchluessel(m_a, kNr);
     EXPECT_THROW(HoleVentilDaten(good, first), CInvalidArgException);
     EXPECT_EQ(good.Kvs, 1.0F);
 }
