@@ -3,6 +3,7 @@
 #include "platform/exception.h"
 #include "platform/path.h"
 #include "platform/whole_file.h"
+#include "reference_host/catalog/file_state.h"
 
 namespace reference_host {
 
@@ -14,18 +15,6 @@ std::optional<struct stat> StatusOf(const std::filesystem::path& path)
         return std::nullopt;
     }
     return status;
-}
-
-bool IsSameTime(const timespec& a, const timespec& b)
-{
-    return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
-}
-
-/// The time of the last change of state counts as well: copying tools set the other one back.
-bool IsSameState(const struct stat& a, const struct stat& b)
-{
-    return a.st_dev == b.st_dev && a.st_ino == b.st_ino && a.st_size == b.st_size &&
-           IsSameTime(a.st_mtim, b.st_mtim) && IsSameTime(a.st_ctim, b.st_ctim);
 }
 
 CCatalogueCache::CResult ReadCatalogue(const std::filesystem::path& path)

@@ -1,6 +1,8 @@
 #include "reference_host/catalog/catalogue_folder.h"
 
+#include "platform/encoding.h"
 #include "platform/path.h"
+#include "reference_host/catalog/file_state.h"
 
 #include <algorithm>
 #include <string_view>
@@ -19,36 +21,80 @@ bool IsFolderName(const CString& name)
            name.find_first_of(separators) == CString::npos;
 }
 
-bool HasCatalogue(const CString& folder, const CString& hersteller)
+CFileFault FaultOf(const std::filesystem::path& path, const std::error_code& error)
 {
-    const std::optional<std::filesystem::path> file = FindCatalogueFile(folder, hersteller);
-    std::error_code error;
-    return file && std::filesystem::is_regular_file(*file, error);
+    return {0, L"non si può leggere: " + WideFromUtf8(error.message()), TextFromPath(path)};
 }
 
-bool ComesBefore(const CString& a, const CString& b)
+void TakeFolder(CManufacturerListing& listing, const CString& folder, CString name)
 {
-    return std::pair(ToLower(a), a) < std::pair(ToLower(b), b);
+    const std::optional<std::filesystem::path> file = FindCatalogueFile(folder, name);
+    if (!file) {
+        return;
+    }
+    std::error_code error;
+    const std::filesystem::file_type type = std::filesystem::status(*file, error).type();
+    if (type == std::filesystem::file_type::regular) {
+        listing.names.push_back(std::move(name));
+    } else if (type == std::filesystem::file_type::none) {
+        listing.unreadable.emplace(std::move(name), FaultOf(*file, error));
+    }
+}
+
+void SortByName(std::vector<CString>& names)
+{
+    std::vector<std::pair<CString, CString>> keys;
+    keys.reserve(names.size());
+    for (CString& name : names) {
+        CString lower = ToLower(name);
+        keys.emplace_back(std::move(lower), std::move(name));
+    }
+    std::ranges::sort(keys);
+    std::ranges::transform(keys, names.begin(), [](auto& key) { return std::move(key.second); });
+}
+
+std::optional<struct stat> StatusOf(const CString& folder)
+{
+    struct stat status = {};
+    return stat(ResolvePath(folder).c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
 }
 } // namespace
 
-std::vector<CString> ListManufacturers(const CString& folder)
+CManufacturerListing ListManufacturers(const CString& folder)
 {
-    std::vector<CString> names;
+    CManufacturerListing listing;
     if (folder.empty()) {
-        return names;
+        return listing;
     }
+    const std::filesystem::path path = ResolvePath(folder);
     std::error_code error;
-    std::filesystem::directory_iterator entry(ResolvePath(folder), error);
+    std::filesystem::directory_iterator entry(path, error);
     while (!error && entry != std::filesystem::directory_iterator()) {
-        CString name = TextFromPath(entry->path().filename());
-        if (HasCatalogue(folder, name)) {
-            names.push_back(std::move(name));
-        }
+        TakeFolder(listing, folder, TextFromPath(entry->path().filename()));
         entry.increment(error);
     }
-    std::ranges::sort(names, ComesBefore);
-    return names;
+    if (error) {
+        listing.fault = FaultOf(path, error);
+    }
+    SortByName(listing.names);
+    return listing;
+}
+
+const CManufacturerListing& CManufacturerCache::Get(const CString& folder)
+{
+    constexpr std::chrono::seconds kOutdated(1);
+    const Clock::time_point now = Clock::now();
+    const std::optional<struct stat> status = StatusOf(folder);
+    const bool holds = status && m_status && folder == m_strFolder &&
+                       IsSameState(*status, *m_status) && now - m_listedAt < kOutdated;
+    if (!holds) {
+        m_strFolder = folder;
+        m_listedAt = now;
+        m_listing = ListManufacturers(folder);
+        const bool isSound = !m_listing.fault && m_listing.unreadable.empty();
+        m_status = isSound ? status : std::nullopt;
+    }
+    return m_listing;
 }
 
 std::optional<std::filesystem::path> FindCatalogueFile(const CString& folder,

@@ -1,8 +1,13 @@
 #pragma once
 
+#include "platform/file_fault.h"
 #include "platform/text.h"
 
+#include <sys/stat.h>
+
+#include <chrono>
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -11,9 +16,38 @@ namespace reference_host {
 /// The folder of the radiator catalogues: one sub-folder a manufacturer, named like him, with his
 /// file "hk.tga" in it.
 
-/// Names of the manufacturers below `folder` in alphabetical order, case left aside. Empty if the
-/// folder does not exist or cannot be read.
-std::vector<CString> ListManufacturers(const CString& folder);
+/// The manufacturers below such a folder.
+struct CManufacturerListing
+{
+    /// In alphabetical order, case left aside.
+    std::vector<CString> names;
+    /// Why the folder could not be listed to its end.
+    std::optional<CFileFault> fault;
+    /// Sub-folders of which the system does not tell whether they hold a catalogue, and why.
+    std::map<CString, CFileFault> unreadable;
+};
+
+CManufacturerListing ListManufacturers(const CString& folder);
+
+/// Keeps the listing of a folder, as a building asks for it with every room. A folder that was
+/// listed without a fault is looked through again when it has changed or after a second, since
+/// catalogues that come into sub-folders leave no trace in it.
+class CManufacturerCache
+{
+public:
+    const CManufacturerListing& Get(const CString& folder);
+
+    /// What the last Get() gave.
+    const CManufacturerListing& Last() const { return m_listing; }
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    CString m_strFolder;
+    CManufacturerListing m_listing;
+    std::optional<struct stat> m_status;
+    Clock::time_point m_listedAt;
+};
 
 /// Where the manufacturer's catalogue file is or would be. Nothing if the folder's text is empty or
 /// the name cannot be that of a sub-folder.

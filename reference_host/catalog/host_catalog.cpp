@@ -7,11 +7,13 @@
 #include "reference_host/catalog/catalogue_folder.h"
 #include "reference_host/catalog/catalogue_tree.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <optional>
 #include <utility>
 #include <variant>
+#include <vector>
 
 using namespace reference_host;
 
@@ -20,6 +22,7 @@ struct CLibrary
 {
     CCatalogueTree tree;
     CCatalogueCache cache;
+    CManufacturerCache makers;
     std::map<CString, CFileFault> errors;
 };
 
@@ -49,10 +52,14 @@ int Fail(const CString& hersteller, CFileFault error)
 
 HK_VDI3805_HERSTELLER* ReadHKDaten()
 {
-    CCatalogueTree& tree = Library().tree;
+    CLibrary& library = Library();
     const CString folder = GetHKDir(false);
-    tree.ListHersteller(folder, ListManufacturers(folder));
-    return tree.GetFirst();
+    const std::vector<CString>& names = library.makers.Get(folder).names;
+    library.tree.ListHersteller(folder, names);
+    // Of a maker who is gone nothing is known any more.
+    std::erase_if(library.errors,
+                  [&](const auto& error) { return !std::ranges::count(names, error.first); });
+    return library.tree.GetFirst();
 }
 
 HK_VDI3805_HERSTELLER* FindHersteller(const CString& name)
@@ -99,9 +106,29 @@ namespace reference_host {
 
 std::optional<CFileFault> GetCatalogueError(const CString& hersteller)
 {
-    const auto& errors = Library().errors;
-    const auto found = errors.find(hersteller);
-    return found == errors.end() ? std::nullopt : std::optional(found->second);
+    const CLibrary& library = Library();
+    if (const auto found = library.errors.find(hersteller); found != library.errors.end()) {
+        return found->second;
+    }
+    if (FindHersteller(hersteller)) {
+        return std::nullopt;
+    }
+    const CManufacturerListing& listing = library.makers.Last();
+    const auto found = listing.unreadable.find(hersteller);
+    return found != listing.unreadable.end() ? found->second : listing.fault;
+}
+
+std::vector<CFileFault> GetListingErrors()
+{
+    const CManufacturerListing& listing = Library().makers.Last();
+    std::vector<CFileFault> errors;
+    if (listing.fault) {
+        errors.push_back(*listing.fault);
+    }
+    for (const auto& [name, fault] : listing.unreadable) {
+        errors.push_back(fault);
+    }
+    return errors;
 }
 
 } // namespace reference_host

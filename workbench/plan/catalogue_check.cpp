@@ -13,8 +13,9 @@ constexpr double kAnyOutput = 1000.0;
 
 std::vector<CFileFault> CheckCatalogues()
 {
-    std::vector<CFileFault> errors;
-    for (HK_VDI3805_HERSTELLER* maker = ReadHKDaten(); maker != nullptr; maker = maker->pNext) {
+    HK_VDI3805_HERSTELLER* const first = ReadHKDaten();
+    std::vector<CFileFault> errors = reference_host::GetListingErrors();
+    for (HK_VDI3805_HERSTELLER* maker = first; maker != nullptr; maker = maker->pNext) {
         ReadVdiFile(maker->Name, &maker->pArt, kAnyOutput);
         if (const auto error = reference_host::GetCatalogueError(maker->Name)) {
             errors.push_back(*error);

@@ -2,10 +2,9 @@
 
 #include "frame/entry_points.h"
 #include "host/host_catalog.h"
-#include "platform/file_fault.h"
 #include "platform/format.h"
-#include "workbench/plan/catalogue_check.h"
 #include "workbench/plan/coverage.h"
+#include "workbench/plan/module_call.h"
 #include "workbench/plan/wish_handover.h"
 
 #include <algorithm>
@@ -20,11 +19,23 @@ constexpr double kNoLimit = 1e6;
 
 constexpr CSizeLimits kAnySize{kNoLimit, kNoLimit, 0.0, kNoLimit};
 
+/// A hand-over whose sizes are those of the product in truth.
+HK_DATEN_VDI3805_UEBERGABE FillFromCatalogue(const CRadiatorWish& wish)
+{
+    HK_DATEN_VDI3805_UEBERGABE handover = FillHandover(wish);
+    RequireReadCatalogue(wish.produkt.strHersteller);
+    return handover;
+}
+
 std::optional<CRadiatorChoice> Search(HK_DATEN_VDI3805_UEBERGABE handover)
 {
     CString layer;
     int layerColor = 0;
-    if (HeizkoerperauswahlVDI3805(nullptr, &handover, layer, layerColor, false, false) < 0) {
+    const int row = CallModule(L"Scelta di " + handover.Produkt, [&] {
+        return HeizkoerperauswahlVDI3805(nullptr, &handover, layer, layerColor, false, false);
+    });
+    if (row < 0) {
+        RequireReadCatalogue(handover.Hersteller);
         return std::nullopt;
     }
     return ReadHandover(handover);
@@ -34,7 +45,7 @@ std::optional<CRadiatorChoice> Search(HK_DATEN_VDI3805_UEBERGABE handover)
 /// below the bound must not hold their place, provided that it is strong enough.
 std::optional<CRadiatorChoice> SearchWithin(const CRadiatorWish& wish)
 {
-    HK_DATEN_VDI3805_UEBERGABE handover = FillHandover(wish);
+    HK_DATEN_VDI3805_UEBERGABE handover = FillFromCatalogue(wish);
     std::optional<CRadiatorChoice> nearest = Search(handover);
     if (!nearest || nearest->daten.Leistung >= WeakestOutput(wish.leistung)) {
         return nearest;
@@ -48,7 +59,7 @@ std::optional<CRadiatorChoice> SearchWithin(const CRadiatorWish& wish)
 HK_DATEN_VDI3805_UEBERGABE FillWithLimits(CRadiatorWish wish, const CSizeLimits& limits)
 {
     wish.grenzen = limits;
-    return FillHandover(wish);
+    return FillFromCatalogue(wish);
 }
 
 /// The nearest radiator beyond the wished limits: where one limit given up is enough, only that
@@ -114,7 +125,8 @@ CString DescribeNearest(const CRadiatorWish& wish, const CRadiatorChoice& neares
     return text;
 }
 
-/// Why not even an unlimited size found a row: the module answers all of these with silence.
+/// Why not even an unlimited size of a catalogue that can be read has a row: the module answers all
+/// of these with silence.
 CRoomOutcome ExplainEmptySearch(const CRadiatorProduct& produkt)
 {
     const auto unknown = [](const CString& note) {
@@ -123,10 +135,6 @@ CRoomOutcome ExplainEmptySearch(const CRadiatorProduct& produkt)
     HK_VDI3805_HERSTELLER* maker = FindHersteller(produkt.strHersteller);
     if (!maker) {
         return unknown(L"i cataloghi non hanno il produttore \"" + produkt.strHersteller + L"\"");
-    }
-    if (const std::optional<CFileFault> error =
-            reference_host::GetCatalogueError(produkt.strHersteller)) {
-        return {RoomStatus::badCatalogue, {}, FormatFileFault(*error)};
     }
     HK_VDI3805_ART* kind = FindArt(maker, produkt.strArt);
     if (!kind) {
@@ -140,13 +148,8 @@ CRoomOutcome ExplainEmptySearch(const CRadiatorProduct& produkt)
     return unknown(L"il prodotto \"" + produkt.strProdukt + L"\" non ha misure utilizzabili");
 }
 
-} // namespace
-
-CRoomOutcome SelectRadiator(const CRadiatorWish& wish)
+CRoomOutcome SearchRadiator(const CRadiatorWish& wish)
 {
-    if (wish.leistung <= 0.0) {
-        return {RoomStatus::covered, {}, L"nessun corpo scaldante necessario"};
-    }
     std::optional<CRadiatorChoice> found = SearchWithin(wish);
     if (found && found->daten.Leistung >= WeakestOutput(wish.leistung)) {
         return {RoomStatus::chosen, found, {}};
@@ -158,6 +161,20 @@ CRoomOutcome SelectRadiator(const CRadiatorWish& wish)
         return ExplainEmptySearch(wish.produkt);
     }
     return {RoomStatus::unfitting, found, DescribeNearest(wish, *found)};
+}
+
+} // namespace
+
+CRoomOutcome SelectRadiator(const CRadiatorWish& wish)
+{
+    if (wish.leistung <= 0.0) {
+        return {RoomStatus::covered, {}, L"nessun corpo scaldante necessario"};
+    }
+    try {
+        return SearchRadiator(wish);
+    } catch (const CModuleFault& fault) {
+        return {RoomStatus::badCatalogue, {}, fault.GetMessage()};
+    }
 }
 
 } // namespace workbench

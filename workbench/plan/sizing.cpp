@@ -33,11 +33,13 @@ public:
     const CRoom& GetRoom() const { return m_room; }
     int GetSized() const { return m_nSized; }
 
-    /// Why the room is still open; nothing if it is not.
+    /// Why the room is still open, or could not be sized anew although it is not; nothing if all
+    /// went well.
     std::optional<CRoomOutcome> FindFault() const
     {
         if (!IsOpen(CoverageOf(m_room))) {
-            return std::nullopt;
+            return m_failure && m_failure->status == RoomStatus::badCatalogue ? m_failure
+                                                                              : std::nullopt;
         }
         return m_failure.value_or(CRoomOutcome{
             RoomStatus::unfitting, {}, L"mancano " + FormatFixed(RemainderOf(m_room), 0) + L" W"});

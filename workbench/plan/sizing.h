@@ -21,7 +21,8 @@ struct CSizingResult
     CBuilding building;
     /// Radiators chosen.
     int nSized = 0;
-    /// Rooms that stay open, in the order of the building.
+    /// Rooms that stay open, and those that are covered by what stood there before while their
+    /// catalogue cannot be read; in the order of the building.
     std::vector<CSizingFault> faults;
     /// True if `progress` ended it; the building is then the one that came in, and nothing is
     /// sized.

@@ -2,6 +2,7 @@
 
 #include "frame/entry_points.h"
 #include "workbench/plan/coverage.h"
+#include "workbench/plan/module_call.h"
 
 #include <algorithm>
 
@@ -46,7 +47,7 @@ void NarrowToProduct(HK_DATEN_VDI3805_UEBERGABE& handover)
 {
     OCArray<double> heights;
     OCArray<double> depths;
-    Read_HK_Masse(handover, heights, depths);
+    CallModule(L"Misure di " + handover.Produkt, [&] { Read_HK_Masse(handover, heights, depths); });
     const double limit = handover.HoeheMax;
     Narrow(heights, handover.HoeheMin, handover.HoeheMax);
     KeepBelow(heights, limit, handover.HoeheMax);

@@ -39,7 +39,8 @@ struct CResult
 };
 
 /// A building that has no radiators yet is told with what was tried where none was found; one that
-/// has some with what stands in it after they were sized.
+/// has some with what stands in it after they were sized, and with what
+/// kept rooms from being sized.
 CResult Calculate(const CBuilding& building)
 {
     const std::vector<CRoomRef> rooms = AllRooms(building);
@@ -47,7 +48,9 @@ CResult Calculate(const CBuilding& building)
     const bool isPlanned = std::ranges::any_of(
         rooms, [&](const CRoomRef& room) { return !RoomOf(building, room).heizkoerper.empty(); });
     if (isPlanned) {
-        sized.faults.clear();
+        std::erase_if(sized.faults, [](const CSizingFault& fault) {
+            return fault.outcome.status != RoomStatus::badCatalogue;
+        });
     }
     CSchedule schedule = SchedulePlan(sized.building, sized.faults);
     return {std::move(schedule), std::move(sized.building)};

@@ -2,6 +2,7 @@
 
 #include "platform/encoding.h"
 #include "workbench/building/json_fields.h"
+#include "workbench/plan/module_call.h"
 #include "workbench/program/console.h"
 
 #include <algorithm>
@@ -175,6 +176,8 @@ ExitCode RunCommandLine(const std::vector<CString>& arguments, bool hasScreen, s
                       ExitCode::wrongArguments);
     } catch (const CContentException& error) {
         return Report(err, error.GetErrorMessage(), ExitCode::badBuilding);
+    } catch (const CModuleFault& fault) {
+        return Report(err, fault.GetMessage(), ExitCode::badCatalogue);
     } catch (const std::exception& error) {
         return Report(err, L"errore imprevisto: " + WideFromUtf8(error.what()),
                       ExitCode::unexpected);

@@ -9,6 +9,7 @@
 #include "workbench/drawing/plan_view.h"
 #include "workbench/drawing/sample_plan.h"
 #include "workbench/drawing/scene_drawer.h"
+#include "workbench/plan/module_call.h"
 #include "workbench/program/connection_list.h"
 #include "workbench/program/console.h"
 #include "workbench/program/dialog_run.h"
@@ -49,9 +50,11 @@ bool Edit(CConnectionChoice& choice, std::ostream& err)
     choice.anschluss.AnschlussAN = AttributeOf(*plan.GetList(), L"H_VL_PUNKT");
     choice.anschluss.AnschlussRI = AttributeOf(*plan.GetList(), L"H_RL_PUNKT");
     bool groupsSelectable = true;
-    return ShowVentDlg(choice.anschluss, choice.ventilVorlauf, choice.ventilRuecklauf,
-                       groupsSelectable, choice.bVentile, choice.bTyp, choice.bFanCoil,
-                       plan.GetList(), &drawer);
+    return CallModule(L"Attacchi e valvole", [&] {
+        return ShowVentDlg(choice.anschluss, choice.ventilVorlauf, choice.ventilRuecklauf,
+                           groupsSelectable, choice.bVentile, choice.bTyp, choice.bFanCoil,
+                           plan.GetList(), &drawer);
+    });
 }
 
 CString Meters(double value)

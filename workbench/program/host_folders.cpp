@@ -1,6 +1,7 @@
 #include "workbench/program/host_folders.h"
 
 #include "host/host_prefs.h"
+#include "platform/encoding.h"
 #include "platform/path.h"
 #include "reference_host/prefs/host_settings.h"
 #include "workbench/program/arguments.h"
@@ -15,10 +16,19 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsFolder(const CString& path)
+/// Raises CArgumentException, with `what` in front and the system's reason where it has one, if the
+/// path is that of no folder.
+void RequireFolder(const CString& what, const CString& path)
 {
     std::error_code error;
-    return fs::is_directory(ResolvePath(path), error);
+    const fs::file_type type = fs::status(ResolvePath(path), error).type();
+    if (type == fs::file_type::none) {
+        throw CArgumentException(what + L" non si può leggere: " + path + L": " +
+                                 WideFromUtf8(error.message()));
+    }
+    if (type != fs::file_type::directory) {
+        throw CArgumentException(what + L" non esiste: " + path);
+    }
 }
 
 } // namespace
@@ -43,25 +53,18 @@ void UseWorkplace(const CArguments& arguments)
     if (arguments.strWorkplace.empty()) {
         return;
     }
-    if (!IsFolder(arguments.strWorkplace)) {
-        throw CArgumentException(L"--workplace: la cartella non esiste: " + arguments.strWorkplace);
-    }
+    RequireFolder(L"--workplace: la cartella", arguments.strWorkplace);
     reference_host::OverrideHostSetting(reference_host::kSettingLocalPath, arguments.strWorkplace);
 }
 
 void RequireCatalogueFolder()
 {
-    if (!IsFolder(GetHKDir(false))) {
-        throw CArgumentException(L"la cartella dei cataloghi non esiste: " + GetHKDir(false));
-    }
+    RequireFolder(L"la cartella dei cataloghi", GetHKDir(false));
 }
 
 void RequireValveFolder()
 {
-    if (!IsFolder(GetVEDir(false))) {
-        throw CArgumentException(L"--valve-catalogues: la cartella delle valvole non esiste: " +
-                                 GetVEDir(false));
-    }
+    RequireFolder(L"--valve-catalogues: la cartella delle valvole", GetVEDir(false));
 }
 
 std::optional<fs::path> InstalledDataFolder()

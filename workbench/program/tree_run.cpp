@@ -5,6 +5,8 @@
 #include "host/host_catalog.h"
 #include "host/host_prefs.h"
 #include "platform/format.h"
+#include "reference_host/catalog/catalogue_errors.h"
+#include "workbench/plan/module_call.h"
 #include "workbench/program/arguments.h"
 #include "workbench/program/console.h"
 #include "workbench/program/dialog_run.h"
@@ -41,6 +43,9 @@ ExitCode RunTreeDialog(const CArguments& arguments, std::ostream& out, std::ostr
                                  FormatFixed(kRaumtemperatur, 0) + L" °C");
     }
     if (ReadHKDaten() == nullptr) {
+        for (const CFileFault& fault : reference_host::GetListingErrors()) {
+            Report(err, FormatFileFault(fault), ExitCode::badCatalogue);
+        }
         return Report(err, L"nessun catalogo in " + GetHKDir(false), ExitCode::badCatalogue);
     }
     StartWindows();
@@ -49,7 +54,9 @@ ExitCode RunTreeDialog(const CArguments& arguments, std::ostream& out, std::ostr
     uebergabe.Vorlauf = system.vorlauf;
     uebergabe.Ruecklauf = system.ruecklauf;
     uebergabe.Raumtemperatur = kRaumtemperatur;
-    const bool confirmed = HeizkoerperauswahlVDI3805Tree(&uebergabe) == 0;
+    const int answer = CallModule(L"Scelta del prodotto",
+                                  [&] { return HeizkoerperauswahlVDI3805Tree(&uebergabe); });
+    const bool confirmed = answer == 0;
     return Show(DescribePick(uebergabe, confirmed), confirmed ? ExitCode::ok : ExitCode::cancelled,
                 out, err);
 }

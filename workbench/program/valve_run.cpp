@@ -3,6 +3,7 @@
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
 #include "platform/format.h"
+#include "workbench/plan/module_call.h"
 #include "workbench/program/arguments.h"
 #include "workbench/program/console.h"
 #include "workbench/program/dialog_run.h"
@@ -43,7 +44,10 @@ ExitCode RunValveDialog(const CArguments& arguments, std::ostream& out, std::ost
     StartWindows();
     const CString& number = arguments.strValveNumber;
     VDI3805_VENTIL_KV ventil;
-    if (!ShowVentVDI3805Dlg(number.empty() ? kNoNumber : number, arguments.strMaker, ventil)) {
+    const bool confirmed = CallModule(L"Scelta della valvola", [&] {
+        return ShowVentVDI3805Dlg(number.empty() ? kNoNumber : number, arguments.strMaker, ventil);
+    });
+    if (!confirmed) {
         return Report(err, L"finestra annullata", ExitCode::cancelled);
     }
     return Show(FormatChosenValve(ventil), ExitCode::ok, out, err);

@@ -78,11 +78,14 @@ public:
         row.outcome = OutcomeOf(room);
         row.leistungRaum = OutputOf(room);
         row.room.heizkoerper.clear();
+        const auto fault = m_faults.find(ref);
         if (room.heizkoerper.empty()) {
-            const auto fault = m_faults.find(ref);
             row.outcome = fault != m_faults.end() ? *fault->second : row.outcome;
             rows.push_back(row);
             return;
+        }
+        if (fault != m_faults.end() && fault->second->status == RoomStatus::badCatalogue) {
+            row.outcome.strNote = L"non dimensionato di nuovo: " + fault->second->strNote;
         }
         for (const CPlacedRadiator& radiator : room.heizkoerper) {
             row.room.strHersteller = radiator.strHersteller;
@@ -158,9 +161,9 @@ bool CSchedule::HasBadCatalogue() const
                row.ventile.vorlauf.status == ValveStatus::badFile ||
                row.ventile.ruecklauf.status == ValveStatus::badFile;
     };
-    return std::any_of(floors.begin(), floors.end(), [&](const CScheduleFloor& floor) {
-        return std::any_of(floor.rows.begin(), floor.rows.end(), isBad);
-    });
+    return bUnread || std::any_of(floors.begin(), floors.end(), [&](const CScheduleFloor& floor) {
+               return std::any_of(floor.rows.begin(), floor.rows.end(), isBad);
+           });
 }
 
 CSchedule SchedulePlan(const CBuilding& building, const std::vector<CSizingFault>& faults)
@@ -168,6 +171,9 @@ CSchedule SchedulePlan(const CBuilding& building, const std::vector<CSizingFault
     CSchedule schedule;
     schedule.strBuilding = building.strName;
     schedule.system = building.system;
+    schedule.bUnread = std::ranges::any_of(faults, [](const CSizingFault& fault) {
+        return fault.outcome.status == RoomStatus::badCatalogue;
+    });
     CRowMaker rows(faults);
     for (std::size_t floor = 0; floor < building.floors.size(); ++floor) {
         schedule.floors.push_back(MakeFloor(building.floors[floor], floor, rows));

@@ -60,6 +60,8 @@ struct CSchedule
     CHeatingSystem system;
     std::vector<CScheduleFloor> floors;
     CScheduleTotals totals;
+    /// True if a room could not be sized since its catalogue cannot be read.
+    bool bUnread = false;
 
     /// True if the file of any radiator or valve could not be read.
     bool HasBadCatalogue() const;
@@ -67,7 +69,8 @@ struct CSchedule
 
 /// Lists the radiators that stand in the building, with their valves, a row each, and a row for
 /// each room without one. Rooms that are not covered say what is missing; those without radiator
-/// that are among `faults` say what their search came to.
+/// that are among `faults` say what their search came to, and others among them whose catalogue
+/// cannot be read say that.
 CSchedule SchedulePlan(const CBuilding& building, const std::vector<CSizingFault>& faults = {});
 
 /// True for a room that needs radiators and is not covered.

@@ -35,7 +35,9 @@ void AddFloor(CTextColumns& table, const CScheduleFloor& floor, bool kvTables)
         table.AddRow(MakeCells<CString>(ScheduleColumns(), Output::console,
                                         CScheduleLine{floor.strName, row, {}}, !row.bErster,
                                         FormatTextCell));
-        if (row.bErster && row.outcome.status != RoomStatus::chosen) {
+        const bool isPlain =
+            row.outcome.status == RoomStatus::chosen && row.outcome.strNote.empty();
+        if (row.bErster && !isPlain) {
             table.AddLine(L"    " + GetStatusText(row.outcome.status) + L": " +
                           row.outcome.strNote);
         }

@@ -2,17 +2,22 @@
 
 #include "frame/entry_points.h"
 #include "host/host_prefs.h"
+#include "platform/encoding.h"
 #include "platform/exception.h"
 #include "platform/file_fault.h"
 #include "platform/path.h"
 #include "reference_host/files/valve_file_check.h"
+#include "workbench/plan/module_call.h"
 
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 namespace workbench {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 constexpr wchar_t kFileName[] = L"ha.tga";
 
@@ -43,7 +48,7 @@ CString GetFile(const CValveKey& key)
 }
 
 /// A line that lacks a field has raised an exception, which does not say which one it is.
-CValveOutcome ExplainException(const CValveKey& key, const CException& error)
+CValveOutcome ExplainException(const CValveKey& key, const CModuleFault& error)
 {
     const CString file = GetFile(key);
     try {
@@ -57,22 +62,29 @@ CValveOutcome ExplainException(const CValveKey& key, const CException& error)
     } catch (const CFileException& unreadable) {
         return MakeMissing(key, ValveStatus::badFile, unreadable.GetErrorMessage());
     }
-    return MakeFaulty(key, {0, error.GetErrorMessage(), file});
+    return MakeFaulty(key, {0, error.GetMessage(), file});
 }
 
 /// The module answers a file that it refuses or cannot open with the same silence as a number that
 /// the file does not have.
 CValveOutcome ExplainSilence(const CValveKey& key)
 {
-    std::error_code error;
-    if (!std::filesystem::is_directory(ResolvePath(GetFolder(key)), error)) {
-        return MakeMissing(key, ValveStatus::notFound,
-                           L"la cartella delle valvole non ha il produttore \"" +
-                               key.strHersteller + L"\"");
-    }
+    const CString folder = TextFromPath(ResolvePath(GetFolder(key)));
     const CString file = GetFile(key);
-    if (!std::filesystem::exists(ResolvePath(file), error)) {
-        return MakeMissing(key, ValveStatus::notFound, L"manca il file " + file);
+    for (const CString& place : {folder, file}) {
+        std::error_code error;
+        const fs::file_type type = fs::status(ResolvePath(place), error).type();
+        if (type == fs::file_type::none) {
+            return MakeFaulty(key,
+                              {0, L"non si può leggere: " + WideFromUtf8(error.message()), place});
+        }
+        if (type == fs::file_type::not_found) {
+            return MakeMissing(key, ValveStatus::notFound,
+                               place == file
+                                   ? L"manca il file " + file
+                                   : L"la cartella delle valvole non ha il produttore \"" +
+                                         key.strHersteller + L"\"");
+        }
     }
     try {
         const reference_host::CValveFileCheck check(file);
@@ -90,10 +102,31 @@ CValveOutcome ExplainSilence(const CValveKey& key)
                            key.strVentilNr);
 }
 
-CValveOutcome Judge(const CValveKey& key, const VDI3805_VENTIL_KV& ventil)
+/// The records of two valves, either of which may be none.
+std::pair<VDI3805_VENTIL_KV, VDI3805_VENTIL_KV> Fetch(const CValveKey& first,
+                                                      const CValveKey& second)
 {
-    return ventil.Bezeichnung.empty() ? ExplainSilence(key)
-                                      : CValveOutcome{ValveStatus::found, ventil, {}};
+    std::pair<VDI3805_VENTIL_KV, VDI3805_VENTIL_KV> valves;
+    CallModule(L"Valvole", [&] {
+        VDI3805GetVentil(first.strHersteller, first.strVentilNr, second.strHersteller,
+                         second.strVentilNr, valves.first, valves.second);
+    });
+    return valves;
+}
+
+bool IsFound(const VDI3805_VENTIL_KV& ventil)
+{
+    return !ventil.Bezeichnung.empty();
+}
+
+/// A valve that was not found is asked for once more: a file that could not be opened for a moment
+/// is no reason to leave it out.
+CValveOutcome Judge(const CValveKey& key, VDI3805_VENTIL_KV ventil)
+{
+    if (!IsFound(ventil)) {
+        ventil = Fetch(key, {}).first;
+    }
+    return IsFound(ventil) ? CValveOutcome{ValveStatus::found, ventil, {}} : ExplainSilence(key);
 }
 
 CValveOutcome FetchOne(const std::optional<CValveKey>& key)
@@ -101,22 +134,16 @@ CValveOutcome FetchOne(const std::optional<CValveKey>& key)
     if (!key) {
         return {};
     }
-    VDI3805_VENTIL_KV ventil;
-    VDI3805_VENTIL_KV none;
     try {
-        VDI3805GetVentil(key->strHersteller, key->strVentilNr, {}, {}, ventil, none);
-    } catch (const CException& error) {
+        return Judge(*key, Fetch(*key, {}).first);
+    } catch (const CModuleFault& error) {
         return ExplainException(*key, error);
     }
-    return Judge(*key, ventil);
 }
 
 CRoomValves FetchBoth(const CValveKey& vorlauf, const CValveKey& ruecklauf)
 {
-    VDI3805_VENTIL_KV ventil1;
-    VDI3805_VENTIL_KV ventil2;
-    VDI3805GetVentil(vorlauf.strHersteller, vorlauf.strVentilNr, ruecklauf.strHersteller,
-                     ruecklauf.strVentilNr, ventil1, ventil2);
+    const auto [ventil1, ventil2] = Fetch(vorlauf, ruecklauf);
     return {Judge(vorlauf, ventil1), Judge(ruecklauf, ventil2)};
 }
 
@@ -127,7 +154,7 @@ CRoomValves FetchValves(const CValveKeys& keys)
     if (keys.vorlauf && keys.ruecklauf) {
         try {
             return FetchBoth(*keys.vorlauf, *keys.ruecklauf);
-        } catch (const CException&) {
+        } catch (const CModuleFault&) {
             // The exception ends the fetching of both; one by one the sound file gives its valve.
         }
     }

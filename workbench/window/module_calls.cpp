@@ -2,10 +2,13 @@
 
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
+#include "workbench/plan/module_call.h"
 #include "workbench/plan/new_radiator.h"
 #include "workbench/plan/radiator_list.h"
 #include "workbench/plan/wish_handover.h"
+#include "workbench/schedule/valve_selection.h"
 
+#include <functional>
 #include <utility>
 
 namespace workbench {
@@ -56,6 +59,23 @@ struct CConnectionResult
     bool bTyp = true;
 };
 
+/// The dialog of connections reads the valves that a radiator has. A file that it cannot take them
+/// out of is told with the line, which its exception does not name.
+bool CallWithValves(const CValveKeys& keys, const std::function<bool()>& call)
+{
+    try {
+        return CallModule(L"Attacchi e valvole", call);
+    } catch (const CModuleFault&) {
+        const CRoomValves valves = FetchValves(keys);
+        for (const CValveOutcome& valve : {valves.vorlauf, valves.ruecklauf}) {
+            if (valve.status == ValveStatus::badFile) {
+                throw CModuleFault(L"Attacchi e valvole: " + valve.strNote);
+            }
+        }
+        throw;
+    }
+}
+
 void Apply(const CConnectionResult& result, CPlacedRadiator& radiator)
 {
     if (result.bTyp) {
@@ -78,8 +98,11 @@ std::optional<CRadiatorChoice> AskForRadiator(const CRadiatorWish& wish, CDrawer
     HK_DATEN_VDI3805_UEBERGABE handover = FillHandover(wish);
     CRadiatorLayer layer = wish.layer ? *wish.layer : KeptLayer();
     const CString blockBefore = KeptBlock();
-    if (HeizkoerperauswahlVDI3805(&drawer, &handover, layer.strName, layer.nFarbe, true, true) !=
-        0) {
+    const int answer = CallModule(L"Scelta del corpo scaldante", [&] {
+        return HeizkoerperauswahlVDI3805(&drawer, &handover, layer.strName, layer.nFarbe, true,
+                                         true);
+    });
+    if (answer != 0) {
         return std::nullopt;
     }
     CRadiatorChoice chosen = ReadHandover(handover);
@@ -129,8 +152,11 @@ std::optional<CBuilding> ConnectRadiators(const CBuilding& building,
     bool groupsSelectable = radiators.size() > 1;
     bool fanCoil = false;
     CRadiatorList list(building, radiators);
-    if (!ShowVentDlg(result.anschluss, vorlauf, ruecklauf, groupsSelectable, result.bVentile,
-                     result.bTyp, fanCoil, list.GetList(), &drawer)) {
+    const bool confirmed = CallWithValves(first.ventile, [&] {
+        return ShowVentDlg(result.anschluss, vorlauf, ruecklauf, groupsSelectable, result.bVentile,
+                           result.bTyp, fanCoil, list.GetList(), &drawer);
+    });
+    if (!confirmed) {
         return std::nullopt;
     }
     result.ventile = {KeyOf(vorlauf), KeyOf(ruecklauf)};
@@ -149,7 +175,8 @@ std::optional<CBuilding> ChooseProduct(const CBuilding& building,
     const CRoomRef& first = rooms.front();
     HK_DATEN_VDI3805_UEBERGABE handover =
         FillHandover(WishForRoom(building, building.floors[first.nFloor], RoomOf(building, first)));
-    if (HeizkoerperauswahlVDI3805Tree(&handover) != 0) {
+    if (CallModule(L"Scelta del prodotto",
+                   [&] { return HeizkoerperauswahlVDI3805Tree(&handover); }) != 0) {
         return std::nullopt;
     }
     CBuilding changed = building;

@@ -10,7 +10,8 @@ class CDrawer;
 namespace workbench {
 
 /// The module's dialogs, opened as a CAD does. Each runs until the user closes it and gives what he
-/// chose, or the building with it; nothing if he cancelled.
+/// chose, or the building with it; nothing if he cancelled. A call that the module breaks off, as
+/// with a damaged file, raises a CModuleFault.
 
 /// The selection dialog for a wish. The radiators of the wish's room stay as they are.
 std::optional<CRadiatorChoice> AskForRadiator(const CRadiatorWish& wish, CDrawer& drawer);

@@ -3,6 +3,7 @@
 #include "platform/format.h"
 #include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
+#include "workbench/plan/module_call.h"
 #include "workbench/plan/placement.h"
 #include "workbench/plan/sizing.h"
 #include "workbench/window/module_calls.h"
@@ -33,7 +34,22 @@ void CPlanCommands::ChooseRadiator(const CRoomRef& ref, std::optional<std::size_
         return;
     }
     const CString what = L"Corpo scaldante di " + room.strName;
-    if (auto changed = workbench::ChooseRadiator(building, ref, radiator, drawer)) {
+    Take(what, [&] { return workbench::ChooseRadiator(building, ref, radiator, drawer); });
+}
+
+std::optional<CBuilding> CPlanCommands::Ask(const Question& question)
+{
+    try {
+        return question();
+    } catch (const CModuleFault& fault) {
+        emit Told(ToQt(fault.GetMessage()));
+        return std::nullopt;
+    }
+}
+
+void CPlanCommands::Take(const CString& what, const Question& question)
+{
+    if (std::optional<CBuilding> changed = Ask(question)) {
         m_document.Do(what, std::move(*changed));
     }
 }
@@ -43,7 +59,7 @@ void CPlanCommands::ChooseProduct(const std::vector<CRoomRef>& rooms)
     if (rooms.empty()) {
         return;
     }
-    auto changed = workbench::ChooseProduct(m_document.Building(), rooms);
+    auto changed = Ask([&] { return workbench::ChooseProduct(m_document.Building(), rooms); });
     if (!changed) {
         return;
     }
@@ -79,8 +95,11 @@ void CPlanCommands::Size(const std::vector<CRoomRef>& rooms, const CString& what
 void CPlanCommands::TellFaults(const CBuilding& building, const CSizingResult& result)
 {
     QString message = QString("Corpi scaldanti scelti: %1.").arg(result.nSized);
-    if (!result.faults.empty()) {
-        message += QString(" Locali da sistemare: %1.").arg(result.faults.size());
+    const auto open = std::ranges::count_if(result.faults, [&](const CSizingFault& fault) {
+        return IsOpen(CoverageOf(RoomOf(result.building, fault.room)));
+    });
+    if (open > 0) {
+        message += QString(" Locali da sistemare: %1.").arg(open);
     }
     for (const CSizingFault& fault : result.faults) {
         message +=
@@ -95,9 +114,8 @@ void CPlanCommands::Connect(const std::vector<CRadiatorRef>& radiators, CDrawer&
     if (radiators.empty()) {
         return;
     }
-    if (auto changed = ConnectRadiators(m_document.Building(), radiators, drawer)) {
-        m_document.Do(L"Attacchi e valvole", std::move(*changed));
-    }
+    Take(L"Attacchi e valvole",
+         [&] { return ConnectRadiators(m_document.Building(), radiators, drawer); });
 }
 
 void CPlanCommands::Remove(const std::vector<CRadiatorRef>& radiators)

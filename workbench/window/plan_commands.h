@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+#include <functional>
 #include <optional>
 
 class CDrawer;
@@ -44,6 +45,13 @@ signals:
     void Told(const QString& message);
 
 private:
+    using Question = std::function<std::optional<CBuilding>()>;
+
+    /// The answer of a dialog. A call of it that fails is told, and nothing changes.
+    std::optional<CBuilding> Ask(const Question& question);
+    /// The same, and what was chosen becomes the building.
+    void Take(const CString& what, const Question& question);
+
     void TellFaults(const CBuilding& building, const struct CSizingResult& result);
 
     CPlanDocument& m_document;

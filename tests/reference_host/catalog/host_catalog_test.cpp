@@ -98,6 +98,31 @@ TEST_F(CHostCatalogTest, AMakerThatVanishesIsUnlistedButStaysAllocated)
     EXPECT_EQ(alfa->pArt, nullptr);
 }
 
+TEST_F(CHostCatalogTest, WhatCannotBeReadIsToldWithTheSystemsReason)
+{
+    WriteCatalogue("Alfa", Products({"P"}));
+    std::filesystem::create_directory_symlink("Anello", m_folder.Root() / "Anello");
+    EXPECT_EQ(Makers(), (std::vector<CString>{L"Alfa"}));
+    EXPECT_FALSE(GetCatalogueError(L"Alfa"));
+    EXPECT_FALSE(GetCatalogueError(L"Altro"));
+    const std::optional<CFileFault> fault = GetCatalogueError(L"Anello");
+    ASSERT_TRUE(fault);
+    EXPECT_EQ(fault->strFile, m_folder.Path("Anello/hk.tga"));
+    EXPECT_TRUE(fault->strMessage.starts_with(L"non si può leggere: "));
+
+    // Mended, it is there at once; of a folder that cannot be listed nobody knows who is missing.
+    std::filesystem::remove(m_folder.Root() / "Anello");
+    WriteCatalogue("Anello", Products({"P"}));
+    EXPECT_EQ(Makers(), (std::vector<CString>{L"Alfa", L"Anello"}));
+    EXPECT_FALSE(GetCatalogueError(L"Anello"));
+    std::filesystem::create_directory_symlink("giro", m_folder.Root() / "giro");
+    OverrideHostSetting(kSettingHKDir, m_folder.Path("giro"));
+    EXPECT_EQ(Makers(), std::vector<CString>());
+    ASSERT_TRUE(GetCatalogueError(L"Alfa"));
+    EXPECT_EQ(GetCatalogueError(L"Alfa")->strFile, m_folder.Path("giro"));
+    ASSERT_EQ(GetListingErrors().size(), 1u);
+}
+
 TEST_F(CHostCatalogTest, AnotherFolderHasMakersOfItsOwn)
 {
     WriteCatalogue("Alfa", Products({"P"}));

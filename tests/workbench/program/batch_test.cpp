@@ -188,6 +188,28 @@ TEST_F(BatchTest, DamagedCatalogueLeavesTheOtherRoomsTheirs)
     EXPECT_EQ(ReadJson()["totals"]["chosen"].toInt(), 12); // three of the fifteen are Altovico's
 }
 
+TEST_F(BatchTest, AFolderThatCannotBeReadIsNoMissingMaker)
+{
+    ASSERT_EQ(Run({L"--save", m_folder.Path("casa.json")}), ExitCode::ok);
+    std::filesystem::create_directory(m_folder.Root() / "listini");
+    for (const wchar_t* maker : {L"Valmorena", L"Thörlinger", L"Lindenbrück", L"Altovico"}) {
+        const std::string name = Utf8FromWide(maker);
+        std::filesystem::create_directory_symlink(name, m_folder.Root() / "listini" / name);
+    }
+    const CString told = m_folder.Path("listini/Altovico/hk.tga") + L": non si può leggere: ";
+    for (const CString& building : {kSampleBuilding, m_folder.Path("casa.json")}) {
+        EXPECT_EQ(Run({L"--building", building, L"--catalogues", m_folder.Path("listini")}),
+                  ExitCode::badCatalogue);
+        EXPECT_NE(WideFromUtf8(m_out.str()).find(told), CString::npos);
+        EXPECT_EQ(m_out.str().find("i cataloghi non hanno"), std::string::npos);
+    }
+    EXPECT_EQ(ReadJson()["totals"]["chosen"].toInt(), 15) << "what stood there stays";
+
+    std::filesystem::create_directory_symlink("anello", m_folder.Root() / "anello");
+    EXPECT_EQ(Run({L"--catalogues", m_folder.Path("anello")}), ExitCode::wrongArguments);
+    EXPECT_NE(WideFromUtf8(m_err.str()).find(L"cataloghi non si può leggere: "), CString::npos);
+}
+
 TEST_F(BatchTest, DamagedValveFileLeavesTheOtherRoomsTheirs)
 {
     // A maker of its own: the module remembers valves of the sample makers.

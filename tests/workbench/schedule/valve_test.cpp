@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 
 using namespace reference_host;
 
@@ -129,6 +130,11 @@ TEST_F(ValveTest, MissingMakersAndFilesAreTold)
     EXPECT_EQ(FetchValves({CValveKey{L"D2", number}, {}}).vorlauf.strNote,
               L"manca il file " + m_folder.Path("D2/ha.tga"));
     EXPECT_EQ(FetchValves({CValveKey{L"D3", number}, {}}).vorlauf.status, ValveStatus::badFile);
+
+    std::filesystem::create_directory_symlink("D4", m_folder.Root() / "D4");
+    const CValveOutcome loop = FetchValves({CValveKey{L"D4", number}, {}}).vorlauf;
+    EXPECT_EQ(loop.status, ValveStatus::badFile);
+    EXPECT_TRUE(loop.strNote.starts_with(m_folder.Path("D4") + L": non si può leggere: "));
 }
 
 TEST(ValveSchedule, DamagedFileOfEitherValveCountsAndMissingOneDoesNot)

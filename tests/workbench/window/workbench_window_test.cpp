@@ -165,6 +165,24 @@ TEST_F(WorkbenchWindow, WorksOnTheRoomsThatAreMarked)
     EXPECT_EQ(Room(0, 3).heizkoerper.size(), 1u);
 }
 
+TEST_F(WorkbenchWindow, AValveFileCutShortIsToldAndChangesNothing)
+{
+    const fs::path valves = fs::path(m_folder.Path()) / "valvole";
+    fs::copy(fs::path(RADSEL_DATA_DIR) / "valves", valves, fs::copy_options::recursive);
+    for (const fs::directory_entry& maker : fs::directory_iterator(valves)) {
+        std::ofstream(maker.path() / "ha.tga", std::ios::app) << "100;\n";
+    }
+    const CSettingOverride damaged(kSettingVEDir, valves.wstring());
+    Do("sizeAll");
+    const std::string before = FormatBuilding(m_document.Building());
+    const CRoom& room = Room(0, 1);
+    ASSERT_TRUE(!room.heizkoerper.empty() && room.heizkoerper[0].ventile.vorlauf);
+    Mark({{0, 1}});
+    Do("connect");
+    EXPECT_EQ(FormatBuilding(m_document.Building()), before);
+    EXPECT_TRUE(Messages().contains("ha.tga: riga ")) << Messages().toStdString();
+}
+
 TEST_F(WorkbenchWindow, AnotherSystemShowsWhichRoomsLackAndRepairsThem)
 {
     Do("sizeAll");
