@@ -1,11 +1,13 @@
 // The pictures that README and docs show.
 //   radsel_make_doc_pictures <data folder> <picture folder>           writes them
 //   radsel_make_doc_pictures --check <data folder> <picture folder>   compares them with fresh ones
+// A picture that was to change is taken afresh by ninja radsel_doc_pictures.
 
 #include "host/host_prefs.h"
 #include "platform/encoding.h"
 #include "reference_host/prefs/host_settings.h"
 #include "tools/dialog_gallery.h"
+#include "tools/picture_compare.h"
 #include "uikit/application.h"
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
@@ -15,10 +17,9 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QPixmap>
+#include <QTemporaryDir>
 
 #include <cstdio>
-#include <cstdlib>
 #include <map>
 
 using namespace reference_host;
@@ -27,11 +28,7 @@ using namespace workbench;
 
 namespace {
 
-using Pictures = std::map<QString, QImage>;
-
-/// Mean difference of a colour channel, out of 255, below which two pictures show the same: what
-/// another version of a font does to edges of letters stays below it, another caption does not.
-constexpr double kSameToTheEye = 2.0;
+using Pictures = std::map<QString, CWindowPicture>;
 
 constexpr QSize kWindow(1180, 720);
 
@@ -52,7 +49,7 @@ void TakeDialogs(const std::string& data, Pictures& pictures)
             const QString target = file;
             const DialogObserver before = SetDialogObserver([&](CDialog& dialog) {
                 QCoreApplication::processEvents();
-                pictures[target] = CNativeAccess::Widget(dialog)->grab().toImage();
+                pictures[target] = TakePicture(*CNativeAccess::Widget(dialog));
                 dialog.EndDialog(kIdCancel);
             });
             entry.open();
@@ -75,34 +72,16 @@ void TakeWindow(const CString& data, Pictures& pictures)
     window.show();
     window.findChild<CFloorScene*>()->MarkRooms({{0, 1}});
     QCoreApplication::processEvents();
-    pictures["workbench.png"] = window.grab().toImage();
-}
-
-double Difference(const QImage& a, const QImage& b)
-{
-    if (a.size() != b.size()) {
-        return 255.0;
-    }
-    double sum = 0.0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QColor first = a.pixelColor(x, y);
-            const QColor second = b.pixelColor(x, y);
-            sum += std::abs(first.red() - second.red()) + std::abs(first.green() - second.green()) +
-                   std::abs(first.blue() - second.blue());
-        }
-    }
-    return sum / (3.0 * a.width() * a.height());
+    pictures["workbench.png"] = TakePicture(window);
 }
 
 bool Compare(const Pictures& pictures, const QDir& folder)
 {
     bool same = true;
     for (const auto& [name, fresh] : pictures) {
-        const double difference = Difference(fresh, QImage(folder.filePath(name)));
-        if (difference > kSameToTheEye) {
-            std::fprintf(stderr, "%s is stale: a fresh one differs by %.1f of 255\n",
-                         qPrintable(folder.filePath(name)), difference);
+        for (const QString& change : FindChanges(fresh, QImage(folder.filePath(name)))) {
+            std::fprintf(stderr, "%s is stale: %s\n", qPrintable(folder.filePath(name)),
+                         qPrintable(change));
             same = false;
         }
     }
@@ -113,9 +92,23 @@ bool Write(const Pictures& pictures, const QDir& folder)
 {
     bool written = folder.mkpath(".");
     for (const auto& [name, picture] : pictures) {
-        written = picture.save(folder.filePath(name)) && written;
+        written = picture.image.save(folder.filePath(name)) && written;
     }
     return written;
+}
+
+/// Makes the pictures the same whoever takes them: none of his settings, and folders as seen from
+/// the data's neighbourhood, since a dialog shows them.
+QString EnterNeutralPlace(const QTemporaryDir& settings, const QString& data)
+{
+    qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+    for (const char* const name : {"TGA_DATA_SINGLE", "QT_SCALE_FACTOR", "QT_FONT_DPI",
+                                   "QT_STYLE_OVERRIDE", "XDG_CURRENT_DESKTOP"}) {
+        qunsetenv(name);
+    }
+    const QDir folder(QDir(data).absolutePath());
+    QDir::setCurrent(folder.filePath(".."));
+    return folder.dirName();
 }
 
 } // namespace
@@ -127,8 +120,9 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "usage: radsel_make_doc_pictures [--check] <data folder> <folder>\n");
         return 2;
     }
-    const char* const data = argv[argc - 2];
-    const QDir folder(argv[argc - 1]);
+    const QDir folder(QDir(argv[argc - 1]).absolutePath());
+    const QTemporaryDir settings;
+    const std::string data = EnterNeutralPlace(settings, argv[argc - 2]).toStdString();
     EnsureApplication();
     SetDialogFontSize(8);
     Pictures pictures;
