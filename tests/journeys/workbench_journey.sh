@@ -1,39 +1,26 @@
 #!/usr/bin/env bash
 # A working day in the workbench, with keys and mouse on a screen of its own: place a radiator, size
 # all rooms, connect, change the system, repair, save, survive a crash, open, export, compare.
-# Usage: workbench_journey.sh PROGRAM DATA_FOLDER
+# Usage: workbench_journey.sh PROGRAM DATA_FOLDER PLUGIN_FOLDER
 set -euo pipefail
 
 source "$(dirname "${BASH_SOURCE[0]}")/journey.sh"
 
 building=
 options=()
+totals=
 
-keys() { xdotool key --clearmodifiers --delay 40 "$@"; }
-
-# Whether a window of that caption is there, and takes keys and clicks.
-window_is_up() {
-    ! program_ended || fail "the program has ended"
-    local found
-    found=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | tail -n 1) && [[ -n $found ]] &&
-        xdotool windowfocus --sync "$found" && window=$found
-}
-
-window_is_gone() { ! xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
+selection='Scelta Corpi scaldanti'
+connections='Parametri valvole e attacco corpi scaldanti'
+system='Sistema di riscaldamento'
 
 open_workbench() {
     "$program" "${options[@]}" >"$scratch/out" 2>"$scratch/program.log" &
     job=$!
-    await "the workbench" window_is_up "$1"
-    main=$window
+    bring_to_front "$1"
 }
 
-# As a desktop does when a dialog closes.
-back_to_plan() {
-    await "the end of the dialog" window_is_gone "$1"
-    xdotool windowfocus --sync "$main"
-    window=$main
-}
+back_to_plan() { bring_to_front 'Villa dei Tigli*'; }
 
 # Unsaved work is kept in a file shortly after each change, which shows what the window holds.
 kept() { cat "$scratch"/kept/workplace/recupero-*.json 2>/dev/null || true; }
@@ -42,54 +29,76 @@ keeps_radiators() { [[ $(radiators_in "$(kept)") -eq $1 ]]; }
 keeps_text() { grep -q "$1" <<<"$(kept)"; }
 nothing_kept() { [[ -z $(kept) ]]; }
 
-# A double click on a place of the plan, told in hundredths of the window.
-double_click() {
-    eval "$(xdotool getwindowgeometry --shell "$window" | grep -E '^(WIDTH|HEIGHT)=')"
-    xdotool mousemove --sync --window "$window" $((WIDTH * $1 / 100)) $((HEIGHT * $2 / 100)) \
-        click --repeat 2 --delay 60 1
+# The middle of a room in metres of the plan, as the building's file tells it.
+middle_of_room() {
+    sed -nE "/\"name\": \"$1\"/,/\"outline\"/s/.*\"outline\": *(.*)/\1/p" "$building" |
+        tr -dc '0-9,\n' | awk -F, '{ printf "%f,%f", ($1 + $3 / 2) / 1000, ($2 + $4 / 2) / 1000 }'
 }
 
+# Waits for the totals of the plan to change, and leaves them in "totals".
+await_other_totals() {
+    await "other totals than \"$totals\"" totals_changed
+    totals=$found_text
+}
+totals_changed() { ask totals && [[ $found_text != "$totals" ]]; }
+
 place_by_mouse() {
-    double_click 29 52 # the living room
-    await "the selection" window_is_up '^Scelta Corpi scaldanti$'
-    keys shift+Tab shift+Tab shift+Tab shift+Tab shift+Tab shift+Tab shift+Tab Return
-    back_to_plan '^Scelta Corpi scaldanti$'
-    await "the radiator in the plan" keeps_radiators 1
+    step "choose a radiator for the living room"
+    double_click "plan @ $(middle_of_room Soggiorno)"
+    await_window "$selection"
+    tab_to 18001 shift+Tab
+    keys Return
+    back_to_plan
+    await_other_totals
 }
 
 size_all_and_undo() {
+    local one=$totals
+    step "size all rooms"
     keys ctrl+d
-    await "radiators in all rooms but two" keeps_radiators 15
+    await_other_totals
+    step "undo the sizing"
     keys ctrl+z
-    await "the one radiator" keeps_radiators 1
+    expect_text totals "$one"
+    step "repeat the sizing, in which two rooms get none"
     keys ctrl+y
-    await "radiators again" keeps_radiators 15
+    expect_text totals "$totals"
+    await "15 radiators, kept" keeps_radiators 15
 }
 
 connect_all() {
-    keys ctrl+a F6 # all rooms of the floor, of which eight have a radiator
-    await "the connections" window_is_up '^Parametri valvole e attacco'
+    step "connect the rooms of the floor, of which eight have a radiator"
+    keys ctrl+a F6
+    await_window "$connections"
     keys Return
-    back_to_plan '^Parametri valvole e attacco'
+    back_to_plan
     await "both points of every radiator" eval '[[ $(grep -c "\"point\": \"-\?0" <<<"$(kept)") -eq 16 ]]'
 }
 
 change_system_and_repair() {
+    step "change the heating system"
     keys F9
-    await "the system" window_is_up '^Sistema di riscaldamento$'
-    keys Tab ctrl+a 5 5 Tab ctrl+a 4 5 Return
-    back_to_plan '^Sistema di riscaldamento$'
-    await "the other system" keeps_text '"supply": 55,'
+    await_window "$system"
+    tab_to supply
+    keys ctrl+a 5 5
+    tab_to return
+    keys ctrl+a 4 5 Return
+    back_to_plan
+    await_other_totals
+    [[ $totals == *55/45* ]] || fail "expected the system 55/45, found $totals"
+    step "repair what it broke"
     keys ctrl+shift+r # one step, which the file saved next holds
 }
 
 save() {
+    step "save the building"
     keys ctrl+s
     await "the saved file" grep -q '"supply": 55,' "$building"
     await "nothing unsaved" nothing_kept
 }
 
 crash_and_recover() {
+    step "remove the radiators of the rooms that are marked and crash"
     keys ctrl+a Delete
     await "the removal, kept for a crash" keeps_text "$building"
     local before
@@ -97,34 +106,42 @@ crash_and_recover() {
     kill -KILL "$job"
     wait "$job" 2>/dev/null || true
     job=
-    [[ $(radiators_in "$(cat "$building")") -gt $before ]] || fail "the removal removed nothing"
-    open_workbench '^radsel$'
-    keys Return # recover
-    await "the recovered work" window_is_up 'Villa dei Tigli'
-    main=$window
+    [[ $(radiators_in "$(cat "$building")") -gt $before ]] ||
+        fail "expected fewer than the saved radiators, found $before"
+    step "recover the work"
+    open_workbench radsel
+    keys Return
+    back_to_plan
     keys ctrl+s
     await "the recovered work in the file" eval '[[ $(radiators_in "$(cat "$building")") -eq '"$before"' ]]'
 }
 
 export_and_compare() {
+    step "size all rooms of the recovered work"
     keys ctrl+d
-    await "all rooms sized again" eval '[[ $(radiators_in "$(kept)") -ge 10 ]]'
+    await "10 radiators or more, kept" eval '[[ $(radiators_in "$(kept)") -ge 10 ]]'
+    step "save the recovered work"
     keys ctrl+s
     await "nothing unsaved" nothing_kept
+    step "export the project"
     keys ctrl+p
-    await "the file dialog" window_is_up '^Esporta il progetto$'
+    await_window 'Esporta il progetto'
+    expect_state fileNameEdit focused
     xdotool type --delay 20 "$scratch/kept/progetto.pdf"
     keys Return
     await "the exported file" test -s "$scratch/kept/progetto.pdf"
-    back_to_plan '^Esporta il progetto$'
-    [[ $(head -c 5 "$scratch/kept/progetto.pdf") == %PDF- ]] || fail "the export is no PDF"
+    back_to_plan
+    local start
+    start=$(head -c 5 "$scratch/kept/progetto.pdf")
+    [[ $start == %PDF- ]] || fail "expected a PDF, found a file that starts with \"$start\""
+    step "leave the workbench"
     keys ctrl+q
     expect_exit 0
 
-    # The command line on the saved building writes the same building again.
+    step "write the saved building again by the command line"
     "$program" --batch "${options[@]}" --output "$scratch/kept/out" --save "$scratch/kept/again.json" \
-        >"$scratch/out" 2>"$scratch/program.log" || fail "the run without windows"
-    cmp "$building" "$scratch/kept/again.json" || fail "the building came out another"
+        >"$scratch/out" 2>"$scratch/program.log" || fail "expected exit code 0, found $?"
+    cmp "$building" "$scratch/kept/again.json" || fail "expected the same building, found another"
 }
 
 start_screen
@@ -132,7 +149,10 @@ building=$scratch/kept/casa.json
 cp "$data/buildings/villa-dei-tigli.json" "$building"
 options=(--building "$building" --catalogues "$data/catalogues" --valve-catalogues "$data/valves"
     --workplace "$scratch/kept/workplace")
-open_workbench 'Villa dei Tigli'
+step "open the workbench"
+open_workbench 'Villa dei Tigli*'
+ask totals
+totals=$found_text
 place_by_mouse
 size_all_and_undo
 connect_all

@@ -148,7 +148,7 @@ private:
     CComboBox m_editableList;
 };
 
-/// The journey of this key runs it on the desktops whose toolkit takes Enter for a press.
+/// On desktops whose toolkit takes Enter for a press, the journey of this key shows the same.
 TEST_F(BrushedDialog, EnterIsTheDialogsInControlsOfEveryKind)
 {
     for (const bool asTab : {false, true}) {
