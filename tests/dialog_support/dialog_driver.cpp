@@ -145,24 +145,6 @@ void CDialogUser::ChooseOpacity(int id, const std::vector<Qt::Key>& keys) const
     Press(Qt::Key_Space, Qt::AltModifier);
 }
 
-std::vector<CRect> CDialogUser::Grow(int dx, int dy, const std::vector<int>& ids) const
-{
-    std::vector<CRect> moves;
-    for (const int id : ids) {
-        moves.push_back(m_dialog.GetDlgItem(id).GetPlace());
-    }
-    CRect window = m_dialog.GetWindowRect();
-    window.right += dx;
-    window.bottom += dy;
-    m_dialog.MoveWindow(window);
-    for (std::size_t i = 0; i < ids.size(); ++i) {
-        const CRect now = m_dialog.GetDlgItem(ids[i]).GetPlace();
-        moves[i] = {now.left - moves[i].left, now.top - moves[i].top, now.right - moves[i].right,
-                    now.bottom - moves[i].bottom};
-    }
-    return moves;
-}
-
 void CDialogUser::Step(int id, int delta) const
 {
     QTest::keyClick(&Widget(id), delta < 1 ? Qt::Key_Down : Qt::Key_Up);

@@ -39,8 +39,6 @@ public:
     /// Opens the system menu from a control, chooses the opacity there, its last entry, and presses
     /// keys in the dialog that opens.
     void ChooseOpacity(int id, const std::vector<Qt::Key>& keys) const;
-    /// Makes the dialog larger and returns how far the edges of the controls went.
-    std::vector<CRect> Grow(int dx, int dy, const std::vector<int>& ids) const;
     /// One press of an arrow of a spin.
     void Step(int id, int delta) const;
 

@@ -1,3 +1,4 @@
+#include "dialogs/resizing_dialog.h"
 #include "module/radsel_app.h"
 #include "tests/dialog_support/dialog_driver.h"
 #include "tests/support/message_log.h"
@@ -18,6 +19,8 @@
 #include <QTest>
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 using namespace reference_host;
 
@@ -225,13 +228,130 @@ void CheckKeyboard(const CDialog& dialog, const std::vector<Part>& parts, Compla
     }
 }
 
-Complaints Check(const CDialog& dialog)
+/// By which share of the dialog's growth the near and the far edge of a control go.
+struct Way
+{
+    double near = 0.0;
+    double far = 0.0;
+};
+
+constexpr Way kStays{};
+constexpr Way kStretches{0.0, 1.0};
+constexpr Way kGoesAlong{1.0, 1.0};
+constexpr Way kKeepsToTheMiddle{0.5, 0.5};
+
+struct Followers
+{
+    int firstId;
+    int lastId;
+    Way x;
+    Way y;
+};
+
+/// The dialogs that users may size, and the controls that follow; all others stay.
+using SizingRules = std::map<int, std::vector<Followers>>;
+
+const SizingRules kSizingRules = {
+    {18000,
+     {{18001, 18001, kStretches, kStretches},
+      {18000, 18000, kStays, kStretches},
+      {kIdOk, kIdCancel, kKeepsToTheMiddle, kGoesAlong},
+      {563, 563, kStays, kStretches}}},
+    {18002,
+     {{18000, 18000, kStretches, kStretches},
+      {kIdOk, kIdCancel, kGoesAlong, kGoesAlong},
+      {563, 563, kStays, kStretches}}},
+    {18003,
+     {{kIdOk, kIdCancel, kGoesAlong, kGoesAlong},
+      {18019, 18019, kStretches, kStretches},
+      {18051, 18066, kGoesAlong, kStays},
+      {18022, 18032, kGoesAlong, kStays},
+      {371, 371, kGoesAlong, kStays},
+      {18035, 18037, kGoesAlong, kStays},
+      {18039, 18039, kStretches, kStays},
+      {18043, 18043, kGoesAlong, kStays},
+      {563, 563, kStays, kStretches}}},
+};
+
+QRect Followed(const Part& part, const std::vector<Followers>& rules, const QSize& growth)
+{
+    const int id = part.control.id;
+    const auto rule = std::ranges::find_if(
+        rules, [id](const Followers& f) { return id >= f.firstId && id <= f.lastId; });
+    const auto [x, y] =
+        rule == rules.end() ? std::pair(kStays, kStays) : std::pair(rule->x, rule->y);
+    const auto share = [](double part, int whole) { return static_cast<int>(part * whole); };
+    return part.place.adjusted(share(x.near, growth.width()), share(y.near, growth.height()),
+                               share(x.far, growth.width()), share(y.far, growth.height()));
+}
+
+std::string Text(const QRect& place)
+{
+    return std::to_string(place.left()) + ',' + std::to_string(place.top()) + ' ' +
+           std::to_string(place.width()) + 'x' + std::to_string(place.height());
+}
+
+/// Sizes the dialog as far as it lets itself be, and looks where its controls have gone.
+void CheckEnlarged(CDialog& dialog, const std::vector<Followers>& rules, Complaints& complaints)
+{
+    constexpr int kGrowth = 300;
+    const std::vector<Part> before = PartsOf(dialog);
+    const QRect small = ToNative(dialog.GetClientRect());
+    CRect window = dialog.GetWindowRect();
+    window.right += kGrowth;
+    window.bottom += kGrowth;
+    dialog.MoveWindow(window);
+    const std::vector<Part> after = PartsOf(dialog);
+    const QSize growth = ToNative(dialog.GetClientRect()).size() - small.size();
+    if (growth.isNull()) {
+        complaints.push_back("does not grow");
+    }
+    for (std::size_t i = 0; i < after.size(); ++i) {
+        const QRect expected = Followed(before.at(i), rules, growth);
+        if (after[i].place != expected) {
+            complaints.push_back("lost its anchor: " + Name(after[i]) + " at " +
+                                 Text(after[i].place) + ", not " + Text(expected));
+        }
+        for (std::size_t k = 0; k < after.size(); ++k) {
+            if (Holds(before[k], before[i]) && !Holds(after[k], after[i])) {
+                complaints.push_back("left its frame: " + Name(after[i]) + " of " + Name(after[k]));
+            }
+        }
+    }
+    CheckCaptions(after, complaints);
+    CheckPlaces(dialog, after, complaints);
+}
+
+/// Anchors along a direction that a dialog locks are told all the same.
+class CUnlocked : public CResizingDialog
+{
+public:
+    static constexpr auto Sizing() { return &CUnlocked::GroesseErlauben; }
+};
+
+void CheckSizing(CDialog& dialog, const SizingRules& rules, Complaints& complaints)
+{
+    const auto rule = rules.find(dialog.GetTemplateId());
+    if (dialog.IsResizable() != (rule != rules.end())) {
+        complaints.push_back("sizing and its rules disagree");
+    } else if (dialog.IsResizable()) {
+        CheckEnlarged(dialog, rule->second, complaints);
+        (dynamic_cast<CResizingDialog&>(dialog).*CUnlocked::Sizing())(true, true);
+        CheckEnlarged(dialog, rule->second, complaints);
+    }
+}
+
+Complaints Check(CDialog& dialog, const SizingRules& rules)
 {
     const std::vector<Part> parts = PartsOf(dialog);
     Complaints complaints;
     CheckCaptions(parts, complaints);
     CheckPlaces(dialog, parts, complaints);
     CheckKeyboard(dialog, parts, complaints);
+    CheckSizing(dialog, rules, complaints);
+    for (std::string& complaint : complaints) {
+        complaint.insert(0, std::to_string(dialog.GetTemplateId()) + ": ");
+    }
     return complaints;
 }
 
@@ -286,7 +406,7 @@ protected:
               for (const int id : m_presses) {
                   CDialogUser(dialog).Click(id);
               }
-              m_complaints = Check(dialog);
+              m_complaints = Check(dialog, m_sizingRules);
               dialog.EndDialog(kIdCancel);
           }))
     {
@@ -304,13 +424,14 @@ protected:
 
     CMessageLog m_messages;
     Complaints m_complaints;
+    SizingRules m_sizingRules = kSizingRules;
     int m_opened = 0;
     std::vector<int> m_presses;
     DialogObserver m_before;
     CWinApp* m_appBefore = CWinApp::MakeCurrent(&theApp);
 };
 
-TEST_P(AllDialogs, FitTheirCaptionsAndWorkByKeyboard)
+TEST_P(AllDialogs, FitTheirCaptionsWorkByKeyboardAndFollowTheirSize)
 {
     const CTempFolder workplace;
     const CSettingOverride valves(kSettingVEDir, L"");
@@ -354,15 +475,70 @@ TEST_P(AllDialogs, FaultsAreFound)
     };
     CNarrowed(dialog, {10, 11}).DoModal();
     EXPECT_EQ(m_complaints, (Complaints{
-                                "caption does not fit: 10 \"Una didascalia troppo lunga\"",
-                                "caption does not fit: 11 \"Un pulsante troppo lungo\"",
-                                "caption does not fit: 12 \"Bassa\"",
-                                "overlap: 20 \"Cornice\" and 21 \"\"",
-                                "overlap: 20 \"Cornice\" and 22 \"\"",
-                                "outside: 2 \"No\"",
-                                "no way in by keyboard: 2 \"No\"",
-                                "read before 25 \"\": 26 \"\"",
+                                "7002: caption does not fit: 10 \"Una didascalia troppo lunga\"",
+                                "7002: caption does not fit: 11 \"Un pulsante troppo lungo\"",
+                                "7002: caption does not fit: 12 \"Bassa\"",
+                                "7002: overlap: 20 \"Cornice\" and 21 \"\"",
+                                "7002: overlap: 20 \"Cornice\" and 22 \"\"",
+                                "7002: outside: 2 \"No\"",
+                                "7002: no way in by keyboard: 2 \"No\"",
+                                "7002: read before 25 \"\": 26 \"\"",
                             }));
+}
+
+/// A dialog some of whose controls follow and others do not.
+class CHalfAnchored : public CResizingDialog
+{
+public:
+    using CResizingDialog::CResizingDialog;
+
+protected:
+    bool OnInitDialog() override
+    {
+        CResizingDialog::OnInitDialog();
+        GroesseErlauben(true, false);
+        AnkerSetzen(20, ankerStrecken, ankerFest, false);
+        AnkerSetzen(22, ankerMitgehen, ankerFest, false);
+        AnkerSetzen(30, ankerMitgehen, ankerMitgehen, false);
+        return true;
+    }
+};
+
+TEST_P(AllDialogs, LostAnchorsAreFound)
+{
+    using enum ControlKind;
+    static const DialogTemplate dialog = {7003,
+                                          L"Guasta",
+                                          200,
+                                          100,
+                                          frameResizable,
+                                          {{20, edit, L"", 4, 4, 90, 13},
+                                           {21, edit, L"", 104, 4, 40, 13},
+                                           {23, groupBox, L"", 4, 34, 90, 40},
+                                           {22, edit, L"", 8, 42, 40, 13},
+                                           {kIdOk, defaultButton, L"OK", 100, 80, 44, 14},
+                                           {30, button, L"Via", 150, 80, 44, 14}}};
+    m_sizingRules = {{7003,
+                      {{20, 20, kStretches, kStays},
+                       {21, 21, kGoesAlong, kStays},
+                       {22, 22, kGoesAlong, kStays},
+                       {30, 30, kGoesAlong, kGoesAlong},
+                       {kIdOk, kIdOk, kStays, kGoesAlong}}}};
+    CHalfAnchored(dialog).DoModal();
+    std::string complaints;
+    for (const std::string& complaint : m_complaints) {
+        complaints += complaint.substr(0, complaint.find(" at ")) + '\n';
+    }
+    EXPECT_EQ(complaints, "7003: lost its anchor: 21 \"\"\n"
+                          "7003: left its frame: 22 \"\" of 23 \"\"\n"
+                          "7003: overlap: 20 \"\" and 21 \"\"\n"
+                          // The height is locked at first.
+                          "7003: lost its anchor: 21 \"\"\n"
+                          "7003: lost its anchor: 1 \"OK\"\n"
+                          "7003: overlap: 20 \"\" and 21 \"\"\n");
+    m_sizingRules.clear();
+    CHalfAnchored(dialog).DoModal();
+    EXPECT_EQ(m_complaints, Complaints{"7003: sizing and its rules disagree"});
 }
 
 /// The last one is wider than others where captions are, in letters of the lower case.

@@ -214,18 +214,4 @@ TEST_F(CAuswahlDialogTest, NumbersShowPlainAndKeepWhatTheirTextCannotHold)
     EXPECT_EQ(m_uebergabe.Vorlauf, 75.0 + 1.0 / 3.0);
 }
 
-TEST_F(CAuswahlDialogTest, InATallerDialogTreeAndGridGrow)
-{
-    Zeige([](CDialogUser& user) {
-        const std::pair<CRect, std::vector<int>> cases[] = {
-            {{0, 0, 0, 90}, {kBaum, kGitter, 563}},
-            {{0, 90, 0, 90}, {kIdOk, kIdCancel}},
-            {{}, {7028, 18109}},
-        };
-        for (const auto& [growth, ids] : cases) {
-            EXPECT_EQ(user.Grow(0, 90, ids), std::vector(ids.size(), growth)) << ids[0];
-        }
-    });
-}
-
 } // namespace

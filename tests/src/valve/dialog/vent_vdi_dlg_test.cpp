@@ -454,22 +454,4 @@ TEST_F(CVentVdiDlgTest, PlaceAndOpacityAreKeptByOkAlone)
     }));
 }
 
-TEST_F(CVentVdiDlgTest, ControlsFollowTheSizeOfTheWindow)
-{
-    Schreibe("Alfa", kAlfa);
-    EXPECT_FALSE(Oeffne([](CDialogUser& user) {
-        const std::pair<CRect, std::vector<int>> cases[] = {
-            {{100, 50, 100, 50}, {kIdOk, kIdCancel}},
-            {{0, 0, 100, 50}, {kBaum}},
-            {{100, 0, 100, 0}, {18051, 18066, 18022, 18029, 18032, kDN, 18035, 18037, 18043}},
-            {{0, 0, 100, 0}, {kHersteller}},
-            {{0, 0, 0, 50}, {563}},
-        };
-        for (const auto& [growth, ids] : cases) {
-            EXPECT_EQ(user.Grow(100, 50, ids), std::vector(ids.size(), growth)) << ids[0];
-        }
-        user.Click(kIdCancel);
-    }));
-}
-
 } // namespace
