@@ -1,9 +1,13 @@
 #pragma once
 
 #include "frame/entry_points.h"
+#include "frame/handover.h"
+#include "host/host_catalog.h"
+#include "platform/encoding.h"
 #include "tests/dialog_support/dialog_driver.h"
 #include "tests/dialog_support/empty_drawer.h"
-#include "tests/src/selection/muster_uebergabe.h"
+#include "tests/support/setting_override.h"
+#include "tests/support/temp_folder.h"
 #include "uikit/native/access.h"
 
 #include <gtest/gtest.h>
@@ -108,16 +112,45 @@ public:
 };
 
 /// The selection dialog over the sample catalogues, with stores of the test's own.
-class CAuswahlDialogTest : public CMusterAuswahlTest
+class CAuswahlDialogTest : public testing::Test
 {
 protected:
+    /// A wish for 1000 W out of a product of the catalogues, at temperatures that are no whole
+    /// degrees.
     CAuswahlDialogTest()
     {
         setenv("XDG_CONFIG_HOME", m_folder.Root().c_str(), 1);
+        std::filesystem::create_directories(m_folder.Root() / "HEIZUNG");
+        m_uebergabe.Hersteller = L"Valmorena";
+        m_uebergabe.Art = L"Radiatori a piastra compatti";
+        m_uebergabe.Produkt = L"Tipo 22";
+        m_uebergabe.Leistung = 1000.0;
+        m_uebergabe.LaengeMin = 400.0;
+        m_uebergabe.LaengeMax = 3000.0;
+        m_uebergabe.HoeheMin = 300.0;
+        m_uebergabe.HoeheMax = 600.0;
+        m_uebergabe.TiefeMax = 500.0;
+        m_uebergabe.Vorlauf = 75.4;
+        m_uebergabe.Ruecklauf = 65.2;
+        m_uebergabe.Raumtemperatur = 20.5;
         m_uebergabe.NeuLesen = 1;
     }
 
-    ~CAuswahlDialogTest() override { unsetenv("XDG_CONFIG_HOME"); }
+    ~CAuswahlDialogTest() override
+    {
+        unsetenv("XDG_CONFIG_HOME");
+        // Tests that bring rows of their own want the makers unread.
+        for (auto* maker = ReadHKDaten(); maker != nullptr; maker = maker->pNext) {
+            maker->pArt = nullptr;
+        }
+    }
+
+    void Raum(double bedarf, double gedeckt)
+    {
+        m_uebergabe.Raumname = L"PT.Cucina";
+        m_uebergabe.RaumBedarf = bedarf;
+        m_uebergabe.RaumGedeckt = gedeckt;
+    }
 
     /// Opens the dialog through the export and returns its result.
     int Oeffne(const CDialogDriver::Script& script, bool warnen = false)
@@ -139,8 +172,15 @@ protected:
         });
     }
 
+    CTempFolder m_folder;
+    CSettingOverride m_root{reference_host::kSettingServerPath, m_folder.Path()};
+    CSettingOverride m_def{reference_host::kSettingDefFolder, m_folder.Path()};
+    CSettingOverride m_hk{reference_host::kSettingHKDir,
+                          WideFromUtf8(RADSEL_DATA_DIR "/catalogues")};
+    CSettingOverride m_template{reference_host::kSettingHKLayer, L"HEIZ_$d"};
     CSettingOverride m_local{reference_host::kSettingLocalPath, m_folder.Path()};
     CSettingOverride m_blocks{reference_host::kSettingHKBlockFolder, L"blocchi"};
+    HK_DATEN_VDI3805_UEBERGABE m_uebergabe;
     CAuswahlDrawer m_drawer;
     CDrawer* m_pDrawer = &m_drawer;
     CString m_layer = L"HEIZ_$d__";

@@ -34,8 +34,10 @@ TEST_F(CAuswahlDialogTest, AFolderTakesTheRowsAwayAndNothingElse)
         EXPECT_EQ(Oeffne([&](CDialogUser& user) {
                       const auto rows = GitterZeilen(user);
                       KlickeZeile(user, 2);
+                      const CString leistung = user.Text(18011);
                       user.ChooseInTree(kBaum, {L"Valmorena"});
                       EXPECT_TRUE(GitterZeilen(user).empty());
+                      EXPECT_EQ(user.Text(18011), leistung);
                       if (tippen) {
                           user.Type(18003, L"3001");
                           EXPECT_EQ(GitterZeilen(user), rows);

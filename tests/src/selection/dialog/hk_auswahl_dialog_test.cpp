@@ -24,6 +24,8 @@ TEST_F(CAuswahlDialogTest, OpensOnTheHandOver)
                   EXPECT_EQ(m_uebergabe.Raumtemperatur, 20.5) << "showing does not round it";
                   EXPECT_EQ(user.Texts({7007, 7008, 7009}), (Texte{L"", L"75.4", L"65.2"}));
                   EXPECT_FALSE(user.IsChecked(18017) || user.IsChecked(18047));
+                  EXPECT_EQ(user.Items(18004), user.Items(18008));
+                  EXPECT_EQ(user.Texts({18004, 18008}), (Texte{L"300", L"600"}));
                   EXPECT_TRUE(user.IsEnabled(18005) && user.IsEnabled(18011));
                   EXPECT_TRUE(Verbietet(user, {250, 3187, 18016}));
                   EXPECT_FALSE(user.Widget(3232).isVisible());
@@ -57,16 +59,19 @@ TEST_F(CAuswahlDialogTest, StoringAndDeletingHaveTheirOwnIcons)
 TEST_F(CAuswahlDialogTest, WithoutDrawingOrProductTheDialogStillWorks)
 {
     m_pDrawer = nullptr;
-    m_uebergabe.Produkt = L"Tipo 99";
+    m_uebergabe.Hersteller = L"Nessuno";
     EXPECT_EQ(Oeffne([&](CDialogUser& user) {
                   EXPECT_TRUE(user.Items(3187).empty());
                   EXPECT_TRUE(user.Items(18080).empty());
                   EXPECT_TRUE(GitterZeilen(user).empty());
+                  EXPECT_EQ(m_uebergabe.NeuLesen, 0) << "the wish of before";
                   const auto timer = [&] { return user.Text(18011) == L"Resa\nC.S"; };
                   EXPECT_TRUE(QTest::qWaitFor(timer)) << "row -1, the heading";
                   EXPECT_EQ(user.Text(18015), L"-100.0");
                   user.Click(3144);
                   user.Type(18003, L"2000");
+                  EXPECT_EQ(m_uebergabe.HoeheMin, 300.0) << "empty lists leave the limits";
+                  EXPECT_EQ(m_uebergabe.TiefeMax, 500.0);
                   constexpr int kZweiTakte = 200;
                   EXPECT_FALSE(QTest::qWaitFor(timer, kZweiTakte)) << "the timer ticks once";
                   user.Click(18017);
@@ -75,63 +80,6 @@ TEST_F(CAuswahlDialogTest, WithoutDrawingOrProductTheDialogStillWorks)
               -1);
     EXPECT_EQ(m_layer, L"HEIZ_$d__");
     EXPECT_EQ(m_farbe, 5);
-}
-
-TEST_F(CAuswahlDialogTest, OkWithoutARowIsToldAndTheWarningComesOnce)
-{
-    m_uebergabe.LaengeMin = m_uebergabe.LaengeMax = 1.0;
-    EXPECT_EQ(Oeffne(
-                  [&](CDialogUser& user) {
-                      ASSERT_EQ(m_driver.Messages().size(), 1U);
-                      EXPECT_EQ(m_driver.Messages()[0].caption, L"Scelta Corpi scaldanti");
-                      user.Type(18003, L"400");
-                      EXPECT_FALSE(GitterZeilen(user).empty());
-                      user.Type(18003, L"2");
-                      EXPECT_TRUE(GitterZeilen(user).empty());
-                      EXPECT_EQ(user.Text(18011), L"");
-                      EXPECT_EQ(m_driver.Messages().size(), 1U);
-                      user.Click(kIdOk);
-                  },
-                  true),
-              -1);
-}
-
-TEST_F(CAuswahlDialogTest, FieldsRaiseTheirEvents)
-{
-    Raum(3000.0, 4000.0);
-    Zeige([&](CDialogUser& user) {
-        EXPECT_EQ(user.Text(18005), L"-1000");
-        user.Click(18047);
-        EXPECT_EQ(user.Text(18005), L"0");
-        user.Click(18049);
-        EXPECT_FALSE(user.IsChecked(18047));
-        EXPECT_EQ(user.Text(18005), L"1500");
-        EXPECT_TRUE(user.IsEnabled(18016));
-        user.Type(18016, L"3.");
-        EXPECT_EQ(user.Text(18005), L"90");
-        EXPECT_EQ(user.Text(18016), L"3.") << "still typing";
-        user.Type(18016, L"3.1");
-        EXPECT_EQ(user.Text(18005), L"93");
-        user.Click(18047);
-        EXPECT_FALSE(user.IsChecked(18049)) << "one of the two";
-        EXPECT_FALSE(user.IsEnabled(18016));
-        EXPECT_EQ(user.Text(18005), L"0");
-
-        const double faktor = m_uebergabe.Umrechnungsfaktor;
-        user.Type(18107, L"24,5");
-        EXPECT_EQ(m_uebergabe.Umrechnungsfaktor, faktor) << "until the field is left";
-        user.Focus(18002);
-        EXPECT_LT(m_uebergabe.Umrechnungsfaktor, faktor);
-        EXPECT_TRUE(Verbietet(user, {18005, 18011}));
-
-        user.Click(18019);
-        EXPECT_TRUE(Verbietet(user, {18002, 18003, 18004, 18008, 18009, 18010}));
-        user.Click(18019);
-        EXPECT_FALSE(user.IsEnabled(18005));
-        EXPECT_TRUE(user.IsEnabled(18002));
-        user.Type(18107, L"");
-        EXPECT_EQ(m_uebergabe.Raumtemperatur, 0.0);
-    });
 }
 
 /// Boxes of two heights and three depths, one of each.
@@ -161,9 +109,14 @@ TEST_F(CMassTest, TheListsShowTheLimitsOrTheWholeRange)
     {
         double min, max;
         CString von, bis;
+        std::size_t zeilen;
     } cases[] = {
-        {60.0, 100.0, L"60", L"100"}, {100.0, 100.0, L"100", L"100"}, {6.0, 16.0, L"60", L"160"},
-        {61.0, 100.0, L"60", L"160"}, {100.0, 200.0, L"60", L"160"},
+        {60.0, 100.0, L"60", L"100", 4},
+        {100.0, 100.0, L"100", L"100", 2},
+        // The bounds change, the rows not yet, unless there is none.
+        {61.0, 100.0, L"60", L"160", 2},
+        {100.0, 200.0, L"60", L"160", 4},
+        {6.0, 16.0, L"60", L"160", 6},
     };
     for (const auto& c : cases) {
         m_uebergabe.TiefeMin = c.min;
@@ -171,6 +124,7 @@ TEST_F(CMassTest, TheListsShowTheLimitsOrTheWholeRange)
         Zeige([&](CDialogUser& user) {
             EXPECT_EQ(user.Text(18009) + L" " + user.Text(18010), c.von + L" " + c.bis)
                 << c.min << ' ' << c.max;
+            EXPECT_EQ(GitterZeilen(user).size(), c.zeilen) << c.min << ' ' << c.max;
         });
         EXPECT_EQ(m_uebergabe.TiefeMax, std::stod(c.bis)) << "as the lists have it, Cancel or not";
     }

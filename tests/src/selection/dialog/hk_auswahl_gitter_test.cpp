@@ -20,11 +20,6 @@ TEST_F(CAuswahlDialogTest, TheGridChoosesConfirmsAndCloses)
                   QTest::keyClick(&Gitter(user), Qt::Key_Down);
                   EXPECT_EQ(user.Text(18011), GitterZeilen(user)[3][5]);
 
-                  KlickeKopf(user, 5);
-                  const auto rows = GitterZeilen(user);
-                  EXPECT_GE(std::stoi(rows.front()[5]), std::stoi(rows.back()[5]));
-                  EXPECT_NE(m_uebergabe.TypName, rows[3][0]) << "the choice stays";
-
                   user.Type(18003, L"500");
                   QWidget* view = Gitter(user).viewport();
                   QTest::mouseDClick(Gitter(user).horizontalHeader()->viewport(), Qt::LeftButton,
@@ -46,23 +41,114 @@ TEST_F(CAuswahlDialogTest, TheGridChoosesConfirmsAndCloses)
               -2);
 }
 
-TEST_F(CAuswahlDialogTest, RoundedRowsCannotBeChosenByAClick)
+TEST_F(CAuswahlDialogTest, TheBestRowIsChosenUntilTheUserPicksAnother)
 {
+    const CString lang = L"un nome che è più lungo di ogni titolo";
     CMemoryCatalogue katalog;
-    katalog.Add(L'E', 600.0, 22.5, 800.0, 1000.0, 0.0, 0.0, L"mezzo");
-    katalog.AddUnit(500.0, L"intero");
+    katalog.AddUnit(500.0, L"a");
+    katalog.AddUnit(990.0, L"b");
+    katalog.Add(L'E', 600.0, 22.5, 800.0, 1500.0, 0.0, 0.0, lang);
     m_uebergabe = katalog.Uebergabe(1000.0);
     EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                  EXPECT_EQ(m_uebergabe.TypName, L"mezzo");
-                  KlickeZeile(user, 1);
-                  EXPECT_EQ(m_uebergabe.TypName, L"intero");
+                  const QTableView& view = Gitter(user);
+                  EXPECT_EQ(view.currentIndex().row(), 1);
+                  EXPECT_EQ(user.Texts({18011, 18015}), (Texte{L"990", L"-1.0"}));
+                  for (int spalte = 1; spalte < 8; ++spalte) {
+                      EXPECT_GE(view.columnWidth(spalte), 60) << spalte;
+                  }
+                  EXPECT_GE(view.columnWidth(0),
+                            view.fontMetrics().horizontalAdvance(ToNative(lang)));
+
                   KlickeZeile(user, 0);
-                  EXPECT_EQ(user.Text(18011), L"1000");
-                  EXPECT_EQ(m_uebergabe.TypName, L"intero");
+                  EXPECT_EQ(m_uebergabe.TypName, L"a");
+                  EXPECT_EQ(user.Text(18015), L"-50.0");
+                  KlickeZeile(user, 2);
+                  EXPECT_EQ(user.Text(18011), L"1500");
+                  EXPECT_EQ(m_uebergabe.TypName, L"a") << "no whole millimetres, no choice";
+
+                  int neuGezeigt = 0;
+                  const QObject solange;
+                  QObject::connect(view.model(), &QAbstractItemModel::modelReset, &solange,
+                                   [&neuGezeigt] { ++neuGezeigt; });
+                  user.Type(18005, L"1400");
+                  EXPECT_EQ(neuGezeigt, 0) << "showing row by row would make a rebuild slow";
+                  EXPECT_EQ(view.currentIndex().row(), 2) << "a rebuild goes to the best row";
+                  EXPECT_EQ(m_uebergabe.TypName, lang) << "which needs no whole millimetres";
                   user.Click(kIdOk);
               }),
               0);
-    EXPECT_EQ(m_uebergabe.Leistung, 1000.0);
+    EXPECT_EQ(m_uebergabe.Leistung, 1500.0);
+}
+
+TEST_F(CAuswahlDialogTest, HeadingsSortDescendingFirst)
+{
+    CMemoryCatalogue katalog;
+    katalog.Add(L'E', 600.0, 100.0, 1000.0, 500.0, 0.0, 0.0, L"b");
+    katalog.Add(L'E', 700.0, 100.0, 1000.0, 1500.0, 0.0, 0.0, L"a");
+    katalog.Add(L'E', 500.0, 100.0, 1000.0, 990.0, 0.0, 0.0, L"c");
+    m_uebergabe = katalog.Uebergabe(1000.0);
+    Zeige([](CDialogUser& user) {
+        const auto namen = [&user](int spalte) {
+            KlickeKopf(user, spalte);
+            CString folge;
+            for (const Zeile& zeile : GitterZeilen(user)) {
+                folge += zeile[0];
+            }
+            return folge;
+        };
+        EXPECT_EQ(namen(5), L"acb");
+        EXPECT_EQ(namen(5), L"bca");
+        EXPECT_EQ(namen(0), L"cba");
+        user.Type(18003, L"1");
+        EXPECT_EQ(namen(1), L"");
+        user.Type(18003, L"1000");
+        EXPECT_EQ(namen(1), L"abc") << "a click on the empty grid turns nothing round";
+    });
+}
+
+TEST_F(CAuswahlDialogTest, WithoutARowTheUserIsToldOnceAndTheRangeGrows)
+{
+    CMemoryCatalogue katalog;
+    katalog.Add(L'E', 600.0, 300.0, 400.0, 900.0);
+    katalog.Produkt().Hoehen.Add(600.0);
+    katalog.Produkt().Tiefen.Add(22.5);
+    katalog.Produkt().Tiefen.Add(300.0);
+    m_uebergabe = katalog.Uebergabe(1000.0);
+    m_uebergabe.LaengeMin = 500.0;
+    m_uebergabe.LaengeMax = 1000.0;
+    m_uebergabe.HoeheMin = m_uebergabe.HoeheMax = 600.0;
+    m_uebergabe.TiefeMin = 22.5;
+    m_uebergabe.TiefeMax = 100.0;
+    EXPECT_EQ(Oeffne(
+                  [&](CDialogUser& user) {
+                      ASSERT_EQ(m_driver.Messages().size(), 1U);
+                      EXPECT_EQ(m_driver.Messages()[0].caption, L"Scelta Corpi scaldanti");
+                      EXPECT_EQ(m_driver.Messages()[0].text,
+                                L"Nessun corpo scaldante con le\nmisure 1000 / "
+                                L"600\ntrovato.\nSelezionare un'altro!");
+                      EXPECT_EQ(GitterZeilen(user).size(), 1U);
+                      EXPECT_EQ(m_uebergabe.LaengeMin, 0.0);
+                      EXPECT_EQ(m_uebergabe.TiefeMin, 22.5);
+                      EXPECT_EQ(m_uebergabe.TiefeMax, 300.0);
+                      user.Type(18003, L"1");
+                      EXPECT_TRUE(GitterZeilen(user).empty());
+                      EXPECT_EQ(user.Text(18011), L"") << "a rebuild goes to row 0";
+                      EXPECT_EQ(m_driver.Messages().size(), 1U);
+                      user.Click(kIdOk);
+                  },
+                  true),
+              -1)
+        << "OK without a row";
+
+    katalog.Clear();
+    EXPECT_EQ(Oeffne(
+                  [&](CDialogUser& user) {
+                      EXPECT_EQ(user.Texts({18011, 18015}), (Texte{L"Resa\nC.S", L"-100.0"}))
+                          << "a widening without success shows the heading";
+                      user.Click(kIdOk);
+                  },
+                  true),
+              -1);
 }
 
 TEST_F(CAuswahlDialogTest, AfterASortTheRowThatIsPickedIsTheOneThatReturns)

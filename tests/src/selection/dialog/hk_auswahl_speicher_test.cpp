@@ -39,36 +39,6 @@ TEST_F(CAuswahlDialogTest, OkAloneKeepsPlacementAndFiles)
     });
 }
 
-TEST_F(CAuswahlDialogTest, TheFirstRunMakesTheListOfSystems)
-{
-    Oeffne([&](CDialogUser& user) {
-        EXPECT_EQ(user.Items(7006), Texte{L"Standard (75/65)"});
-        user.Type(7008, L"70");
-        user.Click(kIdOk);
-    });
-    EXPECT_EQ(m_uebergabe.Vorlauf, 75.4) << "no event has read the field";
-    Oeffne([&](CDialogUser& user) {
-        user.Type(7007, L"Pompa");
-        user.Type(7008, L"45");
-        user.Type(7009, L"35");
-        user.Click(268);
-        user.Click(kIdOk);
-    });
-    EXPECT_EQ(m_uebergabe.Vorlauf, 45.0);
-    Oeffne([&](CDialogUser& user) {
-        EXPECT_EQ(user.Items(7006), (Texte{L"Standard (75/65)", L"Pompa (45/35)"}));
-        EXPECT_EQ(user.Text(7007), L"Pompa");
-        user.Click(269);
-        user.Click(269);
-        user.Click(269);
-        EXPECT_TRUE(user.Items(7006).empty());
-        user.Click(kIdOk);
-    });
-    Zeige([&](CDialogUser& user) {
-        EXPECT_TRUE(user.Items(7006).empty()) << "deleted, not missing";
-    });
-}
-
 TEST_F(CAuswahlDialogTest, AnyTextMayStandInTheListOfSystems)
 {
     m_folder.WriteBytes("HEIZUNG/CmbData.txt",

@@ -1,6 +1,5 @@
 // How the radiator is to be drawn: layer, colour and block in the selection dialog.
 
-#include "frame/hkauswahl_uebergabe.h"
 #include "host/host_base.h"
 #include "host/host_prefs.h"
 #include "tests/reference_host/host_dialog_driver.h"
@@ -73,21 +72,6 @@ TEST_F(CAuswahlDialogTest, TheSwatchShowsItsColourWhoeverManagesTheLayers)
             }
         });
     }
-}
-
-TEST_F(CAuswahlDialogTest, ACallerWithoutALayerGetsTheOneKeptLast)
-{
-    HKAUSWAHL_UEBERGABE letzte;
-    letzte.Layer = L"MURI";
-    letzte.LayerFarbe = 8;
-    ASSERT_TRUE(WriteDefFile(&letzte, &HKAUSWAHL_UEBERGABE::GetThisClass(), L"HkAuswahl.def"));
-    m_layer.clear();
-    Zeige([](CDialogUser& user) {
-        EXPECT_EQ(user.Text(3187), L"MURI");
-        EXPECT_EQ(user.Chosen(3187), 2);
-    });
-    EXPECT_EQ(m_layer, L"MURI");
-    EXPECT_EQ(m_farbe, 8);
 }
 
 TEST_F(CAuswahlDialogTest, TheListOpensOnTheBlockUsedLast)
