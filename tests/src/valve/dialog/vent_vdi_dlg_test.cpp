@@ -179,7 +179,7 @@ TEST_F(CVentVdiDlgTest, AValveIsShownWithAllThatIsKnownOfIt)
             user.Texts(kVentilFelder),
             (Texte{L"M-10", Weit(kNrMono), L"", L"Attacco monotubo per valvole C.S. a piastra",
                    L"...", L"...", L"...", L"10", L"100", L"0.500", L"23"}));
-        EXPECT_TRUE(user.Text(18066).find(L"kv-Bypass") != CString::npos);
+        EXPECT_EQ(user.Text(18066), L"xp       Regolazione  kv-Bypass[m³/h]   kv-HK[m³/h]   %");
         EXPECT_EQ(user.Items(kKvListe), (Texte{L" 1.0    2.0:   0.850    0.850  50%",
                                                L" 1.5    1.0:   0.917    0.750  45%"}));
 
@@ -189,7 +189,7 @@ TEST_F(CVentVdiDlgTest, AValveIsShownWithAllThatIsKnownOfIt)
             (Texte{L"A-15", Weit(kNrA), L"DN-A15", L"preregolati e non preregolati (p.e. ritorno)",
                    L"Testa;", L"Squadra;", L"Ottone;", L"15", L"600", L"0.880", L"11"}));
         EXPECT_TRUE(user.IsChecked(kEinstellbar));
-        EXPECT_TRUE(user.Text(18066).find(L"Regolazione") != CString::npos);
+        EXPECT_EQ(user.Text(18066), L"xp       Regolazione           kv[m³/h]           kvs[m³/h");
         EXPECT_EQ(user.Items(kKvListe),
                   (Texte{L" 2.0    3.0:    0.550     0.880 ", L" 2.0    2.0:    0.434     0.648 ",
                          L" 1.0    1.0:    0.100     0.200 "}));
