@@ -7,7 +7,16 @@
 /// What a host calls. One caller at a time, on the thread of the host's user interface. Unknown
 /// catalogue names are no error: they read as "nothing fits". Exceptions of the framework, and
 /// those of the host's own libraries, pass through. In a program whose application object has no
-/// windows a dialog counts as cancelled.
+/// windows a dialog counts as cancelled. A library that was built with RADSEL_CHECKS, as every
+/// Debug build is, refuses a call that comes from a second thread while one runs: std::logic_error.
+///
+/// Numbers are taken as they come. A required Leistung that is not-a-number or infinite lets no row
+/// be chosen, nor does a bound of length, height or depth that is not-a-number: -1. A LeistungMin
+/// that is not-a-number asks nothing. A negative Leistung is nearest to the weakest row. A
+/// Raumtemperatur that is not-a-number
+/// counts as one that the return does not exceed, which gives the factor 0.006, and a Vorlauf or
+/// Ruecklauf that is not-a-number, 0 or negative gives the factor 1.0; either way rows are found,
+/// whose outputs mean nothing. Hosts check what their users type.
 
 class CDrawer;
 class ConnValues;
@@ -22,13 +31,14 @@ struct TGA_LIST;
 /// the hand-over.
 ///
 /// With the dialog: 0 on OK, -1 if nothing was chosen, -2 on cancel. Tell the two forms apart by
-/// the flag passed. `drawer` may be null; `warnAndWiden` concerns the dialog only.
+/// the flag passed. `drawer` may be null; `warnAndWiden` concerns the dialog only. A null hand-over
+/// gives -1, with the dialog too, which does not open.
 RADSEL_API int HeizkoerperauswahlVDI3805(CDrawer* drawer, HK_DATEN_VDI3805_UEBERGABE* uebergabe,
                                          CString& layer, int& layerColor, bool showDialog,
                                          bool warnAndWiden);
 
 /// Lets the user choose a product in the catalogue tree: 0 on OK, with Hersteller, Art and Produkt
-/// of the hand-over naming it; -1 on cancel.
+/// of the hand-over naming it; -1 on cancel, and for a null hand-over.
 RADSEL_API int HeizkoerperauswahlVDI3805Tree(HK_DATEN_VDI3805_UEBERGABE* uebergabe);
 
 /// Appends the heights and the depths in which the product exists, in mm, ascending. The arrays are
@@ -40,8 +50,8 @@ RADSEL_API void Read_HK_Masse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, OCArray<dou
 /// water contents of the rows in the rows' own order (litres). Each array holds `capacity` results;
 /// places left empty are -1 and -1.0. The three short arrays must have room for `capacity` + 1
 /// elements: an insertion shifts one element beyond the capacity. Of more sizes than places those
-/// of the first rows stay. The first row is copied to the hand-over's Typ, which without a row is
-/// left alone.
+/// of the first rows stay. If any of the arrays is null, all others come back empty. The first row
+/// is copied to the hand-over's Typ, which without a row is left alone.
 RADSEL_API void Read_HK_Masse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tiefen,
                               short* laengen, double* inhalte, int capacity);
 

@@ -34,6 +34,9 @@ int HeizkoerperauswahlVDI3805(CDrawer* drawer, HK_DATEN_VDI3805_UEBERGABE* ueber
                               CString& layer, int& layerColor, bool showDialog, bool warnAndWiden)
 {
     const CResourceContext context;
+    if (uebergabe == nullptr) {
+        return kNothingChosen;
+    }
     CHKVdi3805 katalog(uebergabe);
     katalog.SetLeistungFilter(0);
     katalog.Filtern();
@@ -46,6 +49,9 @@ int HeizkoerperauswahlVDI3805(CDrawer* drawer, HK_DATEN_VDI3805_UEBERGABE* ueber
 int HeizkoerperauswahlVDI3805Tree(HK_DATEN_VDI3805_UEBERGABE* uebergabe)
 {
     const CResourceContext context;
+    if (uebergabe == nullptr) {
+        return kTreeCancelled;
+    }
     CHKVdi3805 katalog(uebergabe);
     katalog.Filtern();
     CHKAuswahlVdi3805TreeDlg dialog(&katalog);

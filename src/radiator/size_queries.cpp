@@ -25,13 +25,22 @@ double ToWholeMillimetres(double metres)
     return std::trunc(metres >= 0.0 ? millimetres + kHeal : millimetres - kHeal);
 }
 
+/// Empties an array, if there is one.
+template <class T>
+void FillPlaces(T* places, T unused, int capacity)
+{
+    if (places != nullptr) {
+        std::fill_n(places, std::max(capacity, 0), unused);
+    }
+}
+
 /// A size array of the plain form, filled until its capacity is reached.
 class CSizeList
 {
 public:
     CSizeList(short* places, int capacity) : m_places(places), m_capacity(capacity)
     {
-        std::fill_n(m_places, std::max(capacity, 0), short{-1});
+        FillPlaces(m_places, short{-1}, capacity);
     }
 
     void Add(double millimetres)
@@ -77,7 +86,10 @@ void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tief
     CSizeList heightList(hoehen, capacity);
     CSizeList depthList(tiefen, capacity);
     CSizeList lengthList(laengen, capacity);
-    std::fill_n(inhalte, std::max(capacity, 0), -1.0);
+    FillPlaces(inhalte, -1.0, capacity);
+    if (hoehen == nullptr || tiefen == nullptr || laengen == nullptr || inhalte == nullptr) {
+        return;
+    }
 
     const CAllRows katalog(uebergabe);
     if (katalog.GetErgebnis() != nullptr) {

@@ -14,7 +14,8 @@ void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, OCArray<double>& hoehen,
 
 /// Sizes of the rows in whole millimetres, ascending, without duplicates; water contents in the
 /// order of the rows. Of more sizes than places those of the first rows stay. Unused places are -1
-/// and -1.0. The short arrays need room for `capacity` + 1.
+/// and -1.0. The short arrays need room for `capacity` + 1. If an array is null, all others come
+/// back empty.
 void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tiefen, short* laengen,
                double* inhalte, int capacity);
 

@@ -1,6 +1,7 @@
 #include "uikit/button.h"
 
 #include "uikit/native/access.h"
+#include "uikit/native/image_icon.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -32,7 +33,7 @@ void CButton::SetCheck(bool check)
 void CButton::SetIcon(const CBitmap& icon)
 {
     if (auto* button = CNativeAccess::As<QAbstractButton>(*this)) {
-        button->setIcon(QIcon(QPixmap::fromImage(ToNative(icon))));
+        button->setIcon(MakeImageIcon(ToNative(icon)));
         button->setIconSize({icon.GetWidth(), icon.GetHeight()});
     }
 }

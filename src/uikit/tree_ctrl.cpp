@@ -53,7 +53,7 @@ HTREEITEM CTreeCtrl::InsertItem(const CString& text, int image, int selectedImag
         return nullptr;
     }
     auto* item = new QTreeWidgetItem({ToNative(text)});
-    item->setIcon(0, tree->MakeIcon(image, selectedImage));
+    item->setIcon(0, tree->IconOf(image, selectedImage));
     (parent != nullptr ? Native(parent) : tree->invisibleRootItem())->addChild(item);
     return Handle(item);
 }

@@ -1,6 +1,7 @@
 #include "uikit/native/combo_widget.h"
 
 #include "uikit/native/access.h"
+#include "uikit/native/image_icon.h"
 
 #include <QLineEdit>
 #include <QStylePainter>
@@ -48,7 +49,7 @@ void CComboWidget::SetImages(const CImageList& images)
 void CComboWidget::ShowImages(int index)
 {
     const CBitmap bitmap = m_images.Get(itemData(index, kImageRole).toInt());
-    setItemIcon(index, QIcon(QPixmap::fromImage(ToNative(bitmap))));
+    setItemIcon(index, MakeImageIcon(ToNative(bitmap)));
 }
 
 void CComboWidget::paintEvent(QPaintEvent* event)
@@ -61,7 +62,7 @@ void CComboWidget::paintEvent(QPaintEvent* event)
     QStyleOptionComboBox option;
     initStyleOption(&option);
     const CBitmap bitmap = m_images.Get(currentData(kSelectedImageRole).toInt());
-    option.currentIcon = QIcon(QPixmap::fromImage(ToNative(bitmap)));
+    option.currentIcon = MakeImageIcon(ToNative(bitmap));
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }

@@ -1,6 +1,7 @@
 #include "uikit/native/tree_widget.h"
 
 #include "uikit/native/access.h"
+#include "uikit/native/image_icon.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -23,19 +24,20 @@ CTreeWidget::CTreeWidget(QWidget* parent) : QTreeWidget(parent)
 void CTreeWidget::SetImages(const CImageList& images)
 {
     m_images = images;
+    m_icons.clear();
     if (!images.Get(0).IsEmpty()) {
         setIconSize({images.Get(0).GetWidth(), images.Get(0).GetHeight()});
     }
 }
 
-QIcon CTreeWidget::MakeIcon(int image, int selectedImage) const
+QIcon CTreeWidget::IconOf(int image, int selectedImage)
 {
-    QIcon icon;
-    if (!m_images.Get(image).IsEmpty()) {
-        icon.addPixmap(QPixmap::fromImage(ToNative(m_images.Get(image))), QIcon::Normal);
-        icon.addPixmap(QPixmap::fromImage(ToNative(m_images.Get(selectedImage))), QIcon::Selected);
+    const auto [found, isNew] = m_icons.try_emplace({image, selectedImage});
+    if (isNew && !m_images.Get(image).IsEmpty()) {
+        found->second =
+            MakeImageIcon(ToNative(m_images.Get(image)), ToNative(m_images.Get(selectedImage)));
     }
-    return icon;
+    return found->second;
 }
 
 bool CTreeWidget::IsClosedParent(const QTreeWidgetItem* item) const

@@ -5,6 +5,8 @@
 #include <QTreeWidget>
 
 #include <functional>
+#include <map>
+#include <utility>
 
 /// A tree that asks before an item opens, by whatever way.
 class CTreeWidget : public QTreeWidget
@@ -19,7 +21,8 @@ public:
     void SetMayExpand(MayExpand mayExpand) { m_mayExpand = std::move(mayExpand); }
 
     void SetImages(const CImageList& images);
-    QIcon MakeIcon(int image, int selectedImage) const;
+    /// The icon of an item with these images of the list, made once for all items.
+    QIcon IconOf(int image, int selectedImage);
 
     void OpenItem(QTreeWidgetItem* item);
     void Choose(QTreeWidgetItem* item);
@@ -46,5 +49,6 @@ private:
 
     MayExpand m_mayExpand;
     CImageList m_images;
+    std::map<std::pair<int, int>, QIcon> m_icons;
     QTreeWidgetItem* m_toldChoice = nullptr;
 };

@@ -7,10 +7,13 @@
 #include "host/host_catalog.h"
 #include "host/host_prefs.h"
 #include "module/radsel_app.h"
+#include "module/resource_context.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <future>
+#include <stdexcept>
 #include <type_traits>
 
 namespace {
@@ -78,6 +81,27 @@ static_assert(
 static_assert(std::is_same_v<decltype(ShowVentVDI3805Dlg),
                              bool(const CString&, const CString&, VDI3805_VENTIL_KV&)>);
 static_assert(std::is_same_v<decltype(DummyCall), void()>);
+
+TEST(ExportsContext, ANullHandoverIsAnsweredWithNothing)
+{
+    CString layer = L"PIANTA";
+    int color = 3;
+    for (const bool dialog : {false, true}) {
+        EXPECT_EQ(HeizkoerperauswahlVDI3805(nullptr, nullptr, layer, color, dialog, true), -1);
+    }
+    EXPECT_EQ(HeizkoerperauswahlVDI3805Tree(nullptr), -1);
+    EXPECT_EQ(layer, L"PIANTA");
+    EXPECT_EQ(color, 3);
+}
+
+TEST(ExportsContext, ASecondThreadIsRefusedWhileACallRuns)
+{
+    const CResourceContext running;
+    Uebergabe uebergabe;
+    auto other = std::async(std::launch::async, [&] { HKGetMinTiefe(uebergabe); });
+    EXPECT_THROW(other.get(), std::logic_error);
+    EXPECT_THROW(HKGetMinTiefe(uebergabe), CFileException) << "calls of one thread nest";
+}
 
 TEST(ExportsContext, TheModulesApplicationIsCurrentDuringACallAndTheHostsAfterAnException)
 {

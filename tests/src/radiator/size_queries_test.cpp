@@ -81,6 +81,13 @@ TEST(SizeQueries, PlainFormWithoutRowsLeavesTheMarks)
     }
     EXPECT_EQ(inhalte, (std::array<double, 2>{-1.0, -1.0}));
     EXPECT_EQ(uebergabe.Typ.Name, L"resta");
+
+    catalogue.Add(L'E', 300, 80, 1000, 1000);
+    hoehen = {1, 2, 3};
+    LeseMasse(uebergabe, hoehen.data(), nullptr, laengen.data(), inhalte.data(), 2);
+    EXPECT_EQ(hoehen, (std::array<short, 3>{-1, -1, 3})) << "one array is missing";
+    EXPECT_EQ(inhalte, (std::array<double, 2>{-1.0, -1.0}));
+    EXPECT_EQ(uebergabe.Typ.Name, L"resta");
 }
 
 TEST(SizeQueries, ArrayFormAndDepthsComeFromTheProductNotFromItsRows)
