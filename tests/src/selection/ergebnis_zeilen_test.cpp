@@ -8,11 +8,23 @@ TEST(ErgebnisTexteTest, EveryColumnHasItsTexts)
 {
     EXPECT_EQ(ErgebnisText(1), L"Scelta Corpi scaldanti");
     EXPECT_EQ(ErgebnisText(0) + ErgebnisText(19) + SpaltenTitel(8) + SpaltenTooltip(-1), L"");
-    EXPECT_EQ(SpaltenTitel(0), L"Type");
-    EXPECT_EQ(SpaltenTitel(6), L"Nr.\nElem");
-    EXPECT_EQ(SpaltenTitel(7), L"Litri");
-    EXPECT_EQ(SpaltenTooltip(2), L"Profondit\u00E0 del corpo scaldante");
-    EXPECT_EQ(SpaltenTooltip(7), L"Contenuto acqua corpi scaldanti");
+    const struct
+    {
+        const wchar_t *titel, *tooltip;
+    } spalten[kErgebnisSpalten] = {
+        {L"Type", L"Descrizione tipo del corpo scaldante"},
+        {L"Alt.\n[mm]", L"Altezza del corpo scaldante"},
+        {L"Prof.\n[mm]", L"Profondit\u00E0 del corpo scaldante"},
+        {L"Lung.\n[mm]", L"Lunghezza del corpo scaldante"},
+        {L"EN442\n[Watt]", L"Resa corpo scaldante secondo EN442"},
+        {L"Resa\nC.S", L"Resa a norma del corpo scaldante"},
+        {L"Nr.\nElem", L"Numero elementi del corpo scaldante (a piastra == 1)"},
+        {L"Litri", L"Contenuto acqua corpi scaldanti"},
+    };
+    for (int i = 0; i < kErgebnisSpalten; ++i) {
+        EXPECT_EQ(SpaltenTitel(i), spalten[i].titel);
+        EXPECT_EQ(SpaltenTooltip(i), spalten[i].tooltip);
+    }
 
     HK_VDI3805_TYP row;
     row.Name = L"22";

@@ -78,6 +78,8 @@ TEST_F(CAuswahlDialogTest, WithoutDrawingOrProductTheDialogStillWorks)
                   user.Click(kIdOk);
               }),
               -1);
+    EXPECT_EQ(Oeffne([](CDialogUser& user) { user.Click(kIdOk); }), -1)
+        << "before any row was looked for again";
     EXPECT_EQ(m_layer, L"HEIZ_$d__");
     EXPECT_EQ(m_farbe, 5);
 }

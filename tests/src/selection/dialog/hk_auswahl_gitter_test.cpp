@@ -123,6 +123,7 @@ TEST_F(CAuswahlDialogTest, WithoutARowTheUserIsToldOnceAndTheRangeGrows)
                   [&](CDialogUser& user) {
                       ASSERT_EQ(m_driver.Messages().size(), 1U);
                       EXPECT_EQ(m_driver.Messages()[0].caption, L"Scelta Corpi scaldanti");
+                      EXPECT_EQ(m_driver.Messages()[0].icon, MessageIcon::information);
                       EXPECT_EQ(m_driver.Messages()[0].text,
                                 L"Nessun corpo scaldante con le\nmisure 1000 / "
                                 L"600\ntrovato.\nSelezionare un'altro!");
@@ -195,6 +196,27 @@ TEST_F(CAuswahlDialogTest, HeadingsShowTheDirectionOfTheirSortUntilTheNextOne)
         EXPECT_EQ(kopf(), absteigend) << "fresh rows are not sorted, and the arrow stays";
         KlickeKopf(user, 5);
         EXPECT_EQ(kopf(), vorher);
+    });
+}
+
+TEST_F(CAuswahlDialogTest, TheGridHasALookOfItsOwn)
+{
+    Zeige([](CDialogUser& user) {
+        QTableView& view = Gitter(user);
+        QHeaderView& kopf = *view.horizontalHeader();
+        EXPECT_EQ(view.font(), ToNative(CFont{L"Segoe UI", 15, 100}));
+        EXPECT_EQ(kopf.height(), qRound(32 * GetDialogScale()));
+        EXPECT_EQ(kopf.viewport()->grab().toImage().pixelColor(1, 1), QColor(Qt::white));
+        EXPECT_EQ(kopf.minimumSectionSize(), 60) << "for the user's dragging too";
+
+        KlickeZeile(user, 1);
+        view.setFocus();
+        ASSERT_TRUE(view.hasFocus());
+        const QRect zelle = view.visualRect(view.currentIndex());
+        const QImage bild = view.viewport()->grab(zelle).toImage();
+        const QRect rand(0, 0, 1, zelle.height());
+        EXPECT_NE(bild.pixelColor(0, 1), QColor(Qt::white));
+        EXPECT_EQ(bild.copy(rand), bild.copy(rand.translated(1, 0))) << "no frame on top of it";
     });
 }
 

@@ -95,6 +95,7 @@ TEST_F(TreeDialog, AManufacturersFileIsReadWhenItsItemIsFirstOpened)
         user.Click(kIdOk);
     });
     EXPECT_EQ(result, 0);
+    EXPECT_EQ(m_daten.Leistung, 0.0) << "no usual output takes the place of none";
 
     Want(L"", L"", L"");
     Run([&](CDialogUser& user) {
