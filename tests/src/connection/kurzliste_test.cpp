@@ -6,6 +6,7 @@
 #include "platform/exception.h"
 #include "platform/message.h"
 #include "tests/src/connection/test_ansicht.h"
+#include "tests/support/message_log.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
 
@@ -79,6 +80,7 @@ TEST_F(KurzlisteTest, NamesAndEntriesFollowTheirLinesAlone)
          {L"a"},
          {L"a", L"a"}},
         {"too few numbers", {L"[a]", L"V" + punkt, L"R1;2"}, {L"a"}, {}},
+        {"too few in the flow", {L"[a]", L"V1;2", L"R" + punkt}, {L"a"}, {}},
         {"three numbers are enough", {L"[a]", L"V1;2;3", L"R1;2;3"}, {L"a"}, {L"a"}},
         {"no flow line", {L"[a]", L"v" + punkt, L"R" + punkt}, {L"a"}, {}},
         {"a name in the place of the return",
@@ -156,14 +158,22 @@ TEST_F(KurzlisteTest, StoringChangesTheListInMemoryAndNeverVentTxt)
     EXPECT_EQ(m_ansicht.typen.gewaehlt, 2);
 
     m_zustand.m_bNeu = false;
+    m_zustand.m_TextName = L"3";
+    SchreibeVentTxt(m_zustand, m_ansicht);
+    m_zustand.m_Aktuell.AnschlussRI = L"manca/punto";
+    const CMessageLog messages;
+    EXPECT_NO_THROW(SchreibeVentTxt(m_zustand, m_ansicht));
+    EXPECT_TRUE(messages.Texts().empty()) << "that no file can have the name is not told";
+
     m_ansicht.typen.gewaehlt = 3;
     EXPECT_THROW(SchreibeVentTxt(m_zustand, m_ansicht), CInvalidArgException);
 
     EXPECT_EQ(m_folder.ReadBytes("HEIZUNG/Vent.txt"), before);
     CStringArray written;
     ReadTextFile(L"R" + ritorno, written, 0, -1);
-    ASSERT_EQ(written.GetSize(), 9) << "a file of the last line's name in the current folder";
-    EXPECT_EQ(written[6], L"[terzo]");
+    ASSERT_EQ(written.GetSize(), 9) << "a file of the last line's name in the current folder, with "
+                                       "nothing left of what was longer";
+    EXPECT_EQ(written[6], L"[3]");
     EXPECT_EQ(written[7], L"V" + punkt);
     EXPECT_EQ(written[8], L"R" + ritorno);
 }

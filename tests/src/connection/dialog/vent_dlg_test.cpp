@@ -1,5 +1,6 @@
 // The valve and connection dialog: connection types, points, distances, and how it opens and ends.
 
+#include "connection/vorschau.h"
 #include "host/host_base.h"
 #include "host/host_fittings.h"
 #include "tests/src/connection/dialog/vent_dlg_fixture.h"
@@ -466,6 +467,7 @@ TEST_F(CVentDlgTest, AFieldWithoutANumberIsToldAndTheEventGoesOn)
 
 TEST_F(CVentDlgTest, ThePreviewDrawsTheConnectionsOfEveryRadiator)
 {
+    Kurzliste("[Sinistra]\r\nV" + P(0) + ";0.2\r\nR" + P(1) + ";0.1\r\n");
     for (const int count : {1, 60}) {
         CTestObjekte list(count);
         CTestDrawer drawer;
@@ -483,6 +485,8 @@ TEST_F(CVentDlgTest, ThePreviewDrawsTheConnectionsOfEveryRadiator)
             const auto& last = drawer.punkte.back();
             EXPECT_EQ(last.punkt, (std::array{2.0 * (count - 1) - 0.5, 0.0, 0.03}));
             EXPECT_EQ(last.farbe, lmGetGewerkColor(kGewerkRuecklauf));
+            EXPECT_EQ(drawer.punkte.front().farbe, lmGetGewerkColor(kGewerkVorlauf));
+            EXPECT_EQ(std::pair(drawer.punkte.front().wert, last.wert), std::pair(0.2, 0.1));
             EXPECT_NEAR(last.richtung[0], -1.0, 1e-9);
             drawer.aufrufe.clear();
         });
@@ -500,6 +504,16 @@ TEST_F(CVentDlgTest, ThePreviewDrawsTheConnectionsOfEveryRadiator)
     m_pDrawer = nullptr;
     Oeffne([](CDialogUser& user) { user.Choose(362, 0); });
     EXPECT_EQ(list.Attribute(0), L"H_LAENGE=1 ") << "nor without a drawing";
+}
+
+TEST(AnschlussVorschau, PassesOverARadiatorWithoutAPoint)
+{
+    CTestObjekte list(2);
+    list.Head()->pNext->Attribute->pNext =
+        new ALIST{L"H_RL_PUNKT", L"", new ALIST{L"H_RL_PUNKT", AnschlussPreset(0), nullptr}};
+    CTestDrawer drawer;
+    ZeichneAnschlussVorschau(list.Head(), drawer, ConnValues());
+    EXPECT_EQ(drawer.aufrufe, "CBrE");
 }
 
 TEST_F(CVentDlgTest, StoredTypesHoldUntilTheDialogCloses)
