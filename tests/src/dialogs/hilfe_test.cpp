@@ -111,12 +111,17 @@ TEST_F(Hilfe, TheFirstLineOfADialogSwitchesItsHelp)
 TEST_F(Hilfe, F1AndTheIconOpenThePageOfADialogThatHasAnEntry)
 {
     m_folder.WriteBytes("winsett.txt", "7302|1|\n");
-    m_driver.WhenOpens(7301, [](CDialogUser& user) {
-        EXPECT_FALSE(static_cast<CBrushedDialog&>(user.Dialog()).GetHilfe());
+    CBrushedDialog plain(kPlain);
+    m_driver.WhenOpens(7301, [&](CDialogUser& user) {
+        EXPECT_FALSE(plain.GetHilfe());
+        plain.SetHilfe(true);
+        Painted(user);
+        plain.SetHilfe(false);
+        PressCaption(user, {plain.GetHilfeRect().left, plain.GetHilfeRect().top + 8});
         user.Press(Qt::Key_F1);
         user.Press(Qt::Key_Escape);
     });
-    CBrushedDialog(kPlain).DoModal();
+    plain.DoModal();
 
     CBrushedDialog dialog(kBoxes);
     m_driver.WhenOpens(7302, [&](CDialogUser& user) {

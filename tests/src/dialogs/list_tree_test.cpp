@@ -195,6 +195,13 @@ TEST(FindTreeItem, AWordCountsOnlyAtTheStartOfWhatRemains)
     });
 }
 
+TEST(WindowAlpha, TellsWhetherThereIsAWindow)
+{
+    CListenDialog dialog;
+    EXPECT_FALSE(SetWindowAlpha(dialog, 200));
+    dialog.Run([&] { EXPECT_TRUE(SetWindowAlpha(dialog, 200)); });
+}
+
 TEST(FixedColor, EveryIndexHasItsColour)
 {
     const COLORREF white = RGB(255, 255, 255);

@@ -35,13 +35,14 @@ public:
     using Base::Base;
 
     int m_alpha = kDeckend;
+    bool m_ohneGroesse = false;
 
 protected:
     bool OnInitDialog() override
     {
         Base::OnInitDialog();
         m_resourceSize = {this->GetWindowRect().Width(), this->GetWindowRect().Height()};
-        PlatzierungLaden(*this, L"CHIAVE", &m_alpha, false);
+        PlatzierungLaden(*this, L"CHIAVE", &m_alpha, m_ohneGroesse);
         return true;
     }
 
@@ -149,21 +150,29 @@ TEST_F(Platzierung, OpacityIsTakenFromTheLineWithinItsLimits)
 
 TEST_F(Platzierung, AFixedDialogKeepsItsSizeAndNoneFallsOffTheRight)
 {
+    using Corner = std::pair<int, int>;
+    const auto inOwnSize = [this](auto& dialog, const std::string& file) {
+        const CRect place = Opened(dialog, file);
+        EXPECT_EQ(place.Width(), dialog.m_resourceSize.cx) << file;
+        EXPECT_EQ(place.Height(), dialog.m_resourceSize.cy) << file;
+        return Corner(place.left, place.top);
+    };
     CFesterDialog fixed(kFest);
-    const CRect moved = Opened(fixed, "CHIAVE|300|900|200|800|\n");
-    EXPECT_EQ(moved,
-              (CRect{300, 200, 300 + fixed.m_resourceSize.cx, 200 + fixed.m_resourceSize.cy}));
+    CVariablerDialog keepsSize(kVariabel);
+    keepsSize.m_ohneGroesse = true;
+    EXPECT_EQ(inOwnSize(fixed, "CHIAVE|300|900|200|800|\n"), Corner(300, 200));
+    EXPECT_EQ(inOwnSize(keepsSize, "CHIAVE|300|900|200|800|\n"), Corner(300, 200));
 
     const int screen = GetVirtualScreenSize().cx;
     const auto line = [](int left, int right) {
         return "CHIAVE|" + std::to_string(left) + "|" + std::to_string(right) + "|30|500|\n";
     };
+    EXPECT_EQ(inOwnSize(fixed, line(screen, screen + 500)), Corner(0, 30));
     CVariablerDialog sizable(kVariabel);
     EXPECT_EQ(Opened(sizable, line(screen - 1, screen + 499)),
               (CRect{screen - 1, 30, screen + 499, 500}));
     EXPECT_EQ(Opened(sizable, line(screen, screen + 500)), (CRect{0, 30, screen + 500, 500}));
-    EXPECT_EQ(Opened(sizable, "CHIAVE|a|b||d|\n"),
-              (CRect{0, 0, sizable.m_resourceSize.cx, sizable.m_resourceSize.cy}))
+    EXPECT_EQ(inOwnSize(sizable, "CHIAVE|a|b||d|\n"), Corner(0, 0))
         << "zeros, held up by the smallest size";
 }
 
