@@ -74,8 +74,8 @@ CValveKeys SampleValves()
 
 CString NameOf(std::size_t floor, std::size_t room)
 {
-    const CString number = FormatInt(static_cast<long long>(room + 1));
-    return L"Locale " + FormatInt(static_cast<long long>(floor + 1)) + L"." +
+    const CString number = FormatInt(static_cast<long long>(room) + 1);
+    return L"Locale " + FormatInt(static_cast<long long>(floor) + 1) + L"." +
            CString(3 - std::min<std::size_t>(3, number.size()), L'0') + number;
 }
 
@@ -186,7 +186,7 @@ void AddFloor(CDice& dice, std::size_t rooms, CBuilding& building)
 {
     const std::size_t floor = building.floors.size();
     CFloor added;
-    added.strName = L"Piano " + FormatInt(static_cast<long long>(floor + 1));
+    added.strName = L"Piano " + FormatInt(static_cast<long long>(floor) + 1);
     double east = 0.0;
     for (std::size_t number = 0; number < rooms; ++number) {
         added.rooms.push_back(std::make_shared<const CRoom>(MakeRoom(dice, floor, number, east)));

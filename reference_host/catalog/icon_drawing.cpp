@@ -117,8 +117,9 @@ CSampleSum Sample(const std::vector<CIconShape>& shapes, int x, int y)
 {
     CSampleSum sum;
     for (int i = 0; i < kSamples * kSamples; ++i) {
-        const CIconPoint at = {x + (i % kSamples + 0.5) / kSamples,
-                               y + (i / kSamples + 0.5) / kSamples};
+        const int column = i % kSamples;
+        const int row = i / kSamples;
+        const CIconPoint at = {x + (column + 0.5) / kSamples, y + (row + 0.5) / kSamples};
         const auto top = std::find_if(shapes.rbegin(), shapes.rend(),
                                       [&](const CIconShape& shape) { return Covers(shape, at); });
         if (top != shapes.rend()) {
@@ -143,10 +144,11 @@ void SetMean(CBitmap& bitmap, int x, int y, const CSampleSum& sum)
 CBitmap DrawIcon(const std::vector<CIconShape>& shapes, int width, int height)
 {
     const int side = std::min(width, height);
+    const int left = (width - side) / 2;
+    const int top = (height - side) / 2;
     std::vector<CIconShape> scaled;
     for (const CIconShape& shape : shapes) {
-        scaled.push_back(
-            ToPixels(shape, side / kIconGrid, (width - side) / 2, (height - side) / 2));
+        scaled.push_back(ToPixels(shape, side / kIconGrid, left, top));
     }
     CBitmap bitmap(width, height);
     for (int y = 0; y < height; ++y) {

@@ -52,7 +52,7 @@ public:
 
     std::string Take()
     {
-        const std::string lines = m_lines.str();
+        std::string lines = m_lines.str();
         m_lines.str("");
         return lines;
     }
@@ -234,7 +234,7 @@ void RunOnScreen(int& argc, char** argv)
         int opened = 0;
         WhenModal([&](QWidget& window) {
             ++opened;
-            const QFont font = window.font();
+            const QFont& font = window.font();
             Expect(font.family() == (inMessageFont ? kMessageFace : "Tahoma"),
                    std::string("face, ") + call.name);
             // 12 pixels at 96 to the inch.

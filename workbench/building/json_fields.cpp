@@ -128,7 +128,7 @@ bool CJsonFields::TakeNull(const char* name)
 
 CString CJsonFields::Text(const char* name)
 {
-    const CString text = ForeignText(name);
+    CString text = ForeignText(name);
     if (std::ranges::all_of(text, IsBlank)) {
         Fail(FromAscii(name), L"il testo è vuoto");
     }

@@ -29,7 +29,7 @@ void AppendNotes(const QJsonValue& value, QJsonArray& notes)
         AppendNotesWithin(object, notes);
         return;
     }
-    for (const QJsonValue& item : value.toArray()) {
+    for (const auto& item : value.toArray()) {
         AppendNotes(item, notes);
     }
 }
@@ -60,7 +60,7 @@ QJsonArray Joined(const QJsonValue& own, const QJsonArray& others)
     if (!own.isArray() && !own.isUndefined()) {
         list.append(own);
     }
-    for (const QJsonValue& note : others) {
+    for (const auto& note : others) {
         list.append(note);
     }
     return list;
@@ -91,7 +91,7 @@ void WriteNote(CJsonWriter& writer, const CString& note)
         return;
     }
     writer.BeginList(kNote.data());
-    for (const QJsonValue& item : items) {
+    for (const auto& item : items) {
         writer.Raw(nullptr, FormatValue(item));
     }
     writer.End();

@@ -125,7 +125,7 @@ void CJsonWriter::Value(const char* name, const QJsonValue& value)
     }
     case QJsonValue::Array:
         BeginList(name);
-        for (const QJsonValue& item : value.toArray()) {
+        for (const auto& item : value.toArray()) {
             Value(nullptr, item);
         }
         End();

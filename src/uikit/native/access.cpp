@@ -62,8 +62,8 @@ QImage ToNative(const CBitmap& bitmap)
     if (bitmap.IsEmpty()) {
         return {};
     }
-    return QImage(bitmap.GetData(), bitmap.GetWidth(), bitmap.GetHeight(), bitmap.GetWidth() * 4,
-                  QImage::Format_RGBA8888)
+    return QImage(bitmap.GetData(), bitmap.GetWidth(), bitmap.GetHeight(),
+                  qsizetype{bitmap.GetWidth()} * 4, QImage::Format_RGBA8888)
         .copy();
 }
 
@@ -85,7 +85,7 @@ QFont ToNative(const CFont& font)
     // Thin faces are rarely there, and what stands in for them is too faint to read.
     native.setWeight(static_cast<QFont::Weight>(std::max(font.weight, int(QFont::Normal))));
     native.setItalic(font.italic);
-    const int height = static_cast<int>(font.height * GetDialogScale() + 0.5);
+    const int height = qRound(font.height * GetDialogScale());
     native.setPixelSize(PixelSizeForLine(native, height));
     if (font.fixedPitch) {
         const double wanted = kFixedPitchWidth * height;

@@ -154,7 +154,7 @@ void CTreeWidget::keyPressEvent(QKeyEvent* event)
 /// pass it by.
 void CTreeWidget::focusInEvent(QFocusEvent* event)
 {
-    QAbstractScrollArea::focusInEvent(event);
+    QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
 }
 

@@ -144,7 +144,8 @@ TEST_F(Hilfe, F1AndTheIconOpenThePageOfADialogThatHasAnEntry)
 
 TEST_F(Hilfe, TheIconStandsBesideTheButtonsOfTheCaptionBar)
 {
-    for (const auto& [dialogTemplate, buttons] : {std::pair(&kPlain, 2), {&kBoxes, 4}}) {
+    for (const auto& [dialogTemplate, count] : {std::pair(&kPlain, 2), {&kBoxes, 4}}) {
+        const int buttons = count;
         CBrushedDialog dialog(*dialogTemplate);
         m_driver.WhenOpens(dialogTemplate->id, [&](CDialogUser& user) {
             QImage without = Painted(user);

@@ -89,7 +89,7 @@ TEST_F(RecoveryFileTest, WhatCannotBeReadIsKeptAside)
     std::string later = good;
     later.replace(later.find(": 1"), 3, ": 2");
     std::string undated = good;
-    undated.replace(undated.find("T"), 1, "!");
+    undated.replace(undated.find('T'), 1, "!");
     std::string broken = good;
     broken.replace(broken.find("\"floors\""), 8, "\"flors\"");
 
