@@ -168,6 +168,31 @@ void WritePair(CJsonWriter& writer, const char* name, const char* firstName, dou
     writer.End();
 }
 
+/// All but the rooms.
+std::string FormatFrame(CBuilding building)
+{
+    for (CFloor& floor : building.floors) {
+        floor.rooms.clear();
+    }
+    return FormatBuilding(building);
+}
+
+std::string FormatRoom(const CRoom& room)
+{
+    CJsonWriter writer;
+    writer.BeginList(nullptr);
+    WriteRoom(writer, room, {});
+    writer.End();
+    return writer.Take();
+}
+
+bool IsSameFloor(const CFloor& a, const CFloor& b)
+{
+    return std::ranges::equal(a.rooms, b.rooms, [](const auto& one, const auto& other) {
+        return one == other || FormatRoom(*one) == FormatRoom(*other);
+    });
+}
+
 } // namespace
 
 CBuilding ReadBuilding(CJsonFields fields)
@@ -219,6 +244,11 @@ std::string FormatBuilding(const CBuilding& building)
     CJsonWriter writer;
     WriteBuilding(writer, nullptr, building);
     return writer.Take();
+}
+
+bool IsSameBuilding(const CBuilding& a, const CBuilding& b)
+{
+    return FormatFrame(a) == FormatFrame(b) && std::ranges::equal(a.floors, b.floors, IsSameFloor);
 }
 
 void WriteBuilding(const CString& path, const CBuilding& building)

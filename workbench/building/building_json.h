@@ -19,6 +19,10 @@ CBuilding ReadBuilding(const CString& path);
 /// compared line by line.
 std::string FormatBuilding(const CBuilding& building);
 
+/// Whether both come out as the same file. Quick for states of one building, which share their
+/// rooms.
+bool IsSameBuilding(const CBuilding& a, const CBuilding& b);
+
 /// Writes the building to a file. Whatever happens meanwhile, the file holds the old building or
 /// the new one, whole. Raises CFileException.
 void WriteBuilding(const CString& path, const CBuilding& building);

@@ -26,6 +26,9 @@ CPlanDocument::CPlanDocument(const CRecoveryFile* recovery, QObject* parent)
 
 void CPlanDocument::Do(const CString& what, CBuilding next)
 {
+    if (IsSameBuilding(next, Building())) {
+        return;
+    }
     m_history.Do(what, std::move(next));
     Announce();
 }
@@ -47,6 +50,7 @@ void CPlanDocument::Open(const CString& path)
     Begin(ReadBuilding(path), path);
     ForgetKept();
     emit Changed();
+    emit Opened();
 }
 
 void CPlanDocument::Recover(const CRecovery& recovery)
@@ -54,6 +58,7 @@ void CPlanDocument::Recover(const CRecovery& recovery)
     Begin(recovery.building, recovery.strPath);
     m_history.MarkUnsaved();
     emit Changed();
+    emit Opened();
 }
 
 void CPlanDocument::SaveAs(const CString& path)

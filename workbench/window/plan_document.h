@@ -24,7 +24,7 @@ public:
     const CString& Path() const { return m_strPath; }
     bool IsSaved() const { return m_history.IsSaved(); }
 
-    /// Makes `next` the current state (CPlanHistory::Do).
+    /// Makes `next` the current state (CPlanHistory::Do); does nothing if it is the same building.
     void Do(const CString& what, CBuilding next);
     void Undo();
     void Redo();
@@ -50,6 +50,8 @@ public:
 signals:
     /// The building, its file or its being saved is another than before.
     void Changed();
+    /// Another building has taken the place of the one before; Changed() went ahead.
+    void Opened();
     /// `message` is for the user.
     void KeepingFailed(const QString& message);
 

@@ -94,6 +94,10 @@ void CWorkbenchWindow::MakeDocks()
 void CWorkbenchWindow::Connect()
 {
     connect(&m_document, &CPlanDocument::Changed, this, &CWorkbenchWindow::ShowBuilding);
+    connect(&m_document, &CPlanDocument::Opened, this, [this] {
+        m_pTabs->setCurrentIndex(0);
+        m_pView->FitToContent();
+    });
     connect(&m_document, &CPlanDocument::KeepingFailed, this, [this](const QString& message) {
         Tell("Il lavoro non salvato non è al sicuro da un arresto improvviso: " + message);
     });

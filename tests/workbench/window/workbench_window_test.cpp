@@ -3,6 +3,7 @@
 #include "platform/encoding.h"
 #include "workbench/building/building_json.h"
 #include "workbench/building/qt_text.h"
+#include "workbench/drawing/plan_view.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/window/floor_scene.h"
 
@@ -144,6 +145,39 @@ TEST_F(WorkbenchWindow, SizesAllRoomsInOneStepThatCanBeUndone)
     EXPECT_FALSE(Action("undo").isEnabled());
     Do("redo");
     EXPECT_EQ(FormatBuilding(m_document.Building()), sized);
+}
+
+TEST_F(WorkbenchWindow, ACommandThatChangesNothingIsNoStep)
+{
+    Do("sizeAll");
+    Do("undo");
+    m_document.Do(L"Niente", m_document.Building());
+    EXPECT_EQ(Action("redo").text(), "&Ripeti: Dimensiona tutto");
+    Do("redo");
+    Do("sizeAll"); // the same sizes come out again
+    Do("undo");
+    EXPECT_FALSE(Action("undo").isEnabled());
+
+    CBuilding changed = m_document.Building();
+    changed.strNotiz = L"[1]";
+    m_document.Do(L"Nota", changed);
+    EXPECT_EQ(Action("undo").text(), "&Annulla: Nota");
+}
+
+TEST_F(WorkbenchWindow, AnotherBuildingIsShownWhole)
+{
+    m_window->show();
+    auto& plan = *m_window->findChild<CPlanView*>("plan");
+    plan.ZoomAt({10, 10}, 20.0);
+    m_window->findChild<QTabBar*>("floors")->setCurrentIndex(1);
+    Do("sizeAll");
+    m_answer = CPrompts::Answer::no;
+    m_answerPath = m_path.wstring();
+    Do("open");
+    EXPECT_EQ(m_window->findChild<QTabBar*>("floors")->currentIndex(), 0);
+    const auto shown = plan.transform();
+    Do("fit");
+    EXPECT_EQ(plan.transform(), shown);
 }
 
 TEST_F(WorkbenchWindow, WorksOnTheRoomsThatAreMarked)
