@@ -4,8 +4,10 @@
 #include "platform/encoding.h"
 #include "platform/file.h"
 #include "platform/file_fault.h"
+#include "platform/path.h"
 #include "platform/whole_file.h"
 #include "reference_host/prefs/host_settings.h"
+#include "workbench/building/file_identity.h"
 #include "workbench/building/json_fields.h"
 #include "workbench/building/qt_text.h"
 #include "workbench/drawing/drawing_blocks.h"
@@ -20,6 +22,9 @@
 #include <QCursor>
 #include <QGuiApplication>
 
+#include <filesystem>
+#include <system_error>
+
 namespace workbench {
 
 namespace {
@@ -30,6 +35,14 @@ CString WithSuffix(const CString& path, const CString& suffix)
 {
     const std::size_t name = path.find_last_of(L"/\\") + 1;
     return path.find(L'.', name) == CString::npos ? path + suffix : path;
+}
+
+/// What cannot be asked counts as there.
+bool MayExist(const CString& path)
+{
+    std::error_code error;
+    return std::filesystem::symlink_status(ResolvePath(path), error).type() !=
+           std::filesystem::file_type::not_found;
 }
 
 /// Path beside the building's file, with another suffix.
@@ -83,9 +96,24 @@ bool CFileCommands::Save()
 
 bool CFileCommands::SaveAs()
 {
-    const auto path = m_prompts.saveFile(&m_window, "Salva edificio", kBuildingFilter,
-                                         Proposal(m_document, L".json"));
-    return path && SaveTo(WithSuffix(*path, L".json"));
+    const auto path = AskTarget("Salva edificio", kBuildingFilter, L".json");
+    return path && SaveTo(*path);
+}
+
+/// The dialog asks for itself whether to replace a file, but only about the name that was typed.
+std::optional<CString> CFileCommands::AskTarget(const QString& title, const QString& filter,
+                                                const CString& suffix)
+{
+    const auto typed = m_prompts.saveFile(&m_window, title, filter, Proposal(m_document, suffix));
+    if (!typed) {
+        return std::nullopt;
+    }
+    const CString path = WithSuffix(*typed, suffix);
+    const bool replaces =
+        path == *typed || !MayExist(path) ||
+        m_prompts.ask(&m_window, QString("Il file %1 esiste già. Sostituirlo?").arg(ToQt(path)),
+                      "&Sostituisci", "&Annulla", false) == CPrompts::Answer::yes;
+    return replaces ? std::optional(path) : std::nullopt;
 }
 
 bool CFileCommands::SaveTo(const CString& path)
@@ -123,15 +151,20 @@ template <class WRITE>
 void CFileCommands::Export(const QString& title, const QString& filter, const CString& suffix,
                            WRITE write)
 {
-    const auto chosen = m_prompts.saveFile(&m_window, title, filter, Proposal(m_document, suffix));
-    if (!chosen) {
+    const auto path = AskTarget(title, filter, suffix);
+    if (!path) {
         return;
     }
-    const CString path = WithSuffix(*chosen, suffix);
+    if (IsSameFile(*path, m_document.Path())) {
+        m_prompts.tell(&m_window, QString("L'esportazione non può prendere il posto dell'edificio "
+                                          "aperto.\n%1")
+                                      .arg(ToQt(*path)));
+        return;
+    }
     try {
         const CWaiting waiting;
-        write(path);
-        emit Told(QString("Scritto %1").arg(ToQt(path)));
+        write(*path);
+        emit Told(QString("Scritto %1").arg(ToQt(*path)));
     } catch (const CFileException& error) {
         m_prompts.tell(
             &m_window,

@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <optional>
+
 class QWidget;
 
 namespace workbench {
@@ -48,6 +50,9 @@ signals:
 
 private:
     bool SaveTo(const CString& path);
+    /// Asks for a file to write; nothing if the user cancelled, or keeps what it would replace.
+    std::optional<CString> AskTarget(const QString& title, const QString& filter,
+                                     const CString& suffix);
     /// Asks for the file and lets `write` write it.
     template <class WRITE>
     void Export(const QString& title, const QString& filter, const CString& suffix, WRITE write);

@@ -355,6 +355,40 @@ TEST_F(WorkbenchWindow, ExportsWhatStandsInThePlan)
     }
 }
 
+TEST_F(WorkbenchWindow, AsksBeforeAFileWhoseSuffixWasNotTypedIsReplaced)
+{
+    const std::pair<const char*, const char*> writers[] = {
+        {"exportCsv", "altra.csv"}, {"exportJson", "altra-distinta.json"},
+        {"exportPdf", "altra.pdf"}, {"exportDxf", "altra.dxf"},
+        {"saveAs", "altra.json"},
+    };
+    m_answerPath = (m_path.parent_path() / "altra").wstring();
+    for (const auto& [action, file] : writers) {
+        m_nQuestions = 0;
+        std::ofstream(m_path.parent_path() / file) << "altrui";
+        m_answer = CPrompts::Answer::no;
+        Do(action);
+        EXPECT_EQ(BytesOf(m_path.parent_path() / file), "altrui") << action;
+        EXPECT_EQ(m_document.Path(), m_path.wstring());
+        m_answer = CPrompts::Answer::yes;
+        Do(action);
+        EXPECT_NE(BytesOf(m_path.parent_path() / file), "altrui") << action;
+        EXPECT_EQ(m_nQuestions, 2) << action;
+    }
+}
+
+TEST_F(WorkbenchWindow, NoExportTakesThePlaceOfTheBuilding)
+{
+    const std::string before = BytesOf(m_path);
+    m_answerPath = m_path.wstring();
+    for (const char* action : {"exportCsv", "exportJson", "exportPdf", "exportDxf"}) {
+        m_told.clear();
+        Do(action);
+        EXPECT_TRUE(m_told.contains("casa.json")) << action;
+        EXPECT_EQ(BytesOf(m_path), before) << action;
+    }
+}
+
 TEST_F(WorkbenchWindow, AnotherCatalogueFolderTellsItsDamagedFileAndServesTheRest)
 {
     const fs::path catalogues = m_path.parent_path() / "listini";
