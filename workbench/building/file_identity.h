@@ -3,6 +3,7 @@
 #include "platform/text.h"
 
 #include <filesystem>
+#include <string_view>
 
 namespace workbench {
 
@@ -10,7 +11,17 @@ namespace workbench {
 /// exists.
 std::filesystem::path CanonicalPath(const CString& path);
 
+/// The path as it also holds in another folder.
+CString AbsolutePath(const CString& path);
+
 /// Whether both paths lead to one file, which need not exist. An empty path leads nowhere.
 bool IsSameFile(const CString& a, const CString& b);
+
+/// Tells contents of files apart.
+CString FingerprintOf(std::string_view bytes);
+
+/// Whether writing to the file would take something away: there is one, with other bytes than those
+/// of the fingerprint. A file that cannot be read counts as such.
+bool HoldsOther(const CString& path, const CString& fingerprint);
 
 } // namespace workbench

@@ -51,19 +51,6 @@ bool IsFinite(const QJsonValue& value)
     throw CContentException(FormatFileFault(fault));
 }
 
-std::string ReadText(const CString& path)
-{
-    try {
-        auto bytes = ReadWholeFile(path, kLargestFile);
-        if (!bytes) {
-            Raise({0, L"il file è troppo grande", path});
-        }
-        return *std::move(bytes);
-    } catch (const CFileException& error) {
-        throw CContentException(L"file non leggibile: " + error.GetErrorMessage());
-    }
-}
-
 /// The fault stands at an offset in bytes.
 CFileFault FaultAt(const CString& path, const std::string& bytes, int offset,
                    const CString& message)
@@ -258,9 +245,17 @@ QJsonValue CJsonFields::Take(const char* name)
     return field.value();
 }
 
-CJsonFields ReadJsonFile(const CString& path)
+std::string ReadJsonBytes(const CString& path)
 {
-    const std::string bytes = ReadText(path);
+    auto bytes = ReadWholeFile(path, kLargestFile);
+    if (!bytes) {
+        Raise({0, L"il file è troppo grande", path});
+    }
+    return *std::move(bytes);
+}
+
+CJsonFields ParseJson(const std::string& bytes, const CString& path)
+{
     QJsonParseError error;
     const QJsonDocument document = QJsonDocument::fromJson(
         QByteArray::fromRawData(bytes.data(), qsizetype(bytes.size())), &error);
@@ -271,6 +266,15 @@ CJsonFields ReadJsonFile(const CString& path)
         Raise({0, L"atteso un oggetto { } al livello più alto", path});
     }
     return {document.object(), path, {}};
+}
+
+CJsonFields ReadJsonFile(const CString& path)
+{
+    try {
+        return ParseJson(ReadJsonBytes(path), path);
+    } catch (const CFileException& error) {
+        throw CContentException(L"file non leggibile: " + error.GetErrorMessage());
+    }
 }
 
 } // namespace workbench

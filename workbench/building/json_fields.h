@@ -7,6 +7,7 @@
 #include <QJsonObject>
 
 #include <array>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -85,6 +86,14 @@ private:
     CString m_strPlace;
     std::vector<std::string_view> m_known;
 };
+
+/// All bytes of a JSON file. Raises CFileException if it cannot be read, and CContentException if
+/// it is too large to be meant.
+std::string ReadJsonBytes(const CString& path);
+
+/// The object of a JSON text. One that is none raises CContentException, with line and column of
+/// the place where reading stopped in the file that the text comes from.
+CJsonFields ParseJson(const std::string& bytes, const CString& path);
 
 /// The object of a JSON file. A file that cannot be opened or is no JSON object raises
 /// CContentException, the latter with line and column of the place where reading stopped.

@@ -6,12 +6,11 @@
 #include "platform/whole_file.h"
 #include "workbench/building/building_json.h"
 #include "workbench/building/json_fields.h"
+#include "workbench/building/json_time.h"
 #include "workbench/building/json_writer.h"
-#include "workbench/building/qt_text.h"
-
-#include <QDateTime>
 
 #include <cerrno>
+#include <ctime>
 #include <system_error>
 
 #include <fcntl.h>
@@ -59,28 +58,13 @@ int Lock(const CString& path)
     return -1;
 }
 
-CString FormatTime(const QDateTime& time)
-{
-    return FromQt(time.toUTC().toString(Qt::ISODate));
-}
-
-std::int64_t ReadTime(CJsonFields& fields)
-{
-    const QString text = ToQt(fields.Text("time"));
-    const QDateTime time = QDateTime::fromString(text, Qt::ISODate);
-    if (!time.isValid()) {
-        fields.Fail(L"time", L"attesa una data come \"2026-03-01T14:05:00Z\"");
-    }
-    return time.toSecsSinceEpoch();
-}
-
 CRecovery ReadRecovery(const CString& path)
 {
     CJsonFields fields = ReadJsonFile(path);
     fields.Integer("version", kVersion, kVersion);
     CRecovery recovery;
     recovery.strPath = fields.ForeignText("path");
-    recovery.nTime = ReadTime(fields);
+    recovery.nTime = ReadTime(fields, "time");
     recovery.building = ReadBuilding(fields.Object("building"));
     fields.RefuseUnknown();
     return recovery;
@@ -92,7 +76,7 @@ std::string FormatRecovery(const CString& path, const CBuilding& building)
     writer.BeginObject(nullptr);
     writer.Number("version", kVersion);
     writer.Text("path", path);
-    writer.Text("time", FormatTime(QDateTime::currentDateTimeUtc()));
+    WriteTime(writer, "time", std::time(nullptr));
     WriteBuilding(writer, "building", building);
     writer.End();
     return writer.Take();

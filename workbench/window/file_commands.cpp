@@ -84,14 +84,17 @@ void CFileCommands::Open()
     try {
         const CWaiting waiting;
         m_document.Open(*path);
-    } catch (const CContentException& error) {
+    } catch (const CException& error) {
         m_prompts.tell(&m_window, ToQt(error.GetErrorMessage()));
+        return;
     }
+    TellUse();
 }
 
 bool CFileCommands::Save()
 {
-    return m_document.Path().empty() ? SaveAs() : SaveTo(m_document.Path());
+    return m_document.Path().empty() || m_document.IsReadOnly() ? SaveAs()
+                                                                : SaveTo(m_document.Path());
 }
 
 bool CFileCommands::SaveAs()
@@ -116,17 +119,53 @@ std::optional<CString> CFileCommands::AskTarget(const QString& title, const QStr
     return replaces ? std::optional(path) : std::nullopt;
 }
 
+/// Asks if there is something to be asked.
+CFileCommands::Target CFileCommands::AskWhere(const CString& path)
+{
+    if (!IsSameFile(path, m_document.Path()) || !m_document.IsFileChanged()) {
+        return Target::here;
+    }
+    const QString question =
+        QString("Il file %1 non è più quello che è stato aperto: qualcuno lo ha cambiato, o ora "
+                "non si lascia leggere.\nSalvare con un altro nome, o sostituirlo?");
+    switch (m_prompts.ask(&m_window, question.arg(ToQt(path)), "Salva con &nome…", "&Sostituisci",
+                          true)) {
+    case CPrompts::Answer::yes:
+        return Target::elsewhere;
+    case CPrompts::Answer::no:
+        return Target::here;
+    case CPrompts::Answer::cancel:
+        break;
+    }
+    return Target::nowhere;
+}
+
 bool CFileCommands::SaveTo(const CString& path)
 {
+    const Target target = AskWhere(path);
+    if (target != Target::here) {
+        return target == Target::elsewhere && SaveAs();
+    }
     try {
         const CWaiting waiting;
         m_document.SaveAs(path);
         return true;
-    } catch (const CFileException& error) {
+    } catch (const CException& error) {
         m_prompts.tell(
             &m_window,
             QString("L'edificio non è stato salvato.\n%1").arg(ToQt(error.GetErrorMessage())));
         return false;
+    }
+}
+
+void CFileCommands::TellUse()
+{
+    QString message = ToQt(m_document.DescribeUse());
+    if (m_document.IsReadOnly()) {
+        message += " Qui si apre in sola lettura; \"Salva con nome\" lo scrive altrove.";
+    }
+    if (!message.isEmpty()) {
+        emit Told(message);
     }
 }
 

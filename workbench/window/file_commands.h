@@ -28,6 +28,9 @@ public:
     /// Asks for a building and goes on with that.
     void Open();
 
+    /// Tells who else works on the building's file, if anybody does.
+    void TellUse();
+
     /// False if the user cancelled or the file could not be written.
     bool Save();
     bool SaveAs();
@@ -49,6 +52,14 @@ signals:
     void Told(const QString& message);
 
 private:
+    /// Where a building goes that is to be saved.
+    enum class Target
+    {
+        here,
+        elsewhere,
+        nowhere,
+    };
+    Target AskWhere(const CString& path);
     bool SaveTo(const CString& path);
     /// Asks for a file to write; nothing if the user cancelled, or keeps what it would replace.
     std::optional<CString> AskTarget(const QString& title, const QString& filter,

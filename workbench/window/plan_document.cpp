@@ -1,7 +1,10 @@
 #include "workbench/window/plan_document.h"
 
-#include "platform/file.h"
+#include "platform/exception.h"
+#include "platform/whole_file.h"
 #include "workbench/building/building_json.h"
+#include "workbench/building/file_identity.h"
+#include "workbench/building/json_fields.h"
 #include "workbench/building/qt_text.h"
 
 #include <chrono>
@@ -22,6 +25,12 @@ CPlanDocument::CPlanDocument(const CRecoveryFile* recovery, QObject* parent)
     m_keepTimer.setSingleShot(true);
     m_keepTimer.setInterval(kKeepAfter);
     connect(&m_keepTimer, &QTimer::timeout, this, &CPlanDocument::KeepNow);
+    m_lockTimer.start(CBuildingLock::kRefreshEvery);
+    connect(&m_lockTimer, &QTimer::timeout, this, [this] {
+        if (m_lock) {
+            m_lock->Refresh();
+        }
+    });
 }
 
 void CPlanDocument::Do(const CString& what, CBuilding next)
@@ -47,7 +56,11 @@ void CPlanDocument::Redo()
 
 void CPlanDocument::Open(const CString& path)
 {
-    Begin(ReadBuilding(path), path);
+    auto lock = LockFor(path);
+    const std::string bytes = ReadJsonBytes(path);
+    Begin(ReadBuilding(ParseJson(bytes, path)), path);
+    m_strFingerprint = FingerprintOf(bytes);
+    Take(std::move(lock));
     ForgetKept();
     emit Changed();
     emit Opened();
@@ -55,16 +68,30 @@ void CPlanDocument::Open(const CString& path)
 
 void CPlanDocument::Recover(const CRecovery& recovery)
 {
+    auto lock = recovery.strPath.empty() ? nullptr : LockFor(recovery.strPath);
     Begin(recovery.building, recovery.strPath);
+    Take(std::move(lock));
     m_history.MarkUnsaved();
     emit Changed();
     emit Opened();
 }
 
+bool CPlanDocument::IsFileChanged() const
+{
+    return !m_strPath.empty() && HoldsOther(m_strPath, m_strFingerprint);
+}
+
 void CPlanDocument::SaveAs(const CString& path)
 {
-    WriteBuilding(path, Building());
-    m_strPath = path;
+    auto lock = LockFor(path);
+    if (lock && lock->GetOther()) {
+        throw CInUseException(lock->GetMessage());
+    }
+    const std::string bytes = FormatBuilding(Building());
+    WriteWholeFile(path, bytes);
+    m_strPath = AbsolutePath(path);
+    m_strFingerprint = FingerprintOf(bytes);
+    Take(std::move(lock));
     m_history.MarkSaved();
     ForgetKept();
     emit Changed();
@@ -99,7 +126,21 @@ void CPlanDocument::ForgetKept()
 void CPlanDocument::Begin(CBuilding building, const CString& path)
 {
     m_history = CPlanHistory(std::move(building));
-    m_strPath = path;
+    m_strPath = path.empty() ? path : AbsolutePath(path);
+}
+
+/// Null if the lock of that file is held already.
+std::unique_ptr<CBuildingLock> CPlanDocument::LockFor(const CString& path) const
+{
+    const bool isMine = m_lock && m_lock->IsMine() && IsSameFile(path, m_strPath);
+    return isMine ? nullptr : std::make_unique<CBuildingLock>(path);
+}
+
+void CPlanDocument::Take(std::unique_ptr<CBuildingLock> lock)
+{
+    if (lock) {
+        m_lock = std::move(lock);
+    }
 }
 
 void CPlanDocument::Announce()

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "workbench/building/building_lock.h"
 #include "workbench/plan/plan_history.h"
 #include "workbench/plan/recovery_file.h"
 
 #include <QObject>
 #include <QTimer>
+
+#include <memory>
 
 namespace workbench {
 
@@ -20,7 +23,7 @@ public:
     const CBuilding& Building() const { return m_history.Current(); }
     const CPlanHistory& History() const { return m_history; }
 
-    /// File of the building; empty for one that has none yet.
+    /// File of the building, absolute; empty for one that has none yet.
     const CString& Path() const { return m_strPath; }
     bool IsSaved() const { return m_history.IsSaved(); }
 
@@ -29,15 +32,26 @@ public:
     void Undo();
     void Redo();
 
-    /// Goes on with the building of a file, and forgets the one before. Raises CContentException,
-    /// and the document stays as it was.
+    /// Somebody else works on the file: the building can be saved to another one only.
+    bool IsReadOnly() const { return m_lock && m_lock->GetOther(); }
+
+    /// What the user has to know of others who might work on the file; empty if it is his alone.
+    CString DescribeUse() const { return m_lock ? m_lock->GetMessage() : CString(); }
+
+    /// The file holds something else than what was read from it or written to it last, which saving
+    /// would take away.
+    bool IsFileChanged() const;
+
+    /// Goes on with the building of a file, and forgets the one before. Raises CContentException or
+    /// CFileException, and the document stays as it was.
     void Open(const CString& path);
 
     /// Goes on with work that a crash left behind, as work that is not saved.
     void Recover(const CRecovery& recovery);
 
-    /// Writes the building to a file, which becomes its own. Raises CFileException, and the file
-    /// stays as it was.
+    /// Writes the building to a file, which becomes its own, whatever it holds. Raises
+    /// CFileException or, where somebody else works on it, CInUseException, and the file stays as
+    /// it was.
     void SaveAs(const CString& path);
 
     /// Keeps work that is not saved for the case of a crash, which otherwise happens shortly after
@@ -58,11 +72,18 @@ signals:
 private:
     void Begin(CBuilding building, const CString& path);
     void Announce();
+    std::unique_ptr<CBuildingLock> LockFor(const CString& path) const;
+    void Take(std::unique_ptr<CBuildingLock> lock);
 
     CPlanHistory m_history;
     CString m_strPath;
+    /// Of what the file held when it was read or written last.
+    CString m_strFingerprint;
+    /// Of the file; null as long as there is none.
+    std::unique_ptr<CBuildingLock> m_lock;
     const CRecoveryFile* m_pRecovery;
     QTimer m_keepTimer;
+    QTimer m_lockTimer;
 };
 
 } // namespace workbench

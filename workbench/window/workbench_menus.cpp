@@ -116,6 +116,9 @@ void CWorkbenchWindow::EnableActions()
     };
     findChild<QAction*>("undo")->setText(name("&Annulla", history.GetUndoText()));
     findChild<QAction*>("redo")->setText(name("&Ripeti", history.GetRedoText()));
+    const bool readOnly = m_document.IsReadOnly();
+    findChild<QAction*>("save")->setText(readOnly ? "&Salva (sola lettura)" : "&Salva");
+    enable("save", !readOnly);
     enable("undo", history.CanUndo());
     enable("redo", history.CanRedo());
 

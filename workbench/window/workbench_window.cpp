@@ -162,7 +162,8 @@ void CWorkbenchWindow::ShowTotals()
 
 void CWorkbenchWindow::ShowTitle()
 {
-    setWindowTitle(ToQt(m_document.Building().strName) + "[*] – radsel");
+    const char* const use = m_document.IsReadOnly() ? " [sola lettura]" : "";
+    setWindowTitle(ToQt(m_document.Building().strName) + use + "[*] – radsel");
     setWindowModified(!m_document.IsSaved());
 }
 

@@ -50,6 +50,11 @@ protected:
         qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(Utf8FromWide(m_folder.Path())));
         fs::copy_file(fs::path(RADSEL_DATA_DIR) / "buildings/villa-dei-tigli.json", m_path);
         m_document.Open(m_path.wstring());
+        m_window = MakeWindow(m_document);
+    }
+
+    std::unique_ptr<CWorkbenchWindow> MakeWindow(CPlanDocument& document)
+    {
         CPrompts prompts;
         const auto answerPath = [this](QWidget*, const QString&, const QString&, const CString&) {
             return m_answerPath;
@@ -60,7 +65,7 @@ protected:
             return m_answer;
         };
         prompts.tell = [this](QWidget*, const QString& text) { m_told = text; };
-        m_window = std::make_unique<CWorkbenchWindow>(m_document, ReadDrawingBlocks(), prompts);
+        return std::make_unique<CWorkbenchWindow>(document, ReadDrawingBlocks(), prompts);
     }
 
     QAction& Action(const char* name) { return *m_window->findChild<QAction*>(name); }
@@ -317,6 +322,73 @@ TEST_F(WorkbenchWindow, AFailedSaveKeepsFileAndWork)
     m_answer = CPrompts::Answer::yes;
     EXPECT_TRUE(m_window->close());
     EXPECT_EQ(BytesOf(m_path), FormatBuilding(m_document.Building()));
+}
+
+TEST_F(WorkbenchWindow, AsksBeforeItSavesOverWhatSomebodyElseWrote)
+{
+    Do("sizeAll");
+    const std::string sized = FormatBuilding(m_document.Building());
+    std::ofstream(m_path) << "altrui";
+    m_answer = CPrompts::Answer::cancel;
+    Do("save");
+    EXPECT_EQ(m_nQuestions, 1);
+    EXPECT_EQ(BytesOf(m_path), "altrui");
+    EXPECT_TRUE(m_window->isWindowModified());
+
+    m_answer = CPrompts::Answer::no; // replace it
+    Do("save");
+    EXPECT_EQ(BytesOf(m_path), sized);
+    Do("undo");
+    Do("save");
+    EXPECT_EQ(m_nQuestions, 2) << "its own file, as it wrote it";
+
+    std::ofstream(m_path) << "altrui";
+    m_answer = CPrompts::Answer::yes; // beside it
+    m_answerPath = (m_path.parent_path() / "accanto.json").wstring();
+    Do("redo");
+    Do("save");
+    EXPECT_EQ(BytesOf(m_path), "altrui");
+    EXPECT_EQ(BytesOf(m_path.parent_path() / "accanto.json"), sized);
+    EXPECT_EQ(m_document.Path(), *m_answerPath);
+
+    fs::remove(*m_answerPath); // nothing is there to be lost
+    Do("undo");
+    Do("save");
+    EXPECT_EQ(m_nQuestions, 3);
+    EXPECT_FALSE(m_window->isWindowModified());
+}
+
+TEST_F(WorkbenchWindow, TheSecondWindowOnABuildingOnlyReadsIt)
+{
+    CPlanDocument document(nullptr);
+    const auto second = MakeWindow(document);
+    const auto action = [&](const char* name) { return second->findChild<QAction*>(name); };
+    m_answerPath = m_path.wstring();
+    action("open")->trigger();
+    EXPECT_TRUE(second->windowTitle().contains("sola lettura"))
+        << second->windowTitle().toStdString();
+    EXPECT_FALSE(action("save")->isEnabled());
+    EXPECT_TRUE(action("save")->text().contains("sola lettura"));
+    EXPECT_TRUE(
+        second->findChild<QPlainTextEdit*>("messages")->toPlainText().contains("è aperto da"));
+
+    const std::string before = BytesOf(m_path);
+    action("sizeAll")->trigger();
+    m_answer = CPrompts::Answer::yes;
+    action("saveAs")->trigger(); // to the same file
+    EXPECT_TRUE(m_told.contains("casa.json è aperto da")) << m_told.toStdString();
+    EXPECT_EQ(BytesOf(m_path), before);
+    m_answerPath = (m_path.parent_path() / "copia.json").wstring();
+    EXPECT_TRUE(second->close()) << "saving goes to another file";
+    EXPECT_EQ(BytesOf(*m_answerPath), FormatBuilding(document.Building()));
+    EXPECT_FALSE(second->windowTitle().contains("sola lettura"));
+    EXPECT_TRUE(action("save")->isEnabled());
+
+    EXPECT_FALSE(m_window->windowTitle().contains("sola lettura"));
+    m_answerPath = (m_path.parent_path() / "terza.json").wstring();
+    Do("saveAs"); // leaves the first file to others
+    document.Open(m_path.wstring());
+    EXPECT_FALSE(document.IsReadOnly());
 }
 
 TEST_F(WorkbenchWindow, KeepsUnsavedWorkForTheNextStart)
