@@ -23,7 +23,7 @@ std::vector<CString> InstalledDefaults()
     if (!data) {
         return {};
     }
-    return {L"--building", (*data / "buildings" / "villa-dei-tigli.json").wstring()};
+    return {L"--sample", (*data / "buildings" / "villa-dei-tigli.json").wstring()};
 }
 
 } // namespace

@@ -97,6 +97,18 @@ save() {
     await "nothing unsaved" nothing_kept
 }
 
+# The finder is asked about the first window only.
+open_twice() {
+    step "open the building a second time"
+    QT_QPA_GENERIC_PLUGINS='' "$program" "${options[@]}" >"$scratch/second.out" 2>&1 &
+    local second=$!
+    await "a window that only reads" \
+        eval 'xdotool search --onlyvisible --name "sola lettura" >/dev/null 2>&1'
+    kill "$second"
+    wait "$second" 2>/dev/null || true
+    back_to_plan
+}
+
 crash_and_recover() {
     step "remove the radiators of the rooms that are marked and crash"
     keys ctrl+a Delete
@@ -108,6 +120,13 @@ crash_and_recover() {
     job=
     [[ $(radiators_in "$(cat "$building")") -gt $before ]] ||
         fail "expected fewer than the saved radiators, found $before"
+    step "put the work off"
+    open_workbench radsel
+    keys Escape
+    back_to_plan
+    keys ctrl+q
+    expect_exit 0
+    keeps_radiators "$before" || fail "expected the work of before, found $(radiators_in "$(kept)")"
     step "recover the work"
     open_workbench radsel
     keys Return
@@ -117,8 +136,8 @@ crash_and_recover() {
 }
 
 export_and_compare() {
-    step "size all rooms of the recovered work"
-    keys ctrl+d
+    step "size all rooms of the recovered work, of which some have no radiator"
+    keys ctrl+a Delete ctrl+d
     await "10 radiators or more, kept" eval '[[ $(radiators_in "$(kept)") -ge 10 ]]'
     step "save the recovered work"
     keys ctrl+s
@@ -158,5 +177,6 @@ size_all_and_undo
 connect_all
 change_system_and_repair
 save
+open_twice
 crash_and_recover
 export_and_compare

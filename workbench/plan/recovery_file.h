@@ -3,7 +3,9 @@
 #include "workbench/building/building.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace workbench {
 
@@ -12,6 +14,9 @@ struct CRecovery
 {
     /// File of the building; empty if it never had one.
     CString strPath;
+    /// Of the content of that file that the work goes out from (FingerprintOf); empty if that is
+    /// unknown.
+    CString strFingerprint;
     /// When it was kept, in seconds since the beginning of 1970, UTC.
     std::int64_t nTime = 0;
     CBuilding building;
@@ -23,9 +28,8 @@ struct CRecovery
 class CRecoveryFile
 {
 public:
-    /// Takes a file that no running program has, if there is one that a program has left behind,
-    /// and makes the folder where it is missing. Call Read() before the first Write(), which
-    /// replaces what was left. Raises CFileException.
+    /// Takes a file that no running program has and that nobody has left behind, and makes the
+    /// folder where it is missing. Raises CFileException.
     explicit CRecoveryFile(const CString& folder);
 
     /// Leaves the file where it is. A program that ends as it should calls Remove() before.
@@ -34,22 +38,31 @@ public:
     CRecoveryFile(const CRecoveryFile&) = delete;
     CRecoveryFile& operator=(const CRecoveryFile&) = delete;
 
-    /// The work in the file; nothing if there is none. A file that cannot be read gets another name
-    /// beside it and is told by CContentException; from then on there is none.
+    /// The files in the same folder that programs have left behind. No other program takes one of
+    /// them as long as its object lives. Raises CFileException if they cannot be looked for.
+    std::vector<std::unique_ptr<CRecoveryFile>> TakeLeft() const;
+
+    /// The work in the file; nothing if there is none. A file whose content is damaged gets another
+    /// name beside it and is told by CContentException; from then on there is none. One that the
+    /// system does not let read stays as it is and is told by CFileException.
     std::optional<CRecovery> Read() const;
 
     /// Keeps the building, with the time of now, in place of what was kept before. `path` is the
-    /// file that it belongs to, or empty. Whatever happens meanwhile, the file holds the old work
-    /// or the new, whole. Raises CFileException.
-    void Write(const CString& path, const CBuilding& building) const;
+    /// file that it belongs to, or empty, and `fingerprint` that of its content. Whatever happens
+    /// meanwhile, the file holds the old work or the new, whole. Raises CFileException.
+    void Write(const CString& path, const CString& fingerprint, const CBuilding& building) const;
 
     /// Takes the file away if there is one. Raises CFileException.
     void Remove() const;
 
 private:
-    bool Take(const CString& folder, int number);
+    /// Holds the file of that number unless another program has it.
+    CRecoveryFile(const CString& folder, int number);
+
+    bool Take(int number);
     CString SetAside() const;
 
+    CString m_strFolder;
     CString m_strPath;
     int m_lock = -1;
 };

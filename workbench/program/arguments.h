@@ -12,6 +12,8 @@ namespace workbench {
 struct CArguments
 {
     CString strBuilding;
+    /// The building that counts where the user names none.
+    CString strSample;
     /// Empty: the folder of the host's settings.
     CString strCatalogues;
     /// The same for the valves.

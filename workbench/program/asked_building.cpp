@@ -7,7 +7,8 @@ namespace workbench {
 
 CBuilding ReadAskedBuilding(const CArguments& arguments, const CString& roomOption)
 {
-    CBuilding building = ReadBuilding(arguments.strBuilding);
+    CBuilding building =
+        ReadBuilding(arguments.strBuilding.empty() ? arguments.strSample : arguments.strBuilding);
     if (!arguments.strRoom.empty() && !KeepRoom(building, arguments.strRoom)) {
         throw CArgumentException(roomOption + L": l'edificio non ha il locale \"" +
                                  arguments.strRoom + L"\"");

@@ -39,7 +39,7 @@ void KeepSystem(CArguments& arguments, const CString& value)
 
 void RequireBuilding(const CArguments& arguments)
 {
-    if (arguments.strBuilding.empty()) {
+    if (arguments.strBuilding.empty() && arguments.strSample.empty()) {
         throw CArgumentException(L"manca l'edificio: indicarlo con --building FILE");
     }
 }
@@ -53,6 +53,7 @@ void UseSuperUser(const CArguments& arguments)
 
 constexpr COption kBuilding{L"--building", true, KeepText<&CArguments::strBuilding>,
                             RequireBuilding, true};
+constexpr COption kSample{L"--sample", true, KeepText<&CArguments::strSample>, nullptr, true};
 constexpr COption kOutput{L"--output", true, KeepText<&CArguments::strOutput>, nullptr, true};
 constexpr COption kWorkplace{L"--workplace", true, KeepText<&CArguments::strWorkplace>,
                              UseWorkplace, true};
@@ -73,18 +74,18 @@ std::span<const CCommand> GetCommands()
     static const CCommand commands[] = {
         {nullptr,
          {},
-         {&kBuilding, &kCatalogues, &kValveCatalogues, &kWorkplace},
+         {&kBuilding, &kSample, &kCatalogues, &kValveCatalogues, &kWorkplace},
          RunWindow,
          CommandId::window},
         {L"--batch",
          {},
-         {&kBuilding, &kCatalogues, &kValveCatalogues, &kSystem, &kRoom, &kValves, &kOutput,
-          &kSave},
+         {&kBuilding, &kSample, &kCatalogues, &kValveCatalogues, &kSystem, &kRoom, &kValves,
+          &kOutput, &kSave},
          RunBatch,
          CommandId::batch},
         {L"--radiator-dialog",
          {&CArguments::strRoom},
-         {&kBuilding, &kCatalogues, &kValveCatalogues, &kSystem, &kRoom, &kWorkplace},
+         {&kBuilding, &kSample, &kCatalogues, &kValveCatalogues, &kSystem, &kRoom, &kWorkplace},
          RunRadiatorDialog,
          CommandId::radiatorDialog},
         {L"--tree-dialog",

@@ -12,6 +12,7 @@ dai cataloghi dei produttori.
 
 Opzioni:
   --building FILE    edificio da calcolare (formato: docs/building-format.md)
+  --sample FILE      edificio che vale se --building manca
   --catalogues DIR   cartella dei cataloghi, una sottocartella per produttore
   --valve-catalogues DIR
                      cartella delle valvole, una sottocartella per produttore

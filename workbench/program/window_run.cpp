@@ -19,31 +19,6 @@ namespace workbench {
 
 namespace {
 
-/// Unsaved work that an earlier run left behind, if the user wants to go on with it.
-bool RecoverWork(const CRecoveryFile& file, CPlanDocument& document, const CPrompts& prompts,
-                 QStringList& messages)
-{
-    try {
-        const auto recovery = file.Read();
-        if (!recovery) {
-            return false;
-        }
-        const QString text =
-            QString("Il programma si è chiuso prima di salvare l'edificio \"%1\".\n"
-                    "Recuperare il lavoro non salvato?")
-                .arg(ToQt(recovery->building.strName));
-        if (prompts.ask(nullptr, text, "&Recupera", "&Elimina", false) != CPrompts::Answer::yes) {
-            file.Remove();
-            return false;
-        }
-        document.Recover(*recovery);
-        return true;
-    } catch (const CException& error) {
-        messages += ToQt(error.GetErrorMessage());
-        return false;
-    }
-}
-
 std::unique_ptr<CRecoveryFile> OpenRecovery(QStringList& messages)
 {
     try {
@@ -73,17 +48,14 @@ ExitCode Run(const CArguments& arguments)
     QStringList messages;
     const auto recovery = OpenRecovery(messages);
     CPlanDocument document(recovery.get());
-    const CPrompts prompts = MakePrompts();
-    if (!recovery || !RecoverWork(*recovery, document, prompts, messages)) {
-        document.Open(arguments.strBuilding);
-    }
-    CWorkbenchWindow window(document, ReadBlocks(messages), prompts);
+    CWorkbenchWindow window(document, ReadBlocks(messages), MakePrompts());
     if (const QString errors = DescribeCatalogueErrors(); !errors.isEmpty()) {
         messages += errors;
     }
     if (!messages.isEmpty()) {
         window.Tell(messages.join('\n'));
     }
+    window.Start(arguments.strBuilding, arguments.strSample);
     window.show();
     QApplication::exec();
     return ExitCode::ok;

@@ -8,9 +8,9 @@ namespace workbench {
 
 struct CArguments;
 
-/// Opens the workbench's window on the building of the arguments and returns when the user closes
-/// it. Raises CArgumentException if there is no folder of catalogues and CContentException for a
-/// building that cannot be read. Needs a display.
+/// Opens the workbench's window on the building of the arguments, or on work that a crash left
+/// behind, and returns when the user closes it. A building that cannot be read is told in the
+/// window. Raises CArgumentException if there is no folder of catalogues. Needs a display.
 ExitCode RunWindow(const CArguments& arguments, std::ostream& out, std::ostream& err);
 
 } // namespace workbench

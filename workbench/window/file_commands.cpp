@@ -18,6 +18,7 @@
 #include "workbench/schedule/schedule_json.h"
 #include "workbench/window/plan_document.h"
 #include "workbench/window/prompts.h"
+#include "workbench/window/recovery_offer.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -82,13 +83,61 @@ void CFileCommands::Open()
         return;
     }
     try {
-        const CWaiting waiting;
-        m_document.Open(*path);
+        OpenOrRecover(*path);
     } catch (const CException& error) {
         m_prompts.tell(&m_window, ToQt(error.GetErrorMessage()));
-        return;
+    }
+}
+
+void CFileCommands::Start(const CString& asked, const CString& sample)
+{
+    try {
+        if (!asked.empty()) {
+            OpenOrRecover(asked);
+        } else if (!RecoverWork({})) {
+            Load(sample);
+        }
+    } catch (const CException& error) {
+        emit Told(ToQt(error.GetErrorMessage()));
+    }
+    if (!asked.empty()) {
+        Tell(DescribeOtherLeftWork(m_document, asked));
+    }
+}
+
+void CFileCommands::OpenOrRecover(const CString& path)
+{
+    if (!RecoverWork(path)) {
+        Load(path);
+    }
+}
+
+/// True if the document goes on with work that a crash left behind.
+bool CFileCommands::RecoverWork(const CString& path)
+{
+    QStringList faults;
+    const bool recovered = OfferLeftWork(m_document, m_prompts, m_window, path, faults);
+    Tell(faults);
+    if (recovered) {
+        TellUse();
+    }
+    return recovered;
+}
+
+void CFileCommands::Load(const CString& path)
+{
+    {
+        const CWaiting waiting;
+        m_document.Open(path);
     }
     TellUse();
+}
+
+void CFileCommands::Tell(const QStringList& lines)
+{
+    if (!lines.isEmpty()) {
+        emit Told(lines.join('\n'));
+    }
 }
 
 bool CFileCommands::Save()
@@ -164,9 +213,7 @@ void CFileCommands::TellUse()
     if (m_document.IsReadOnly()) {
         message += " Qui si apre in sola lettura; \"Salva con nome\" lo scrive altrove.";
     }
-    if (!message.isEmpty()) {
-        emit Told(message);
-    }
+    Tell(message.isEmpty() ? QStringList() : QStringList(message));
 }
 
 bool CFileCommands::MayLeave()

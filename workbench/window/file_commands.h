@@ -25,11 +25,13 @@ public:
     CFileCommands(CPlanDocument& document, const CDrawingBlocks& blocks, const CPrompts& prompts,
                   QWidget& window);
 
-    /// Asks for a building and goes on with that.
-    void Open();
+    /// Begins with the building of a file that the user asked for, or if he asked for none with
+    /// what a crash left behind, or else with a sample. What cannot be read is told, and there is
+    /// no building then.
+    void Start(const CString& asked, const CString& sample);
 
-    /// Tells who else works on the building's file, if anybody does.
-    void TellUse();
+    /// Asks for a building and goes on with that, or with what a crash left of it.
+    void Open();
 
     /// False if the user cancelled or the file could not be written.
     bool Save();
@@ -61,6 +63,12 @@ private:
     };
     Target AskWhere(const CString& path);
     bool SaveTo(const CString& path);
+    void OpenOrRecover(const CString& path);
+    bool RecoverWork(const CString& path);
+    void Load(const CString& path);
+    /// Tells who else works on the building's file, if anybody does.
+    void TellUse();
+    void Tell(const QStringList& lines);
     /// Asks for a file to write; nothing if the user cancelled, or keeps what it would replace.
     std::optional<CString> AskTarget(const QString& title, const QString& filter,
                                      const CString& suffix);

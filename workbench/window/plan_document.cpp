@@ -14,7 +14,7 @@ namespace workbench {
 
 namespace {
 
-/// A crash costs no more than the work of this time.
+/// A crash costs no more than the work of this time: counted from a change on, whatever follows it.
 constexpr std::chrono::milliseconds kKeepAfter(1500);
 
 } // namespace
@@ -66,14 +66,19 @@ void CPlanDocument::Open(const CString& path)
     emit Opened();
 }
 
-void CPlanDocument::Recover(const CRecovery& recovery)
+bool CPlanDocument::Recover(const CRecovery& recovery)
 {
-    auto lock = recovery.strPath.empty() ? nullptr : LockFor(recovery.strPath);
+    if (recovery.strPath.empty()) {
+        m_lock.reset();
+    } else {
+        Take(LockFor(recovery.strPath));
+    }
     Begin(recovery.building, recovery.strPath);
-    Take(std::move(lock));
+    m_strFingerprint = recovery.strFingerprint;
     m_history.MarkUnsaved();
     emit Changed();
     emit Opened();
+    return KeepNow();
 }
 
 bool CPlanDocument::IsFileChanged() const
@@ -97,16 +102,22 @@ void CPlanDocument::SaveAs(const CString& path)
     emit Changed();
 }
 
-void CPlanDocument::KeepNow()
+bool CPlanDocument::KeepNow()
 {
     m_keepTimer.stop();
     if (m_pRecovery == nullptr || IsSaved()) {
-        return;
+        return true;
     }
     try {
-        m_pRecovery->Write(m_strPath, Building());
+        m_pRecovery->Write(m_strPath, m_strFingerprint, Building());
+        m_strKeepFault.clear();
+        return true;
     } catch (const CFileException& error) {
-        emit KeepingFailed(ToQt(error.GetErrorMessage()));
+        m_keepTimer.start();
+        if (std::exchange(m_strKeepFault, error.GetErrorMessage()) != error.GetErrorMessage()) {
+            emit KeepingFailed(ToQt(error.GetErrorMessage()));
+        }
+        return false;
     }
 }
 
@@ -147,7 +158,7 @@ void CPlanDocument::Announce()
 {
     if (IsSaved()) {
         ForgetKept();
-    } else {
+    } else if (!m_keepTimer.isActive()) {
         m_keepTimer.start();
     }
     emit Changed();

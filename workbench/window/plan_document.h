@@ -46,8 +46,12 @@ public:
     /// CFileException, and the document stays as it was.
     void Open(const CString& path);
 
-    /// Goes on with work that a crash left behind, as work that is not saved.
-    void Recover(const CRecovery& recovery);
+    /// Goes on with work that a crash left behind, as work that is not saved. False if it could not
+    /// be kept for another crash (KeepNow).
+    bool Recover(const CRecovery& recovery);
+
+    /// Where the document keeps its work; null if nowhere.
+    const CRecoveryFile* RecoveryFile() const { return m_pRecovery; }
 
     /// Writes the building to a file, which becomes its own, whatever it holds. Raises
     /// CFileException or, where somebody else works on it, CInUseException, and the file stays as
@@ -55,8 +59,9 @@ public:
     void SaveAs(const CString& path);
 
     /// Keeps work that is not saved for the case of a crash, which otherwise happens shortly after
-    /// a change. Where that fails, KeepingFailed() tells why.
-    void KeepNow();
+    /// the first change that is not kept. False if that fails: KeepingFailed() tells why, once, and
+    /// it is tried again and again.
+    bool KeepNow();
 
     /// Gives up what was kept, for a program that ends as it should.
     void ForgetKept();
@@ -83,6 +88,8 @@ private:
     std::unique_ptr<CBuildingLock> m_lock;
     const CRecoveryFile* m_pRecovery;
     QTimer m_keepTimer;
+    /// What KeepingFailed() told last; empty since keeping succeeded.
+    CString m_strKeepFault;
     QTimer m_lockTimer;
 };
 

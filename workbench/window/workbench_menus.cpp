@@ -118,7 +118,12 @@ void CWorkbenchWindow::EnableActions()
     findChild<QAction*>("redo")->setText(name("&Ripeti", history.GetRedoText()));
     const bool readOnly = m_document.IsReadOnly();
     findChild<QAction*>("save")->setText(readOnly ? "&Salva (sola lettura)" : "&Salva");
-    enable("save", !readOnly);
+    const bool any = !m_document.Building().floors.empty();
+    enable("save", any && !readOnly);
+    for (const char* const work :
+         {"saveAs", "exportPdf", "exportCsv", "exportJson", "exportDxf", "sizeAll", "system"}) {
+        enable(work, any);
+    }
     enable("undo", history.CanUndo());
     enable("redo", history.CanRedo());
 

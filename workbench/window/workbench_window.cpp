@@ -146,6 +146,10 @@ void CWorkbenchWindow::ShowFloor(int floor)
 void CWorkbenchWindow::ShowTotals()
 {
     const CBuilding& building = m_document.Building();
+    if (building.floors.empty()) {
+        m_pTotals->setText("Nessun edificio aperto");
+        return;
+    }
     double bedarf = 0.0;
     double gedeckt = 0.0;
     for (const CRoomRef& ref : AllRooms(building)) {
@@ -162,6 +166,10 @@ void CWorkbenchWindow::ShowTotals()
 
 void CWorkbenchWindow::ShowTitle()
 {
+    if (m_document.Building().floors.empty()) {
+        setWindowTitle("radsel[*]");
+        return;
+    }
     const char* const use = m_document.IsReadOnly() ? " [sola lettura]" : "";
     setWindowTitle(ToQt(m_document.Building().strName) + use + "[*] – radsel");
     setWindowModified(!m_document.IsSaved());

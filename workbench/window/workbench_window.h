@@ -30,6 +30,9 @@ public:
     CWorkbenchWindow(CPlanDocument& document, CDrawingBlocks blocks, CPrompts prompts);
     ~CWorkbenchWindow() override;
 
+    /// Begins with a building (CFileCommands::Start).
+    void Start(const CString& asked, const CString& sample) { m_files.Start(asked, sample); }
+
     /// Adds a text to the messages and shows them.
     void Tell(const QString& message);
 

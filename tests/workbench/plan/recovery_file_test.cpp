@@ -48,15 +48,19 @@ TEST_F(RecoveryFileTest, WorkOfAKilledProgramComesBack)
     const pid_t child = fork();
     if (child == 0) {
         const CRecoveryFile file(folder);
-        file.Write(L"/case/città.json", m_building);
+        file.Write(L"/case/città.json", L"1234", m_building);
         raise(SIGKILL);
     }
     waitpid(child, nullptr, 0);
 
-    const CRecoveryFile file(folder);
+    const CRecoveryFile own(folder);
+    const auto left = own.TakeLeft();
+    ASSERT_EQ(left.size(), 1u);
+    const CRecoveryFile& file = *left.front();
     const auto recovery = file.Read();
     ASSERT_TRUE(recovery);
     EXPECT_EQ(recovery->strPath, L"/case/città.json");
+    EXPECT_EQ(recovery->strFingerprint, L"1234");
     EXPECT_GE(recovery->nTime, before);
     EXPECT_LE(recovery->nTime, std::time(nullptr));
     EXPECT_EQ(FormatBuilding(recovery->building), FormatBuilding(m_building));
@@ -64,27 +68,31 @@ TEST_F(RecoveryFileTest, WorkOfAKilledProgramComesBack)
     file.Remove();
     EXPECT_FALSE(file.Read());
     EXPECT_NO_THROW(file.Remove());
+    EXPECT_TRUE(CRecoveryFile(folder).TakeLeft().empty());
 }
 
 TEST_F(RecoveryFileTest, RunningProgramsKeepOutOfEachOthersWay)
 {
     const CRecoveryFile first(m_folder.Path());
-    EXPECT_FALSE(first.Read());
-    first.Write(L"first", m_building);
-    {
-        const CRecoveryFile second(m_folder.Path());
-        EXPECT_FALSE(second.Read());
-        second.Write(L"second", m_building);
+    first.Write(L"first", {}, m_building);
+    for (const wchar_t* const path : {L"second", L"third"}) {
+        const CRecoveryFile crashed(m_folder.Path());
+        crashed.Write(path, {}, m_building);
     }
-    const CRecoveryFile third(m_folder.Path());
-    EXPECT_EQ(third.Read().value_or(CRecovery()).strPath, L"second");
+    const CRecoveryFile next(m_folder.Path());
+    EXPECT_FALSE(next.Read());
+    const auto left = next.TakeLeft();
+    ASSERT_EQ(left.size(), 2u);
+    EXPECT_EQ(left[0]->Read().value_or(CRecovery()).strPath, L"second");
+    EXPECT_EQ(left[1]->Read().value_or(CRecovery()).strPath, L"third");
+    EXPECT_TRUE(first.TakeLeft().empty()) << "another program has them";
     EXPECT_EQ(first.Read().value_or(CRecovery()).strPath, L"first");
 }
 
 TEST_F(RecoveryFileTest, WhatCannotBeReadIsKeptAside)
 {
     const CRecoveryFile file(m_folder.Path());
-    file.Write({}, m_building);
+    file.Write({}, {}, m_building);
     const std::string good = m_folder.ReadBytes("recupero-1.json");
     std::string later = good;
     later.replace(later.find(": 1"), 3, ": 2");
@@ -103,6 +111,27 @@ TEST_F(RecoveryFileTest, WhatCannotBeReadIsKeptAside)
     }
     std::sort(damaged.begin(), damaged.end());
     EXPECT_EQ(Kept(), damaged);
+}
+
+TEST_F(RecoveryFileTest, WhatCannotBeLookedAtIsNotTakenForNothing)
+{
+    const auto number = [&](int i) {
+        return m_folder.Root() / ("recupero-" + std::to_string(i) + ".json");
+    };
+    std::filesystem::create_symlink(number(1), number(1)); // ends in no file, but in an error
+    std::filesystem::create_directory(number(2));
+    const CRecoveryFile own(m_folder.Path());
+    own.Write(L"mine", {}, m_building);
+    EXPECT_TRUE(std::filesystem::is_symlink(number(1)));
+    EXPECT_TRUE(std::filesystem::is_regular_file(number(3)));
+    const auto left = own.TakeLeft();
+    ASSERT_EQ(left.size(), 2u);
+    for (const auto& file : left) {
+        const CString message = MessageOf<CFileException>([&] { file->Read(); });
+        EXPECT_NE(message.find(L"recupero-"), CString::npos);
+    }
+    EXPECT_TRUE(std::filesystem::is_symlink(number(1)));
+    EXPECT_TRUE(std::filesystem::is_directory(number(2)));
 }
 
 TEST_F(RecoveryFileTest, AFolderThatCannotBeUsedIsNamed)

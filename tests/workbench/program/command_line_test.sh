@@ -13,7 +13,7 @@ export XDG_CONFIG_HOME=$scratch XDG_RUNTIME_DIR=$scratch TGA_DATA_SINGLE=$data/r
 cd "$data"
 
 # What a starter puts in front of the user's arguments.
-defaults=(--building buildings/villa-dei-tigli.json --output "$scratch/out" --workplace workplace)
+defaults=(--sample buildings/villa-dei-tigli.json --output "$scratch/out" --workplace workplace)
 catalogues=(--catalogues catalogues)
 failures=0
 

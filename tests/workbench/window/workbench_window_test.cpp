@@ -2,6 +2,7 @@
 
 #include "platform/encoding.h"
 #include "workbench/building/building_json.h"
+#include "workbench/building/file_identity.h"
 #include "workbench/building/qt_text.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/plan/coverage.h"
@@ -16,6 +17,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QDateTime>
+#include <QDeadlineTimer>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
@@ -24,6 +27,7 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTableView>
+#include <QTest>
 #include <QTimer>
 
 #include <filesystem>
@@ -39,6 +43,12 @@ namespace {
 namespace fs = std::filesystem;
 
 const CString kData = WideFromUtf8(RADSEL_DATA_DIR);
+
+std::string BytesOf(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 /// The window over a copy of the sample building, with a test for a user.
 class WorkbenchWindow : public testing::Test
@@ -60,9 +70,15 @@ protected:
             return m_answerPath;
         };
         prompts.openFile = prompts.saveFile = prompts.openFolder = answerPath;
-        prompts.ask = [this](QWidget*, const QString&, const QString&, const QString&, bool) {
+        prompts.ask = [this](QWidget*, const QString& text, const QString&, const QString&, bool) {
             ++m_nQuestions;
-            return m_answer;
+            m_question = text;
+            if (m_answers.empty()) {
+                return m_answer;
+            }
+            const CPrompts::Answer answer = m_answers.front();
+            m_answers.erase(m_answers.begin());
+            return answer;
         };
         prompts.tell = [this](QWidget*, const QString& text) { m_told = text; };
         return std::make_unique<CWorkbenchWindow>(document, ReadDrawingBlocks(), prompts);
@@ -81,6 +97,18 @@ protected:
     {
         m_window->findChild<CFloorScene*>()->MarkRooms(rooms);
     }
+
+    /// What a crashed program leaves behind: a building of another name, and the same otherwise.
+    CBuilding LeaveWork(const CString& path)
+    {
+        CBuilding work = m_document.Building();
+        work.strName = L"Lavoro";
+        const CRecoveryFile crashed(m_folder.Path() + L"/posto");
+        crashed.Write(path, FingerprintOf(BytesOf(m_path)), work);
+        return work;
+    }
+
+    std::size_t LeftWork() const { return m_recovery.TakeLeft().size(); }
 
     QString Messages() { return m_window->findChild<QPlainTextEdit*>("messages")->toPlainText(); }
 
@@ -119,16 +147,13 @@ protected:
     CPlanDocument m_document{&m_recovery};
     std::optional<CString> m_answerPath;
     CPrompts::Answer m_answer = CPrompts::Answer::cancel;
+    /// These go before the one above.
+    std::vector<CPrompts::Answer> m_answers;
     int m_nQuestions = 0;
+    QString m_question;
     QString m_told;
     std::unique_ptr<CWorkbenchWindow> m_window;
 };
-
-std::string BytesOf(const fs::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 } // namespace
 
@@ -404,6 +429,109 @@ TEST_F(WorkbenchWindow, KeepsUnsavedWorkForTheNextStart)
     EXPECT_FALSE(next.IsSaved());
     Do("undo");
     EXPECT_FALSE(m_recovery.Read());
+}
+
+TEST_F(WorkbenchWindow, KeepsSteadyWorkAsWell)
+{
+    CBuilding building = m_document.Building();
+    const QDeadlineTimer latest(3000);
+    for (int i = 0; !m_recovery.Read() && !latest.hasExpired(); ++i) {
+        building.strName = L"Casa " + std::to_wstring(i);
+        m_document.Do(L"Nome", building);
+        QTest::qWait(20);
+    }
+    EXPECT_TRUE(m_recovery.Read());
+}
+
+TEST_F(WorkbenchWindow, OffersLeftWorkUntilTheUserSaysTwiceToDeleteIt)
+{
+    using enum CPrompts::Answer;
+    const CBuilding work = LeaveWork(m_path.wstring());
+    const std::tuple<std::vector<CPrompts::Answer>, std::size_t> answers[] = {
+        {{cancel}, 1u},
+        {{no, cancel}, 1u},
+        {{no, yes}, 1u},
+        {{no, no}, 0u},
+    };
+    for (const auto& [given, left] : answers) {
+        m_answers = given;
+        m_nQuestions = 0;
+        m_window->Start(m_path.wstring(), {});
+        EXPECT_EQ(std::size_t(m_nQuestions), given.size());
+        EXPECT_EQ(LeftWork(), left);
+        EXPECT_EQ(m_document.Building().strName, L"Villa dei Tigli");
+        EXPECT_TRUE(m_document.IsSaved());
+    }
+    m_nQuestions = 0;
+    m_window->Start(m_path.wstring(), {});
+    EXPECT_EQ(m_nQuestions, 0);
+}
+
+TEST_F(WorkbenchWindow, RecoveredWorkGoesOnWithItsFile)
+{
+    const CBuilding work = LeaveWork(m_path.wstring());
+    const QDateTime saved = QDateTime::currentDateTime().addDays(-3);
+    fs::last_write_time(m_path, fs::last_write_time(m_path) - std::chrono::days(3));
+    m_answers = {CPrompts::Answer::yes};
+    m_answerPath = m_path.wstring();
+    Do("open");
+    EXPECT_TRUE(m_question.contains("casa.json")) << m_question.toStdString();
+    for (const QDateTime& day : {saved, QDateTime::currentDateTime()}) {
+        EXPECT_TRUE(m_question.contains(day.toString("dd/MM/yyyy"))) << m_question.toStdString();
+    }
+    EXPECT_EQ(FormatBuilding(m_document.Building()), FormatBuilding(work));
+    EXPECT_FALSE(m_document.IsSaved());
+    EXPECT_EQ(LeftWork(), 0u);
+    ASSERT_TRUE(m_recovery.Read()) << "it would outlive another crash";
+
+    m_nQuestions = 0;
+    Do("save");
+    EXPECT_EQ(m_nQuestions, 0) << "nobody changed the file meanwhile";
+    EXPECT_EQ(BytesOf(m_path), FormatBuilding(work));
+
+    LeaveWork(m_path.wstring());
+    std::ofstream(m_path) << BytesOf(fs::path(RADSEL_DATA_DIR) / "buildings/villa-dei-tigli.json");
+    m_answers = {CPrompts::Answer::yes, CPrompts::Answer::cancel};
+    Do("open");
+    Do("save");
+    EXPECT_EQ(m_nQuestions, 2) << "the file is not the one that the work began with";
+}
+
+TEST_F(WorkbenchWindow, LeftWorkNeverTakesThePlaceOfAnotherBuilding)
+{
+    const fs::path other = m_path.parent_path() / "altra.json";
+    fs::copy_file(m_path, other);
+    LeaveWork(other.wstring());
+    m_window->Start(m_path.wstring(), {});
+    EXPECT_EQ(m_nQuestions, 0);
+    EXPECT_EQ(m_document.Path(), m_path.wstring());
+    EXPECT_TRUE(Messages().contains("altra.json")) << Messages().toStdString();
+
+    m_answer = CPrompts::Answer::cancel;
+    m_window->Start({}, m_path.wstring());
+    EXPECT_EQ(m_nQuestions, 1) << "no building was asked for";
+    EXPECT_EQ(m_document.Path(), m_path.wstring());
+    m_answer = CPrompts::Answer::yes;
+    m_window->Start({}, m_path.wstring());
+    EXPECT_EQ(m_document.Path(), other.wstring());
+    EXPECT_EQ(m_document.Building().strName, L"Lavoro");
+}
+
+TEST_F(WorkbenchWindow, ADamagedBuildingAtTheStartLeavesAWindow)
+{
+    std::ofstream(m_path.parent_path() / "rotto.json") << "{\n\"version\": 2\n\"name\": 1 }";
+    CPlanDocument document(nullptr);
+    m_window = MakeWindow(document);
+    m_window->Start((m_path.parent_path() / "rotto.json").wstring(), {});
+    EXPECT_TRUE(Messages().contains("rotto.json: riga 3")) << Messages().toStdString();
+    for (const char* action : {"save", "saveAs", "exportPdf", "sizeAll", "system", "undo"}) {
+        EXPECT_FALSE(Action(action).isEnabled()) << action;
+    }
+    m_answerPath = (m_path.parent_path() / "copia.json").wstring();
+    fs::copy_file(m_path, *m_answerPath);
+    Do("open");
+    EXPECT_TRUE(m_window->windowTitle().contains("Villa dei Tigli"));
+    EXPECT_TRUE(Action("save").isEnabled());
 }
 
 TEST_F(WorkbenchWindow, ExportsWhatStandsInThePlan)
