@@ -443,6 +443,18 @@ TEST_F(WorkbenchWindow, KeepsSteadyWorkAsWell)
     EXPECT_TRUE(m_recovery.Read());
 }
 
+TEST_F(WorkbenchWindow, TriesToKeepWorkUntilItSucceeds)
+{
+    const fs::path folder = fs::path(m_folder.Path()) / "posto";
+    fs::rename(folder, fs::path(m_folder.Path()) / "via");
+    Do("sizeAll");
+    EXPECT_FALSE(m_document.KeepNow());
+    EXPECT_FALSE(m_document.KeepNow());
+    EXPECT_EQ(Messages().count("non è al sicuro"), 1) << Messages().toStdString();
+    fs::rename(fs::path(m_folder.Path()) / "via", folder);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_recovery.Read().has_value(); }, 3000));
+}
+
 TEST_F(WorkbenchWindow, OffersLeftWorkUntilTheUserSaysTwiceToDeleteIt)
 {
     using enum CPrompts::Answer;
