@@ -1,11 +1,11 @@
 #include "reference_host/catalog/catalogue_folder.h"
 
 #include "platform/encoding.h"
+#include "platform/folder_name.h"
 #include "platform/path.h"
 #include "reference_host/catalog/file_state.h"
 
 #include <algorithm>
-#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -13,13 +13,6 @@ namespace reference_host {
 
 namespace {
 constexpr wchar_t kFileName[] = L"hk.tga";
-
-bool IsFolderName(const CString& name)
-{
-    constexpr std::wstring_view separators(L"\\/\0", 3);
-    return !name.empty() && name != L"." && name != L".." &&
-           name.find_first_of(separators) == CString::npos;
-}
 
 CFileFault FaultOf(const std::filesystem::path& path, const std::error_code& error)
 {

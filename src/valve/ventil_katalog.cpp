@@ -5,6 +5,7 @@
 #include "host/host_prefs.h"
 #include "platform/array.h"
 #include "platform/file.h"
+#include "platform/folder_name.h"
 #include "platform/format.h"
 #include "platform/message.h"
 #include "platform/number_scan.h"
@@ -123,6 +124,11 @@ struct CVentVdiKatalog::Satz
 
 CString VentilDateiPfad(const CString& verzeichnis, const CString& hersteller)
 {
+    const bool endsInSeparator = hersteller.ends_with(L'\\');
+    const CString name = hersteller.substr(0, hersteller.size() - (endsInSeparator ? 1 : 0));
+    if (!name.empty() && !IsFolderName(name)) {
+        return {};
+    }
     return JoinPath(JoinPath(verzeichnis, hersteller), kDateiName);
 }
 

@@ -15,7 +15,8 @@ extern bool PruefeVentilzeilen;
 /// Shorter texts are no valve numbers and are never searched for.
 inline constexpr std::size_t kShortestVentilNr = 30;
 
-/// Path of a manufacturer's valve file under the valve data directory.
+/// Path of a manufacturer's valve file under the valve data directory; empty if the name would lead
+/// out of it.
 CString VentilDateiPfad(const CString& verzeichnis, const CString& hersteller);
 
 /// The valve catalogue of one manufacturer: reads "ha.tga" into a tree of nodes and finds valves in

@@ -4,6 +4,7 @@
 #include "platform/file_fault.h"
 #include "platform/format.h"
 #include "platform/whole_file.h"
+#include "workbench/building/printable.h"
 
 #include <QJsonDocument>
 
@@ -29,11 +30,6 @@ constexpr double kLargestNumber = std::numeric_limits<double>::max();
 CString FromAscii(const char* text)
 {
     return {text, text + std::string_view(text).size()};
-}
-
-bool IsControl(wchar_t c)
-{
-    return c < L' ' || (c >= 0x7f && c < 0xa0);
 }
 
 bool IsBlank(wchar_t c)

@@ -1,7 +1,13 @@
 #include "workbench/schedule/schedule_csv.h"
 
+#include "platform/encoding.h"
 #include "platform/format.h"
+#include "workbench/building/printable.h"
 #include "workbench/schedule/schedule_columns.h"
+
+#include <charconv>
+#include <string>
+#include <system_error>
 
 namespace workbench {
 
@@ -25,6 +31,24 @@ CString FormatHeadings()
     return JoinLine(headings);
 }
 
+bool IsNumber(const CString& text)
+{
+    const std::string ascii = Utf8FromWide(text);
+    const char* const first = ascii.data() + (ascii.starts_with('+') ? 1 : 0);
+    const char* const last = ascii.data() + ascii.size();
+    double value = 0.0;
+    const auto [end, error] = std::from_chars(first, last, value);
+    return error == std::errc() && end == last;
+}
+
+/// Spreadsheets calculate a text that begins like a formula, and a file from a stranger could so
+/// reach out to the network. The sign in front of it makes it a text again; numbers stay.
+CString Defused(const CString& text)
+{
+    const bool isFormula = !text.empty() && CString(L"=+-@").find(text[0]) != CString::npos;
+    return (isFormula && !IsNumber(text) ? L"'" : L"") + Printable(text);
+}
+
 CString FormatField(const CNumberForm& form, const CCell& cell)
 {
     if (const auto* const number = std::get_if<double>(&cell)) {
@@ -32,7 +56,7 @@ CString FormatField(const CNumberForm& form, const CCell& cell)
                                                   : FormatFixed(*number, form.nFileDecimals);
     }
     const auto* const text = std::get_if<CString>(&cell);
-    return text ? *text : CString();
+    return text ? Defused(*text) : CString();
 }
 
 CString FormatRow(const CScheduleFloor& floor, const CScheduleRow& row)

@@ -1,6 +1,7 @@
 #include "workbench/schedule/text_columns.h"
 
 #include "platform/format.h"
+#include "workbench/building/printable.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -39,14 +40,6 @@ int CharWidth(wchar_t c)
         return 0;
     }
     return IsAmong(c, kWide) ? 2 : 1;
-}
-
-CString Printable(CString text)
-{
-    std::replace_if(
-        text.begin(), text.end(), [](wchar_t c) { return c < L' ' || (c >= 0x7f && c < 0xa0); },
-        L'?');
-    return text;
 }
 
 CString WithoutEndBlanks(CString text)

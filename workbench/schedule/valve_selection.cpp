@@ -5,6 +5,7 @@
 #include "platform/encoding.h"
 #include "platform/exception.h"
 #include "platform/file_fault.h"
+#include "platform/folder_name.h"
 #include "platform/path.h"
 #include "reference_host/files/valve_file_check.h"
 #include "workbench/plan/module_call.h"
@@ -69,6 +70,10 @@ CValveOutcome ExplainException(const CValveKey& key, const CModuleFault& error)
 /// the file does not have.
 CValveOutcome ExplainSilence(const CValveKey& key)
 {
+    if (!IsFolderName(key.strHersteller)) {
+        return MakeMissing(key, ValveStatus::notFound,
+                           L"\"" + key.strHersteller + L"\" non è il nome di un produttore");
+    }
     const CString folder = TextFromPath(ResolvePath(GetFolder(key)));
     const CString file = GetFile(key);
     for (const CString& place : {folder, file}) {

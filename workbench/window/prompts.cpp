@@ -18,7 +18,9 @@ std::optional<CString> Chosen(const QString& path)
 CPrompts::Answer Ask(QWidget* parent, const QString& text, const QString& yes, const QString& no,
                      bool cancellable)
 {
-    QMessageBox box(QMessageBox::Question, "radsel", text, QMessageBox::NoButton, parent);
+    QMessageBox box(QMessageBox::Question, "radsel", {}, QMessageBox::NoButton, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(text);
     const auto* const yesButton = box.addButton(yes, QMessageBox::AcceptRole);
     auto* const noButton = box.addButton(no, QMessageBox::DestructiveRole);
     if (cancellable) {
@@ -52,7 +54,10 @@ CPrompts MakePrompts()
     };
     prompts.ask = Ask;
     prompts.tell = [](QWidget* parent, const QString& text) {
-        QMessageBox::information(parent, "radsel", text);
+        QMessageBox box(QMessageBox::Information, "radsel", {}, QMessageBox::Ok, parent);
+        box.setTextFormat(Qt::PlainText);
+        box.setText(text);
+        box.exec();
     };
     return prompts;
 }

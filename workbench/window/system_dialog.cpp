@@ -42,6 +42,7 @@ CSystemDialog::CSystemDialog(const CBuilding& building, QWidget* parent)
     m_pVorlauf->setObjectName("supply");
     m_pRuecklauf->setObjectName("return");
     m_pConsequence->setObjectName("consequence");
+    m_pConsequence->setTextFormat(Qt::PlainText);
     m_pConsequence->setWordWrap(true);
     m_pConsequence->setMinimumHeight(fontMetrics().height() * 3);
     m_pButtons->button(QDialogButtonBox::Cancel)->setText("Annulla");

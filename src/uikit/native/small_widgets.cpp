@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
+#include <QTextDocument>
 #include <QToolButton>
 #include <QToolTip>
 
@@ -88,7 +89,9 @@ void CLabelWidget::paintEvent(QPaintEvent* event)
 bool CLabelWidget::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && IsCut()) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+        // A text that looks like markup would be taken for it, and load what it names.
+        const QString tip = Qt::mightBeRichText(text()) ? Qt::convertFromPlainText(text()) : text();
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
         return true;
     }
     return QLabel::event(event);

@@ -1,5 +1,6 @@
 #include "workbench/schedule/schedule.h"
 
+#include "platform/encoding.h"
 #include "tests/workbench/plan/plan_fixture.h"
 #include "workbench/plan/sizing.h"
 #include "workbench/schedule/schedule_csv.h"
@@ -204,6 +205,28 @@ TEST(ScheduleCsv, FieldsAreQuotedWhereTheyNeedIt)
     EXPECT_EQ(QuoteCsv(L"a;b"), L"\"a;b\"");
     EXPECT_EQ(QuoteCsv(L"18\""), L"\"18\"\"\"");
     EXPECT_EQ(QuoteCsv(L"a\nb"), L"\"a\nb\"");
+}
+
+TEST(ScheduleCsv, NoTextIsTakenForAFormulaOrForAControlCharacter)
+{
+    const std::pair<CString, CString> cases[] = {
+        {L"=HYPERLINK(1)", L"'=HYPERLINK(1)"},
+        {L"+39 045", L"'+39 045"},
+        {L"-T 22", L"'-T 22"},
+        {L"@A1", L"'@A1"},
+        {L"-12.5", L"-12.5"},
+        {L"+7", L"+7"},
+        {L"T=22", L"T=22"},
+        {L"\t=1\x1b", L"?=1?"},
+    };
+    for (const auto& [text, written] : cases) {
+        CSchedule schedule;
+        CScheduleRow row;
+        row.room.strName = text;
+        schedule.floors.push_back({L"Terra", {row}, {}});
+        const CString csv = FormatScheduleCsv(schedule);
+        EXPECT_NE(csv.find(L"Terra;" + written + L";"), CString::npos) << Utf8FromWide(csv);
+    }
 }
 
 TEST(TextColumns, TextsAlignByTheirDisplayWidth)

@@ -131,6 +131,18 @@ TEST_F(ValveTest, MissingMakersAndFilesAreTold)
               L"manca il file " + m_folder.Path("D2/ha.tga"));
     EXPECT_EQ(FetchValves({CValveKey{L"D3", number}, {}}).vorlauf.status, ValveStatus::badFile);
 
+    m_folder.WriteBytes("dentro/altro.txt", "");
+    m_folder.WriteBytes("fuori/ha.tga", kHead + kGroup + kData + kArticles);
+    const CSettingOverride inside(kSettingVEDir, m_folder.Path("dentro"));
+    for (const wchar_t* way : {L"../fuori", L"..\\fuori", L".."}) {
+        EXPECT_EQ(FetchValves({CValveKey{way, number}, {}}).vorlauf.strNote,
+                  L"\"" + CString(way) + L"\" non è il nome di un produttore");
+    }
+}
+
+TEST_F(ValveTest, AFolderThatCannotBeReadIsTold)
+{
+    const CString number = WideFromUtf8(kPlain);
     std::filesystem::create_directory_symlink("D4", m_folder.Root() / "D4");
     const CValveOutcome loop = FetchValves({CValveKey{L"D4", number}, {}}).vorlauf;
     EXPECT_EQ(loop.status, ValveStatus::badFile);

@@ -22,6 +22,7 @@
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -227,6 +228,22 @@ TEST_F(WorkbenchWindow, WorksOnTheRoomsThatAreMarked)
     Do("remove");
     EXPECT_TRUE(Room(0, 1).heizkoerper.empty());
     EXPECT_EQ(Room(0, 3).heizkoerper.size(), 1u);
+}
+
+TEST_F(WorkbenchWindow, NamesInMessagesAreNoMarkup)
+{
+    const CPrompts prompts = MakePrompts();
+    const QString text = "<img src=\"file:///x.png\"> aperto?";
+    int seen = 0;
+    const auto look = [&](QWidget& box) {
+        seen += dynamic_cast<QMessageBox&>(box).textFormat() == Qt::PlainText ? 1 : 0;
+        dynamic_cast<QMessageBox&>(box).reject();
+    };
+    InDialog(look);
+    prompts.tell(m_window.get(), text);
+    InDialog(look);
+    prompts.ask(m_window.get(), text, "&Sì", "&No", true);
+    EXPECT_EQ(seen, 2);
 }
 
 TEST_F(WorkbenchWindow, AValveFileCutShortIsToldAndChangesNothing)
