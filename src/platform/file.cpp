@@ -13,21 +13,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace fs = std::filesystem;
-
 namespace {
 
 constexpr unsigned kAccessMask = CFile::modeWrite | CFile::modeReadWrite;
 constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
-
-/// Follows links to the file itself, so that replacing it leaves the link in place. A link to
-/// nothing is replaced by the file.
-fs::path FollowLinks(const fs::path& path)
-{
-    std::error_code error;
-    const fs::path real = fs::weakly_canonical(path, error);
-    return error ? path : real;
-}
 
 } // namespace
 
@@ -47,8 +36,12 @@ bool CFile::Open(const CString& path, unsigned flags)
 {
     Abort();
     m_path = path;
-    m_openError = 0;
-    m_target = FollowLinks(ResolvePath(path));
+    std::error_code error;
+    m_target = FindFile(path, error);
+    m_openError = error.value();
+    if (error) {
+        return false;
+    }
     return (flags & modeCreate) != 0 ? OpenCreated(flags) : OpenExisting(flags);
 }
 

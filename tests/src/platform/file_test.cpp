@@ -3,12 +3,14 @@
 #include "platform/exception.h"
 #include "platform/path.h"
 #include "platform/whole_file.h"
+#include "tests/support/colleague.h"
 #include "tests/support/file_size_limit.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <filesystem>
 #include <iterator>
@@ -16,6 +18,7 @@
 #include <tuple>
 #include <vector>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -107,16 +110,6 @@ TEST_F(FileTest, ReplacingKeepsPermissionsAndLinks)
     EXPECT_EQ(fs::status(real).permissions(), fs::perms::owner_all);
 }
 
-/// Another user for a while, where the process is root; the same one elsewhere.
-class CAsUser
-{
-public:
-    explicit CAsUser(uid_t user) { EXPECT_EQ(geteuid() == 0 ? seteuid(user) : 0, 0); }
-    ~CAsUser() { EXPECT_EQ(seteuid(getuid()), 0); }
-    CAsUser(const CAsUser&) = delete;
-    CAsUser& operator=(const CAsUser&) = delete;
-};
-
 struct stat StatusOf(const fs::path& path)
 {
     struct stat status = {};
@@ -126,11 +119,10 @@ struct stat StatusOf(const fs::path& path)
 
 TEST_F(FileTest, ReplacingKeepsOwnerAndGroup)
 {
-    constexpr uid_t kColleague = 12345;
     m_folder.WriteBytes("list.txt", "old");
     const fs::path list = m_folder.Root() / "list.txt";
     if (geteuid() == 0) {
-        ASSERT_EQ(chown(list.c_str(), kColleague, kColleague), 0);
+        ASSERT_EQ(chown(list.c_str(), kColleagueId, kColleagueId), 0);
     }
     const struct stat before = StatusOf(list);
     Replace(m_folder.Path("list.txt"), "from the administrator");
@@ -142,7 +134,6 @@ TEST_F(FileTest, ReplacingKeepsOwnerAndGroup)
 
 TEST_F(FileTest, AWritableFileIsWrittenInPlaceWhereNoNeighbourCanBeItsHeir)
 {
-    constexpr uid_t kColleague = 12345;
     m_folder.WriteBytes("closed/list.txt", "a long old content");
     m_folder.WriteBytes("open/list.txt", "a long old content");
     const fs::path closed = m_folder.Root() / "closed";
@@ -156,7 +147,7 @@ TEST_F(FileTest, AWritableFileIsWrittenInPlaceWhereNoNeighbourCanBeItsHeir)
     const ino_t inode = StatusOf(closed / "list.txt").st_ino;
     const uid_t owner = StatusOf(open / "list.txt").st_uid;
     {
-        const CAsUser colleague(kColleague);
+        const CAsColleague colleague;
         Replace(m_folder.Path("closed/list.txt"), "new");
         // Here a neighbour can be made, but not given to the owner of the file.
         Replace(m_folder.Path("open/list.txt"), "new");
@@ -169,7 +160,7 @@ TEST_F(FileTest, AWritableFileIsWrittenInPlaceWhereNoNeighbourCanBeItsHeir)
     EXPECT_EQ(StatusOf(open / "list.txt").st_uid, owner);
     EXPECT_EQ(std::distance(fs::directory_iterator(open), fs::directory_iterator()), 1);
     {
-        const CAsUser colleague(kColleague);
+        const CAsColleague colleague;
         const CFileSizeLimit limit(4);
         CFile file(m_folder.Path("closed/list.txt"),
                    CFile::modeCreate | CFile::modeNoTruncate | CFile::modeWrite);
@@ -212,6 +203,23 @@ TEST_F(FileTest, WhatCannotBeOpenedSaysWhy)
     }
     EXPECT_EQ(m_folder.ReadBytes("readonly.txt"), "kept");
     EXPECT_EQ(Names(), std::vector<std::string>{"readonly.txt"});
+}
+
+TEST_F(FileTest, AFileThatCannotBeLookedForIsNotAMissingOne)
+{
+    m_folder.WriteBytes("cmbdata.txt", "kept");
+    const CString path = m_folder.Path("CmbData.txt");
+    for (const unsigned flags : {static_cast<unsigned>(CFile::modeRead), kCreate}) {
+        CFile file;
+        rlimit before = {};
+        getrlimit(RLIMIT_NOFILE, &before);
+        const rlimit none = {0, before.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &none);
+        EXPECT_FALSE(file.Open(path, flags));
+        setrlimit(RLIMIT_NOFILE, &before);
+        EXPECT_EQ(file.GetOpenError(), EMFILE);
+    }
+    EXPECT_TRUE(CFile().Open(path, CFile::modeRead));
 }
 
 TEST_F(FileTest, AFullDiskLeavesTheOldFile)
