@@ -1,14 +1,13 @@
 #include "platform/file_replacement.h"
 
 #include "platform/file_bytes.h"
+#include "platform/temporary_file.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <string>
 #include <utility>
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -37,44 +36,6 @@ int CheckTarget(const fs::path& target, const struct stat& status)
     const bool writable = (status.st_mode & kAnyWriteBit) != 0 &&
                           faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) == 0;
     return writable ? 0 : EACCES;
-}
-
-/// The file beside a target that its next content is written to.
-fs::path TemporaryOf(const fs::path& target)
-{
-    return target.parent_path() / ("." + target.filename().native() + ".radsel-tmp");
-}
-
-/// True if the open file is nobody else's: locked now, still the one of that name, and no way to
-/// another file's content.
-bool TakeTemporary(int descriptor, const char* name)
-{
-    struct stat opened = {};
-    struct stat named = {};
-    return flock(descriptor, LOCK_EX | LOCK_NB) == 0 && fstat(descriptor, &opened) == 0 &&
-           lstat(name, &named) == 0 && opened.st_ino == named.st_ino &&
-           opened.st_dev == named.st_dev && S_ISREG(opened.st_mode) && opened.st_nlink == 1 &&
-           opened.st_uid == geteuid() && ftruncate(descriptor, 0) == 0;
-}
-
-/// Opens an empty temporary file and sets its name; below 0 with errno set if that fails. A target
-/// has one name as long as nobody else is writing to it, so that what a killed process has left is
-/// used up by the next one instead of piling up.
-int OpenTemporary(const fs::path& target, fs::path& temporary)
-{
-    temporary = TemporaryOf(target);
-    const int descriptor =
-        open(temporary.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600);
-    if (descriptor >= 0) {
-        if (TakeTemporary(descriptor, temporary.c_str())) {
-            return descriptor;
-        }
-        close(descriptor);
-    }
-    std::string name = (target.parent_path() / ".radsel-XXXXXX.tmp").native();
-    const int other = mkostemps(name.data(), 4, O_CLOEXEC);
-    temporary = other >= 0 ? name : "";
-    return other;
 }
 
 /// Fills a created file with what its target holds; false with errno set if that fails.

@@ -240,21 +240,27 @@ TEST_F(FileTest, AFullDiskLeavesTheOldFile)
     EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
 }
 
-TEST_F(FileTest, WhatAKilledWriterLeavesIsUsedUpByTheNext)
+TEST_F(FileTest, WhatKilledWritersLeaveGoesWithTheNext)
 {
     m_folder.WriteBytes("a.txt", "old");
+    CFile alive(m_folder.Path("a.txt"), kCreate);
     const pid_t child = fork();
     if (child == 0) {
-        CFile file(m_folder.Path("a.txt"), kCreate);
-        Put(file, "half of a long new content");
+        CFile first(m_folder.Path("a.txt"), kCreate);
+        CFile second(m_folder.Path("a.txt"), kCreate);
+        Put(first, "half of a long new content");
         raise(SIGKILL);
     }
     waitpid(child, nullptr, 0);
     EXPECT_EQ(m_folder.ReadBytes("a.txt"), "old");
-    ASSERT_EQ(Names().size(), 2U);
+    ASSERT_EQ(Names().size(), 4U);
 
     Replace(m_folder.Path("a.txt"), "new");
     EXPECT_EQ(m_folder.ReadBytes("a.txt"), "new");
+    EXPECT_EQ(Names().size(), 2U) << "what a living writer holds stays";
+    Put(alive, "newer");
+    alive.Close();
+    EXPECT_EQ(m_folder.ReadBytes("a.txt"), "newer");
     EXPECT_EQ(Names(), std::vector<std::string>{"a.txt"});
 }
 
