@@ -1,6 +1,7 @@
 #include "reference_host/prefs/host_settings.h"
 
 #include "platform/environment.h"
+#include "platform/file_lock.h"
 #include "platform/path.h"
 #include "reference_host/prefs/settings_file.h"
 
@@ -8,6 +9,7 @@
 #include <map>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 namespace reference_host {
 
@@ -22,6 +24,25 @@ std::map<CString, CString>& Overrides()
 CString SettingsPath(const CString& folder)
 {
     return JoinPath(folder, L"settings.txt");
+}
+
+/// The settings as this process has last read or stored them. While the file cannot be read they
+/// count, lest a passing error send the files whose folders stand in it to other places.
+CSettingsFile& LastSettings(const CString& path)
+{
+    static CSettingsFile last(path);
+    return last;
+}
+
+/// Read afresh each time: the file is small, and another process may have stored something.
+const CSettingsFile& StoredSettings(const CString& path)
+{
+    CSettingsFile& last = LastSettings(path);
+    CSettingsFile now(path);
+    if (now.IsReadable() || now.GetPath() != last.GetPath()) {
+        last = std::move(now);
+    }
+    return last;
 }
 
 bool HoldsLineEnd(const CString& text)
@@ -60,8 +81,13 @@ CString GetHostSetting(const CString& key, const CString& fallback)
     if (!folder) {
         return fallback;
     }
-    // Read afresh each time: the file is small, and another process may have stored something.
-    return CSettingsFile(SettingsPath(*folder)).Find(key).value_or(fallback);
+    return StoredSettings(SettingsPath(*folder)).Find(key).value_or(fallback);
+}
+
+bool AreHostSettingsKnown()
+{
+    const std::optional<CString> folder = ConfigurationFolder();
+    return !folder || StoredSettings(SettingsPath(*folder)).IsReadable();
 }
 
 void OverrideHostSetting(const CString& key, const CString& value)
@@ -82,7 +108,14 @@ bool StoreHostSetting(const CString& key, const CString& value)
     }
     std::error_code error;
     std::filesystem::create_directories(ResolvePath(*folder), error);
-    return !error && CSettingsFile(SettingsPath(*folder)).Store(key, value);
+    const CString path = SettingsPath(*folder);
+    const CFileLock lock(path);
+    CSettingsFile settings(path);
+    if (error || !settings.Store(key, value)) {
+        return false;
+    }
+    LastSettings(path) = std::move(settings);
+    return true;
 }
 
 } // namespace reference_host

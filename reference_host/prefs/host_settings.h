@@ -11,11 +11,16 @@ namespace reference_host {
 /// They are kept in "settings.txt" in the user's configuration folder ($XDG_CONFIG_HOME/radsel, or
 /// ~/.config/radsel), a versioned file that is replaced atomically. A missing or damaged file reads
 /// as one without entries, and so does one of a later version, which is never written to. A damaged
-/// file is kept as "settings.txt.damaged" when it is replaced.
+/// file is kept as "settings.txt.damaged" when it is replaced. While a file cannot be read, what
+/// the process has read last counts.
 
 /// Value of a key: the override of this process if there is one, else the stored value, else
 /// `fallback`.
 HOST_API CString GetHostSetting(const CString& key, const CString& fallback);
+
+/// False as long as there is a file of settings that this process could never read: then what is
+/// not overridden may be set to something else than its fallback.
+HOST_API bool AreHostSettingsKnown();
 
 /// Sets a value for this process only; it wins over the stored one and is never written.
 HOST_API void OverrideHostSetting(const CString& key, const CString& value);
@@ -23,9 +28,9 @@ HOST_API void OverrideHostSetting(const CString& key, const CString& value);
 /// Gives up the override of a key.
 HOST_API void ClearHostSettingOverride(const CString& key);
 
-/// Stores a value; all other entries stay, known or not. False if the file cannot be written; the
-/// old file is then still whole. Neither key nor value may hold a line end, and the key no "=":
-/// such a call stores nothing and gives false.
+/// Stores a value; all other entries stay, known or not, also those that another process stores
+/// meanwhile. False if the file cannot be written; the old file is then still whole. Neither key
+/// nor value may hold a line end, and the key no "=": such a call stores nothing and gives false.
 HOST_API bool StoreHostSetting(const CString& key, const CString& value);
 
 /// The folder in which the settings are, nothing for a user without a home.

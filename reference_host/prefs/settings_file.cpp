@@ -2,15 +2,12 @@
 
 #include "platform/encoding.h"
 #include "platform/exception.h"
-#include "platform/path.h"
 #include "platform/whole_file.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
 #include <iterator>
 #include <string_view>
-#include <system_error>
 #include <utility>
 
 namespace reference_host {
@@ -50,14 +47,14 @@ CSettingsFile::State CSettingsFile::Load()
     try {
         lines = LinesOf(*ReadWholeFile(m_path));
     } catch (const CFileException& error) {
-        return error.GetOsError() == ENOENT ? State::missing : State::untouchable;
+        return error.GetOsError() == ENOENT ? State::missing : State::unreadable;
     }
 
     if (lines.empty() || !lines.front().starts_with(kVersionHead)) {
         return State::damaged;
     }
     if (lines.front().substr(kVersionHead.size()) != kVersion) {
-        return State::untouchable;
+        return State::ofLaterVersion;
     }
     m_lines.assign(std::next(lines.begin()), lines.end());
     return State::read;
@@ -82,7 +79,8 @@ std::optional<CString> CSettingsFile::Find(const CString& key) const
 
 bool CSettingsFile::Store(const CString& key, const CString& value)
 {
-    if (m_state == State::untouchable || (m_state == State::damaged && !PutAside())) {
+    const bool mayReplace = m_state != State::unreadable && m_state != State::ofLaterVersion;
+    if (!mayReplace || (m_state == State::damaged && !PutAside())) {
         return false;
     }
     const std::string head = HeadOf(key);
@@ -102,10 +100,12 @@ bool CSettingsFile::Store(const CString& key, const CString& value)
 
 bool CSettingsFile::PutAside() const
 {
-    std::error_code error;
-    std::filesystem::copy_file(ResolvePath(m_path), ResolvePath(m_path + L".damaged"),
-                               std::filesystem::copy_options::overwrite_existing, error);
-    return !error;
+    try {
+        WriteWholeFile(m_path + L".damaged", *ReadWholeFile(m_path));
+        return true;
+    } catch (const CFileException&) {
+        return false;
+    }
 }
 
 void CSettingsFile::Write() const

@@ -19,6 +19,11 @@ public:
     /// no entries.
     explicit CSettingsFile(CString path);
 
+    /// False if there is a file and it could not be read; then it is as if it had no entries.
+    bool IsReadable() const { return m_state != State::unreadable; }
+
+    const CString& GetPath() const { return m_path; }
+
     /// Value of a key; of several lines with the same key the first counts.
     std::optional<CString> Find(const CString& key) const;
 
@@ -33,7 +38,8 @@ private:
         missing,
         read,
         damaged,
-        untouchable
+        unreadable,
+        ofLaterVersion
     };
 
     State Load();

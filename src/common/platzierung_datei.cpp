@@ -3,8 +3,11 @@
 #include "common/arbeits_ordner.h"
 #include "common/text_file.h"
 #include "host/host_prefs.h"
+#include "platform/file_lock.h"
 #include "platform/format.h"
 #include "platform/number_scan.h"
+
+#include <cerrno>
 
 namespace {
 
@@ -20,15 +23,15 @@ CString DateiPfad()
     return ArbeitsPfad(name);
 }
 
-/// False if the file cannot be opened.
-bool LeseZeilen(CStringArray& zeilen)
+/// 0, or the system's reason if the file cannot be opened.
+int LeseZeilen(const CString& pfad, CStringArray& zeilen)
 {
     CFile datei;
-    if (!datei.Open(DateiPfad(), CFile::modeRead)) {
-        return false;
+    if (!datei.Open(pfad, CFile::modeRead)) {
+        return datei.GetOpenError();
     }
     ReadTextLines(datei, zeilen, -1);
-    return true;
+    return 0;
 }
 
 /// First line of the key that has at least that many fields; -1 if there is none.
@@ -72,7 +75,7 @@ bool LesePlatzierung(const CString& schluessel, CRect& rect, int* alpha)
 {
     CStringArray zeilen;
     bool lesbar = false;
-    MitArbeitsDatei([&] { lesbar = LeseZeilen(zeilen); });
+    MitArbeitsDatei([&] { lesbar = LeseZeilen(DateiPfad(), zeilen) == 0; });
     if (!lesbar) {
         rect = {};
         if (alpha != nullptr) {
@@ -94,12 +97,19 @@ bool LesePlatzierung(const CString& schluessel, CRect& rect, int* alpha)
 void SchreibePlatzierung(const CString& schluessel, const CRect& rect, int alpha)
 {
     MitArbeitsDatei([&] {
+        const CString pfad = DateiPfad();
+        const CFileLock sperre(pfad);
         CStringArray zeilen;
+        const int fehler = LeseZeilen(pfad, zeilen);
+        if (fehler != 0 && fehler != ENOENT) {
+            // It may hold all places that were ever kept.
+            return;
+        }
         // The first dialog of a fresh installation lays out the file, the second one begins to
         // keep places in it; programs that share the file count on finding it empty first.
-        if (LeseZeilen(zeilen)) {
+        if (fehler == 0) {
             Ersetze(zeilen, schluessel, Zeile(schluessel, rect, alpha));
         }
-        WriteTextFile(DateiPfad(), zeilen, false, false, CFile::modeCreate | CFile::modeWrite);
+        WriteTextFile(pfad, zeilen, false, false, CFile::modeCreate | CFile::modeWrite);
     });
 }

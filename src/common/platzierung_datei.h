@@ -13,6 +13,7 @@
 /// `rect` empty and alpha 255.
 bool LesePlatzierung(const CString& schluessel, CRect& rect, int* alpha);
 
-/// Keeps a placement under its key; the lines of other keys stay. Where there is no file yet, this
-/// only makes an empty one, without a line.
+/// Keeps a placement under its key; the lines of other keys stay, also those that another process
+/// writes meanwhile. Where there is no file yet, this only makes an empty one, without a line; a
+/// file that is there and cannot be opened for now stays as it is.
 void SchreibePlatzierung(const CString& schluessel, const CRect& rect, int alpha);

@@ -3,6 +3,7 @@
 #include "common/heizung_ordner.h"
 #include "common/text_file.h"
 #include "platform/file.h"
+#include "platform/file_lock.h"
 #include "platform/format.h"
 #include "platform/number_scan.h"
 
@@ -25,11 +26,11 @@ CString Kopfzeile(const CString& name)
 
 /// The lines of the file, none of a file that does not exist; nothing if it cannot be read. `rest`
 /// takes what stands behind the last line end.
-std::optional<CStringArray> LeseZeilen(CString* rest = nullptr)
+std::optional<CStringArray> LeseZeilen(const CString& pfad, CString* rest = nullptr)
 {
     CStringArray zeilen;
     CFile datei;
-    if (!datei.Open(HeizungPfad(kDateiName), CFile::modeRead)) {
+    if (!datei.Open(pfad, CFile::modeRead)) {
         return datei.GetOpenError() == ENOENT ? std::optional(zeilen) : std::nullopt;
     }
     try {
@@ -44,10 +45,10 @@ std::optional<CStringArray> LeseZeilen(CString* rest = nullptr)
 /// The same with a last line that has no line end: it belongs to someone's list and must survive
 /// the writing. Left out is only a header of this very list without entries behind it, since it
 /// would be found in place of the list that is written now.
-std::optional<CStringArray> LeseZeilenMitRest(const CString& name)
+std::optional<CStringArray> LeseZeilenMitRest(const CString& pfad, const CString& name)
 {
     CString rest;
-    std::optional<CStringArray> zeilen = LeseZeilen(&rest);
+    std::optional<CStringArray> zeilen = LeseZeilen(pfad, &rest);
     if (zeilen && !rest.empty() && rest != Kopfzeile(name)) {
         zeilen->Add(rest);
     }
@@ -121,7 +122,7 @@ bool ListeLesen(const CString& name, CAuswahlListe& liste, int gewerk)
     if (gewerk != kGewerkHeizung) {
         return false;
     }
-    const std::optional<CStringArray> zeilen = LeseZeilen();
+    const std::optional<CStringArray> zeilen = LeseZeilen(HeizungPfad(kDateiName));
     return zeilen && ListeAusZeilen(*zeilen, name, liste);
 }
 
@@ -131,12 +132,14 @@ bool ListeSchreiben(const CString& name, const CAuswahlListe& liste, int gewerk)
         return false;
     }
     try {
-        std::optional<CStringArray> zeilen = LeseZeilenMitRest(name);
+        const CString pfad = HeizungPfad(kDateiName);
+        const CFileLock sperre(pfad);
+        std::optional<CStringArray> zeilen = LeseZeilenMitRest(pfad, name);
         if (!zeilen) {
             return false;
         }
         ListeInZeilen(*zeilen, name, liste);
-        return WriteTextFile(HeizungPfad(kDateiName), *zeilen, false, false, kNeueDatei);
+        return WriteTextFile(pfad, *zeilen, false, false, kNeueDatei);
     } catch (const CFileException&) {
         return false;
     }
@@ -169,7 +172,7 @@ void ListeInZeilen(CStringArray& zeilen, const CString& name, const CAuswahlList
 
 int SystemSuchen(CString& name, double vorlauf, double ruecklauf)
 {
-    const std::optional<CStringArray> zeilen = LeseZeilen();
+    const std::optional<CStringArray> zeilen = LeseZeilen(HeizungPfad(kDateiName));
     if (!zeilen) {
         return -1;
     }

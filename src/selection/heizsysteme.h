@@ -30,8 +30,8 @@ bool ListeLesen(const CString& name, CAuswahlListe& liste, int gewerk);
 
 /// Puts the entries into the file, in place of the list of that name or behind all others, with the
 /// mark at every entry that is equal to the selected one. All other lines of the file stay, also a
-/// last one without a line end, which reading drops. False, with the file as it was, if it cannot
-/// be read or written.
+/// last one without a line end, which reading drops, and what another process writes meanwhile.
+/// False, with the file as it was, if it cannot be read or written.
 bool ListeSchreiben(const CString& name, const CAuswahlListe& liste, int gewerk);
 
 /// ListeLesen() and ListeSchreiben() on the lines of a file; false if the lines have no such list
