@@ -64,7 +64,9 @@ HOST_API bool lmGetGlobalSuperUser(bool& superUser);
 HOST_API CObject* ReadDefFile(const CRuntimeClass* klasse, const CString& name);
 
 /// Writes an object of exactly this class to the user's file of that name, in place of what is
-/// there, whatever it is. False if that fails, and then the old file is still whole.
+/// there, whatever it is. False if that fails, and then the old file is still whole; a host may
+/// refuse as well as long as its last reading of the file failed, since what the module stores then
+/// does not come from there.
 HOST_API bool WriteDefFile(CObject* object, const CRuntimeClass* klasse, const CString& name);
 
 /// The start values of the radiator selection, null if none were stored or they cannot be read.
@@ -72,7 +74,8 @@ HOST_API bool WriteDefFile(CObject* object, const CRuntimeClass* klasse, const C
 /// record belongs to HostPrefs as above and holds until the next reading.
 HOST_API VDI6030START* ReadDefFile_VDI6030START(bool projectCopy);
 
-/// Stores them. False if that fails, and then the old ones are still whole.
+/// Stores them. What the module has not changed since it read them may stay as another process has
+/// stored it meanwhile. False as above.
 HOST_API bool WriteDefFile_VDI6030START(VDI6030START* start, bool projectCopy);
 
 /// The lines of text files by path, for the life of the process: a file that is in here is not read

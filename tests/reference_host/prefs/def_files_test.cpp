@@ -2,13 +2,18 @@
 #include "frame/vdi6030_start.h"
 #include "host/host_prefs.h"
 #include "reference_host/prefs/host_settings.h"
+#include "tests/support/colleague.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <tuple>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 using namespace reference_host;
 
@@ -127,6 +132,67 @@ TEST_F(DefFiles, WhatCannotBeWrittenIsRefused)
     const CSettingOverride blocked(kSettingDefFolder, m_folder.Path("file"));
     EXPECT_FALSE(Write(L"a", 1));
     EXPECT_EQ(Read(), nullptr);
+}
+
+TEST_F(DefFiles, WhatCannotBeReadIsNotReplacedByWhatWasMadeUpInItsStead)
+{
+    VDI6030START start = SomeStart();
+    ASSERT_TRUE(Write(L"HEIZ", 3));
+    ASSERT_TRUE(WriteDefFile_VDI6030START(&start, false));
+    namespace fs = std::filesystem;
+    const auto set = [this](unsigned folder, unsigned files) {
+        const fs::path records = m_folder.Root() / "new/folder";
+        for (const fs::path& path : {m_folder.Root(), m_folder.Root() / "new", records}) {
+            fs::permissions(path, fs::perms(folder));
+        }
+        for (const auto& entry : fs::directory_iterator(records)) {
+            fs::permissions(entry.path(), fs::perms(files));
+        }
+    };
+    set(0777, 0222);
+    {
+        const CAsColleague colleague;
+        EXPECT_EQ(Read(), nullptr);
+        EXPECT_EQ(ReadDefFile_VDI6030START(false), nullptr);
+    }
+    // Now it could be read again, but what the module holds is still made up.
+    set(0777, 0666);
+    VDI6030START madeUp;
+    EXPECT_FALSE(Write(L"", 0));
+    EXPECT_FALSE(WriteDefFile_VDI6030START(&madeUp, false));
+
+    ASSERT_NE(Read(), nullptr);
+    EXPECT_EQ(Read()->Layer, L"HEIZ");
+    ASSERT_NE(ReadDefFile_VDI6030START(false), nullptr);
+    ExpectSame(*ReadDefFile_VDI6030START(false), SomeStart());
+    EXPECT_TRUE(Write(L"", 0));
+    EXPECT_TRUE(WriteDefFile_VDI6030START(&madeUp, false));
+}
+
+TEST_F(DefFiles, StartValuesThatAnotherProcessChangedMeanwhileStay)
+{
+    VDI6030START start = SomeStart();
+    ASSERT_TRUE(WriteDefFile_VDI6030START(&start, false));
+    VDI6030START ours = *ReadDefFile_VDI6030START(false);
+    const pid_t other = fork();
+    if (other == 0) {
+        VDI6030START theirs = *ReadDefFile_VDI6030START(false);
+        theirs.AbstandWand = 0.5;
+        theirs.Produkt = L"Tipo 33";
+        _exit(WriteDefFile_VDI6030START(&theirs, false) ? 0 : 1);
+    }
+    int status = -1;
+    waitpid(other, &status, 0);
+    ASSERT_EQ(status, 0);
+
+    ours.Anschluss.Name = L"Durchgang";
+    ours.Hersteller = L"Altomonte";
+    ASSERT_TRUE(WriteDefFile_VDI6030START(&ours, false));
+    const VDI6030START stored = *ReadDefFile_VDI6030START(false);
+    EXPECT_EQ(stored.AbstandWand, 0.5);
+    EXPECT_EQ(stored.Anschluss.Name, L"Durchgang");
+    EXPECT_EQ(stored.Hersteller, L"Altomonte");
+    EXPECT_EQ(stored.Produkt, L"Tipo 22") << "a place in the catalogue is not mixed of two";
 }
 
 } // namespace
