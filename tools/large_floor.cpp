@@ -17,9 +17,10 @@ constexpr double kBlock = 110000.0;
 
 CRoom Moved(const CRoom& room, std::size_t block)
 {
+    const std::size_t row = block / kWingsAbreast;
     CRoom moved = room;
     moved.grundriss.x += kWing * static_cast<double>(block % kWingsAbreast);
-    moved.grundriss.y += kBlock * static_cast<double>(block / kWingsAbreast);
+    moved.grundriss.y += kBlock * static_cast<double>(row);
     return moved;
 }
 

@@ -13,7 +13,8 @@ constexpr std::array<int, 8> kIcons = {23, 24, 32, 33, 35, 36, 39, 42};
 
 std::vector<std::uint8_t> Bytes(const CBitmap& bitmap)
 {
-    return {bitmap.GetData(), bitmap.GetData() + bitmap.GetWidth() * bitmap.GetHeight() * 4};
+    const std::ptrdiff_t pixels = std::ptrdiff_t{bitmap.GetWidth()} * bitmap.GetHeight();
+    return {bitmap.GetData(), bitmap.GetData() + pixels * 4};
 }
 
 /// Pixels of the range of alpha.
