@@ -25,7 +25,7 @@ public:
     /// one.
     virtual CAuswahlListe& Liste(int id) = 0;
 
-    /// CErgebnisZeilen::ZeilenAufbauen().
+    /// Rebuilds the rows of the result, after a filter pass if asked for, and selects the best one.
     virtual void ZeilenAufbauen(bool bFiltern) = 0;
 };
 

@@ -271,13 +271,13 @@ void CHKAuswahlVdi3805Dlg::EnableControl(int id, bool enable)
 
 void CHKAuswahlVdi3805Dlg::ZeilenAufbauen(bool bFiltern)
 {
-    m_pGrid->Zeilen().ZeilenAufbauen(bFiltern);
+    m_pGrid->ZeilenAufbauen(bFiltern);
 }
 
 void CHKAuswahlVdi3805Dlg::OnTimer(int id)
 {
     if (id == kTimerBesteZeile) {
-        m_pGrid->Zeilen().BesteZeileWaehlen();
+        m_pGrid->BesteZeileWaehlen();
         KillTimer(kTimerBesteZeile);
     }
     CResizingDialog::OnTimer(id);
@@ -293,7 +293,7 @@ void CHKAuswahlVdi3805Dlg::OnBaumSelChanged(CNotify& notify)
     if (m_baum.UebernehmeProdukt(notify.item)) {
         m_kriterien.NeuesProdukt();
     } else if (notify.item != nullptr) {
-        m_pGrid->Zeilen().ErgebnisEntfernen();
+        m_pGrid->ErgebnisEntfernen();
     }
 }
 

@@ -16,7 +16,7 @@
 /// the grid, and how the radiator is drawn. The choice goes to the hand-over of the catalogue
 /// object as it is made, and so do changed criteria; Cancel takes nothing of that back.
 ///
-/// The criteria and rows themselves are CAuswahlKriterien and CErgebnisZeilen; this class binds
+/// The criteria themselves are CAuswahlKriterien, the rows CHKAuswahlVdi3805Grid; this class binds
 /// them to the controls.
 class CHKAuswahlVdi3805Dlg : public CResizingDialog, private CAuswahlAnsicht
 {

@@ -1,10 +1,18 @@
 #include "selection/dialog/hk_auswahl_grid.h"
 
+#include "platform/format.h"
+#include "platform/message.h"
+#include "platform/number_scan.h"
+#include "radiator/size_queries.h"
 #include "selection/dialog/hk_auswahl_dlg.h"
+
+#include <string_view>
 
 namespace {
 
 constexpr int kKopfHoehe = 32;
+constexpr int kTextTitel = 1;
+constexpr int kTextNichtGefunden = 16;
 constexpr wchar_t kEsc = 27;
 constexpr COLORREF kWeiss = RGB(255, 255, 255);
 
@@ -24,11 +32,22 @@ CErgebnisZelle Zelle(const CUGCell& cell)
     }
 }
 
+/// Puts the two whole numbers into the places of the text that stand for them.
+CString MitZahlen(CString text, double erste, double zweite)
+{
+    constexpr std::wstring_view kPlatz = L"%.0lf";
+    for (const double zahl : {erste, zweite}) {
+        text.replace(text.find(kPlatz), kPlatz.size(), FormatFixed(zahl, 0));
+    }
+    return text;
+}
+
 } // namespace
 
 CHKAuswahlVdi3805Grid::CHKAuswahlVdi3805Grid(CHKAuswahlVdi3805Dlg& dialog)
-    : m_pDialog(&dialog), m_zeilen(*this, dialog.Kriterien())
+    : m_pDialog(&dialog), m_strTitel(ErgebnisText(kTextTitel))
 {
+    m_Sortierung.fill(true);
 }
 
 CHKAuswahlVdi3805Grid::~CHKAuswahlVdi3805Grid() = default;
@@ -42,9 +61,9 @@ void CHKAuswahlVdi3805Grid::OnSetup()
     SetzeKopf();
     SetCurrentCellMode(currentCellHighlight);
     SetNarrowestColumn(kSchmalsteSpalte);
-    m_zeilen.ZeileWaehlen(0);
+    ZeileWaehlen(0);
     SetzeSortPfeile();
-    m_zeilen.SpaltenAnpassen(0, kErgebnisSpalten, 0);
+    SpaltenAnpassen(0, kErgebnisSpalten, 0);
 }
 
 void CHKAuswahlVdi3805Grid::SetzeKopf()
@@ -77,21 +96,28 @@ void CHKAuswahlVdi3805Grid::ZeigeRichtung(int spalte, bool aufsteigend)
 
 void CHKAuswahlVdi3805Grid::OnRowChange(int /*oldRow*/, int newRow)
 {
-    m_zeilen.ZeileGewechselt(newRow);
+    const auto zahl = [&](int spalte) { return _wtof(GetCellText(spalte, newRow)); };
+    Kriterien().m_pVdi->SelectRow(GetCellText(0, newRow), zahl(1), zahl(2), zahl(3));
+    ZeileWaehlen(newRow);
 }
 
 void CHKAuswahlVdi3805Grid::OnDoubleClick(int /*column*/, int row)
 {
-    if (row >= 0 && row < m_zeilen.AnzahlZeilen()) {
+    if (row >= 0 && row < m_nZeilen) {
         m_pDialog->Bestaetigen();
     }
 }
 
 void CHKAuswahlVdi3805Grid::OnHeadingClick(int column, int /*row*/, bool down)
 {
-    if (!down) {
-        m_zeilen.UeberschriftGeklickt(column);
+    if (down || column < 0 || column >= m_nSpalten || m_nZeilen == 0) {
+        return;
     }
+    bool& aufsteigend = m_Sortierung[static_cast<std::size_t>(column)];
+    aufsteigend = !aufsteigend;
+    SortBy(column, aufsteigend ? kSortAscending : kSortDescending);
+    ZeigeRichtung(column, aufsteigend);
+    RedrawAll();
 }
 
 void CHKAuswahlVdi3805Grid::OnCharTyped(wchar_t* character, bool& processed)
@@ -124,14 +150,67 @@ void CHKAuswahlVdi3805Grid::OnDrawFocusRect(CDC& dc, const CRect& rect)
     dc.DrawFocusRect({rect.left, rect.top, rect.right - 1, rect.bottom - 1});
 }
 
-void CHKAuswahlVdi3805Grid::SetzeZeichnen(bool an)
+CAuswahlKriterien& CHKAuswahlVdi3805Grid::Kriterien() const
 {
-    SetRedraw(an);
+    return m_pDialog->Kriterien();
 }
 
-void CHKAuswahlVdi3805Grid::ZeichneAlles()
+void CHKAuswahlVdi3805Grid::ZeilenAufbauen(bool bFiltern)
 {
+    ZeileWaehlen(0);
+    SetRedraw(false);
+    ZeilenLeeren();
+    if (bFiltern) {
+        Kriterien().m_pVdi->Filtern();
+    }
+    const int beste = BesteOderErweiterte();
+    ZeilenEinfuegen();
+    SpaltenAnpassen(0, m_nSpalten, m_nZeilen);
+    SetRedraw(true);
+    ZeileWaehlen(beste);
     RedrawAll();
+}
+
+int CHKAuswahlVdi3805Grid::BesteOderErweiterte()
+{
+    CAuswahlKriterien& kriterien = Kriterien();
+    int beste = kriterien.m_pVdi->BesteAuswahl();
+    kriterien.m_bTreffer = beste != -1;
+    if (kriterien.m_bTreffer) {
+        return beste;
+    }
+    if (!kriterien.m_bWarnen) {
+        return 0;
+    }
+    Erweitern();
+    beste = kriterien.m_pVdi->BesteAuswahl();
+    kriterien.m_bTreffer = beste != -1;
+    return beste;
+}
+
+void CHKAuswahlVdi3805Grid::Erweitern()
+{
+    HK_DATEN_VDI3805_UEBERGABE& uebergabe = Kriterien().m_pVdi->GetDaten();
+    ShowMessage(
+        {m_strTitel,
+         MitZahlen(ErgebnisText(kTextNichtGefunden), uebergabe.LaengeMax, uebergabe.HoeheMax),
+         MessageIcon::information});
+    Kriterien().m_bWarnen = false;
+    uebergabe.LaengeMin = 0.0;
+    uebergabe.TiefeMax = MaxTiefe(uebergabe);
+    uebergabe.TiefeMin = MinTiefe(uebergabe);
+    Kriterien().m_pVdi->Filtern();
+}
+
+void CHKAuswahlVdi3805Grid::ZeilenEinfuegen()
+{
+    ErgebnisTexte texte;
+    for (const HK_VDI3805_TYP* zeile = Kriterien().m_pVdi->GetErgebnis(); zeile != nullptr;
+         zeile = zeile->pNext) {
+        ZellTexte(*zeile, texte);
+        FuegeZeileHinzu(texte);
+        ++m_nZeilen;
+    }
 }
 
 void CHKAuswahlVdi3805Grid::FuegeZeileHinzu(const ErgebnisTexte& texte)
@@ -146,29 +225,36 @@ void CHKAuswahlVdi3805Grid::FuegeZeileHinzu(const ErgebnisTexte& texte)
     }
 }
 
-bool CHKAuswahlVdi3805Grid::LoescheZeile(int zeile)
+void CHKAuswahlVdi3805Grid::ZeilenLeeren()
 {
-    return DeleteRow(zeile);
+    while (DeleteRow(0)) {
+    }
+    m_nZeilen = 0;
 }
 
-CString CHKAuswahlVdi3805Grid::Text(int spalte, int zeile) const
+void CHKAuswahlVdi3805Grid::ErgebnisEntfernen()
 {
-    return GetCellText(spalte, zeile);
+    SetRedraw(false);
+    ZeilenLeeren();
+    SetRedraw(true);
+    RedrawAll();
 }
 
-void CHKAuswahlVdi3805Grid::GeheZuZeile(int zeile)
+void CHKAuswahlVdi3805Grid::ZeileWaehlen(int row)
 {
     ClearSelection();
-    GotoCell(0, zeile);
+    GotoCell(0, row);
+    m_nAktuelleZeile = row;
+    RedrawAll();
+    Kriterien().LeistungIstAnzeigen(GetCellText(kSpalteLeistung, row));
 }
 
-void CHKAuswahlVdi3805Grid::PasseBreiteAn(int erste, int anzahl, int zeilen, int mindestens)
+void CHKAuswahlVdi3805Grid::BesteZeileWaehlen()
 {
-    BestFit(erste, anzahl, zeilen, mindestens);
+    ZeileWaehlen(Kriterien().m_pVdi->BesteAuswahl());
 }
 
-void CHKAuswahlVdi3805Grid::Sortiere(int spalte, bool aufsteigend)
+void CHKAuswahlVdi3805Grid::SpaltenAnpassen(int first, int count, int rows)
 {
-    SortBy(spalte, aufsteigend ? kSortAscending : kSortDescending);
-    ZeigeRichtung(spalte, aufsteigend);
+    BestFit(first, count, rows, kSchmalsteSpalte);
 }

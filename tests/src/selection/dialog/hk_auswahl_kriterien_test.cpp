@@ -5,7 +5,8 @@
 #include "frame/vdi6030_start.h"
 #include "host/host_prefs.h"
 #include "platform/number_scan.h"
-#include "selection/ergebnis_zeilen.h"
+#include "radiator/hk_vdi3805.h"
+#include "selection/ergebnis_texte.h"
 #include "tests/src/selection/dialog/auswahl_fixture.h"
 
 #include <QComboBox>

@@ -1,4 +1,4 @@
-#include "selection/ergebnis_zeilen.h"
+#include "selection/ergebnis_texte.h"
 
 #include <gtest/gtest.h>
 
