@@ -3,6 +3,7 @@
 #include "platform/format.h"
 #include "platform/whole_file.h"
 #include "workbench/building/building_layout.h"
+#include "workbench/building/floor_overlap.h"
 #include "workbench/building/json_fields.h"
 #include "workbench/building/json_note.h"
 #include "workbench/building/json_writer.h"
@@ -58,32 +59,20 @@ CClearance ReadClearance(CJsonFields fields)
     return clearance;
 }
 
-/// By how many millimetres the rectangles lie over each other; 0 or less if they do not.
-double OverlapOf(const CFloorRect& a, const CFloorRect& b)
-{
-    const double x = std::min(a.x + a.breite, b.x + b.breite) - std::max(a.x, b.x);
-    const double y = std::min(a.y + a.tiefe, b.y + b.tiefe) - std::max(a.y, b.y);
-    return std::min(x, y);
-}
-
 using Rooms = std::vector<std::shared_ptr<const CRoom>>;
 
-/// From west to east, so that each one has to be compared with the next few only.
 void RefuseOverlaps(const Rooms& rooms, CJsonFields& floor)
 {
-    Rooms sorted = rooms;
-    std::ranges::stable_sort(sorted, {}, [](const auto& room) { return room->grundriss.x; });
-    for (auto room = sorted.begin(); room != sorted.end(); ++room) {
-        const CFloorRect& rect = (*room)->grundriss;
-        for (auto next = room + 1;
-             next != sorted.end() && (*next)->grundriss.x < rect.x + rect.breite; ++next) {
-            const double overlap = OverlapOf(rect, (*next)->grundriss);
-            if (overlap > kThickestWall) {
-                floor.SetPlace(L"locale \"" + (*next)->strName + L"\"");
-                floor.Fail(L"outline", L"si sovrappone al locale \"" + (*room)->strName +
-                                           L"\" per " + FormatPlain(overlap) + L" mm");
-            }
-        }
+    std::vector<CFloorRect> rects;
+    rects.reserve(rooms.size());
+    for (const auto& room : rooms) {
+        rects.push_back(room->grundriss);
+    }
+    if (const auto overlap = FindOverlap(rects, kThickestWall)) {
+        const double depth = OverlapOf(rects[overlap->nFirst], rects[overlap->nSecond]);
+        floor.SetPlace(L"locale \"" + rooms[overlap->nSecond]->strName + L"\"");
+        floor.Fail(L"outline", L"si sovrappone al locale \"" + rooms[overlap->nFirst]->strName +
+                                   L"\" per " + FormatPlain(depth) + L" mm");
     }
 }
 
