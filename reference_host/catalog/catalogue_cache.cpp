@@ -1,6 +1,7 @@
 #include "reference_host/catalog/catalogue_cache.h"
 
 #include "platform/exception.h"
+#include "platform/file_limits.h"
 #include "platform/path.h"
 #include "platform/whole_file.h"
 #include "reference_host/catalog/file_state.h"
@@ -20,9 +21,9 @@ std::optional<struct stat> StatusOf(const std::filesystem::path& path)
 CCatalogueCache::CResult ReadCatalogue(const std::filesystem::path& path)
 {
     try {
-        const auto bytes = ReadWholeFile(TextFromPath(path), kMaxCatalogueBytes);
+        const auto bytes = ReadWholeFile(TextFromPath(path), kLargestCatalogue);
         if (!bytes) {
-            return CFileFault{0, L"Il file è troppo grande per un catalogo."};
+            return CFileFault{0, DescribeTooLarge(kLargestCatalogue)};
         }
         return ParseCatalogue(BytesOf(*bytes));
     } catch (const CFileException& error) {

@@ -3,6 +3,7 @@
 #include "common/heizung_ordner.h"
 #include "common/text_file.h"
 #include "platform/file.h"
+#include "platform/file_limits.h"
 #include "platform/path.h"
 
 namespace reference_host {
@@ -13,6 +14,10 @@ CShortListFile ReadShortList(const CString& path)
     CShortListFile list;
     list.strFile = TextFromPath(ResolvePath(file));
     CFile stream(file, CFile::modeRead);
+    if (stream.GetLength() > kLargestList) {
+        list.fault = CFileFault(0, DescribeTooLarge(kLargestList), list.strFile);
+        return list;
+    }
     ReadTextLines(stream, list.lines, -1);
     return list;
 }

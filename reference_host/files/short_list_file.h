@@ -1,7 +1,10 @@
 #pragma once
 
 #include "platform/array.h"
+#include "platform/file_fault.h"
 #include "platform/text.h"
+
+#include <optional>
 
 namespace reference_host {
 
@@ -12,6 +15,9 @@ struct CShortListFile
     CString strFile;
     /// Its lines, cut and counted as the module cuts them.
     CStringArray lines;
+    /// Why it is not read although it can be: it is larger than a list may be. Then it has no
+    /// lines.
+    std::optional<CFileFault> fault;
 };
 
 /// Reads the short list in a file; an empty path stands for the list of the data root, the one that

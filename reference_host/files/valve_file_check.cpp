@@ -2,6 +2,7 @@
 
 #include "common/text_file.h"
 #include "platform/file.h"
+#include "platform/file_limits.h"
 #include "platform/format.h"
 
 #include <algorithm>
@@ -94,11 +95,17 @@ std::optional<CFileFault> FindFault(const CString& file, const CStringArray& lin
 CValveFileCheck::CValveFileCheck(const CString& path) : m_strFile(path)
 {
     CFile file(path, CFile::modeRead | CFile::shareDenyWrite);
-    ReadTextLines(file, m_lines, -1);
+    m_bTooLarge = file.GetLength() > kLargestValveFile;
+    if (!m_bTooLarge) {
+        ReadTextLines(file, m_lines, -1);
+    }
 }
 
 std::optional<CFileFault> CValveFileCheck::FindReadingFault() const
 {
+    if (m_bTooLarge) {
+        return CFileFault{0, DescribeTooLarge(kLargestValveFile), m_strFile};
+    }
     if (!m_lines.IsEmpty()) {
         const Fields head = Split(m_lines[0]);
         if (!head.empty() && head[0] == kNewHead) {

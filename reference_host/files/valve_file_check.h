@@ -13,12 +13,13 @@ namespace reference_host {
 class CValveFileCheck
 {
 public:
-    /// Reads the file. Raises CFileException if it cannot be read.
+    /// Reads the file, unless it is beyond the limit for valve files. Raises CFileException if it
+    /// cannot be read.
     explicit CValveFileCheck(const CString& path);
 
-    /// The first line that makes the module give up the whole file: a record that lacks a field
-    /// that the reader needs, or one that has no record above it to stand under, or the head of
-    /// another kind of file.
+    /// What makes the module give up the whole file: its size, or the first line with a record that
+    /// lacks a field that the reader needs, or one that has no record above it to stand under, or
+    /// the head of another kind of file.
     std::optional<CFileFault> FindReadingFault() const;
 
     /// The first data set or kv row that lacks a field. It spoils the valves of that data set only.
@@ -31,6 +32,7 @@ public:
 private:
     CString m_strFile;
     CStringArray m_lines;
+    bool m_bTooLarge = false;
 };
 
 } // namespace reference_host

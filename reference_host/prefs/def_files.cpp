@@ -3,6 +3,7 @@
 #include "platform/archive.h"
 #include "platform/exception.h"
 #include "platform/file.h"
+#include "platform/file_limits.h"
 #include "platform/file_lock.h"
 #include "platform/path.h"
 #include "reference_host/prefs/host_settings.h"
@@ -53,6 +54,9 @@ Reading ReadFile(const CString& name, Read read)
     if (!file.Open(JoinPath(folder, name), CFile::modeRead)) {
         const int reason = file.GetOpenError();
         return reason == ENOENT || reason == ENOTDIR ? Reading::nothing : Reading::failed;
+    }
+    if (file.GetLength() > kLargestSettingsFile) {
+        return Reading::nothing;
     }
     try {
         CArchive archive(file, CArchive::Mode::load);

@@ -2,6 +2,7 @@
 
 #include "platform/encoding.h"
 #include "platform/exception.h"
+#include "platform/file_limits.h"
 #include "platform/whole_file.h"
 
 #include <algorithm>
@@ -45,7 +46,11 @@ CSettingsFile::State CSettingsFile::Load()
 {
     std::vector<std::string> lines;
     try {
-        lines = LinesOf(*ReadWholeFile(m_path));
+        const auto bytes = ReadWholeFile(m_path, kLargestSettingsFile);
+        if (!bytes) {
+            return State::unreadable;
+        }
+        lines = LinesOf(*bytes);
     } catch (const CFileException& error) {
         return error.GetOsError() == ENOENT ? State::missing : State::unreadable;
     }

@@ -4,7 +4,7 @@
 #include "host/host_prefs.h"
 #include "platform/file.h"
 
-bool ReadCachedLines(const CString& path, CStringArray& lines)
+bool ReadCachedLines(const CString& path, CStringArray& lines, std::uint64_t largest)
 {
     CSettingsCache& cache = *lmGetCacheObject();
     if (cache.IsFileInCache(path)) {
@@ -14,7 +14,7 @@ bool ReadCachedLines(const CString& path, CStringArray& lines)
 
     lines.RemoveAll();
     CFile file;
-    if (!file.Open(path, CFile::modeRead | CFile::shareDenyWrite)) {
+    if (!file.Open(path, CFile::modeRead | CFile::shareDenyWrite) || file.GetLength() > largest) {
         return false;
     }
     ReadTextLines(file, lines, -1);

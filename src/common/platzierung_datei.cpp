@@ -3,6 +3,7 @@
 #include "common/arbeits_ordner.h"
 #include "common/text_file.h"
 #include "host/host_prefs.h"
+#include "platform/file_limits.h"
 #include "platform/file_lock.h"
 #include "platform/format.h"
 #include "platform/number_scan.h"
@@ -23,12 +24,15 @@ CString DateiPfad()
     return ArbeitsPfad(name);
 }
 
-/// 0, or the system's reason if the file cannot be opened.
+/// 0, or the system's reason if the file cannot be opened, or EFBIG if it is beyond its limit.
 int LeseZeilen(const CString& pfad, CStringArray& zeilen)
 {
     CFile datei;
     if (!datei.Open(pfad, CFile::modeRead)) {
         return datei.GetOpenError();
+    }
+    if (datei.GetLength() > kLargestPlacementFile) {
+        return EFBIG;
     }
     ReadTextLines(datei, zeilen, -1);
     return 0;

@@ -1,6 +1,7 @@
 #include "common/text_file.h"
 
 #include "platform/encoding.h"
+#include "platform/file_limits.h"
 
 #include <algorithm>
 #include <bit>
@@ -207,7 +208,7 @@ int ReadTextLines(CFile& file, CStringArray& lines, int limit, CString* rest)
 int ReadTextFile(const CString& path, CStringArray& lines, unsigned flags, int limit)
 {
     CFile file;
-    if (!file.Open(path, flags)) {
+    if (!file.Open(path, flags) || file.GetLength() > kLargestList) {
         return 0;
     }
     const int count = ReadTextLines(file, lines, limit);
@@ -215,10 +216,10 @@ int ReadTextFile(const CString& path, CStringArray& lines, unsigned flags, int l
     return count;
 }
 
-bool ReadFirstLine(const CString& path, CString& line)
+bool ReadFirstLine(const CString& path, CString& line, std::uint64_t largest)
 {
     CFile file;
-    if (!file.Open(path, CFile::modeRead)) {
+    if (!file.Open(path, CFile::modeRead) || file.GetLength() > largest) {
         return false;
     }
     CStringArray lines;

@@ -4,6 +4,7 @@
 #include "platform/file.h"
 #include "platform/text.h"
 
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -19,13 +20,14 @@
 /// written again. Exceptions of the file pass through.
 int ReadTextLines(CFile& file, CStringArray& lines, int limit, CString* rest = nullptr);
 
-/// Opens the file with `flags` and does the same. 0 if it cannot be opened.
+/// Opens the file with `flags` and does the same. 0 if it cannot be opened or is larger than a list
+/// may be.
 int ReadTextFile(const CString& path, CStringArray& lines, unsigned flags, int limit);
 
 /// The first line that ReadTextFile() would give, reading no chunk beyond the one in which it ends.
-/// False, with `line` left alone, if the file cannot be opened or has no line. Exceptions of the
-/// file pass through.
-bool ReadFirstLine(const CString& path, CString& line);
+/// False, with `line` left alone, if the file cannot be opened, has more bytes than `largest` or no
+/// line. Exceptions of the file pass through.
+bool ReadFirstLine(const CString& path, CString& line, std::uint64_t largest);
 
 /// Writes the lines as UTF-16 with CR LF behind each, and the byte order mark where the writing
 /// starts at position 0. `cut` empties the file first, `append` goes to its end. False if the file

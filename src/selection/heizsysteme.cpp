@@ -3,6 +3,7 @@
 #include "common/heizung_ordner.h"
 #include "common/text_file.h"
 #include "platform/file.h"
+#include "platform/file_limits.h"
 #include "platform/file_lock.h"
 #include "platform/format.h"
 #include "platform/number_scan.h"
@@ -24,14 +25,17 @@ CString Kopfzeile(const CString& name)
     return L"[" + name + L"]";
 }
 
-/// The lines of the file, none of a file that does not exist; nothing if it cannot be read. `rest`
-/// takes what stands behind the last line end.
+/// The lines of the file, none of a file that does not exist; nothing if it cannot be read or is
+/// larger than a list may be. `rest` takes what stands behind the last line end.
 std::optional<CStringArray> LeseZeilen(const CString& pfad, CString* rest = nullptr)
 {
     CStringArray zeilen;
     CFile datei;
     if (!datei.Open(pfad, CFile::modeRead)) {
         return datei.GetOpenError() == ENOENT ? std::optional(zeilen) : std::nullopt;
+    }
+    if (datei.GetLength() > kLargestList) {
+        return std::nullopt;
     }
     try {
         ReadTextLines(datei, zeilen, -1, rest);

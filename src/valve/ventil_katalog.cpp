@@ -5,6 +5,7 @@
 #include "host/host_prefs.h"
 #include "platform/array.h"
 #include "platform/file.h"
+#include "platform/file_limits.h"
 #include "platform/folder_name.h"
 #include "platform/format.h"
 #include "platform/message.h"
@@ -151,7 +152,7 @@ bool CVentVdiKatalog::LadeHersteller(const CString& hersteller)
 bool CVentVdiKatalog::HatNeuenKopf() const
 {
     CString line;
-    if (!ReadFirstLine(DateiPfad, line)) {
+    if (!ReadFirstLine(DateiPfad, line, kLargestValveFile)) {
         return false;
     }
     std::vector<std::wstring_view> fields;
@@ -168,7 +169,7 @@ bool CVentVdiKatalog::LeseDatei()
 {
     Leeren();
     CStringArray lines;
-    if (!ReadCachedLines(DateiPfad, lines)) {
+    if (!ReadCachedLines(DateiPfad, lines, kLargestValveFile)) {
         return false;
     }
     int zeilenNr = 0;

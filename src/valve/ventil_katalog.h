@@ -47,8 +47,8 @@ public:
     bool LeseNeuesFormat();
 
     /// Reads the file named by DateiPfad, from the cache of the process where that holds it. False
-    /// without a message if it cannot be opened, or if a record has no parent to stand under; the
-    /// tree is then empty.
+    /// without a message if it cannot be opened or is beyond the limit for valve files, or if a
+    /// record has no parent to stand under; the tree is then empty.
     bool LeseDatei();
 
     /// Loads the manufacturer's file and fills `ventil` from the first article with exactly this

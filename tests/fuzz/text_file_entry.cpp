@@ -37,7 +37,7 @@ void RunTextFile(std::span<const std::uint8_t> bytes)
     const CString in = folder.Path("in.txt");
     const CStringArray lines = LinesOf(in);
     CString first;
-    const bool hasFirst = ReadFirstLine(in, first);
+    const bool hasFirst = ReadFirstLine(in, first, bytes.size());
     Require(hasFirst == !lines.IsEmpty(), "a file of any lines has a first one");
     Require(!hasFirst || first == lines[0], "the first line is that of the whole file");
     for (const CString& line : lines) {

@@ -1,7 +1,6 @@
 #include "workbench/building/building_json.h"
 
 #include "platform/format.h"
-#include "platform/whole_file.h"
 #include "workbench/building/building_layout.h"
 #include "workbench/building/floor_overlap.h"
 #include "workbench/building/json_fields.h"
@@ -242,7 +241,7 @@ bool IsSameBuilding(const CBuilding& a, const CBuilding& b)
 
 void WriteBuilding(const CString& path, const CBuilding& building)
 {
-    WriteWholeFile(path, FormatBuilding(building));
+    WriteJsonBytes(path, FormatBuilding(building));
 }
 
 } // namespace workbench

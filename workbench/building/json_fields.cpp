@@ -2,6 +2,7 @@
 
 #include "platform/encoding.h"
 #include "platform/file_fault.h"
+#include "platform/file_limits.h"
 #include "platform/format.h"
 #include "platform/whole_file.h"
 #include "workbench/building/printable.h"
@@ -9,6 +10,7 @@
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <limits>
 #include <string>
@@ -20,10 +22,6 @@ namespace {
 
 /// A field longer than this is no name of anything.
 constexpr std::size_t kLongestText = 200;
-
-/// Two thousand rooms with their radiators take some megabytes; reading a wrong file must not fill
-/// the memory.
-constexpr std::uint64_t kLargestFile = 64ULL << 20;
 
 constexpr double kLargestNumber = std::numeric_limits<double>::max();
 
@@ -243,11 +241,19 @@ QJsonValue CJsonFields::Take(const char* name)
 
 std::string ReadJsonBytes(const CString& path)
 {
-    auto bytes = ReadWholeFile(path, kLargestFile);
+    auto bytes = ReadWholeFile(path, kLargestBuilding);
     if (!bytes) {
-        Raise({0, L"il file è troppo grande", path});
+        Raise({0, DescribeTooLarge(kLargestBuilding), path});
     }
     return *std::move(bytes);
+}
+
+void WriteJsonBytes(const CString& path, const std::string& bytes)
+{
+    if (bytes.size() > kLargestBuilding) {
+        throw CFileException::FromErrno(EFBIG, path);
+    }
+    WriteWholeFile(path, bytes);
 }
 
 CJsonFields ParseJson(const std::string& bytes, const CString& path)

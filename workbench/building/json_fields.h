@@ -91,6 +91,10 @@ private:
 /// it is too large to be meant.
 std::string ReadJsonBytes(const CString& path);
 
+/// Writes such a file, as WriteWholeFile() does. More than can be read again raises CFileException
+/// as well, and the file stays as it was.
+void WriteJsonBytes(const CString& path, const std::string& bytes);
+
 /// The object of a JSON text. One that is none raises CContentException, with line and column of
 /// the place where reading stopped in the file that the text comes from.
 CJsonFields ParseJson(const std::string& bytes, const CString& path);

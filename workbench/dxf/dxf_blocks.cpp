@@ -2,6 +2,7 @@
 
 #include "platform/encoding.h"
 #include "platform/exception.h"
+#include "platform/file_limits.h"
 #include "platform/path.h"
 #include "platform/whole_file.h"
 
@@ -268,9 +269,9 @@ CDxfDrawing Build(const CScreenedDxf& screened)
 std::variant<CDxfDrawing, CFileFault> ReadDrawing(const CString& path, DxfContent content)
 {
     try {
-        const auto bytes = ReadWholeFile(path, kMaxDxfBytes);
+        const auto bytes = ReadWholeFile(path, kLargestDrawing);
         if (!bytes) {
-            return CFileFault{0, L"Il file è troppo grande."};
+            return CFileFault{0, DescribeTooLarge(kLargestDrawing)};
         }
         return ParseDxf(BytesOf(*bytes), content);
     } catch (const CFileException&) {

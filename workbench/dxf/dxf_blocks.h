@@ -9,9 +9,6 @@
 
 namespace workbench {
 
-/// Largest DXF file that is read, in bytes.
-inline constexpr std::size_t kMaxDxfBytes = 32u << 20;
-
 /// Reads a drawing out of the bytes of a text DXF file of any version. Layers, blocks and what the
 /// drawing shows keep the order of the file. LINE, CIRCLE, ARC, LWPOLYLINE and POLYLINE are taken,
 /// without their z and in the plane they are drawn in; of a block also the definitions of its
@@ -27,8 +24,8 @@ inline constexpr std::size_t kMaxDxfBytes = 32u << 20;
 std::variant<CDxfDrawing, CFileFault> ParseDxf(std::span<const std::uint8_t> bytes,
                                                DxfContent content = DxfContent::wholeDrawing);
 
-/// Reads a file of at most kMaxDxfBytes. Files are libraries of blocks, as a rule, and whatever
-/// their drawing shows does not count.
+/// Reads a file of at most kLargestDrawing bytes. Files are libraries of blocks, as a rule, and
+/// whatever their drawing shows does not count.
 std::variant<CDxfDrawing, CFileFault> ReadDxfFile(const CString& path,
                                                   DxfContent content = DxfContent::layersAndBlocks);
 

@@ -4,7 +4,6 @@
 #include "platform/format.h"
 #include "platform/number_scan.h"
 #include "platform/path.h"
-#include "platform/whole_file.h"
 #include "workbench/building/building_json.h"
 #include "workbench/building/json_fields.h"
 #include "workbench/building/json_time.h"
@@ -206,7 +205,7 @@ CString CRecoveryFile::SetAside() const
 void CRecoveryFile::Write(const CString& path, const CString& fingerprint,
                           const CBuilding& building) const
 {
-    WriteWholeFile(m_strPath, FormatRecovery(path, fingerprint, building));
+    WriteJsonBytes(m_strPath, FormatRecovery(path, fingerprint, building));
 }
 
 void CRecoveryFile::Remove() const

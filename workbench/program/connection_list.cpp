@@ -224,6 +224,10 @@ ExitCode ListConnections(const CString& path, std::ostream& out, std::ostream& e
         err << Utf8FromWide(exception.GetErrorMessage()) << '\n';
         return ExitCode::badCatalogue;
     }
+    if (list.fault) {
+        err << Utf8FromWide(FormatFileFault(*list.fault)) << '\n';
+        return ExitCode::badCatalogue;
+    }
     return CListPrinter(list.strFile, list.lines, out, err).Print();
 }
 

@@ -1,7 +1,6 @@
 #include "workbench/window/plan_document.h"
 
 #include "platform/exception.h"
-#include "platform/whole_file.h"
 #include "workbench/building/building_json.h"
 #include "workbench/building/file_identity.h"
 #include "workbench/building/json_fields.h"
@@ -93,7 +92,7 @@ void CPlanDocument::SaveAs(const CString& path)
         throw CInUseException(lock->GetMessage());
     }
     const std::string bytes = FormatBuilding(Building());
-    WriteWholeFile(path, bytes);
+    WriteJsonBytes(path, bytes);
     m_strPath = AbsolutePath(path);
     m_strFingerprint = FingerprintOf(bytes);
     Take(std::move(lock));

@@ -85,9 +85,6 @@ struct CCatalogue
     std::vector<CCatalogueKind> arten;
 };
 
-/// The largest file that is worth reading, in bytes.
-inline constexpr std::size_t kMaxCatalogueBytes = 16u << 20;
-
 /// Model of a catalogue file's bytes, or its first fault. Takes any bytes; memory stays within a
 /// small multiple of their count, and the sizes of all series together within 200,000.
 std::variant<CCatalogue, CFileFault> ParseCatalogue(std::span<const std::uint8_t> bytes);

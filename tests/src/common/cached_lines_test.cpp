@@ -6,25 +6,29 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <filesystem>
+#include <limits>
 
 namespace {
+
+constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
 
 TEST(CachedLines, AFileIsReadOnceInTheLifeOfTheProcess)
 {
     const CTempFolder folder;
     folder.WriteBytes("a.txt", "one\r\ntwo\r\n");
     CStringArray lines = Lines({L"left over"});
-    ASSERT_TRUE(ReadCachedLines(folder.Path("a.txt"), lines));
+    ASSERT_TRUE(ReadCachedLines(folder.Path("a.txt"), lines, kNoLimit));
     EXPECT_EQ(lines, Lines({L"one", L"two"}));
     lines[0] = L"the caller's own copy";
 
     folder.WriteBytes("a.txt", "changed\r\n");
-    EXPECT_TRUE(ReadCachedLines(folder.Path("a.txt"), lines));
+    EXPECT_TRUE(ReadCachedLines(folder.Path("a.txt"), lines, kNoLimit));
     EXPECT_EQ(lines, Lines({L"one", L"two"}));
 
     std::filesystem::remove(folder.Root() / "a.txt");
-    EXPECT_TRUE(ReadCachedLines(folder.Path("a.txt"), lines));
+    EXPECT_TRUE(ReadCachedLines(folder.Path("a.txt"), lines, kNoLimit));
     EXPECT_EQ(lines, Lines({L"one", L"two"}));
 }
 
@@ -32,11 +36,11 @@ TEST(CachedLines, AMissingFileFailsEmptiesTheLinesAndIsTriedAgain)
 {
     const CTempFolder folder;
     CStringArray lines = Lines({L"left over"});
-    EXPECT_FALSE(ReadCachedLines(folder.Path("late.txt"), lines));
+    EXPECT_FALSE(ReadCachedLines(folder.Path("late.txt"), lines, kNoLimit));
     EXPECT_TRUE(lines.IsEmpty());
 
     folder.WriteBytes("late.txt", "there\r\n");
-    EXPECT_TRUE(ReadCachedLines(folder.Path("late.txt"), lines));
+    EXPECT_TRUE(ReadCachedLines(folder.Path("late.txt"), lines, kNoLimit));
     EXPECT_EQ(lines, Lines({L"there"}));
 }
 
@@ -48,7 +52,7 @@ TEST(CachedLines, WhatTheHostPutInTheCacheAnswersWithoutAFile)
     CStringArray lines = Lines({L"left over"});
     cache.AddFileToCache(path, Lines({L"old"}), false);
     cache.AddFileToCache(path, Lines({L"new"}), false);
-    EXPECT_TRUE(ReadCachedLines(path, lines));
+    EXPECT_TRUE(ReadCachedLines(path, lines, kNoLimit));
     EXPECT_EQ(lines, Lines({L"new"}));
 }
 
