@@ -40,7 +40,9 @@ CRadiatorWish WishForPlace(const CBuilding& building, const CFloor& floor, const
 CRadiatorWish WishForRoom(const CBuilding& building, const CFloor& floor, const CRoom& room)
 {
     const std::vector<std::size_t> free = FreePlaces(room);
-    return WishForPlace(building, floor, room, free.empty() ? 0 : free.front());
+    CRadiatorWish wish = WishForPlace(building, floor, room, free.empty() ? 0 : free.front());
+    wish.bErster = room.heizkoerper.empty() && room.plaetze.size() > 1;
+    return wish;
 }
 
 CRadiatorWish WishForRadiator(const CBuilding& building, const CFloor& floor, const CRoom& room,

@@ -30,6 +30,9 @@ struct CRadiatorWish
     /// Heat demand of the room, and what is met of it without this radiator, which may be more.
     double bedarf = 0.0;
     double gedeckt = 0.0;
+    /// More radiators are to come beside this one, which is the room's first: the dialog then opens
+    /// with half the demand, and not with all of it.
+    bool bErster = false;
     CHeatingSystem system;
     double raumtemperatur = 0.0;
     /// The layer with which the dialog opens; nothing for the one that the host keeps.

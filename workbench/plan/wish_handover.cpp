@@ -5,6 +5,7 @@
 #include "workbench/plan/module_call.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace workbench {
 
@@ -54,6 +55,14 @@ void NarrowToProduct(HK_DATEN_VDI3805_UEBERGABE& handover)
     Narrow(depths, handover.TiefeMin, handover.TiefeMax);
 }
 
+/// What the room's other radiators give. Exactly 0 tells the dialog that it chooses the first of
+/// several and makes it start with half the demand; a radiator that is to give all that is left is
+/// asked for with the least that is not 0.
+double CoveredFor(const CRadiatorWish& wish)
+{
+    return wish.gedeckt == 0.0 && !wish.bErster ? std::numeric_limits<double>::min() : wish.gedeckt;
+}
+
 } // namespace
 
 HK_DATEN_VDI3805_UEBERGABE FillHandover(const CRadiatorWish& wish)
@@ -73,7 +82,7 @@ HK_DATEN_VDI3805_UEBERGABE FillHandover(const CRadiatorWish& wish)
     handover.Raumtemperatur = wish.raumtemperatur;
     handover.Raumname = wish.strRaum;
     handover.RaumBedarf = wish.bedarf;
-    handover.RaumGedeckt = wish.gedeckt;
+    handover.RaumGedeckt = CoveredFor(wish);
     // Radiators built to measure are made around the output, which is another for each wish.
     handover.NeuLesen = 1;
     NarrowToProduct(handover);
