@@ -2,6 +2,8 @@
 
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
+#include "reference_host/prefs/host_settings.h"
+#include "workbench/plan/confirmed_connection.h"
 #include "workbench/plan/module_call.h"
 #include "workbench/plan/new_radiator.h"
 #include "workbench/plan/radiator_list.h"
@@ -50,15 +52,6 @@ bool TakeOver(const CBuilding& building, const CString& floor, CRoom& room,
     return placed.has_value();
 }
 
-/// What the connection dialog gives back.
-struct CConnectionResult
-{
-    ConnValues anschluss;
-    CValveKeys ventile;
-    bool bVentile = true;
-    bool bTyp = true;
-};
-
 /// The dialog of connections reads the valves that a radiator has. A file that it cannot take them
 /// out of is told with the line, which its exception does not name.
 bool CallWithValves(const CValveKeys& keys, const std::function<bool()>& call)
@@ -76,19 +69,31 @@ bool CallWithValves(const CValveKeys& keys, const std::function<bool()>& call)
     }
 }
 
-void Apply(const CConnectionResult& result, CPlacedRadiator& radiator)
+/// The block that the host keeps for radiators, as the dialog of connections finds it while this
+/// lives: the entry of its list of supply graphics that begins so is the one that it shows.
+class CShownGraphic
 {
-    if (result.bTyp) {
-        radiator.anschluss = result.anschluss;
-        if (result.anschluss.WandAbstand > 0.0) {
-            radiator.abstandWand = result.anschluss.WandAbstand;
-        }
+public:
+    explicit CShownGraphic(const CString& entry)
+    {
+        reference_host::OverrideHostSetting(reference_host::kSettingHKBlock, entry);
     }
-    if (result.bVentile) {
-        radiator.anschluss.GrafikAN = result.anschluss.GrafikAN;
-        radiator.anschluss.GrafikRI = result.anschluss.GrafikRI;
-        radiator.ventile = result.ventile;
-    }
+    ~CShownGraphic() { reference_host::ClearHostSettingOverride(reference_host::kSettingHKBlock); }
+    CShownGraphic(const CShownGraphic&) = delete;
+    CShownGraphic& operator=(const CShownGraphic&) = delete;
+};
+
+/// What the dialog of connections shows of a radiator.
+ConnValues ConnectionToShow(const CPlacedRadiator& radiator)
+{
+    const CConnectionTexts texts = ConnectionOf(radiator);
+    ConnValues anschluss = radiator.anschluss;
+    anschluss.AnschlussAN = texts.strVorlauf;
+    anschluss.AnschlussRI = texts.strRuecklauf;
+    anschluss.WandAbstand = radiator.abstandWand;
+    anschluss.GrafikAN = GraphicEntry(anschluss.GrafikAN);
+    anschluss.GrafikRI = GraphicEntry(anschluss.GrafikRI);
+    return anschluss;
 }
 
 } // namespace
@@ -140,18 +145,15 @@ std::optional<CBuilding> ConnectRadiators(const CBuilding& building,
                                           CDrawer& drawer)
 {
     const CPlacedRadiator& first = RadiatorOf(building, radiators.front());
-    const CConnectionTexts texts = ConnectionOf(first);
-    CConnectionResult result;
-    result.anschluss = first.anschluss;
-    result.anschluss.AnschlussAN = texts.strVorlauf;
-    result.anschluss.AnschlussRI = texts.strRuecklauf;
-    result.anschluss.WandAbstand = first.abstandWand;
+    CConfirmedConnection result;
+    result.eingang = result.anschluss = ConnectionToShow(first);
     VDI3805_VENTIL_KV vorlauf = RecordOf(first.ventile.vorlauf);
     VDI3805_VENTIL_KV ruecklauf = RecordOf(first.ventile.ruecklauf);
     // For several radiators the user may leave the connections or the valves as they are.
     bool groupsSelectable = radiators.size() > 1;
     bool fanCoil = false;
     CRadiatorList list(building, radiators);
+    const CShownGraphic shown(result.eingang.GrafikAN);
     const bool confirmed = CallWithValves(first.ventile, [&] {
         return ShowVentDlg(result.anschluss, vorlauf, ruecklauf, groupsSelectable, result.bVentile,
                            result.bTyp, fanCoil, list.GetList(), &drawer);
@@ -163,7 +165,7 @@ std::optional<CBuilding> ConnectRadiators(const CBuilding& building,
     CBuilding changed = building;
     for (const CRadiatorRef& ref : radiators) {
         CPlacedRadiator radiator = RadiatorOf(changed, ref);
-        Apply(result, radiator);
+        TakeConnection(radiator, result);
         ReplaceRadiator(changed, ref, std::move(radiator));
     }
     return changed;

@@ -3,10 +3,10 @@
 #include "workbench/building/qt_text.h"
 #include "workbench/drawing/beside_window.h"
 #include "workbench/drawing/plan_view.h"
-#include "workbench/drawing/scene_drawer.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/placement.h"
 #include "workbench/window/floor_scene.h"
+#include "workbench/window/plan_drawer.h"
 #include "workbench/window/plan_texts.h"
 #include "workbench/window/room_list.h"
 
@@ -39,7 +39,7 @@ CWorkbenchWindow::CWorkbenchWindow(CPlanDocument& document, CDrawingBlocks block
       m_pRooms(new CRoomList), m_pMessages(new QPlainTextEdit), m_pTotals(new QLabel)
 {
     m_pScene->SetBlocks(m_blocks.heizkoerper, m_blocks.Valves());
-    m_pDrawer = std::make_unique<CSceneDrawer>(*m_pScene, m_blocks.heizkoerper.layers);
+    m_pDrawer = std::make_unique<CPlanDrawer>(*m_pScene, m_blocks.heizkoerper.layers);
 
     auto* const plan = new QWidget;
     auto* const layout = new QVBoxLayout(plan);

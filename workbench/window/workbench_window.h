@@ -15,9 +15,9 @@ class QTabBar;
 namespace workbench {
 
 class CFloorScene;
+class CPlanDrawer;
 class CPlanView;
 class CRoomList;
-class CSceneDrawer;
 
 /// The workbench: floors as tabs over the plan, the rooms in a list, messages below. Everything can
 /// be done by keyboard. Actions have object names, by which tests find them.
@@ -81,7 +81,7 @@ private:
     QDockWidget* m_pMessageDock = nullptr;
     QPlainTextEdit* m_pMessages;
     QLabel* m_pTotals;
-    std::unique_ptr<CSceneDrawer> m_pDrawer;
+    std::unique_ptr<CPlanDrawer> m_pDrawer;
 };
 
 } // namespace workbench

@@ -2,6 +2,7 @@
 
 #include "tests/workbench/window/module_user.h"
 #include "tests/workbench/window/workbench_fixture.h"
+#include "workbench/building/qt_text.h"
 
 namespace workbench {
 
@@ -12,6 +13,17 @@ enum SelectionControl
 {
     idLeistungSoll = 18005,
     idLeistungIst = 18011,
+};
+
+/// Controls of the dialog of connections.
+enum ConnectionControl
+{
+    idVentileAktiv = 18077,
+    idWand = 18105,
+    idLeereAN = 18095,
+    idGrafikenAN = 18097,
+    idGrafikenRI = 18098,
+    idPresetLinksUnten = 18080,
 };
 
 class ModuleDialogs : public WorkbenchWindow
@@ -51,6 +63,29 @@ protected:
                                     std::size_t radiator = 0) const
     {
         return Room(floor, room).heizkoerper.at(radiator);
+    }
+
+    /// Gives radiators graphics, and the second one a distance of its own.
+    void DrawValves(const std::vector<CRadiatorRef>& refs)
+    {
+        CBuilding building = m_document.Building();
+        const wchar_t* const graphics[][2] = {{L"VALVOLA_SQUADRA_DX", L"DETENTORE_DIRITTO"},
+                                              {L"VALVOLA_DIRITTA", L""}};
+        for (std::size_t i = 0; i < refs.size(); ++i) {
+            CPlacedRadiator radiator = RadiatorOf(building, refs[i]);
+            radiator.anschluss.GrafikAN = graphics[i][0];
+            radiator.anschluss.GrafikRI = graphics[i][1];
+            radiator.abstandWand = i == 0 ? 0.05 : 0.08;
+            ReplaceRadiator(building, refs[i], radiator);
+        }
+        m_document.Do(L"Simboli", building);
+    }
+
+    using Graphics = std::pair<CString, CString>;
+    Graphics GraphicsOf(const CRadiatorRef& ref) const
+    {
+        const ConnValues& values = RadiatorOf(m_document.Building(), ref).anschluss;
+        return {values.GrafikAN, values.GrafikRI};
     }
 
     CSettingOverride m_local{reference_host::kSettingLocalPath, m_folder.Path()};
@@ -107,6 +142,73 @@ TEST_F(ModuleDialogs, OnlyTheFirstOfSeveralRadiatorsStartsWithHalfTheDemand)
     EXPECT_EQ(asked(), room.bedarf);
     room.plaetze.push_back(room.plaetze.front());
     EXPECT_EQ(asked(), room.bedarf / 2.0);
+}
+
+TEST_F(ModuleDialogs, TheConnectionDialogShowsTheValvesDrawnAndKeepsThem)
+{
+    Do("sizeAll");
+    const CRadiatorRef ref{{0, 1}, 0};
+    DrawValves({ref});
+    Mark({{0, 1}});
+    const Graphics drawn{L"VALVOLA_SQUADRA_DX", L"DETENTORE_DIRITTO"};
+    ASSERT_EQ(GraphicsOf(ref), drawn);
+    const std::tuple<const char*, Script, Graphics> steps[] = {
+        {"untouched", [](const CModuleUser&) {}, drawn},
+        {"one of them",
+         [](const CModuleUser& user) { user.Choose(idGrafikenRI, "VALVOLA_DIRITTA"); },
+         {drawn.first, L"VALVOLA_DIRITTA"}},
+        {"none",
+         [](const CModuleUser& user) { user.Choose(idGrafikenAN, "(nessuno)"); },
+         {L"", L"VALVOLA_DIRITTA"}},
+        {"one again",
+         [](const CModuleUser& user) { user.Choose(idGrafikenAN, "VALVOLA_SQUADRA_DX"); },
+         {drawn.first, L"VALVOLA_DIRITTA"}},
+        {"the valve goes",
+         [](const CModuleUser& user) { user.Click(idLeereAN); },
+         {L"", L"VALVOLA_DIRITTA"}},
+    };
+    for (const auto& [what, work, expected] : steps) {
+        Graphics shown;
+        const Graphics before = GraphicsOf(ref);
+        InModule([&](const CModuleUser& user) {
+            shown = {FromQt(user.Chosen(idGrafikenAN)), FromQt(user.Chosen(idGrafikenRI))};
+            work(user);
+            user.Ok();
+        });
+        Do("connect");
+        EXPECT_EQ(shown.first, before.first.empty() ? L"(nessuno)" : before.first) << what;
+        EXPECT_EQ(shown.second, before.second) << what;
+        EXPECT_EQ(GraphicsOf(ref), expected) << what;
+    }
+}
+
+TEST_F(ModuleDialogs, WhatIsSwitchedOffStaysOnEachOfSeveralRadiators)
+{
+    Do("sizeAll");
+    const CRadiatorRef refs[] = {{{0, 1}, 0}, {{0, 3}, 0}};
+    DrawValves({refs[0], refs[1]});
+    const Graphics drawn[] = {GraphicsOf(refs[0]), GraphicsOf(refs[1])};
+    Mark({{0, 1}, {0, 3}});
+    InModule([&](const CModuleUser& user) {
+        user.Click(idVentileAktiv);
+        user.Click(idPresetLinksUnten);
+        user.Ok();
+    });
+    Do("connect");
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(GraphicsOf(refs[i]), drawn[i]);
+        EXPECT_EQ(RadiatorOf(m_document.Building(), refs[i]).anschluss.PosAN,
+                  (ConnVector{-0.5, 0.0, -0.5}));
+        EXPECT_EQ(RadiatorOf(m_document.Building(), refs[i]).abstandWand, i == 0 ? 0.05 : 0.08);
+    }
+    InModule([&](const CModuleUser& user) {
+        user.Type(idWand, "0.12");
+        user.Ok();
+    });
+    Do("connect");
+    for (const CRadiatorRef& ref : refs) {
+        EXPECT_EQ(RadiatorOf(m_document.Building(), ref).abstandWand, 0.12);
+    }
 }
 
 } // namespace workbench

@@ -129,6 +129,8 @@ protected:
     CSettingOverride m_valves{reference_host::kSettingVEDir, kData + L"/valves"};
     CSettingOverride m_blocks{reference_host::kSettingHKBlockFolder,
                               kData + L"/drawing/heizkoerper.dxf"};
+    CSettingOverride m_valveBlocks{reference_host::kSettingValveBlockFolder,
+                                   kData + L"/drawing/ventile.dxf"};
     CSettingOverride m_records{reference_host::kSettingDefFolder, m_folder.Path()};
     fs::path m_path = fs::path(m_folder.Path()) / "casa.json";
     CRecoveryFile m_recovery{m_folder.Path() + L"/posto"};
