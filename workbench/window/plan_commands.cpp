@@ -129,16 +129,16 @@ void CPlanCommands::Remove(const std::vector<CRadiatorRef>& radiators)
                   std::move(changed));
 }
 
-void CPlanCommands::ChangeSystem()
+bool CPlanCommands::ChangeSystem()
 {
     CSystemDialog dialog(m_document.Building(), &m_window);
     if (dialog.exec() != QDialog::Accepted) {
-        return;
+        return false;
     }
     const CHeatingSystem system = dialog.GetSystem();
     CBuilding changed = m_document.Building();
     if (system.vorlauf == changed.system.vorlauf && system.ruecklauf == changed.system.ruecklauf) {
-        return;
+        return false;
     }
     workbench::ChangeSystem(changed, system);
     const CString name = FormatExact(system.vorlauf) + L"/" + FormatExact(system.ruecklauf);
@@ -147,6 +147,7 @@ void CPlanCommands::ChangeSystem()
     emit Told(QString("Sistema di riscaldamento %1 °C: locali da sistemare: %2.")
                   .arg(ToQt(name))
                   .arg(open));
+    return true;
 }
 
 std::vector<CRoomRef> OpenRooms(const CBuilding& building)

@@ -37,8 +37,8 @@ public:
     void Connect(const std::vector<CRadiatorRef>& radiators, CDrawer& drawer);
     void Remove(const std::vector<CRadiatorRef>& radiators);
 
-    /// Asks for another heating system of the building.
-    void ChangeSystem();
+    /// Asks for another heating system of the building. False if it keeps its own.
+    bool ChangeSystem();
 
 signals:
     /// Something for the list of messages; may have several lines.

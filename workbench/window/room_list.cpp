@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QHeaderView>
+#include <QSignalBlocker>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -35,7 +36,7 @@ CRoomList::CRoomList(QWidget* parent)
     layout->addWidget(m_pOpenOnly);
     layout->addWidget(m_pView);
 
-    connect(m_pOpenOnly, &QCheckBox::toggled, m_pTable, &CRoomTable::ShowOpenOnly);
+    connect(m_pOpenOnly, &QCheckBox::toggled, this, &CRoomList::Refilter);
     connect(m_pView->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (!m_bMarking) {
             emit MarkChanged();
@@ -48,11 +49,9 @@ CRoomList::CRoomList(QWidget* parent)
 
 void CRoomList::ShowBuilding(const CBuilding& building)
 {
-    const std::vector<CRoomRef> marked = GetMarkedRooms();
     m_bMarking = true;
-    m_pTable->Rows().Show(building);
+    m_pTable->Show(building);
     m_bMarking = false;
-    MarkRooms(marked);
 }
 
 void CRoomList::MarkRooms(const std::vector<CRoomRef>& rooms)
@@ -88,7 +87,18 @@ std::vector<CRoomRef> CRoomList::GetMarkedRooms() const
 
 void CRoomList::ShowOpenOnly(bool openOnly)
 {
+    const QSignalBlocker quiet(m_pOpenOnly);
     m_pOpenOnly->setChecked(openOnly);
+    Refilter();
+}
+
+void CRoomList::Refilter()
+{
+    m_bMarking = true;
+    m_pView->clearSelection();
+    m_pTable->ShowOpenOnly(m_pOpenOnly->isChecked());
+    m_bMarking = false;
+    emit FilterChanged();
 }
 
 } // namespace workbench

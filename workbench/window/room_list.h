@@ -12,7 +12,8 @@ namespace workbench {
 class CRoomTable;
 
 /// The rooms of a building in a list that can be sorted: what each needs, gets and lacks. A check
-/// leaves those only that someone has to look after.
+/// leaves those only that someone has to look after. Rows are marked as far as they are listed:
+/// what is marked in truth is the plan's matter, and no filter changes it.
 class CRoomList : public QWidget
 {
     Q_OBJECT
@@ -20,17 +21,23 @@ class CRoomList : public QWidget
 public:
     explicit CRoomList(QWidget* parent = nullptr);
 
-    /// Rows that are marked stay so as long as their rooms are there.
+    /// Afterwards no row is marked.
     void ShowBuilding(const CBuilding& building);
 
     void MarkRooms(const std::vector<CRoomRef>& rooms);
+    /// Those that are listed.
     std::vector<CRoomRef> GetMarkedRooms() const;
 
     void ShowOpenOnly(bool openOnly);
 
+    /// Lists again what passes the filter now.
+    void Refilter();
+
 signals:
     /// The user has marked other rows.
     void MarkChanged();
+    /// Other rows are listed, of which none is marked.
+    void FilterChanged();
     /// Double click, or Return.
     void RoomActivated(const CRoomRef& room);
 

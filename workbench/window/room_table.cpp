@@ -120,15 +120,24 @@ CRoomTable::CRoomTable(QObject* parent) : QSortFilterProxyModel(parent)
     setSortRole(Qt::UserRole);
 }
 
+void CRoomTable::Show(const CBuilding& building)
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        m_listed.insert(m_rows.RefOf(mapToSource(index(row, 0)).row()));
+    }
+    m_rows.Show(building);
+}
+
 void CRoomTable::ShowOpenOnly(bool openOnly)
 {
     m_bOpenOnly = openOnly;
+    m_listed.clear();
     invalidateFilter();
 }
 
 bool CRoomTable::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const
 {
-    return !m_bOpenOnly || IsOpen(m_rows.CoverageOf(row));
+    return !m_bOpenOnly || IsOpen(m_rows.CoverageOf(row)) || m_listed.contains(m_rows.RefOf(row));
 }
 
 } // namespace workbench

@@ -6,6 +6,8 @@
 #include <QAbstractTableModel>
 #include <QSortFilterProxyModel>
 
+#include <set>
+
 namespace workbench {
 
 /// A row for every room of a building.
@@ -53,7 +55,8 @@ private:
     std::vector<CRow> m_rooms;
 };
 
-/// The rows in the user's order, all of them or the open ones.
+/// The rows in the user's order, all of them or the open ones. A room that was open when it was
+/// shown stays listed until the filter is set anew, so that nobody loses sight of what he works on.
 class CRoomTable : public QSortFilterProxyModel
 {
 public:
@@ -61,6 +64,7 @@ public:
 
     CRoomRows& Rows() { return m_rows; }
     const CRoomRows& Rows() const { return m_rows; }
+    void Show(const CBuilding& building);
     void ShowOpenOnly(bool openOnly);
 
 protected:
@@ -69,6 +73,8 @@ protected:
 private:
     CRoomRows m_rows;
     bool m_bOpenOnly = false;
+    /// Listed since the filter was set.
+    std::set<CRoomRef> m_listed;
 };
 
 } // namespace workbench

@@ -77,8 +77,9 @@ void CWorkbenchWindow::MakePlantMenu()
 {
     QMenu& menu = *menuBar()->addMenu("&Impianto");
     AddAction(menu, "system", "&Sistema di riscaldamento…", QKeySequence("F9"), [this] {
-        m_commands.ChangeSystem();
-        m_pRooms->ShowOpenOnly(!OpenRooms(m_document.Building()).empty());
+        if (m_commands.ChangeSystem()) {
+            m_pRooms->ShowOpenOnly(!OpenRooms(m_document.Building()).empty());
+        }
     });
     menu.addSeparator();
     AddAction(menu, "repair", "&Ripara i locali scelti", QKeySequence("Ctrl+R"),
@@ -127,7 +128,7 @@ void CWorkbenchWindow::EnableActions()
     enable("undo", history.CanUndo());
     enable("redo", history.CanRedo());
 
-    const std::vector<CRoomRef> rooms = MarkedRooms();
+    const std::vector<CRoomRef>& rooms = MarkedRooms();
     const bool oneRoom = rooms.size() == 1;
     enable("choose", oneRoom && m_pScene->GetMarkedRadiators().size() <= 1);
     enable("add", oneRoom);

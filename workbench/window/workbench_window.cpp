@@ -95,6 +95,9 @@ void CWorkbenchWindow::Connect()
 {
     connect(&m_document, &CPlanDocument::Changed, this, &CWorkbenchWindow::ShowBuilding);
     connect(&m_document, &CPlanDocument::Opened, this, [this] {
+        m_marked.clear();
+        m_pScene->MarkRooms({});
+        m_pRooms->Refilter();
         m_pTabs->setCurrentIndex(0);
         m_pView->FitToContent();
     });
@@ -108,6 +111,7 @@ void CWorkbenchWindow::Connect()
     connect(m_pScene, &CFloorScene::RoomActivated, this, &CWorkbenchWindow::ChooseFor);
     connect(m_pScene, &CFloorScene::RadiatorActivated, this, &CWorkbenchWindow::ChooseForMarked);
     connect(m_pRooms, &CRoomList::MarkChanged, this, &CWorkbenchWindow::MarkAsList);
+    connect(m_pRooms, &CRoomList::FilterChanged, this, [this] { m_pRooms->MarkRooms(m_marked); });
     connect(m_pRooms, &CRoomList::RoomActivated, this, &CWorkbenchWindow::ChooseFor);
 }
 
@@ -116,6 +120,9 @@ void CWorkbenchWindow::ShowBuilding()
     ShowTabs();
     ShowFloor(m_pTabs->currentIndex());
     m_pRooms->ShowBuilding(m_document.Building());
+    std::erase_if(m_marked,
+                  [this](const CRoomRef& ref) { return !Exists(m_document.Building(), ref); });
+    m_pRooms->MarkRooms(m_marked);
     ShowTotals();
     ShowTitle();
     EnableActions();
@@ -183,25 +190,21 @@ void CWorkbenchWindow::MarkAsPlan()
     }
     std::ranges::sort(rooms);
     rooms.erase(std::unique(rooms.begin(), rooms.end()), rooms.end());
-    m_pRooms->MarkRooms(rooms);
+    m_marked = std::move(rooms);
+    m_pRooms->MarkRooms(m_marked);
     EnableActions();
 }
 
 void CWorkbenchWindow::MarkAsList()
 {
-    const std::vector<CRoomRef> rooms = m_pRooms->GetMarkedRooms();
+    m_marked = m_pRooms->GetMarkedRooms();
     // The plan shows one floor: that of the rooms, unless they lie on several.
     const QSignalBlocker quiet(m_pScene);
-    if (!rooms.empty() && rooms.front().nFloor == rooms.back().nFloor) {
-        m_pTabs->setCurrentIndex(static_cast<int>(rooms.front().nFloor));
+    if (!m_marked.empty() && m_marked.front().nFloor == m_marked.back().nFloor) {
+        m_pTabs->setCurrentIndex(static_cast<int>(m_marked.front().nFloor));
     }
-    m_pScene->MarkRooms(rooms);
+    m_pScene->MarkRooms(m_marked);
     EnableActions();
-}
-
-std::vector<CRoomRef> CWorkbenchWindow::MarkedRooms() const
-{
-    return m_pRooms->GetMarkedRooms();
 }
 
 /// The marked radiators, or all radiators of the marked rooms.

@@ -60,7 +60,7 @@ private:
     void MarkAsPlan();
     void MarkAsList();
 
-    std::vector<CRoomRef> MarkedRooms() const;
+    const std::vector<CRoomRef>& MarkedRooms() const { return m_marked; }
     void ChooseFor(const CRoomRef& room);
     void ChooseForMarked();
     void AddToMarked();
@@ -77,6 +77,9 @@ private:
     CPlanView* m_pView;
     QTabBar* m_pTabs;
     CRoomList* m_pRooms;
+    /// In the order of the building. The plan shows those on its floor, the list those that it
+    /// lists; where radiators are marked, the rooms in which they stand.
+    std::vector<CRoomRef> m_marked;
     QDockWidget* m_pRoomDock = nullptr;
     QDockWidget* m_pMessageDock = nullptr;
     QPlainTextEdit* m_pMessages;

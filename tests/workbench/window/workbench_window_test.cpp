@@ -511,4 +511,64 @@ TEST_F(WorkbenchWindow, PlanAndListMarkTheSameRooms)
               ToQt(RoomOf(m_document.Building(), scene.GetMarkedRooms()[0]).strName));
 }
 
+TEST_F(WorkbenchWindow, TheFilterOfTheListLeavesTheMarksAlone)
+{
+    const auto rows = [this] {
+        std::vector<QString> names;
+        const auto& list = *m_window->findChild<QTableView*>("rooms");
+        for (const QModelIndex& row : list.selectionModel()->selectedRows()) {
+            names.push_back(row.siblingAtColumn(1).data().toString());
+        }
+        return names;
+    };
+    auto& filter = *m_window->findChild<QCheckBox*>("openOnly");
+    auto& scene = *m_window->findChild<CFloorScene*>();
+    const auto& model = *m_window->findChild<QTableView*>("rooms")->model();
+    const std::vector<CRoomRef> marked = {{0, 3}};
+    const std::vector<QString> name = {ToQt(Room(0, 3).strName)};
+    Do("sizeAll");
+    Mark(marked);
+    ChangeSystem(55.0, 45.0, false);
+    EXPECT_FALSE(filter.isChecked()) << "nothing has changed";
+    EXPECT_EQ(rows(), name);
+
+    filter.setChecked(true); // a covered room is not listed, and stays marked
+    EXPECT_EQ(rows(), std::vector<QString>());
+    EXPECT_EQ(scene.GetMarkedRooms(), marked);
+    for (const char* const action : {"choose", "connect", "product", "size", "remove"}) {
+        EXPECT_TRUE(Action(action).isEnabled()) << action;
+    }
+    Do("remove");
+    EXPECT_TRUE(Room(0, 3).heizkoerper.empty());
+    EXPECT_EQ(rows(), name);
+    Do("size");
+    EXPECT_EQ(CoverageOf(Room(0, 3)), Coverage::covered);
+    EXPECT_EQ(rows(), name) << "what was worked on stays in sight";
+    const int listed = model.rowCount();
+    filter.setChecked(false);
+    filter.setChecked(true);
+    EXPECT_EQ(model.rowCount(), listed - 1);
+    EXPECT_EQ(scene.GetMarkedRooms(), marked);
+    filter.setChecked(false);
+    EXPECT_EQ(rows(), name);
+}
+
+TEST_F(WorkbenchWindow, AllOfAListIsWhatItShows)
+{
+    Do("sizeAll");
+    ChangeSystem(66.0, 54.0, true);
+    const std::vector<CRoomRef> open = OpenRooms(m_document.Building());
+    ASSERT_GT(open.size(), 2u);
+    ASSERT_LT(open.size(), 17u);
+    auto& list = *m_window->findChild<QTableView*>("rooms");
+    list.selectAll();
+    Do("remove");
+    for (const CRoomRef& ref : AllRooms(m_document.Building())) {
+        const CRoom& room = RoomOf(m_document.Building(), ref);
+        const bool removed = std::ranges::binary_search(open, ref);
+        EXPECT_EQ(room.heizkoerper.empty(), removed || room.GetLeistung() <= 0.0)
+            << Utf8FromWide(room.strName);
+    }
+}
+
 } // namespace workbench
