@@ -19,6 +19,8 @@ struct CHeatingSystem
     /// True if the temperatures are those of a water heating: above 0, at most 110, and the return
     /// below the supply. The module has no guard of its own against equal temperatures.
     bool IsPlausible() const;
+
+    bool operator==(const CHeatingSystem&) const = default;
 };
 
 /// The largest radiator that a room has space for, in mm.

@@ -18,6 +18,8 @@ struct CRadiatorChoice
     std::optional<CRadiatorLayer> layer;
     /// The block that the user picked in the dialog; nothing if he left the one of last time.
     std::optional<CString> block;
+    /// The temperatures that the user set in the dialog; nothing if he left those of the wish.
+    std::optional<CHeatingSystem> system = std::nullopt;
 };
 
 /// The choice that a radiator of the plan stands for.

@@ -112,31 +112,40 @@ std::optional<CRadiatorChoice> AskForRadiator(const CRadiatorWish& wish, CDrawer
     }
     CRadiatorChoice chosen = ReadHandover(handover);
     chosen.layer = layer;
+    if (const CHeatingSystem system{handover.Vorlauf, handover.Ruecklauf}; system != wish.system) {
+        chosen.system = system;
+    }
     if (CString block = KeptBlock(); block != blockBefore) {
         chosen.block = std::move(block);
     }
     return chosen;
 }
 
-std::optional<CBuilding> ChooseRadiator(const CBuilding& building, const CRoomRef& room,
-                                        std::optional<std::size_t> radiator, CDrawer& drawer)
+std::optional<CRadiatorChoice> AskForRadiator(const CBuilding& building, const CRoomRef& ref,
+                                              std::optional<std::size_t> radiator, CDrawer& drawer)
 {
-    const CFloor& floor = building.floors[room.nFloor];
-    CRoom changed = RoomOf(building, room);
-    const auto chosen =
-        AskForRadiator(radiator ? WishForRadiator(building, floor, changed, *radiator)
-                                : WishForRoom(building, floor, changed),
-                       drawer);
-    if (!chosen || !TakeOver(building, floor.strName, changed, radiator, *chosen)) {
+    const CFloor& floor = building.floors[ref.nFloor];
+    const CRoom& room = RoomOf(building, ref);
+    return AskForRadiator(radiator ? WishForRadiator(building, floor, room, *radiator)
+                                   : WishForRoom(building, floor, room),
+                          drawer);
+}
+
+std::optional<CBuilding> PutRadiator(const CBuilding& building, const CRoomRef& ref,
+                                     std::optional<std::size_t> radiator,
+                                     const CRadiatorChoice& chosen)
+{
+    CRoom changed = RoomOf(building, ref);
+    if (!TakeOver(building, building.floors[ref.nFloor].strName, changed, radiator, chosen)) {
         return std::nullopt;
     }
     CBuilding result = building;
     const bool isOnly = changed.heizkoerper.size() == 1;
-    ReplaceRoom(result, room, std::move(changed));
+    ReplaceRoom(result, ref, std::move(changed));
     if (isOnly) {
-        SetProduct(result, {room}, chosen->produkt);
+        SetProduct(result, {ref}, chosen.produkt);
     }
-    UpdateOutputs(result, room);
+    UpdateOutputs(result, ref);
     return result;
 }
 

@@ -16,11 +16,16 @@ namespace workbench {
 /// The selection dialog for a wish. The radiators of the wish's room stay as they are.
 std::optional<CRadiatorChoice> AskForRadiator(const CRadiatorWish& wish, CDrawer& drawer);
 
-/// A further radiator of a room, which must have a free place, or with `radiator` another one in
-/// place of that. Its product becomes that of the room, unless others stand there. The output is
-/// that at the building's heating system, whatever temperatures the user tried in the dialog.
-std::optional<CBuilding> ChooseRadiator(const CBuilding& building, const CRoomRef& room,
-                                        std::optional<std::size_t> radiator, CDrawer& drawer);
+/// The same for a further radiator of a room, which must have a free place, or with `radiator` for
+/// another one in place of that.
+std::optional<CRadiatorChoice> AskForRadiator(const CBuilding& building, const CRoomRef& room,
+                                              std::optional<std::size_t> radiator, CDrawer& drawer);
+
+/// The building with what was chosen so; nothing if there is no place for it. The product becomes
+/// that of the room, unless others stand there. Outputs are those at the building's heating system.
+std::optional<CBuilding> PutRadiator(const CBuilding& building, const CRoomRef& room,
+                                     std::optional<std::size_t> radiator,
+                                     const CRadiatorChoice& chosen);
 
 /// Connection and valves of radiators, at least one. The dialog opens on those of the first and
 /// shows the connection points of all in the drawing.

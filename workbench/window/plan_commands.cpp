@@ -17,6 +17,15 @@
 
 namespace workbench {
 
+namespace {
+
+QString SystemText(const CHeatingSystem& system)
+{
+    return ToQt(FormatExact(system.vorlauf) + L"/" + FormatExact(system.ruecklauf));
+}
+
+} // namespace
+
 CPlanCommands::CPlanCommands(CPlanDocument& document, const CPrompts& prompts, QWidget& window)
     : m_document(document), m_prompts(prompts), m_window(window)
 {
@@ -34,7 +43,62 @@ void CPlanCommands::ChooseRadiator(const CRoomRef& ref, std::optional<std::size_
         return;
     }
     const CString what = L"Corpo scaldante di " + room.strName;
-    Take(what, [&] { return workbench::ChooseRadiator(building, ref, radiator, drawer); });
+    Take(what, [&] { return AskForRadiator(ref, radiator, drawer); });
+}
+
+std::optional<CBuilding> CPlanCommands::AskForRadiator(const CRoomRef& ref,
+                                                       std::optional<std::size_t> radiator,
+                                                       CDrawer& drawer)
+{
+    const CBuilding& building = m_document.Building();
+    for (;;) {
+        const auto chosen = workbench::AskForRadiator(building, ref, radiator, drawer);
+        auto changed = chosen ? PutRadiator(building, ref, radiator, *chosen) : std::nullopt;
+        if (!changed || !chosen->system) {
+            return changed;
+        }
+        switch (AskWhatSystem(*changed, *chosen->system)) {
+        case OtherSystem::take:
+            workbench::ChangeSystem(*changed, *chosen->system);
+            return changed;
+        case OtherSystem::chooseAgain:
+            continue;
+        case OtherSystem::cancel:
+            return std::nullopt;
+        }
+    }
+}
+
+CPlanCommands::OtherSystem CPlanCommands::AskWhatSystem(const CBuilding& changed,
+                                                        const CHeatingSystem& chosen)
+{
+    const QString text = QString("Il corpo scaldante è stato scelto per il sistema %1 °C, ma "
+                                 "l'edificio ha %2 °C.")
+                             .arg(SystemText(chosen), SystemText(changed.system));
+    CBuilding other = changed;
+    other.system = chosen;
+    if (!chosen.IsPlausible() || FindRoomTooWarm(other) != nullptr) {
+        const auto answer = m_prompts.ask(
+            &m_window, text + " Per tutto l'edificio queste temperature non sono possibili.",
+            "&Scegli di nuovo", "&Annulla", false);
+        return answer == CPrompts::Answer::yes ? OtherSystem::chooseAgain : OtherSystem::cancel;
+    }
+    workbench::ChangeSystem(other, chosen);
+    const auto answer = m_prompts.ask(
+        &m_window,
+        text + QString("\nCon %1 °C per tutto l'edificio i locali da sistemare sono %2 (ora %3).")
+                   .arg(SystemText(chosen))
+                   .arg(OpenRooms(other).size())
+                   .arg(OpenRooms(m_document.Building()).size()),
+        "&Cambia l'edificio", "&Scegli di nuovo", true);
+    switch (answer) {
+    case CPrompts::Answer::yes:
+        return OtherSystem::take;
+    case CPrompts::Answer::no:
+        return OtherSystem::chooseAgain;
+    default:
+        return OtherSystem::cancel;
+    }
 }
 
 std::optional<CBuilding> CPlanCommands::Ask(const Question& question)
@@ -137,16 +201,15 @@ bool CPlanCommands::ChangeSystem()
     }
     const CHeatingSystem system = dialog.GetSystem();
     CBuilding changed = m_document.Building();
-    if (system.vorlauf == changed.system.vorlauf && system.ruecklauf == changed.system.ruecklauf) {
+    if (system == changed.system) {
         return false;
     }
     workbench::ChangeSystem(changed, system);
-    const CString name = FormatExact(system.vorlauf) + L"/" + FormatExact(system.ruecklauf);
+    const QString name = SystemText(system);
     const std::size_t open = OpenRooms(changed).size();
-    m_document.Do(L"Sistema " + name, std::move(changed));
-    emit Told(QString("Sistema di riscaldamento %1 °C: locali da sistemare: %2.")
-                  .arg(ToQt(name))
-                  .arg(open));
+    m_document.Do(L"Sistema " + FromQt(name), std::move(changed));
+    emit Told(
+        QString("Sistema di riscaldamento %1 °C: locali da sistemare: %2.").arg(name).arg(open));
     return true;
 }
 

@@ -52,6 +52,19 @@ private:
     /// The same, and what was chosen becomes the building.
     void Take(const CString& what, const Question& question);
 
+    /// A radiator for a room, asked for until it fits the heating system of the building.
+    std::optional<CBuilding> AskForRadiator(const CRoomRef& room,
+                                            std::optional<std::size_t> radiator, CDrawer& drawer);
+
+    enum class OtherSystem
+    {
+        take,
+        chooseAgain,
+        cancel,
+    };
+    /// What is to become of a radiator that was chosen at other temperatures.
+    OtherSystem AskWhatSystem(const CBuilding& changed, const CHeatingSystem& chosen);
+
     void TellFaults(const CBuilding& building, const struct CSizingResult& result);
 
     CPlanDocument& m_document;

@@ -13,6 +13,10 @@ enum SelectionControl
 {
     idLeistungSoll = 18005,
     idLeistungIst = 18011,
+    idSystemName = 7007,
+    idVorlauf = 7008,
+    idRuecklauf = 7009,
+    idSpeichern = 268,
 };
 
 /// Controls of the dialog of connections.
@@ -209,6 +213,59 @@ TEST_F(ModuleDialogs, WhatIsSwitchedOffStaysOnEachOfSeveralRadiators)
     for (const CRadiatorRef& ref : refs) {
         EXPECT_EQ(RadiatorOf(m_document.Building(), ref).abstandWand, 0.12);
     }
+}
+
+TEST_F(ModuleDialogs, AnotherSystemInTheSelectionIsTakenForTheBuildingOrChosenAgain)
+{
+    using enum CPrompts::Answer;
+    Do("sizeAll");
+    const std::string sized = FormatBuilding(m_document.Building());
+    const auto storeSystem = [](const char* supply, const char* back) {
+        return [=](const CModuleUser& user) {
+            user.Type(idSystemName, "Prova");
+            user.Type(idVorlauf, supply);
+            user.Type(idRuecklauf, back);
+            user.Click(idSpeichern);
+            user.Ok();
+        };
+    };
+    Mark({{0, 1}});
+    m_answers = {cancel};
+    InSelection(storeSystem("45", "35"));
+    Do("choose");
+    EXPECT_TRUE(FormatBuilding(m_document.Building()) == sized);
+    EXPECT_TRUE(m_question.contains("45/35")) << m_question.toStdString();
+    EXPECT_TRUE(m_question.contains("70/55")) << m_question.toStdString();
+
+    QString again;
+    m_answers = {no};
+    InSelection([&](const CModuleUser& user) {
+        InSelection([&](const CModuleUser& second) {
+            again = second.Text(idVorlauf);
+            second.Ok();
+        });
+        storeSystem("45", "35")(user);
+    });
+    Do("choose");
+    EXPECT_EQ(again, "70");
+    EXPECT_TRUE(FormatBuilding(m_document.Building()) == sized);
+
+    m_answers = {yes};
+    m_nQuestions = 0;
+    InSelection(storeSystem("45", "35"));
+    Do("choose");
+    EXPECT_EQ(m_nQuestions, 1);
+    EXPECT_EQ(m_document.Building().system, (CHeatingSystem{45.0, 35.0}));
+    EXPECT_TRUE(m_question.contains(QString("sistemare sono %1 (ora 2)").arg(Open())))
+        << m_question.toStdString();
+    Do("undo");
+    EXPECT_TRUE(FormatBuilding(m_document.Building()) == sized) << "one step";
+
+    m_answers = {no};
+    InSelection(storeSystem("45", "19")); // colder than the rooms
+    Do("choose");
+    EXPECT_TRUE(m_question.contains("non sono possibili")) << m_question.toStdString();
+    EXPECT_TRUE(FormatBuilding(m_document.Building()) == sized);
 }
 
 } // namespace workbench
