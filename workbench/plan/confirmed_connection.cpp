@@ -12,7 +12,7 @@ constexpr double kSameDistance = 0.0006;
 bool IsOtherWallDistance(const CConfirmedConnection& chosen)
 {
     const double distance = chosen.anschluss.WandAbstand;
-    return distance > 0.0 && std::fabs(distance - chosen.eingang.WandAbstand) > kSameDistance;
+    return distance > 0.0 && !IsSameDistance(distance, chosen.eingang.WandAbstand);
 }
 
 void TakeType(CPlacedRadiator& radiator, const CConfirmedConnection& chosen)
@@ -54,6 +54,11 @@ void TakeValves(CPlacedRadiator& radiator, const CConfirmedConnection& chosen)
 
 } // namespace
 
+bool IsSameDistance(double a, double b)
+{
+    return std::fabs(a - b) <= kSameDistance;
+}
+
 CString GraphicEntry(const CString& graphic)
 {
     return graphic.empty() ? CString(kNoGraphic) : graphic;
@@ -71,6 +76,17 @@ void TakeConnection(CPlacedRadiator& radiator, const CConfirmedConnection& chose
     }
     if (chosen.bVentile) {
         TakeValves(radiator, chosen);
+    }
+}
+
+void TakeStart(CPlacedRadiator& radiator, const CConfirmedStart& confirmed)
+{
+    if (confirmed.abstaende) {
+        radiator.abstandWand = confirmed.abstaende->wand;
+        radiator.abstandBoden = confirmed.abstaende->boden;
+    }
+    if (confirmed.anschluss) {
+        TakeConnection(radiator, *confirmed.anschluss);
     }
 }
 

@@ -15,11 +15,28 @@ struct CConfirmedConnection
     bool bTyp = true;
 };
 
-/// The entry of the lists of valve graphics that stands for none. The dialog gives empty names for
-/// graphics that nobody touched, so that taking one away needs a name of its own.
+/// What was confirmed of the start values of a radiator, behind "Valvole..." and "Distanza..." of
+/// the selection dialog.
+struct CConfirmedStart
+{
+    /// Distances from wall and floor in metres.
+    struct CDistances
+    {
+        double wand = 0.0;
+        double boden = 0.0;
+    };
+    std::optional<CDistances> abstaende;
+    std::optional<CConfirmedConnection> anschluss;
+};
+
+/// True if two distances, in metres, are shown as one.
+bool IsSameDistance(double a, double b);
+
+/// The entry of the lists of graphics and blocks that stands for none. The dialog gives empty names
+/// for graphics that nobody touched, so that taking one away needs a name of its own.
 inline constexpr wchar_t kNoGraphic[] = L"(nessuno)";
 
-/// The name under which the lists of valve graphics show one, and the other way.
+/// The name under which the lists show a graphic or a block, and the other way.
 CString GraphicEntry(const CString& graphic);
 CString GraphicOfEntry(const CString& entry);
 
@@ -27,5 +44,7 @@ CString GraphicOfEntry(const CString& entry);
 /// none; one goes together with its valve. So does the distance from the wall stay that was not
 /// changed, which radiators need not have in common.
 void TakeConnection(CPlacedRadiator& radiator, const CConfirmedConnection& chosen);
+
+void TakeStart(CPlacedRadiator& radiator, const CConfirmedStart& confirmed);
 
 } // namespace workbench

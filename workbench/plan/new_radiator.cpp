@@ -43,16 +43,55 @@ CString KeptBlock()
     return block;
 }
 
+VDI3805_VENTIL_KV RecordOf(const std::optional<CValveKey>& key)
+{
+    VDI3805_VENTIL_KV record;
+    if (key) {
+        record.Hersteller = key->strHersteller;
+        record.VentilNr = key->strVentilNr;
+    }
+    return record;
+}
+
+std::optional<CValveKey> KeyOf(const VDI3805_VENTIL_KV& record)
+{
+    if (record.Hersteller.empty() || record.VentilNr.empty()) {
+        return std::nullopt;
+    }
+    return CValveKey{record.Hersteller, record.VentilNr};
+}
+
 CRadiatorStart ReadRadiatorStart()
 {
     CRadiatorStart start;
     if (const VDI6030START* const kept = ReadDefFile_VDI6030START(false)) {
         start.abstandWand = Kept(kept->AbstandWand);
         start.abstandBoden = Kept(kept->AbstandBoden);
+        start.anschluss = kept->Anschluss;
+        start.ventile = {KeyOf(kept->VentilVorlauf), KeyOf(kept->VentilRuecklauf)};
     }
     start.layer = KeptLayer();
     start.strBlock = KeptBlock();
     return start;
+}
+
+void TakeStartDistances(CPlacedRadiator& radiator, const CBuilding& building,
+                        const CRadiatorStart& start)
+{
+    radiator.abstandWand = start.abstandWand.value_or(kUsualWallDistance);
+    radiator.abstandBoden = start.abstandBoden.value_or(kMillimetre * building.abstaende.boden);
+}
+
+void ConnectLikeLast(CPlacedRadiator& radiator, const CBuilding& building,
+                     const CRadiatorStart& start)
+{
+    if (!start.anschluss.AnschlussAN.empty() && !start.anschluss.AnschlussRI.empty()) {
+        radiator.anschluss = start.anschluss;
+        radiator.anschluss.WandAbstand = 0.0;
+    }
+    if (!HasValves(building)) {
+        radiator.ventile = start.ventile;
+    }
 }
 
 std::optional<CPlacedRadiator> PlaceRadiator(const CBuilding& building, const CRoom& room,
@@ -66,8 +105,7 @@ std::optional<CPlacedRadiator> PlaceRadiator(const CBuilding& building, const CR
     CPlacedRadiator radiator;
     TakeChoice(radiator, chosen, start);
     radiator.nPlatz = *place;
-    radiator.abstandWand = start.abstandWand.value_or(kUsualWallDistance);
-    radiator.abstandBoden = start.abstandBoden.value_or(kMillimetre * building.abstaende.boden);
+    TakeStartDistances(radiator, building, start);
     if (radiator.strLayer.empty()) {
         radiator.strLayer = LayerOf(start.layer.strName, floor, room.strName);
         radiator.nFarbe = start.layer.nFarbe;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frame/ventil_kv.h"
 #include "workbench/plan/radiator_choice.h"
 
 #include <optional>
@@ -12,6 +13,9 @@ struct CRadiatorStart
     /// Distances from wall and floor in metres; nothing where none is kept.
     std::optional<double> abstandWand;
     std::optional<double> abstandBoden;
+    /// Connection and valves, as far as any are kept.
+    ConnValues anschluss;
+    CValveKeys ventile;
     /// Its name has a mark for the floor.
     CRadiatorLayer layer;
     /// Block for radiators whose kind has none of its own; empty for none.
@@ -24,8 +28,21 @@ CRadiatorLayer KeptLayer();
 /// The block with which radiators were drawn last; empty if there is none.
 CString KeptBlock();
 
+/// A valve as the module's records hold it, and the other way; only its key counts.
+VDI3805_VENTIL_KV RecordOf(const std::optional<CValveKey>& key);
+std::optional<CValveKey> KeyOf(const VDI3805_VENTIL_KV& record);
+
 /// Reads it from the host's settings and records.
 CRadiatorStart ReadRadiatorStart();
+
+/// Puts a radiator at the kept distances, or at those that are usual.
+void TakeStartDistances(CPlacedRadiator& radiator, const CBuilding& building,
+                        const CRadiatorStart& start);
+
+/// Makes a new radiator begin with the connection that is kept, and with the valves if the building
+/// names none.
+void ConnectLikeLast(CPlacedRadiator& radiator, const CBuilding& building,
+                     const CRadiatorStart& start);
 
 /// A radiator as it was chosen for a room, ready to stand in the plan: at the kept distances, which
 /// otherwise are 50 mm from the wall and the building's clearance from the floor, at the best free

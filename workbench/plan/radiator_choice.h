@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/plan/confirmed_connection.h"
 #include "workbench/plan/radiator_wish.h"
 
 #include <optional>
@@ -16,10 +17,12 @@ struct CRadiatorChoice
     HK_DATEN_VDI3805 daten;
     /// The layer that the dialog gave back; nothing after a silent search.
     std::optional<CRadiatorLayer> layer;
-    /// The block that the user picked in the dialog; nothing if he left the one of last time.
+    /// The block that the dialog showed at the end; nothing after a silent search.
     std::optional<CString> block;
     /// The temperatures that the user set in the dialog; nothing if he left those of the wish.
     std::optional<CHeatingSystem> system = std::nullopt;
+    /// What the user confirmed in the dialogs behind it.
+    CConfirmedStart start = {};
 };
 
 /// The choice that a radiator of the plan stands for.

@@ -2,8 +2,10 @@
 
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/placement.h"
+#include "workbench/plan/radiator_block.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace workbench {
 
@@ -34,6 +36,9 @@ CRadiatorWish WishForPlace(const CBuilding& building, const CFloor& floor, const
     wish.system = building.system;
     wish.raumtemperatur = room.raumtemperatur;
     TakeDemand(wish, room, 0.0);
+    if (CString block = BlockOf(room.strArt, room.strProdukt); !block.empty()) {
+        wish.block = std::move(block);
+    }
     return wish;
 }
 
@@ -52,6 +57,7 @@ CRadiatorWish WishForRadiator(const CBuilding& building, const CFloor& floor, co
     CRadiatorWish wish = WishForPlace(building, floor, room, present.nPlatz);
     wish.produkt = ProductOf(present);
     wish.layer = CRadiatorLayer{present.strLayer, present.nFarbe};
+    wish.block = present.strBlock;
     TakeDemand(wish, room, present.daten.Leistung);
     return wish;
 }

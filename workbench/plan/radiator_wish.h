@@ -37,6 +37,9 @@ struct CRadiatorWish
     double raumtemperatur = 0.0;
     /// The layer with which the dialog opens; nothing for the one that the host keeps.
     std::optional<CRadiatorLayer> layer;
+    /// The block with which it opens, empty for a plain rectangle; nothing for the one that the
+    /// host keeps.
+    std::optional<CString> block;
 };
 
 /// How hosts name a room in a hand-over (CRoomTools).

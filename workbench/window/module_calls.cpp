@@ -9,6 +9,7 @@
 #include "workbench/plan/radiator_list.h"
 #include "workbench/plan/wish_handover.h"
 #include "workbench/schedule/valve_selection.h"
+#include "workbench/window/lent_start.h"
 
 #include <functional>
 #include <utility>
@@ -16,24 +17,6 @@
 namespace workbench {
 
 namespace {
-
-VDI3805_VENTIL_KV RecordOf(const std::optional<CValveKey>& key)
-{
-    VDI3805_VENTIL_KV record;
-    if (key) {
-        record.Hersteller = key->strHersteller;
-        record.VentilNr = key->strVentilNr;
-    }
-    return record;
-}
-
-std::optional<CValveKey> KeyOf(const VDI3805_VENTIL_KV& record)
-{
-    if (record.Hersteller.empty() || record.VentilNr.empty()) {
-        return std::nullopt;
-    }
-    return CValveKey{record.Hersteller, record.VentilNr};
-}
 
 /// Puts what was chosen into the room, for the radiator or as a further one; false if there is no
 /// place for it.
@@ -43,10 +26,13 @@ bool TakeOver(const CBuilding& building, const CString& floor, CRoom& room,
     const CRadiatorStart start = ReadRadiatorStart();
     if (radiator) {
         TakeChoice(room.heizkoerper[*radiator], chosen, start);
+        TakeStart(room.heizkoerper[*radiator], chosen.start);
         return true;
     }
     auto placed = PlaceRadiator(building, room, floor, chosen, start);
     if (placed) {
+        ConnectLikeLast(*placed, building, start);
+        TakeStart(*placed, chosen.start);
         room.heizkoerper.push_back(std::move(*placed));
     }
     return placed.has_value();
@@ -83,17 +69,15 @@ public:
     CShownGraphic& operator=(const CShownGraphic&) = delete;
 };
 
-/// What the dialog of connections shows of a radiator.
-ConnValues ConnectionToShow(const CPlacedRadiator& radiator)
+/// A radiator to come, as far as the dialogs show it before one is chosen.
+CPlacedRadiator RadiatorToCome(const CBuilding& building, const CRoom& room)
 {
-    const CConnectionTexts texts = ConnectionOf(radiator);
-    ConnValues anschluss = radiator.anschluss;
-    anschluss.AnschlussAN = texts.strVorlauf;
-    anschluss.AnschlussRI = texts.strRuecklauf;
-    anschluss.WandAbstand = radiator.abstandWand;
-    anschluss.GrafikAN = GraphicEntry(anschluss.GrafikAN);
-    anschluss.GrafikRI = GraphicEntry(anschluss.GrafikRI);
-    return anschluss;
+    const CRadiatorStart start = ReadRadiatorStart();
+    CPlacedRadiator radiator;
+    TakeStartDistances(radiator, building, start);
+    radiator.ventile = room.ventile;
+    ConnectLikeLast(radiator, building, start);
+    return radiator;
 }
 
 } // namespace
@@ -102,7 +86,7 @@ std::optional<CRadiatorChoice> AskForRadiator(const CRadiatorWish& wish, CDrawer
 {
     HK_DATEN_VDI3805_UEBERGABE handover = FillHandover(wish);
     CRadiatorLayer layer = wish.layer ? *wish.layer : KeptLayer();
-    const CString blockBefore = KeptBlock();
+    const CLentBlock block(wish.block ? *wish.block : KeptBlock());
     const int answer = CallModule(L"Scelta del corpo scaldante", [&] {
         return HeizkoerperauswahlVDI3805(&drawer, &handover, layer.strName, layer.nFarbe, true,
                                          true);
@@ -115,9 +99,7 @@ std::optional<CRadiatorChoice> AskForRadiator(const CRadiatorWish& wish, CDrawer
     if (const CHeatingSystem system{handover.Vorlauf, handover.Ruecklauf}; system != wish.system) {
         chosen.system = system;
     }
-    if (CString block = KeptBlock(); block != blockBefore) {
-        chosen.block = std::move(block);
-    }
+    chosen.block = block.GetShown();
     return chosen;
 }
 
@@ -126,9 +108,15 @@ std::optional<CRadiatorChoice> AskForRadiator(const CBuilding& building, const C
 {
     const CFloor& floor = building.floors[ref.nFloor];
     const CRoom& room = RoomOf(building, ref);
-    return AskForRadiator(radiator ? WishForRadiator(building, floor, room, *radiator)
-                                   : WishForRoom(building, floor, room),
-                          drawer);
+    const CLentStart start(radiator ? room.heizkoerper.at(*radiator)
+                                    : RadiatorToCome(building, room));
+    auto chosen = AskForRadiator(radiator ? WishForRadiator(building, floor, room, *radiator)
+                                          : WishForRoom(building, floor, room),
+                                 drawer);
+    if (chosen) {
+        chosen->start = start.GetConfirmed();
+    }
+    return chosen;
 }
 
 std::optional<CBuilding> PutRadiator(const CBuilding& building, const CRoomRef& ref,

@@ -1,6 +1,5 @@
 #include "workbench/window/plan_drawer.h"
 
-#include "host/host_prefs.h"
 #include "workbench/building/qt_text.h"
 #include "workbench/plan/confirmed_connection.h"
 
@@ -9,24 +8,11 @@
 
 namespace workbench {
 
-namespace {
-
-bool AreBlocksOfValves(const CString& ordner)
-{
-    CString ventile;
-    lmGetDWGDefPath(LumoDWGDefsNames::ventile, ventile);
-    return ordner == ventile;
-}
-
-} // namespace
-
 void CPlanDrawer::GetBlockNames(const CString& ordner, CStringArray& namen, int art)
 {
     CSceneDrawer::GetBlockNames(ordner, namen, art);
     std::vector<CString> sorted(namen.begin(), namen.end());
-    if (AreBlocksOfValves(ordner)) {
-        sorted.emplace_back(kNoGraphic);
-    }
+    sorted.emplace_back(kNoGraphic);
     std::ranges::stable_sort(sorted, [](const CString& a, const CString& b) {
         return ToQt(a).compare(ToQt(b), Qt::CaseInsensitive) < 0;
     });

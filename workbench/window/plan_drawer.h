@@ -11,7 +11,7 @@ public:
     using CSceneDrawer::CSceneDrawer;
 
     /// The names in the order in which lists show them, since the dialog of connections takes a
-    /// name's place here for its place in the list. Among those of valves there is one for none.
+    /// name's place here for its place in the list. One of them stands for none.
     void GetBlockNames(const CString& ordner, CStringArray& namen, int art) override;
 };
 

@@ -17,6 +17,10 @@ enum SelectionControl
     idVorlauf = 7008,
     idRuecklauf = 7009,
     idSpeichern = 268,
+    idBloecke = 18080,
+    idAbstaende = 7022,
+    idVentile = 7028,
+    idAbstandWand = 1529,
 };
 
 /// Controls of the dialog of connections.
@@ -266,6 +270,82 @@ TEST_F(ModuleDialogs, AnotherSystemInTheSelectionIsTakenForTheBuildingOrChosenAg
     Do("choose");
     EXPECT_TRUE(m_question.contains("non sono possibili")) << m_question.toStdString();
     EXPECT_TRUE(FormatBuilding(m_document.Building()) == sized);
+}
+
+TEST_F(ModuleDialogs, TheBlockShownIsTheBlockDrawn)
+{
+    Do("sizeAll");
+    const CRoomRef rooms[] = {{0, 1}, {0, 3}};
+    const CString own = Radiator(0, 1).strBlock;
+    ASSERT_FALSE(own.empty());
+    const auto choose = [&](const CRoomRef& room, const char* block) {
+        QString shown;
+        Mark({room});
+        InSelection([&](const CModuleUser& user) {
+            shown = user.Chosen(idBloecke);
+            if (block != nullptr) {
+                user.Choose(idBloecke, block);
+            }
+            user.Ok();
+        });
+        Do("choose");
+        return FromQt(shown);
+    };
+    for (const CRoomRef& room : rooms) { // the same one twice in a row
+        EXPECT_EQ(choose(room, "RAD_CONVETTORE_PIANTA"), own);
+        EXPECT_EQ(Radiator(0, room.nRoom).strBlock, L"RAD_CONVETTORE_PIANTA");
+    }
+    EXPECT_EQ(choose({0, 2}, nullptr), Radiator(0, 2).strBlock);
+    choose(rooms[0], "(nessuno)");
+    EXPECT_EQ(Radiator(0, 1).strBlock, L"");
+    EXPECT_EQ(choose(rooms[0], nullptr), L"(nessuno)");
+    EXPECT_EQ(Radiator(0, 1).strBlock, L"");
+    EXPECT_EQ(choose({0, 2}, nullptr), Radiator(0, 2).strBlock);
+}
+
+TEST_F(ModuleDialogs, RadiatorsTakeDistancesAndConnectionConfirmedInTheSelection)
+{
+    Do("sizeAll");
+    const ConnVector left{-0.5, 0.0, -0.5};
+    QString shown;
+    Mark({{0, 1}});
+    InSelection([&](const CModuleUser& user) {
+        InModule([&](const CModuleUser& distances) {
+            shown = distances.Text(idAbstandWand);
+            distances.Type(idAbstandWand, "0.08");
+            distances.Ok();
+        });
+        user.Click(idAbstaende);
+        InModule([&](const CModuleUser& valves) {
+            valves.Click(idPresetLinksUnten);
+            valves.Click(idLeereAN);
+            valves.Ok();
+        });
+        user.Click(idVentile);
+        user.Ok();
+    });
+    Do("choose");
+    EXPECT_EQ(shown, "0.050");
+    const CPlacedRadiator changed = Radiator(0, 1);
+    EXPECT_EQ(changed.abstandWand, 0.08);
+    EXPECT_EQ(changed.anschluss.PosAN, left);
+    EXPECT_FALSE(changed.ventile.vorlauf);
+    EXPECT_TRUE(changed.ventile.ruecklauf);
+
+    const std::string before = FormatBuilding(m_document.Building());
+    const auto untouched = [](const CModuleUser& user) { user.Ok(); };
+    Mark({{0, 2}});
+    InSelection(untouched);
+    Do("choose");
+    EXPECT_TRUE(FormatBuilding(m_document.Building()) == before) << "nothing was confirmed for it";
+
+    Do("remove");
+    InSelection(untouched);
+    Do("choose");
+    const CPlacedRadiator& fresh = Radiator(0, 2);
+    EXPECT_EQ(fresh.abstandWand, 0.08);
+    EXPECT_EQ(fresh.anschluss.PosAN, left);
+    EXPECT_TRUE(fresh.ventile.vorlauf) << "the building tells which valves";
 }
 
 } // namespace workbench

@@ -1,0 +1,100 @@
+#include "workbench/window/lent_start.h"
+
+#include "host/host_prefs.h"
+#include "workbench/plan/new_radiator.h"
+#include "workbench/plan/radiator_list.h"
+
+namespace workbench {
+
+namespace {
+
+VDI6030START ReadStart()
+{
+    const VDI6030START* const kept = ReadDefFile_VDI6030START(false);
+    return kept != nullptr ? *kept : VDI6030START();
+}
+
+} // namespace
+
+ConnValues ConnectionToShow(const CPlacedRadiator& radiator)
+{
+    const CConnectionTexts texts = ConnectionOf(radiator);
+    ConnValues anschluss = radiator.anschluss;
+    anschluss.AnschlussAN = texts.strVorlauf;
+    anschluss.AnschlussRI = texts.strRuecklauf;
+    anschluss.WandAbstand = radiator.abstandWand;
+    anschluss.GrafikAN = GraphicEntry(anschluss.GrafikAN);
+    anschluss.GrafikRI = GraphicEntry(anschluss.GrafikRI);
+    return anschluss;
+}
+
+CLentStart::CLentStart(const CPlacedRadiator& radiator) : m_before(ReadStart()), m_lent(m_before)
+{
+    m_lent.AbstandWand = radiator.abstandWand;
+    m_lent.AbstandBoden = radiator.abstandBoden;
+    m_lent.Anschluss = ConnectionToShow(radiator);
+    m_lent.VentilVorlauf = RecordOf(radiator.ventile.vorlauf);
+    m_lent.VentilRuecklauf = RecordOf(radiator.ventile.ruecklauf);
+    VDI6030START lent = m_lent;
+    m_bLent = WriteDefFile_VDI6030START(&lent, false);
+}
+
+CLentStart::~CLentStart()
+{
+    if (!m_bLent) {
+        return;
+    }
+    const CConfirmedStart confirmed = GetConfirmed();
+    VDI6030START kept = ReadStart();
+    if (!confirmed.abstaende) {
+        kept.AbstandWand = m_before.AbstandWand;
+        kept.AbstandBoden = m_before.AbstandBoden;
+    }
+    if (confirmed.anschluss) {
+        kept.Anschluss.GrafikAN = GraphicOfEntry(kept.Anschluss.GrafikAN);
+        kept.Anschluss.GrafikRI = GraphicOfEntry(kept.Anschluss.GrafikRI);
+    } else {
+        kept.Anschluss = m_before.Anschluss;
+        kept.VentilVorlauf = m_before.VentilVorlauf;
+        kept.VentilRuecklauf = m_before.VentilRuecklauf;
+    }
+    WriteDefFile_VDI6030START(&kept, false);
+}
+
+CConfirmedStart CLentStart::GetConfirmed() const
+{
+    CConfirmedStart confirmed;
+    if (!m_bLent) {
+        return confirmed;
+    }
+    const VDI6030START now = ReadStart();
+    if (!IsSameDistance(now.AbstandWand, m_lent.AbstandWand) ||
+        !IsSameDistance(now.AbstandBoden, m_lent.AbstandBoden)) {
+        confirmed.abstaende = {now.AbstandWand, now.AbstandBoden};
+    }
+    // The dialog gives a nominal diameter to every valve that it returns, even to none.
+    if (now.VentilVorlauf.DN != m_lent.VentilVorlauf.DN) {
+        confirmed.anschluss = {m_lent.Anschluss,
+                               now.Anschluss,
+                               {KeyOf(now.VentilVorlauf), KeyOf(now.VentilRuecklauf)}};
+    }
+    return confirmed;
+}
+
+CLentBlock::CLentBlock(const CString& block) : m_before(KeptBlock()), m_lent(GraphicEntry(block))
+{
+    lmSetHKBlock(m_lent);
+}
+
+CLentBlock::~CLentBlock()
+{
+    const CString now = KeptBlock();
+    lmSetHKBlock(now == m_lent ? m_before : GraphicOfEntry(now));
+}
+
+CString CLentBlock::GetShown() const
+{
+    return GraphicOfEntry(KeptBlock());
+}
+
+} // namespace workbench

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "frame/vdi6030_start.h"
+#include "workbench/plan/confirmed_connection.h"
+
+namespace workbench {
+
+/// What the dialog of connections shows of a radiator.
+ConnValues ConnectionToShow(const CPlacedRadiator& radiator);
+
+/// The start values that the host keeps, lent to a radiator while its selection dialog is open:
+/// "Valvole..." and "Distanza..." open on them and store there what the user confirms. Afterwards
+/// the host keeps what was confirmed, and otherwise what it kept before.
+class CLentStart
+{
+public:
+    explicit CLentStart(const CPlacedRadiator& radiator);
+    ~CLentStart();
+    CLentStart(const CLentStart&) = delete;
+    CLentStart& operator=(const CLentStart&) = delete;
+
+    CConfirmedStart GetConfirmed() const;
+
+private:
+    VDI6030START m_before;
+    VDI6030START m_lent;
+    /// False where the values cannot be written, so that nothing was lent.
+    bool m_bLent;
+};
+
+/// The block that the host keeps for radiators, lent in the same way, so that the dialog opens with
+/// the block that will be drawn.
+class CLentBlock
+{
+public:
+    explicit CLentBlock(const CString& block);
+    ~CLentBlock();
+    CLentBlock(const CLentBlock&) = delete;
+    CLentBlock& operator=(const CLentBlock&) = delete;
+
+    /// The block shown now; empty for a plain rectangle.
+    CString GetShown() const;
+
+private:
+    CString m_before;
+    CString m_lent;
+};
+
+} // namespace workbench
