@@ -14,6 +14,11 @@ namespace reference_host {
 namespace {
 constexpr wchar_t kFileName[] = L"hk.tga";
 
+// How long a listing holds, at least, and in parts of what it took: of a folder that takes longer
+// to look through than to work with, nothing else would ever be done.
+constexpr std::chrono::seconds kShortestLife(1);
+constexpr int kLifePerEffort = 10;
+
 CFileFault FaultOf(const std::filesystem::path& path, const std::error_code& error)
 {
     return {0, L"non si può leggere: " + WideFromUtf8(error.message()), TextFromPath(path)};
@@ -75,15 +80,16 @@ CManufacturerListing ListManufacturers(const CString& folder)
 
 const CManufacturerListing& CManufacturerCache::Get(const CString& folder)
 {
-    constexpr std::chrono::seconds kOutdated(1);
-    const Clock::time_point now = Clock::now();
     const std::optional<struct stat> status = StatusOf(folder);
     const bool holds = status && m_status && folder == m_strFolder &&
-                       IsSameState(*status, *m_status) && now - m_listedAt < kOutdated;
+                       IsSameState(*status, *m_status) && Clock::now() < m_outdatedAt;
     if (!holds) {
         m_strFolder = folder;
-        m_listedAt = now;
+        const Clock::time_point start = Clock::now();
         m_listing = ListManufacturers(folder);
+        const Clock::time_point end = Clock::now();
+        m_outdatedAt =
+            end + std::max<Clock::duration>(kShortestLife, kLifePerEffort * (end - start));
         const bool isSound = !m_listing.fault && m_listing.unreadable.empty();
         m_status = isSound ? status : std::nullopt;
     }

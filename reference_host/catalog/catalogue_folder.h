@@ -30,8 +30,9 @@ struct CManufacturerListing
 CManufacturerListing ListManufacturers(const CString& folder);
 
 /// Keeps the listing of a folder, as a building asks for it with every room. A folder that was
-/// listed without a fault is looked through again when it has changed or after a second, since
-/// catalogues that come into sub-folders leave no trace in it.
+/// listed without a fault is looked through again when it has changed, and after a while, since
+/// catalogues that come into sub-folders leave no trace in it: after a second, or after ten times
+/// what the listing took if that is longer.
 class CManufacturerCache
 {
 public:
@@ -46,7 +47,7 @@ private:
     CString m_strFolder;
     CManufacturerListing m_listing;
     std::optional<struct stat> m_status;
-    Clock::time_point m_listedAt;
+    Clock::time_point m_outdatedAt;
 };
 
 /// Where the manufacturer's catalogue file is or would be. Nothing if the folder's text is empty or

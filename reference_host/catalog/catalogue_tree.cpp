@@ -26,6 +26,9 @@ void Chain(std::vector<HK_VDI3805_TYP>& rows)
 
 void CCatalogueTree::ListHersteller(const CString& folder, const std::vector<CString>& names)
 {
+    if (IsListed(folder, names)) {
+        return;
+    }
     std::set<const CManufacturer*> formerlyListed;
     for (auto& [key, hersteller] : m_hersteller) {
         if (hersteller.bListed) {
@@ -35,9 +38,12 @@ void CCatalogueTree::ListHersteller(const CString& folder, const std::vector<CSt
         hersteller.node.pNext = nullptr;
     }
 
+    m_strFolder = folder;
+    m_listed.clear();
     HK_VDI3805_HERSTELLER** link = &m_pFirst;
     for (const CString& name : names) {
-        CManufacturer& hersteller = Find(folder, name);
+        m_listed.push_back(Find(folder, name));
+        CManufacturer& hersteller = m_listed.back()->second;
         if (!formerlyListed.contains(&hersteller)) {
             hersteller.node.pArt = nullptr;
         }
@@ -52,7 +58,7 @@ HK_VDI3805_ART* CCatalogueTree::Hang(const CString& folder, const CString& herst
                                      const CCatalogue& katalog, double requiredOutput,
                                      int& rowCount)
 {
-    CManufacturer& owner = Find(folder, hersteller);
+    CManufacturer& owner = Find(folder, hersteller)->second;
     Unhang(owner);
 
     rowCount = 0;
@@ -68,11 +74,27 @@ HK_VDI3805_ART* CCatalogueTree::Hang(const CString& folder, const CString& herst
     return first;
 }
 
-CCatalogueTree::CManufacturer& CCatalogueTree::Find(const CString& folder,
-                                                    const CString& hersteller)
+bool CCatalogueTree::IsListed(const CString& folder, const std::vector<CString>& names) const
 {
-    CManufacturer& found = m_hersteller[{folder, hersteller}];
-    found.node.Name = hersteller;
+    if (folder != m_strFolder || names.size() != m_listed.size()) {
+        return false;
+    }
+    const HK_VDI3805_HERSTELLER* node = m_pFirst;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const auto& [key, hersteller] = *m_listed[i];
+        if (node != &hersteller.node || key.second != names[i] || node->Name != names[i]) {
+            return false;
+        }
+        node = node->pNext;
+    }
+    return node == nullptr;
+}
+
+CCatalogueTree::Manufacturers::iterator CCatalogueTree::Find(const CString& folder,
+                                                             const CString& hersteller)
+{
+    const auto found = m_hersteller.try_emplace({folder, hersteller}).first;
+    found->second.node.Name = hersteller;
     return found;
 }
 

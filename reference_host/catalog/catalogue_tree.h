@@ -23,6 +23,7 @@ public:
 
     /// Makes the manufacturers' list that of these names in this folder, in the order given, each
     /// name once. Those that were in the list keep what hangs below them, others come in as unread.
+    /// A list that is that already is only looked through.
     void ListHersteller(const CString& folder, const std::vector<CString>& names);
 
     /// Head of the manufacturers' list, null if it is empty.
@@ -53,13 +54,20 @@ private:
         bool bListed = false;
     };
 
-    CManufacturer& Find(const CString& folder, const CString& hersteller);
+    using Manufacturers = std::map<std::pair<CString, CString>, CManufacturer>;
+
+    /// True if the list is that of these names, and no host has bent it.
+    bool IsListed(const CString& folder, const std::vector<CString>& names) const;
+    Manufacturers::iterator Find(const CString& folder, const CString& hersteller);
     static void Unhang(CManufacturer& hersteller);
     static int Fill(CKind& art, const CCatalogueKind& model, double requiredOutput);
     static void Fill(CProduct& produkt, const CCatalogueProduct& model, double requiredOutput);
 
-    std::map<std::pair<CString, CString>, CManufacturer> m_hersteller;
+    Manufacturers m_hersteller;
     HK_VDI3805_HERSTELLER* m_pFirst = nullptr;
+    /// The folder of the list, and the owners of its nodes in their order.
+    CString m_strFolder;
+    std::vector<Manufacturers::iterator> m_listed;
 };
 
 } // namespace reference_host

@@ -211,6 +211,29 @@ TEST_F(CHostCatalogTest, NamesThatLeaveTheFolderAreNoMakers)
     EXPECT_EQ(ReadVdiFile(L"Alfa", nullptr, 1000), -1);
 }
 
+TEST_F(CHostCatalogTest, AListThatAHostHasBentIsMendedByTheNextListing)
+{
+    for (const char* name : {"Alfa", "Beta", "Gamma"}) {
+        WriteCatalogue(name, Products({"P"}));
+    }
+    const std::vector<CString> names = {L"Alfa", L"Beta", L"Gamma"};
+    ASSERT_EQ(Makers(), names);
+    HK_VDI3805_HERSTELLER* const alfa = FindHersteller(L"Alfa");
+    HK_VDI3805_HERSTELLER* const gamma = FindHersteller(L"Gamma");
+    HK_VDI3805_HERSTELLER foreign;
+
+    alfa->pNext = &foreign;
+    EXPECT_EQ(Makers(), names);
+    alfa->pNext = gamma;
+    EXPECT_EQ(Makers(), names);
+    gamma->pNext = &foreign;
+    EXPECT_EQ(Makers(), names);
+    alfa->Name = L"Altro";
+    EXPECT_EQ(Makers(), names);
+    EXPECT_EQ(FindHersteller(L"Gamma"), gamma);
+    EXPECT_EQ(foreign.pNext, nullptr);
+}
+
 TEST_F(CHostCatalogTest, NodesThatAHostHungBelowAMakerAreLeftToTheHost)
 {
     WriteCatalogue("Alfa", Products({"P"}));
