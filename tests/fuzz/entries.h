@@ -36,5 +36,15 @@ void RunHeizsysteme(std::span<const std::uint8_t> bytes);
 /// The bytes as the file of placements: a place kept in it comes back.
 void RunPlatzierung(std::span<const std::uint8_t> bytes);
 
+/// The bytes as the file of settings: what is stored in it comes back, and nothing else changes.
+void RunSettings(std::span<const std::uint8_t> bytes);
+
+/// The bytes as a record of the last selection. The first byte chooses the record, and whether the
+/// rest is the whole file or the payload of a sound one; what is stored in its place comes back.
+void RunDefFile(std::span<const std::uint8_t> bytes);
+
+/// The bytes as a building: one that is read is the same when it is written and read again.
+void RunBuilding(std::span<const std::uint8_t> bytes);
+
 /// Throws std::logic_error with this text unless `holds`.
 void Require(bool holds, const char* what);

@@ -9,7 +9,6 @@
 #include "valve/ventil_bewertung.h"
 #include "valve/ventil_texte.h"
 
-#include <stdexcept>
 #include <string>
 
 using namespace reference_host;
@@ -58,13 +57,6 @@ void CheckTree(const CVentVdiKatalog& katalog, CString& ventilNr)
 }
 
 } // namespace
-
-void Require(bool holds, const char* what)
-{
-    if (!holds) {
-        throw std::logic_error(what);
-    }
-}
 
 void RunVentilKatalog(std::span<const std::uint8_t> bytes)
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-struct ConnValues;
+class ConnValues;
 struct TGA_LIST;
-struct VDI3805_VENTIL_KV;
+class VDI3805_VENTIL_KV;
 class CDrawer;
 
 /// Lets the user edit the connection and the valves of a radiator in a modal dialog. The two valves

@@ -1,49 +1,19 @@
 #include "frame/hkauswahl_uebergabe.h"
 #include "host/host_base.h"
 #include "host/host_prefs.h"
+#include "tests/support/environment_variable.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <utility>
 
 using namespace reference_host;
 
 namespace {
-
-/// Sets or removes a variable of the real environment, which is the one that the host reads.
-class CEnvironmentVariable
-{
-public:
-    CEnvironmentVariable(const char* name, const char* value) : m_name(name)
-    {
-        if (const char* before = std::getenv(name)) {
-            m_before = before;
-        }
-        Set(value);
-    }
-    ~CEnvironmentVariable() { Set(m_before ? m_before->c_str() : nullptr); }
-    CEnvironmentVariable(const CEnvironmentVariable&) = delete;
-    CEnvironmentVariable& operator=(const CEnvironmentVariable&) = delete;
-
-private:
-    void Set(const char* value) const
-    {
-        if (value != nullptr) {
-            setenv(m_name, value, 1);
-        } else {
-            unsetenv(m_name);
-        }
-    }
-
-    const char* m_name;
-    std::optional<std::string> m_before;
-};
 
 const std::string kFile = "radsel/settings.txt";
 const std::string kVersionLine = "radsel-settings 1\n";

@@ -8,7 +8,6 @@
 
 #include <fstream>
 #include <iterator>
-#include <random>
 #include <tuple>
 
 namespace workbench {
@@ -320,42 +319,6 @@ TEST_F(BuildingFileTest, AFailingSaveKeepsTheOldFileAndNamesIt)
     EXPECT_EQ(m_folder.ReadBytes("casa.json"), "old");
     const auto entries = std::filesystem::directory_iterator(m_folder.Root());
     EXPECT_EQ(std::distance(begin(entries), end(entries)), 2) << "a leftover";
-}
-
-TEST_F(BuildingFileTest, DamagedBytesAreRefusedOrReadAsABuildingThatComesBack)
-{
-    constexpr unsigned kSeed = 8;
-    std::mt19937 dice(kSeed);
-    const std::string samples[] = {kPlan, FormatBuilding(OddBuilding())};
-    int accepted = 0;
-    for (int round = 0; round < 1000; ++round) {
-        std::string bytes = samples[dice() % 2];
-        for (unsigned changes = dice() % 4 + 1; changes > 0; --changes) {
-            const std::size_t at = dice() % bytes.size();
-            const std::size_t length = std::min<std::size_t>(dice() % 40, bytes.size() - at);
-            switch (dice() % 4) {
-            case 0:
-                bytes[at] = static_cast<char>(dice());
-                break;
-            case 1:
-                bytes.erase(at, length);
-                break;
-            case 2:
-                bytes.insert(at, bytes.substr(at, length));
-                break;
-            default:
-                bytes[bytes.find_first_of("0123456789", at) % bytes.size()] =
-                    "0959-e.\""[dice() % 8];
-            }
-        }
-        try {
-            const std::string written = FormatBuilding(Read(bytes));
-            EXPECT_EQ(FormatBuilding(Read(written)), written) << "round " << round;
-            ++accepted;
-        } catch (const CContentException&) {
-        }
-    }
-    EXPECT_GT(accepted, 50) << "too few to show anything";
 }
 
 } // namespace workbench
