@@ -29,7 +29,8 @@ std::vector<std::string> LinesOf(std::string_view bytes)
     while (!bytes.empty()) {
         const std::size_t end = std::min(bytes.find('\n'), bytes.size());
         std::string_view line = bytes.substr(0, end);
-        if (line.ends_with('\r')) {
+        // All of them: one that stayed would be the line end of what is written again.
+        while (line.ends_with('\r')) {
             line.remove_suffix(1);
         }
         lines.emplace_back(line);
