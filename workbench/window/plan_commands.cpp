@@ -134,6 +134,10 @@ void CPlanCommands::ChooseProduct(const std::vector<CRoomRef>& rooms)
     if (m_prompts.ask(&m_window, question, "&Dimensiona", "&Più tardi", false) ==
         CPrompts::Answer::yes) {
         CSizingResult result = SizeWithProgress(&m_window, *changed, rooms);
+        if (result.bCancelled) {
+            TellCancelled();
+            return;
+        }
         TellFaults(*changed, result);
         changed = std::move(result.building);
     }
@@ -147,13 +151,18 @@ void CPlanCommands::Size(const std::vector<CRoomRef>& rooms, const CString& what
     }
     CSizingResult result = SizeWithProgress(&m_window, m_document.Building(), rooms);
     if (result.bCancelled) {
-        emit Told("Dimensionamento annullato: nulla è cambiato.");
+        TellCancelled();
         return;
     }
     TellFaults(m_document.Building(), result);
     if (result.nSized > 0) {
         m_document.Do(what, std::move(result.building));
     }
+}
+
+void CPlanCommands::TellCancelled()
+{
+    emit Told("Dimensionamento annullato: nulla è cambiato.");
 }
 
 void CPlanCommands::TellFaults(const CBuilding& building, const CSizingResult& result)

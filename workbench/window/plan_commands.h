@@ -65,6 +65,7 @@ private:
     /// What is to become of a radiator that was chosen at other temperatures.
     OtherSystem AskWhatSystem(const CBuilding& changed, const CHeatingSystem& chosen);
 
+    void TellCancelled();
     void TellFaults(const CBuilding& building, const struct CSizingResult& result);
 
     CPlanDocument& m_document;

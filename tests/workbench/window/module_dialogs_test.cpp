@@ -2,7 +2,12 @@
 
 #include "tests/workbench/window/module_user.h"
 #include "tests/workbench/window/workbench_fixture.h"
+#include "tools/make_building_samples.h"
 #include "workbench/building/qt_text.h"
+
+#include <QProgressDialog>
+#include <QTableView>
+#include <QTreeWidget>
 
 namespace workbench {
 
@@ -346,6 +351,33 @@ TEST_F(ModuleDialogs, RadiatorsTakeDistancesAndConnectionConfirmedInTheSelection
     EXPECT_EQ(fresh.abstandWand, 0.08);
     EXPECT_EQ(fresh.anschluss.PosAN, left);
     EXPECT_TRUE(fresh.ventile.vorlauf) << "the building tells which valves";
+}
+
+TEST_F(ModuleDialogs, CancellingTheSizingLeavesTheProductAsWell)
+{
+    m_document.Do(L"Ampliamento", MakeLargeBuilding(2000));
+    const std::string before = FormatBuilding(m_document.Building());
+    m_window->findChild<QTableView*>("rooms")->selectAll();
+    m_answers = {CPrompts::Answer::yes}; // with the new product at once
+    InModule([](const CModuleUser& user) {
+        auto& tree = user.Control<QTreeWidget>(18000);
+        QTreeWidgetItem* const product = tree.currentItem();
+        ASSERT_NE(product, nullptr);
+        QTreeWidgetItem* const other = tree.itemBelow(product);
+        tree.setCurrentItem(other != nullptr ? other : tree.itemAbove(product));
+        user.Ok();
+    });
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [this] {
+        if (auto* const bar = m_window->findChild<QProgressDialog*>("sizing")) {
+            bar->cancel();
+        }
+    });
+    timer.start(1);
+    Do("product");
+    EXPECT_EQ(m_nQuestions, 1);
+    EXPECT_TRUE(FormatBuilding(m_document.Building()) == before);
+    EXPECT_TRUE(Messages().contains("annullato")) << Messages().toStdString();
 }
 
 } // namespace workbench
