@@ -90,6 +90,8 @@ struct CPlacedRadiator
     CString strArt;
     CString strProdukt;
     CString strTyp;
+    /// The designer picked it himself, so that no sizing replaces it unless he says so.
+    bool bVonHand = false;
     /// The row chosen. Leistung is that at the heating system for which it was chosen last.
     HK_DATEN_VDI3805 daten;
     /// Index of its place in the room.

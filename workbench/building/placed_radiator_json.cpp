@@ -15,6 +15,8 @@ constexpr auto kLine = CJsonWriter::Layout::line;
 /// The longest radiator that catalogues may have, in mm.
 constexpr double kLargestSize = 100000.0;
 
+constexpr wchar_t kByHand[] = L"hand";
+
 constexpr int kLargestInt = std::numeric_limits<int>::max();
 
 // One list of fields serves both directions, so that they cannot drift apart.
@@ -95,6 +97,15 @@ void WriteRow(CJsonWriter& writer, const HK_DATEN_VDI3805& daten)
     }
     writer.Text("rating", CString(1, daten.Bauart));
     writer.End();
+}
+
+bool ReadByHand(CJsonFields& fields)
+{
+    const CString chosen = fields.ForeignTextOr("chosen");
+    if (!chosen.empty() && chosen != kByHand) {
+        fields.Fail(L"chosen", L"atteso \"hand\"");
+    }
+    return !chosen.empty();
 }
 
 void ReadDistances(CJsonFields fields, CPlacedRadiator& radiator)
@@ -204,6 +215,7 @@ CPlacedRadiator ReadPlacedRadiator(CJsonFields fields, std::size_t places)
     for (const CTextField& text : kProductTexts) {
         radiator.*text.field = fields.ForeignText(text.name);
     }
+    radiator.bVonHand = ReadByHand(fields);
     radiator.daten = ReadRow(fields.Object("row"));
     ReadDistances(fields.Object("distance"), radiator);
     ReadLayer(fields.Object("layer"), radiator);
@@ -222,6 +234,9 @@ void WritePlacedRadiator(CJsonWriter& writer, const CPlacedRadiator& radiator)
     writer.Number("place", static_cast<double>(radiator.nPlatz));
     for (const CTextField& text : kProductTexts) {
         writer.Text(text.name, radiator.*text.field);
+    }
+    if (radiator.bVonHand) {
+        writer.Text("chosen", kByHand);
     }
     WriteRow(writer, radiator.daten);
     writer.BeginObject("distance", kLine);

@@ -132,6 +132,7 @@ void TakeChoice(CPlacedRadiator& radiator, const CRadiatorChoice& chosen,
     radiator.strProdukt = chosen.produkt.strProdukt;
     radiator.strTyp = chosen.strTyp;
     radiator.daten = chosen.daten;
+    radiator.bVonHand = false;
 }
 
 } // namespace workbench

@@ -16,8 +16,8 @@ class CRoomSizing
 {
 public:
     CRoomSizing(const CBuilding& building, const CFloor& floor, const CRoom& room,
-                const CRadiatorStart& start)
-        : m_building(building), m_floor(floor), m_start(start), m_room(room)
+                const CRadiatorStart& start, Picked picked)
+        : m_building(building), m_floor(floor), m_start(start), m_picked(picked), m_room(room)
     {
     }
 
@@ -62,18 +62,29 @@ private:
 
     void ResizeRadiators()
     {
-        const double all = OutputOf(m_room);
-        const double even = 1.0 / static_cast<double>(m_room.heizkoerper.size());
+        CRoom sized = m_room;
+        std::erase_if(sized.heizkoerper, [this](const auto& radiator) { return Stays(radiator); });
+        const double all = OutputOf(sized);
+        const double need = m_room.GetLeistung() - (OutputOf(m_room) - all);
+        const double even = 1.0 / static_cast<double>(sized.heizkoerper.size());
         for (std::size_t i = 0; i < m_room.heizkoerper.size(); ++i) {
             CPlacedRadiator& radiator = m_room.heizkoerper[i];
+            if (Stays(radiator)) {
+                continue;
+            }
             const double share = all > 0.0 ? radiator.daten.Leistung / all : even;
             CRadiatorWish wish = WishForRadiator(m_building, m_floor, m_room, i);
             wish.produkt = ProductOf(m_room);
-            wish.leistung = share * m_room.GetLeistung();
+            wish.leistung = share * need;
             if (const auto found = Select(wish)) {
                 TakeChoice(radiator, *found, m_start);
             }
         }
+    }
+
+    bool Stays(const CPlacedRadiator& radiator) const
+    {
+        return radiator.bVonHand && m_picked == Picked::stay;
     }
 
     std::optional<CRadiatorChoice> Select(const CRadiatorWish& wish)
@@ -92,19 +103,21 @@ private:
     const CBuilding& m_building;
     const CFloor& m_floor;
     const CRadiatorStart& m_start;
+    Picked m_picked;
     CRoom m_room;
     int m_nSized = 0;
     /// The first search that found nothing.
     std::optional<CRoomOutcome> m_failure;
 };
 
-void SizeRoom(CSizingResult& result, const CRoomRef& ref, const CRadiatorStart& start)
+void SizeRoom(CSizingResult& result, const CRoomRef& ref, const CRadiatorStart& start,
+              Picked picked)
 {
     if (!Exists(result.building, ref) || RoomOf(result.building, ref).GetLeistung() <= 0.0) {
         return;
     }
     CRoomSizing sizing(result.building, result.building.floors[ref.nFloor],
-                       RoomOf(result.building, ref), start);
+                       RoomOf(result.building, ref), start, picked);
     sizing.Size();
     if (sizing.GetSized() > 0) {
         result.nSized += sizing.GetSized();
@@ -124,14 +137,22 @@ std::vector<CRoomRef> InOrder(std::vector<CRoomRef> rooms)
 
 } // namespace
 
+bool HasPicked(const CBuilding& building, const std::vector<CRoomRef>& rooms)
+{
+    return std::ranges::any_of(rooms, [&](const CRoomRef& ref) {
+        return Exists(building, ref) &&
+               std::ranges::any_of(RoomOf(building, ref).heizkoerper, &CPlacedRadiator::bVonHand);
+    });
+}
+
 CSizingResult SizeRooms(const CBuilding& building, const std::vector<CRoomRef>& rooms,
-                        const SizingProgress& progress)
+                        const SizingProgress& progress, Picked picked)
 {
     const std::vector<CRoomRef> ordered = InOrder(rooms);
     const CRadiatorStart start = ReadRadiatorStart();
     CSizingResult result{building, 0, {}, false};
     for (std::size_t done = 0; done < ordered.size(); ++done) {
-        SizeRoom(result, ordered[done], start);
+        SizeRoom(result, ordered[done], start, picked);
         if (progress && !progress(done + 1, ordered.size())) {
             return {building, 0, {}, true};
         }

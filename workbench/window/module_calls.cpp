@@ -18,6 +18,15 @@ namespace workbench {
 
 namespace {
 
+/// True if what was chosen is what stands there, which does not make it the designer's own choice.
+bool IsSameRow(const CPlacedRadiator& radiator, const CRadiatorChoice& chosen)
+{
+    return ProductOf(radiator) == chosen.produkt && radiator.strTyp == chosen.strTyp &&
+           radiator.daten.Hoehe == chosen.daten.Hoehe &&
+           radiator.daten.Tiefe == chosen.daten.Tiefe &&
+           radiator.daten.Laenge == chosen.daten.Laenge;
+}
+
 /// Puts what was chosen into the room, for the radiator or as a further one; false if there is no
 /// place for it.
 bool TakeOver(const CBuilding& building, const CString& floor, CRoom& room,
@@ -25,12 +34,16 @@ bool TakeOver(const CBuilding& building, const CString& floor, CRoom& room,
 {
     const CRadiatorStart start = ReadRadiatorStart();
     if (radiator) {
-        TakeChoice(room.heizkoerper[*radiator], chosen, start);
-        TakeStart(room.heizkoerper[*radiator], chosen.start);
+        CPlacedRadiator& present = room.heizkoerper[*radiator];
+        const bool isSame = IsSameRow(present, chosen) && !present.bVonHand;
+        TakeChoice(present, chosen, start);
+        TakeStart(present, chosen.start);
+        present.bVonHand = !isSame;
         return true;
     }
     auto placed = PlaceRadiator(building, room, floor, chosen, start);
     if (placed) {
+        placed->bVonHand = true;
         ConnectLikeLast(*placed, building, start);
         TakeStart(*placed, chosen.start);
         room.heizkoerper.push_back(std::move(*placed));

@@ -133,7 +133,11 @@ void CPlanCommands::ChooseProduct(const std::vector<CRoomRef>& rooms)
             : QString("Dimensionare subito i %1 locali con il nuovo prodotto?").arg(rooms.size());
     if (m_prompts.ask(&m_window, question, "&Dimensiona", "&Più tardi", false) ==
         CPrompts::Answer::yes) {
-        CSizingResult result = SizeWithProgress(&m_window, *changed, rooms);
+        const std::optional<Picked> picked = AskForPicked(*changed, rooms);
+        if (!picked) {
+            return;
+        }
+        CSizingResult result = SizeWithProgress(&m_window, *changed, rooms, *picked);
         if (result.bCancelled) {
             TellCancelled();
             return;
@@ -144,12 +148,33 @@ void CPlanCommands::ChooseProduct(const std::vector<CRoomRef>& rooms)
     m_document.Do(L"Prodotto", std::move(*changed));
 }
 
+std::optional<Picked> CPlanCommands::AskForPicked(const CBuilding& building,
+                                                  const std::vector<CRoomRef>& rooms)
+{
+    if (!HasPicked(building, rooms)) {
+        return Picked::stay;
+    }
+    switch (m_prompts.ask(&m_window, "Alcuni corpi scaldanti sono stati scelti a mano.",
+                          "&Mantieni quelli", "&Dimensiona anche quelli", true)) {
+    case CPrompts::Answer::yes:
+        return Picked::stay;
+    case CPrompts::Answer::no:
+        return Picked::sizedAnew;
+    default:
+        return std::nullopt;
+    }
+}
+
 void CPlanCommands::Size(const std::vector<CRoomRef>& rooms, const CString& what)
 {
     if (rooms.empty()) {
         return;
     }
-    CSizingResult result = SizeWithProgress(&m_window, m_document.Building(), rooms);
+    const std::optional<Picked> picked = AskForPicked(m_document.Building(), rooms);
+    if (!picked) {
+        return;
+    }
+    CSizingResult result = SizeWithProgress(&m_window, m_document.Building(), rooms, *picked);
     if (result.bCancelled) {
         TellCancelled();
         return;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/plan/plan_edit.h"
+#include "workbench/plan/sizing.h"
 
 #include <QObject>
 
@@ -52,6 +52,11 @@ private:
     /// The same, and what was chosen becomes the building.
     void Take(const CString& what, const Question& question);
 
+    /// What becomes of the radiators of rooms that were picked by hand; nothing if the user
+    /// cancels.
+    std::optional<Picked> AskForPicked(const CBuilding& building,
+                                       const std::vector<CRoomRef>& rooms);
+
     /// A radiator for a room, asked for until it fits the heating system of the building.
     std::optional<CBuilding> AskForRadiator(const CRoomRef& room,
                                             std::optional<std::size_t> radiator, CDrawer& drawer);
@@ -66,7 +71,7 @@ private:
     OtherSystem AskWhatSystem(const CBuilding& changed, const CHeatingSystem& chosen);
 
     void TellCancelled();
-    void TellFaults(const CBuilding& building, const struct CSizingResult& result);
+    void TellFaults(const CBuilding& building, const CSizingResult& result);
 
     CPlanDocument& m_document;
     const CPrompts& m_prompts;

@@ -17,7 +17,7 @@ constexpr int kShowAfter = 300;
 } // namespace
 
 CSizingResult SizeWithProgress(QWidget* parent, const CBuilding& building,
-                               const std::vector<CRoomRef>& rooms)
+                               const std::vector<CRoomRef>& rooms, Picked picked)
 {
     QProgressDialog bar("Dimensionamento dei corpi scaldanti…", "Annulla", 0,
                         static_cast<int>(rooms.size()), parent);
@@ -27,14 +27,17 @@ CSizingResult SizeWithProgress(QWidget* parent, const CBuilding& building,
     bar.setMinimumDuration(kShowAfter);
     QElapsedTimer sinceShown;
     sinceShown.start();
-    return SizeRooms(building, rooms, [&](std::size_t done, std::size_t /*all*/) {
-        if (sinceShown.elapsed() >= kShowEvery) {
-            sinceShown.restart();
-            bar.setValue(static_cast<int>(done));
-            QCoreApplication::processEvents();
-        }
-        return !bar.wasCanceled();
-    });
+    return SizeRooms(
+        building, rooms,
+        [&](std::size_t done, std::size_t /*all*/) {
+            if (sinceShown.elapsed() >= kShowEvery) {
+                sinceShown.restart();
+                bar.setValue(static_cast<int>(done));
+                QCoreApplication::processEvents();
+            }
+            return !bar.wasCanceled();
+        },
+        picked);
 }
 
 } // namespace workbench

@@ -8,6 +8,6 @@ namespace workbench {
 
 /// Sizes rooms (SizeRooms) behind a bar that shows how far it is and lets the user cancel.
 CSizingResult SizeWithProgress(QWidget* parent, const CBuilding& building,
-                               const std::vector<CRoomRef>& rooms);
+                               const std::vector<CRoomRef>& rooms, Picked picked);
 
 } // namespace workbench

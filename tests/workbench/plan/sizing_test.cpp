@@ -223,4 +223,27 @@ TEST_F(SizingTest, CancellingAtAnyMomentLeavesTheBuildingAsItWas)
     }
 }
 
+TEST_F(SizingTest, OthersShareWhatARadiatorPickedByHandLeaves)
+{
+    CRoom sala = Room(L"Sala", 3000.0);
+    sala.plaetze.push_back({PlaceKind::wall, 900.0, 2500.0, Wall::ost, 0.0});
+    sala.heizkoerper = {Radiator(1500.0), Radiator(750.0)};
+    sala.heizkoerper[0].bVonHand = true;
+    sala.heizkoerper[1].nPlatz = 1;
+    ReplaceRoom(m_building, kSala, sala);
+    const struct
+    {
+        Picked picked;
+        double expected[2];
+        bool byHand;
+    } cases[] = {{Picked::stay, {1500, 1500}, true}, {Picked::sizedAnew, {2000, 1000}, false}};
+    for (const auto& test : cases) {
+        const CSizingResult result = SizeRooms(m_building, {kSala}, {}, test.picked);
+        for (std::size_t i = 0; i < 2; ++i) {
+            EXPECT_EQ(RadiatorOf(result.building, {kSala, i}).daten.Leistung, test.expected[i]);
+        }
+        EXPECT_EQ(HasPicked(result.building, {kSala}), test.byHand);
+    }
+}
+
 } // namespace workbench

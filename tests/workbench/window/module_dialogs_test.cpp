@@ -380,4 +380,37 @@ TEST_F(ModuleDialogs, CancellingTheSizingLeavesTheProductAsWell)
     EXPECT_TRUE(Messages().contains("annullato")) << Messages().toStdString();
 }
 
+TEST_F(ModuleDialogs, SizingLeavesWhatWasPickedByHandUnlessTheUserSaysOtherwise)
+{
+    using enum CPrompts::Answer;
+    Do("sizeAll");
+    EXPECT_EQ(m_nQuestions, 0);
+    const double sized = Radiator(0, 1).daten.Leistung;
+    Mark({{0, 1}});
+    InSelection([&](const CModuleUser& user) {
+        user.Type(idLeistungSoll, "500");
+        user.Ok();
+    });
+    Do("choose");
+    const double picked = Radiator(0, 1).daten.Leistung;
+    ASSERT_LT(picked, sized);
+
+    const std::string before = FormatBuilding(m_document.Building());
+    for (const CPrompts::Answer answer : {yes, cancel}) {
+        m_answers = {answer};
+        Do("sizeAll");
+        EXPECT_TRUE(m_answers.empty()) << "it was asked";
+        EXPECT_TRUE(FormatBuilding(m_document.Building()) == before);
+    }
+    Do("save");
+    m_document.Open(m_path.wstring());
+    m_answers = {no};
+    Do("sizeAll");
+    EXPECT_TRUE(m_answers.empty()) << "the file tells it";
+    EXPECT_EQ(Radiator(0, 1).daten.Leistung, sized);
+    m_nQuestions = 0;
+    Do("sizeAll");
+    EXPECT_EQ(m_nQuestions, 0) << "nothing of the user's own is left";
+}
+
 } // namespace workbench
