@@ -92,6 +92,8 @@ bool lmGetHKBlock(CString& block)
 void lmSetHKBlock(const CString& block)
 {
     StoreHostSetting(kSettingHKBlock, block);
+    // What is set counts from now on, also where something else was lent for a while.
+    ClearHostSettingOverride(kSettingHKBlock);
 }
 
 bool lmGetGlobalSuperUser(bool& superUser)

@@ -54,8 +54,11 @@ place_by_mouse() {
 
 size_all_and_undo() {
     local one=$totals
-    step "size all rooms"
+    step "size all rooms but for the radiator that was picked by hand"
     keys ctrl+d
+    await_window radsel
+    keys Return
+    back_to_plan
     await_other_totals
     step "undo the sizing"
     keys ctrl+z
@@ -86,8 +89,11 @@ change_system_and_repair() {
     back_to_plan
     await_other_totals
     [[ $totals == *55/45* ]] || fail "expected the system 55/45, found $totals"
-    step "repair what it broke"
+    step "repair what it broke, the radiator picked by hand as well"
     keys ctrl+shift+r # one step, which the file saved next holds
+    await_window radsel
+    click "Dimensiona anche quelli"
+    back_to_plan
 }
 
 save() {

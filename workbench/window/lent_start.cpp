@@ -1,6 +1,7 @@
 #include "workbench/window/lent_start.h"
 
 #include "host/host_prefs.h"
+#include "reference_host/prefs/host_settings.h"
 #include "workbench/plan/new_radiator.h"
 #include "workbench/plan/radiator_list.h"
 
@@ -81,15 +82,18 @@ CConfirmedStart CLentStart::GetConfirmed() const
     return confirmed;
 }
 
-CLentBlock::CLentBlock(const CString& block) : m_before(KeptBlock()), m_lent(GraphicEntry(block))
+CLentBlock::CLentBlock(const CString& block) : m_lent(GraphicEntry(block))
 {
-    lmSetHKBlock(m_lent);
+    reference_host::OverrideHostSetting(reference_host::kSettingHKBlock, m_lent);
 }
 
 CLentBlock::~CLentBlock()
 {
     const CString now = KeptBlock();
-    lmSetHKBlock(now == m_lent ? m_before : GraphicOfEntry(now));
+    reference_host::ClearHostSettingOverride(reference_host::kSettingHKBlock);
+    if (now != m_lent && now != GraphicOfEntry(now)) {
+        lmSetHKBlock(GraphicOfEntry(now));
+    }
 }
 
 CString CLentBlock::GetShown() const

@@ -28,8 +28,9 @@ private:
     bool m_bLent;
 };
 
-/// The block that the host keeps for radiators, lent in the same way, so that the dialog opens with
-/// the block that will be drawn.
+/// The block that the host keeps for radiators, lent to this process only, so that the dialog opens
+/// with the block that will be drawn. One that the user picks is stored by the dialog at once and
+/// stays.
 class CLentBlock
 {
 public:
@@ -42,7 +43,6 @@ public:
     CString GetShown() const;
 
 private:
-    CString m_before;
     CString m_lent;
 };
 
