@@ -205,6 +205,9 @@ TEST_F(FileTest, WhatCannotBeOpenedSaysWhy)
     EXPECT_EQ(Names(), std::vector<std::string>{"readonly.txt"});
 }
 
+// The sanitizer looks at memory through a pipe and takes sound objects for broken ones while there
+// are no descriptors, so that its build leaves this out.
+#ifndef __SANITIZE_ADDRESS__
 TEST_F(FileTest, AFileThatCannotBeLookedForIsNotAMissingOne)
 {
     m_folder.WriteBytes("cmbdata.txt", "kept");
@@ -221,6 +224,7 @@ TEST_F(FileTest, AFileThatCannotBeLookedForIsNotAMissingOne)
     }
     EXPECT_TRUE(CFile().Open(path, CFile::modeRead));
 }
+#endif
 
 TEST_F(FileTest, AFullDiskLeavesTheOldFile)
 {
