@@ -5,7 +5,7 @@
 #include <QtMath>
 
 #include <algorithm>
-#include <type_traits>
+#include <string>
 
 namespace {
 
@@ -68,7 +68,7 @@ double CGridPaint::NumericWidth(std::wstring_view text) const
 {
     double width = 0.0;
     for (const wchar_t c : text) {
-        const auto code = static_cast<std::make_unsigned_t<wchar_t>>(c);
+        const std::size_t code = std::char_traits<wchar_t>::to_int_type(c);
         if (code >= m_numeric.size() || m_numeric[code] < 0.0) {
             return -1.0;
         }

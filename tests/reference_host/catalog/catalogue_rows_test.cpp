@@ -163,7 +163,7 @@ TEST_F(CCatalogueRowsTest, AnArticleNamesItsOwnRowOnly)
     EXPECT_EQ(rows[1]->Name, L"Pezzo");
     EXPECT_EQ(rows[2]->Name, L"Serie");
 
-    Lengths(std::string(kSections) + "800;1;8;ORD-8;Otto elementi\n", 1000);
+    Lengths(std::string(kSections).append("800;1;8;ORD-8;Otto elementi\n"), 1000);
     rows = Rows(*Produkt(L"Prova"));
     ASSERT_GE(rows.size(), 3u);
     EXPECT_EQ(rows[1]->Name, L"G");

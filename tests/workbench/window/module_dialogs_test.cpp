@@ -183,9 +183,9 @@ TEST_F(ModuleDialogs, TheConnectionDialogShowsTheValvesDrawnAndKeepsThem)
     for (const auto& [what, work, expected] : steps) {
         Graphics shown;
         const Graphics before = GraphicsOf(ref);
-        InModule([&](const CModuleUser& user) {
+        InModule([&, &act = work](const CModuleUser& user) {
             shown = {FromQt(user.Chosen(idGrafikenAN)), FromQt(user.Chosen(idGrafikenRI))};
-            work(user);
+            act(user);
             user.Ok();
         });
         Do("connect");
