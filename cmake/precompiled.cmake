@@ -1,0 +1,28 @@
+# Headers that nearly every source reads are compiled once for all targets whose sources read them;
+# that takes more than a third off the time of a build. CMAKE_DISABLE_PRECOMPILE_HEADERS=ON builds
+# without, to the same result.
+#
+#   radsel_precompile(TARGET HEADER)   HEADER is a file of cmake/precompiled without its suffix
+#
+# The first target with a header compiles it, the others take it from there. A program's sources are
+# compiled otherwise than a library's, so that the two cannot share one.
+set(RADSEL_PRECOMPILED_DIR ${CMAKE_CURRENT_LIST_DIR}/precompiled)
+
+function(radsel_precompile target header)
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL INTERFACE_LIBRARY)
+        return()
+    endif()
+    set(shared_by libraries)
+    if(type STREQUAL EXECUTABLE)
+        set(shared_by programs)
+    endif()
+    set(property RADSEL_PRECOMPILED_${header}_${shared_by})
+    get_property(first GLOBAL PROPERTY ${property})
+    if(first)
+        target_precompile_headers(${target} REUSE_FROM ${first})
+    else()
+        target_precompile_headers(${target} PRIVATE ${RADSEL_PRECOMPILED_DIR}/${header}.h)
+        set_property(GLOBAL PROPERTY ${property} ${target})
+    endif()
+endfunction()

@@ -1,0 +1,5 @@
+#pragma once
+
+#include "standard.h"
+
+#include <gtest/gtest.h>

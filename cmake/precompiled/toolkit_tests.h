@@ -1,0 +1,4 @@
+#pragma once
+
+#include "tests.h"
+#include "toolkit.h"
