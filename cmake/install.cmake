@@ -1,18 +1,22 @@
 # What `cmake --install` lays out: the module and the reference host as a runtime, and what the
 # programmer of another host needs as a development component. Libraries lie in `lib` whatever the
-# system prefers, since the host looks for `share/radsel` beside that folder.
+# system prefers, since the host looks for `share/radsel` beside that folder. The reference host's
+# have a folder of their own, which no loader searches, so that they serve those only who name them.
 
 include(CMakePackageConfigHelpers)
 
-set(radsel_libraries radsel HostPrefs HostCatalog HostFittings HostBase HostPrompts)
+set(radsel_host_libraries HostPrefs HostCatalog HostFittings HostBase HostPrompts)
+set(radsel_host_folder lib/radsel/reference_host)
 set(radsel_package_folder lib/cmake/radsel)
 
-set_target_properties(${radsel_libraries} PROPERTIES
+set_target_properties(radsel ${radsel_host_libraries} PROPERTIES
     VERSION ${PROJECT_VERSION}
     # Below 1.0 every minor version may change the records.
-    SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}
-    INSTALL_RPATH $ORIGIN)
-set_target_properties(radsel_workbench PROPERTIES INSTALL_RPATH $ORIGIN/../lib)
+    SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+set_target_properties(${radsel_host_libraries} PROPERTIES INSTALL_RPATH $ORIGIN)
+set_target_properties(radsel_workbench PROPERTIES
+    INSTALL_RPATH $ORIGIN/../lib:$ORIGIN/../${radsel_host_folder})
+set_target_properties(radsel PROPERTIES EXPORT_NAME module)
 
 # The records that cross the boundary are made of arrays, archives and exceptions of platform/.
 set_target_properties(radsel_platform PROPERTIES EXPORT_NAME platform)
@@ -23,9 +27,14 @@ target_link_libraries(radsel INTERFACE radsel_platform)
 target_compile_options(radsel_platform PRIVATE -ffile-prefix-map=${PROJECT_BINARY_DIR}=build
     -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
 
-install(TARGETS ${radsel_libraries} EXPORT radselTargets
+install(TARGETS radsel EXPORT radselTargets
     LIBRARY DESTINATION lib COMPONENT runtime NAMELINK_COMPONENT development
     INCLUDES DESTINATION include/radsel)
+install(TARGETS ${radsel_host_libraries} EXPORT radselTargets
+    LIBRARY DESTINATION ${radsel_host_folder}
+        COMPONENT runtime NAMELINK_COMPONENT development
+    INCLUDES DESTINATION include/radsel)
+install(TARGETS reference_host EXPORT radselTargets)
 install(TARGETS radsel_platform EXPORT radselTargets
     ARCHIVE DESTINATION lib COMPONENT development
     INCLUDES DESTINATION include/radsel)
@@ -40,7 +49,7 @@ endfunction()
 radsel_install_headers(frame conn_values entry_points handover hkauswahl_uebergabe lumo_error
     vdi6030_start ventil_kv)
 radsel_install_headers(host api drawer drawing_records host_base host_catalog host_fittings
-    host_prefs host_prompts image_loader)
+    host_identity host_prefs host_prompts image_loader)
 radsel_install_headers(platform archive array bitmap byte_stream color exception export object text)
 
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/radselConfigVersion.cmake

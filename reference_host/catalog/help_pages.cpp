@@ -18,8 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The folder that the folder of this library stands in; empty if the system does not tell.
-fs::path Prefix()
+/// The folder of this library; empty if the system does not tell.
+fs::path LibraryFolder()
 {
     static const char here = 0;
     Dl_info info{};
@@ -27,8 +27,7 @@ fs::path Prefix()
         return {};
     }
     std::error_code error;
-    const fs::path library = fs::canonical(info.dli_fname, error);
-    return library.parent_path().parent_path();
+    return fs::canonical(info.dli_fname, error).parent_path();
 }
 
 std::vector<fs::path> HelpFolders()
@@ -37,8 +36,14 @@ std::vector<fs::path> HelpFolders()
     if (!chosen.empty()) {
         return {ResolvePath(chosen)};
     }
-    const fs::path prefix = Prefix();
-    return {prefix / "share" / "radsel" / "help", prefix / "help"};
+    // Installed, the library lies one to three folders below the prefix; built, one below the build.
+    fs::path prefix = LibraryFolder().parent_path();
+    std::vector<fs::path> folders = {prefix / "help"};
+    for (int level = 0; level < 3; ++level) {
+        folders.push_back(prefix / "share" / "radsel" / "help");
+        prefix = prefix.parent_path();
+    }
+    return folders;
 }
 
 } // namespace

@@ -10,6 +10,9 @@
 /// windows a dialog counts as cancelled. A library that was built with RADSEL_CHECKS, as every
 /// Debug build is, refuses a call that comes from a second thread while one runs: std::logic_error.
 ///
+/// A host whose libraries do not fit together or not to this module (host/host_identity.h) is told
+/// so once, in a message, and gets the answer "nothing" from every function.
+///
 /// Numbers are taken as they come. A required Leistung that is not-a-number or infinite lets no row
 /// be chosen, nor does a bound of length, height or depth that is not-a-number: -1. A LeistungMin
 /// that is not-a-number asks nothing. A negative Leistung is nearest to the weakest row. A

@@ -1,5 +1,6 @@
 #include "frame/entry_points.h"
 
+#include "module/host_check.h"
 #include "module/resource_context.h"
 #include "radiator/hk_vdi3805.h"
 #include "radiator/size_queries.h"
@@ -34,7 +35,7 @@ int HeizkoerperauswahlVDI3805(CDrawer* drawer, HK_DATEN_VDI3805_UEBERGABE* ueber
                               CString& layer, int& layerColor, bool showDialog, bool warnAndWiden)
 {
     const CResourceContext context;
-    if (uebergabe == nullptr) {
+    if (!HostFits() || uebergabe == nullptr) {
         return kNothingChosen;
     }
     CHKVdi3805 katalog(uebergabe);
@@ -49,7 +50,7 @@ int HeizkoerperauswahlVDI3805(CDrawer* drawer, HK_DATEN_VDI3805_UEBERGABE* ueber
 int HeizkoerperauswahlVDI3805Tree(HK_DATEN_VDI3805_UEBERGABE* uebergabe)
 {
     const CResourceContext context;
-    if (uebergabe == nullptr) {
+    if (!HostFits() || uebergabe == nullptr) {
         return kTreeCancelled;
     }
     CHKVdi3805 katalog(uebergabe);
@@ -62,33 +63,39 @@ void Read_HK_Masse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, OCArray<double>& hoehe
                    OCArray<double>& tiefen)
 {
     const CResourceContext context;
-    LeseMasse(uebergabe, hoehen, tiefen);
+    if (HostFits()) {
+        LeseMasse(uebergabe, hoehen, tiefen);
+    }
 }
 
 void Read_HK_Masse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tiefen,
                    short* laengen, double* inhalte, int capacity)
 {
     const CResourceContext context;
-    LeseMasse(uebergabe, hoehen, tiefen, laengen, inhalte, capacity);
+    if (HostFits()) {
+        LeseMasse(uebergabe, hoehen, tiefen, laengen, inhalte, capacity);
+    } else {
+        LeereMasse(hoehen, tiefen, laengen, inhalte, capacity);
+    }
 }
 
 double HKGetMinTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
 {
     const CResourceContext context;
-    return MinTiefe(uebergabe);
+    return HostFits() ? MinTiefe(uebergabe) : -1.0;
 }
 
 double HKGetMaxTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
 {
     const CResourceContext context;
-    return MaxTiefe(uebergabe);
+    return HostFits() ? MaxTiefe(uebergabe) : -1.0;
 }
 
 double GetHK_Inhalt(HK_DATEN_VDI3805_UEBERGABE& uebergabe, double hoehe, double tiefe,
                     double laenge)
 {
     const CResourceContext context;
-    return Inhalt(uebergabe, hoehe, tiefe, laenge);
+    return HostFits() ? Inhalt(uebergabe, hoehe, tiefe, laenge) : 0.0;
 }
 
 void DummyCall() {}

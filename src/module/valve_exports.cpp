@@ -2,6 +2,7 @@
 
 #include "connection/dialog/anschluss_dialog.h"
 #include "frame/ventil_kv.h"
+#include "module/host_check.h"
 #include "module/resource_context.h"
 #include "valve/dialog/ventil_dialog.h"
 #include "valve/ventil_abruf.h"
@@ -11,7 +12,8 @@ bool ShowVentDlg(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilVorlauf,
                  bool& typ, bool& fanCoil, TGA_LIST* heizkoerper, CDrawer* drawer)
 {
     const CResourceContext context;
-    return ZeigeAnschlussDialog(anschluss, ventilVorlauf, ventilRuecklauf, gruppenWaehlbar, ventile,
+    return HostFits() &&
+           ZeigeAnschlussDialog(anschluss, ventilVorlauf, ventilRuecklauf, gruppenWaehlbar, ventile,
                                 typ, fanCoil, heizkoerper, drawer);
 }
 
@@ -19,13 +21,13 @@ bool ShowVentVDI3805Dlg(const CString& ventilNr, const CString& hersteller,
                         VDI3805_VENTIL_KV& ventil)
 {
     const CResourceContext context;
-    return ZeigeVentilDialog(ventilNr, hersteller, ventil);
+    return HostFits() && ZeigeVentilDialog(ventilNr, hersteller, ventil);
 }
 
 bool VDI3805GetVentilDaten(VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2)
 {
     const CResourceContext context;
-    return HoleVentilDaten(ventil1, ventil2);
+    return HostFits() && HoleVentilDaten(ventil1, ventil2);
 }
 
 void VDI3805GetVentil(const CString& hersteller1, const CString& ventilNr1,

@@ -80,6 +80,14 @@ void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, OCArray<double>& hoehen,
     tiefen.Append(katalog.GetProdukt()->Tiefen);
 }
 
+void LeereMasse(short* hoehen, short* tiefen, short* laengen, double* inhalte, int capacity)
+{
+    FillPlaces(hoehen, short{-1}, capacity);
+    FillPlaces(tiefen, short{-1}, capacity);
+    FillPlaces(laengen, short{-1}, capacity);
+    FillPlaces(inhalte, -1.0, capacity);
+}
+
 void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tiefen, short* laengen,
                double* inhalte, int capacity)
 {

@@ -19,6 +19,9 @@ void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, OCArray<double>& hoehen,
 void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tiefen, short* laengen,
                double* inhalte, int capacity);
 
+/// What that form gives for a product without rows: all places unused. An array may be null.
+void LeereMasse(short* hoehen, short* tiefen, short* laengen, double* inhalte, int capacity);
+
 /// The product's smallest and largest depth in mm; -1.0 if it has no rows or no depths.
 double MinTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe);
 double MaxTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe);

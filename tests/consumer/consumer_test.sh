@@ -28,10 +28,11 @@ searches() { # file, folder that it may look for libraries in
     path=$(readelf -d "$1" | sed -nE 's/.*\((RUNPATH|RPATH)\).*\[(.*)\]/\2/p')
     [[ $path == "$2" ]] || fail "$1 looks for libraries in '$path'"
 }
-for library in "$prefix"/lib/lib*.so; do
+searches "$prefix/lib/libradsel.so" ''
+for library in "$prefix"/lib/radsel/reference_host/lib*.so; do
     searches "$library" '$ORIGIN'
 done
-searches "$prefix/bin/radsel_workbench" '$ORIGIN/../lib'
+searches "$prefix/bin/radsel_workbench" '$ORIGIN/../lib:$ORIGIN/../lib/radsel/reference_host'
 "$prefix/bin/radsel_workbench" --help >/dev/null
 
 kinds=()
@@ -57,4 +58,30 @@ grep -q "^radsel_DIR:PATH=$prefix/" "$work/consumer/CMakeCache.txt" ||
     fail "another radsel was found"
 quietly "$cmake" --build "$work/consumer" --parallel 2
 "$work/consumer/keep_records" || fail "records are not kept"
+
+# Every way to bring a host of one's own: it is the one that is asked.
+for way in silent_library named_library own_functions plugin; do
+    answer=$("$work/consumer/with_$way") || fail "with_$way: $answer"
+    [[ $answer == "0 T1" ]] || fail "with_$way: $answer"
+done
+
+# Every wrong way ends in one message that names what does not fit, and in no radiator.
+refused() { # program, pattern...
+    local program=$1
+    shift
+    ! "$work/consumer/$program" >"$work/answer" 2>"$work/message" || fail "$program: not refused"
+    [[ $(<"$work/answer") == "-1 " ]] || fail "$program: $(<"$work/answer")"
+    local pattern
+    for pattern in "$@"; do
+        grep -q -- "$pattern" "$work/message" || fail "$program: $(<"$work/message")"
+    done
+}
+refused with_mixed_hosts 'programmi diversi' 'ReadHKDaten: senza nome, .*libpart_of_a_host.so' \
+    '"radsel reference host", .*libHost'
+refused with_mixed_names 'ReadHKDaten: "a CAD", .*libnamed_part.so' '"radsel reference host"'
+refused with_old_host 'interfaccia 0 invece di' '"a CAD", .*libold_host.so'
+! "$cmake" --build "$work/consumer" --target without_host >"$work/log" 2>&1 ||
+    fail "a program without a host is linked"
+grep -q 'undefined.*HK_DATEN_VDI3805' "$work/log" || fail "$(<"$work/log")"
+
 "$here/example_test.sh" "$work/consumer/bind_radsel" "$prefix/share/radsel/catalogues"

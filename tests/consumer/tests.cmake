@@ -1,7 +1,7 @@
 set(consumer_dir ${CMAKE_CURRENT_LIST_DIR})
 
 add_executable(radsel_bind_example ${PROJECT_SOURCE_DIR}/examples/bind_radsel.cpp)
-target_link_libraries(radsel_bind_example PRIVATE radsel radsel_warnings)
+target_link_libraries(radsel_bind_example PRIVATE radsel reference_host radsel_warnings)
 add_test(NAME example COMMAND ${consumer_dir}/example_test.sh
     $<TARGET_FILE:radsel_bind_example> ${PROJECT_SOURCE_DIR}/data/catalogues)
 add_test(NAME host_guide COMMAND ${consumer_dir}/guide_test.sh

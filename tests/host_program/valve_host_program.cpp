@@ -4,11 +4,15 @@
 
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
+#include "host/host_identity.h"
 #include "host/host_prefs.h"
 
 #include <cstdlib>
 #include <iostream>
 #include <string>
+
+// All but the cache is the reference host's.
+RADSEL_HOST_IDENTITY("radsel reference host")
 
 namespace {
 

@@ -15,7 +15,7 @@ foreach(layer ${layers})
         add_library(whole_${room} MODULE ${CMAKE_CURRENT_LIST_FILE})
         set_target_properties(whole_${room} PROPERTIES LINKER_LANGUAGE CXX)
         target_link_libraries(whole_${room} PRIVATE $<LINK_LIBRARY:WHOLE_ARCHIVE,${room}>
-            HostPrefs HostCatalog HostFittings HostBase HostPrompts)
+            reference_host)
         target_link_options(whole_${room} PRIVATE -Wl,--no-undefined)
     endif()
 endforeach()

@@ -5,6 +5,7 @@
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
 #include "host/host_catalog.h"
+#include "host/host_identity.h"
 #include "host/host_prefs.h"
 #include "module/radsel_app.h"
 #include "module/resource_context.h"
@@ -30,6 +31,9 @@ CWinApp* appDuringFailure = nullptr;
 }
 
 } // namespace
+
+// All that is not defined here is the reference host's.
+RADSEL_HOST_IDENTITY("radsel reference host")
 
 HK_VDI3805_HERSTELLER* ReadHKDaten()
 {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/text.h"
+
+/// The shared library or the program that holds a piece of code in this process.
+class CLoadedLibrary
+{
+public:
+    /// The one that holds `address`.
+    explicit CLoadedLibrary(const void* address);
+
+    /// Its file, as the system knows it; empty if the address belongs to none.
+    const CString& File() const { return m_file; }
+
+    /// Where its own symbol of that name lies, null if it has none. What it merely uses of other
+    /// libraries does not count.
+    void* Find(const char* symbol) const;
+
+private:
+    CString m_file;
+    CString m_loadedAs;
+    const void* m_base = nullptr;
+};
