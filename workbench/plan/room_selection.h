@@ -23,6 +23,10 @@ enum class RoomStatus
     missing,
     /// What was chosen does not cover the room.
     lacking,
+    /// What was chosen does not fit its place.
+    tooLarge,
+    /// What was chosen covers the room and exceeds the need by more than the building allows.
+    oversized,
 };
 
 struct CRoomOutcome

@@ -1,6 +1,5 @@
 #include "workbench/plan/sizing.h"
 
-#include "platform/format.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/placement.h"
 
@@ -37,12 +36,12 @@ public:
     /// went well.
     std::optional<CRoomOutcome> FindFault() const
     {
-        if (!IsOpen(CoverageOf(m_room))) {
+        if (!IsOpen(CoverageOf(m_building, m_room))) {
             return m_failure && m_failure->status == RoomStatus::badCatalogue ? m_failure
                                                                               : std::nullopt;
         }
-        return m_failure.value_or(CRoomOutcome{
-            RoomStatus::unfitting, {}, L"mancano " + FormatFixed(RemainderOf(m_room), 0) + L" W"});
+        return m_failure.value_or(
+            CRoomOutcome{RoomStatus::unfitting, {}, DescribeCoverage(m_building, m_room)});
     }
 
 private:

@@ -194,7 +194,7 @@ void CPlanCommands::TellFaults(const CBuilding& building, const CSizingResult& r
 {
     QString message = QString("Corpi scaldanti scelti: %1.").arg(result.nSized);
     const auto open = std::ranges::count_if(result.faults, [&](const CSizingFault& fault) {
-        return IsOpen(CoverageOf(RoomOf(result.building, fault.room)));
+        return IsOpen(CoverageOf(result.building, RoomOf(result.building, fault.room)));
     });
     if (open > 0) {
         message += QString(" Locali da sistemare: %1.").arg(open);
@@ -235,7 +235,9 @@ bool CPlanCommands::ChangeSystem()
     }
     const CHeatingSystem system = dialog.GetSystem();
     CBuilding changed = m_document.Building();
+    changed.ueberschussMax = dialog.GetExcessMax();
     if (system == changed.system) {
+        m_document.Do(L"Limite di sovradimensionamento", std::move(changed));
         return false;
     }
     workbench::ChangeSystem(changed, system);
@@ -250,8 +252,9 @@ bool CPlanCommands::ChangeSystem()
 std::vector<CRoomRef> OpenRooms(const CBuilding& building)
 {
     std::vector<CRoomRef> rooms = AllRooms(building);
-    std::erase_if(rooms,
-                  [&](const CRoomRef& ref) { return !IsOpen(CoverageOf(RoomOf(building, ref))); });
+    std::erase_if(rooms, [&](const CRoomRef& ref) {
+        return !IsOpen(CoverageOf(building, RoomOf(building, ref)));
+    });
     return rooms;
 }
 

@@ -37,7 +37,8 @@ public:
     void Connect(const std::vector<CRadiatorRef>& radiators, CDrawer& drawer);
     void Remove(const std::vector<CRadiatorRef>& radiators);
 
-    /// Asks for another heating system of the building. False if it keeps its own.
+    /// Asks for another heating system of the building, and from what excess on radiators count as
+    /// oversized. False if it keeps its system.
     bool ChangeSystem();
 
 signals:
