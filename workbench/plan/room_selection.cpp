@@ -9,6 +9,7 @@
 #include "workbench/plan/wish_handover.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace workbench {
@@ -145,7 +146,38 @@ CRoomOutcome SearchRadiator(const CRadiatorWish& wish)
     return {RoomStatus::unfitting, found, DescribeNearest(wish, *found)};
 }
 
+/// Of radiators built to measure the catalogue has those from this share of the wished output on.
+constexpr double kBuiltFrom = 0.4;
+
+/// Nobody builds a weaker radiator, in watts.
+constexpr double kLeastOutput = 1.0;
+
+/// What gives less than is wished is nearest to it where it gives most.
+std::optional<CRadiatorChoice> SearchLargest(CRadiatorWish wish)
+{
+    std::optional<CRadiatorChoice> largest;
+    for (; wish.leistung >= kLeastOutput; wish.leistung *= kBuiltFrom) {
+        std::optional<CRadiatorChoice> found = Search(FillFromCatalogue(wish));
+        if (found && (!largest || found->daten.Leistung > largest->daten.Leistung)) {
+            largest = std::move(found);
+        }
+        if (largest && largest->daten.Leistung >= kBuiltFrom * wish.leistung) {
+            return largest;
+        }
+    }
+    return largest;
+}
+
 } // namespace
+
+std::optional<CRadiatorChoice> SelectLargest(CRadiatorWish wish)
+{
+    try {
+        return SearchLargest(std::move(wish));
+    } catch (const CModuleFault&) {
+        return std::nullopt;
+    }
+}
 
 CRoomOutcome SelectRadiator(const CRadiatorWish& wish)
 {

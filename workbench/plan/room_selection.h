@@ -43,4 +43,8 @@ struct CRoomOutcome
 /// than 90 per cent of it is not accepted. The catalogues are those of the host's settings.
 CRoomOutcome SelectRadiator(const CRadiatorWish& wish);
 
+/// The radiator of the wished product and within the wished limits that gives most, where none
+/// gives what is wished; nothing if none fits or the catalogue cannot be read.
+std::optional<CRadiatorChoice> SelectLargest(CRadiatorWish wish);
+
 } // namespace workbench

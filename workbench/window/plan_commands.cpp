@@ -185,6 +185,37 @@ void CPlanCommands::Size(const std::vector<CRoomRef>& rooms, const CString& what
     }
 }
 
+void CPlanCommands::Repair(const std::vector<CRoomRef>& rooms, const CString& what)
+{
+    const std::optional<Picked> picked = AskForPicked(m_document.Building(), rooms);
+    if (!picked) {
+        return;
+    }
+    CRepairResult result = RepairWithProgress(&m_window, m_document.Building(), rooms, *picked);
+    if (result.bCancelled) {
+        TellCancelled();
+        return;
+    }
+    TellRepair(result);
+    m_document.Do(what, std::move(result.building));
+}
+
+void CPlanCommands::TellRepair(const CRepairResult& result)
+{
+    const auto open = std::ranges::count_if(result.rooms, [&](const CRepairedRoom& repaired) {
+        return IsOpen(CoverageOf(result.building, RoomOf(result.building, repaired.room)));
+    });
+    QString message = QString("Riparazione: locali esaminati %1, ancora da sistemare %2.")
+                          .arg(result.rooms.size())
+                          .arg(open);
+    for (const CRepairedRoom& repaired : result.rooms) {
+        message += QString("\n%1: %2")
+                       .arg(ToQt(RoomOf(result.building, repaired.room).strName),
+                            ToQt(repaired.strReport));
+    }
+    emit Told(message);
+}
+
 void CPlanCommands::TellCancelled()
 {
     emit Told("Dimensionamento annullato: nulla è cambiato.");

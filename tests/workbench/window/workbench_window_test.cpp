@@ -189,8 +189,13 @@ TEST_F(WorkbenchWindow, AnotherSystemShowsWhichRoomsLackAndRepairsThem)
     Do("repair");
     EXPECT_EQ(StateOf(0, 3), Coverage::covered);
     EXPECT_EQ(Open(), lacking - 1);
+    EXPECT_TRUE(Messages().contains(QRegularExpression(
+        "locali esaminati 1, ancora da sistemare 0\\.\nCucina: .* W invece di ")))
+        << Messages().toStdString();
     Do("repairAll");
     EXPECT_LT(Open(), lacking - 1);
+    EXPECT_TRUE(Messages().contains(QRegularExpression("\nBiblioteca: non cambia, .*\n")))
+        << Messages().toStdString();
     Do("undo");
     EXPECT_EQ(Open(), lacking - 1);
 }
