@@ -187,6 +187,7 @@ TEST_F(PlanScheduleTest, ValvesAreThoseOfTheRadiatorsNotOfTheRooms)
     m_building.floors[0].rooms[0] = std::make_shared<const CRoom>(room);
     const CSchedule schedule = SchedulePlan(m_building);
     EXPECT_EQ(MakeValveBill(schedule).nMissing, 1);
+    EXPECT_EQ(JsonOf(schedule)["valvesMissing"], 1);
 }
 
 TEST_F(PlanScheduleTest, EveryOutputTellsSizesThatOughtToBeOthers)

@@ -126,6 +126,24 @@ TEST_F(WorkbenchWindow, AValveFileCutShortIsToldAndChangesNothing)
     EXPECT_TRUE(Messages().contains("ha.tga: riga ")) << Messages().toStdString();
 }
 
+TEST_F(WorkbenchWindow, ADamagedValveFileIsToldWhenTheBuildingOpensAndTheRestWorks)
+{
+    m_window->Start(m_path.wstring(), {});
+    EXPECT_EQ(Messages(), "") << "the sample's files are sound";
+    const fs::path valves = fs::path(m_folder.Path()) / "valvole";
+    fs::copy(fs::path(RADSEL_DATA_DIR) / "valves", valves, fs::copy_options::recursive);
+    std::ofstream(valves / "Fontespada" / "ha.tga") << "010;1;Prova;\n";
+    std::ofstream(valves / "M\u00f6hrental" / "ha.tga", std::ios::app) << "110;\n";
+    fs::remove(valves / "Ostervliet" / "ha.tga");
+    const CSettingOverride damaged(kSettingVEDir, valves.wstring());
+    m_window->Start(m_path.wstring(), {});
+    EXPECT_TRUE(Messages().contains("Fontespada/ha.tga: riga 1: ")) << Messages().toStdString();
+    EXPECT_TRUE(Messages().contains("hrental/ha.tga: riga ")) << Messages().toStdString();
+    EXPECT_FALSE(Messages().contains("Ostervliet")) << "no file is no damaged one";
+    Do("sizeAll");
+    EXPECT_EQ(Open(), 2u);
+}
+
 TEST_F(WorkbenchWindow, SizesThatOughtToBeOthersAreToldWhereverRoomsAreShown)
 {
     Do("sizeAll");
