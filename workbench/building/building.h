@@ -151,6 +151,10 @@ struct CClearance
     double sturz = 0.0;
 };
 
+/// Per cent by which the radiators of a room may exceed what is asked of them, unless a building
+/// has a limit of its own.
+inline constexpr double kUsualExcess = 15.0;
+
 /// A building. A value whose copies share the rooms that they have in common. Rooms have names
 /// unique in the whole building, floors among the floors.
 struct CBuilding
@@ -158,6 +162,8 @@ struct CBuilding
     CString strName;
     CHeatingSystem system;
     CClearance abstaende;
+    /// Per cent by which the radiators of a room may exceed what is asked of them.
+    double ueberschussMax = kUsualExcess;
     /// What a new room gets; rooms hold their own.
     CValveKeys ventile;
     std::vector<CFloor> floors;

@@ -25,6 +25,9 @@ constexpr int kNewestVersion = kVersionWithPlan;
 /// In mm; no building leaves more room than that below a radiator or above it.
 constexpr double kLargestClearance = 20000.0;
 
+/// In per cent; beyond it a number was mistaken.
+constexpr double kLargestExcess = 1000.0;
+
 /// Outlines drawn along the middle of a wall may overlap by its thickness, in mm.
 constexpr double kThickestWall = 300.0;
 
@@ -191,6 +194,7 @@ CBuilding ReadBuilding(CJsonFields fields)
     building.strNotiz = NoteOf(fields);
     building.system = ReadSystem(fields.Object("system"));
     building.abstaende = ReadClearance(fields.Object("clearance"));
+    building.ueberschussMax = fields.NumberOr("oversizedAbove", 0.0, kLargestExcess, kUsualExcess);
     building.ventile = ReadValveKeys(fields, {});
     std::vector<CJsonFields> floors = fields.Objects("floors", L"piano");
     fields.RefuseUnknown();
@@ -218,6 +222,9 @@ void WriteBuilding(CJsonWriter& writer, const char* name, const CBuilding& build
               building.system.ruecklauf);
     WritePair(writer, "clearance", "floor", building.abstaende.boden, "sill",
               building.abstaende.sturz);
+    if (building.ueberschussMax != kUsualExcess) {
+        writer.Number("oversizedAbove", building.ueberschussMax);
+    }
     WriteValveKeys(writer, building.ventile, {});
     writer.BeginList("floors");
     for (const CFloor& floor : building.floors) {

@@ -1,8 +1,68 @@
 #include "workbench/plan/coverage.h"
 
+#include "platform/format.h"
+#include "workbench/plan/placement.h"
+
+#include <algorithm>
 #include <numeric>
 
 namespace workbench {
+
+namespace {
+
+bool HasTooLarge(const CBuilding& building, const CRoom& room)
+{
+    return std::ranges::any_of(room.heizkoerper, [&](const CPlacedRadiator& radiator) {
+        return !FitsPlace(room, room.plaetze.at(radiator.nPlatz), building.abstaende,
+                          radiator.daten);
+    });
+}
+
+bool ExceedsLimit(const CBuilding& building, const CRoom& room)
+{
+    const double asked = room.GetLeistung();
+    return 100.0 * (OutputOf(room) - asked) > building.ueberschussMax * asked;
+}
+
+CString Percent(double part, double whole)
+{
+    return FormatFixed(100.0 * part / whole, 1) + L" %";
+}
+
+CString Joined(const CString& a, const CString& b)
+{
+    return a + (a.empty() || b.empty() ? L"" : L"; ") + b;
+}
+
+CString DescribeLack(const CRoom& room)
+{
+    const double missing = RemainderOf(room);
+    return L"mancano " + FormatFixed(missing, 0) + L" W (" + Percent(missing, room.GetLeistung()) +
+           L")";
+}
+
+CString DescribeSurplus(const CBuilding& building, const CRoom& room)
+{
+    const double asked = room.GetLeistung();
+    return FormatFixed(-RemainderOf(room), 0) + L" W in più (" +
+           Percent(OutputOf(room) - asked, asked) + L", limite " +
+           FormatExact(building.ueberschussMax) + L" %)";
+}
+
+/// What does not fit, and what that leaves of the demand.
+CString DescribeTooLarge(const CBuilding& building, const CRoom& room)
+{
+    CString text;
+    for (const CPlacedRadiator& radiator : room.heizkoerper) {
+        const CString excess = DescribeExcess(building, room, radiator);
+        const bool isNamed = room.heizkoerper.size() > 1 && !excess.empty();
+        text = Joined(text, isNamed ? radiator.strTyp + L": " + excess : excess);
+    }
+    const bool isLacking = OutputOf(room) < WeakestOutput(room.GetLeistung());
+    return Joined(text, isLacking ? DescribeLack(room) : CString());
+}
+
+} // namespace
 
 double OutputOf(const CRoom& room)
 {
@@ -26,21 +86,80 @@ double WeakestOutput(double asked)
     return (1.0 - kCoverTolerance) * asked;
 }
 
-Coverage CoverageOf(const CRoom& room)
+Coverage CoverageOf(const CBuilding& building, const CRoom& room)
 {
+    if (HasTooLarge(building, room)) {
+        return Coverage::tooLarge;
+    }
     if (room.GetLeistung() <= 0.0) {
         return Coverage::notNeeded;
     }
     if (room.heizkoerper.empty()) {
         return Coverage::empty;
     }
-    return OutputOf(room) >= WeakestOutput(room.GetLeistung()) ? Coverage::covered
-                                                               : Coverage::lacking;
+    if (OutputOf(room) < WeakestOutput(room.GetLeistung())) {
+        return Coverage::lacking;
+    }
+    return ExceedsLimit(building, room) ? Coverage::oversized : Coverage::covered;
 }
 
 bool IsOpen(Coverage coverage)
 {
-    return coverage == Coverage::lacking || coverage == Coverage::empty;
+    return coverage == Coverage::lacking || coverage == Coverage::empty ||
+           coverage == Coverage::tooLarge;
+}
+
+bool IsMissized(Coverage coverage)
+{
+    return coverage == Coverage::tooLarge || coverage == Coverage::oversized;
+}
+
+CString GetCoverageText(Coverage coverage)
+{
+    switch (coverage) {
+    case Coverage::notNeeded:
+        return L"nessun corpo scaldante necessario";
+    case Coverage::covered:
+        return L"coperto";
+    case Coverage::lacking:
+        return L"insufficiente";
+    case Coverage::empty:
+        return L"manca il corpo scaldante";
+    case Coverage::tooLarge:
+        return L"troppo grande per il posto";
+    case Coverage::oversized:
+        return L"sovradimensionato";
+    }
+    return {};
+}
+
+CString DescribeCoverage(const CBuilding& building, const CRoom& room)
+{
+    switch (CoverageOf(building, room)) {
+    case Coverage::notNeeded:
+    case Coverage::covered:
+        break;
+    case Coverage::lacking:
+    case Coverage::empty:
+        return DescribeLack(room);
+    case Coverage::tooLarge:
+        return DescribeTooLarge(building, room);
+    case Coverage::oversized:
+        return DescribeSurplus(building, room);
+    }
+    return {};
+}
+
+CString DescribeExcess(const CBuilding& building, const CRoom& room,
+                       const CPlacedRadiator& radiator)
+{
+    const CRadiatorPlace& place = room.plaetze.at(radiator.nPlatz);
+    CString text;
+    for (const CString& excess :
+         FindExcess(LimitsOfPlace(room, place, building.abstaende), radiator.daten)) {
+        text = Joined(text, excess);
+    }
+    return text;
 }
 
 } // namespace workbench

@@ -4,7 +4,7 @@
 
 namespace workbench {
 
-/// How well the heat demand of a room is met.
+/// How a room stands: how well its heat demand is met, and by radiators of what size.
 enum class Coverage
 {
     /// Nothing is asked of radiators.
@@ -15,6 +15,11 @@ enum class Coverage
     lacking,
     /// There is no radiator.
     empty,
+    /// A radiator does not fit its place, whatever it gives.
+    tooLarge,
+    /// The radiators fit, and all of them together exceed what is asked by more than the building
+    /// allows.
+    oversized,
 };
 
 /// Fraction of the need by which radiators may miss it.
@@ -32,9 +37,24 @@ double RemainderOf(const CRoom& room);
 /// The least output that counts as giving what is asked, both in watts.
 double WeakestOutput(double asked);
 
-Coverage CoverageOf(const CRoom& room);
+/// The room must be one of the building, which says what radiators keep free and may exceed.
+Coverage CoverageOf(const CBuilding& building, const CRoom& room);
 
-/// True for a room that a designer has to look after: lacking or empty.
+/// True for a room that a designer has to look after: lacking, empty or too large.
 bool IsOpen(Coverage coverage);
+
+/// True where the demand is met or exceeded by radiators of a size that ought to be another.
+bool IsMissized(Coverage coverage);
+
+/// In a few words for the user.
+CString GetCoverageText(Coverage coverage);
+
+/// What a room lacks or has too much of, in figures; empty for one that is as it should be.
+CString DescribeCoverage(const CBuilding& building, const CRoom& room);
+
+/// What of a radiator is beyond its place, for example "altezza 900 mm, consentiti 720 mm"; empty
+/// if it fits.
+CString DescribeExcess(const CBuilding& building, const CRoom& room,
+                       const CPlacedRadiator& radiator);
 
 } // namespace workbench

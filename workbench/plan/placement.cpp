@@ -1,5 +1,7 @@
 #include "workbench/plan/placement.h"
 
+#include "platform/format.h"
+
 #include <algorithm>
 
 namespace workbench {
@@ -48,6 +50,11 @@ CPlaceLine InMetres(const CPlaceLine& line)
 {
     return {kMillimetre * line.dX1, kMillimetre * line.dY1, kMillimetre * line.dX2,
             kMillimetre * line.dY2};
+}
+
+CString Millimetres(double value)
+{
+    return FormatExact(value) + L" mm";
 }
 
 /// The narrowest free place of the kind that the row fits.
@@ -102,12 +109,29 @@ CRadiatorPose PoseOf(const CRoom& room, const CPlacedRadiator& radiator)
     return pose;
 }
 
+std::vector<CString> FindExcess(const CSizeLimits& limits, const HK_DATEN_VDI3805& daten)
+{
+    std::vector<CString> excess;
+    const auto add = [&](const CString& name, double value, double limit) {
+        if (value > limit) {
+            excess.push_back(name + L" " + Millimetres(value) + L", consentiti " +
+                             Millimetres(limit));
+        }
+    };
+    add(L"altezza", daten.Hoehe, limits.hoeheMax);
+    add(L"lunghezza", daten.Laenge, limits.laengeMax);
+    add(L"profondità", daten.Tiefe, limits.tiefeMax);
+    if (daten.Tiefe < limits.tiefeMin) {
+        excess.push_back(L"profondità " + Millimetres(daten.Tiefe) + L", richiesti almeno " +
+                         Millimetres(limits.tiefeMin));
+    }
+    return excess;
+}
+
 bool FitsPlace(const CRoom& room, const CRadiatorPlace& place, const CClearance& clearance,
                const HK_DATEN_VDI3805& daten)
 {
-    const CSizeLimits limits = LimitsOfPlace(room, place, clearance);
-    return daten.Hoehe <= limits.hoeheMax && daten.Laenge <= limits.laengeMax &&
-           daten.Tiefe >= limits.tiefeMin && daten.Tiefe <= limits.tiefeMax;
+    return FindExcess(LimitsOfPlace(room, place, clearance), daten).empty();
 }
 
 std::optional<std::size_t> FindFreePlace(const CRoom& room, const CClearance& clearance,

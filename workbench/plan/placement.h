@@ -39,6 +39,10 @@ CPlaceLine LineOf(const CRoom& room, const CRadiatorPlace& place);
 /// and floor.
 CRadiatorPose PoseOf(const CRoom& room, const CPlacedRadiator& radiator);
 
+/// What of a row is beyond the limits, each a text for the user ("altezza 900 mm, consentiti 720
+/// mm"); nothing if it fits. The search for radiators asks here as the state of a room does.
+std::vector<CString> FindExcess(const CSizeLimits& limits, const HK_DATEN_VDI3805& daten);
+
 /// True if the radiator's row is within the limits of the place.
 bool FitsPlace(const CRoom& room, const CRadiatorPlace& place, const CClearance& clearance,
                const HK_DATEN_VDI3805& daten);

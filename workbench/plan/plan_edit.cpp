@@ -89,6 +89,13 @@ std::vector<CRoomRef> AllRooms(const CBuilding& building)
     return refs;
 }
 
+std::vector<CRoomRef> InOrder(std::vector<CRoomRef> rooms)
+{
+    std::ranges::sort(rooms);
+    rooms.erase(std::unique(rooms.begin(), rooms.end()), rooms.end());
+    return rooms;
+}
+
 void ReplaceRoom(CBuilding& building, const CRoomRef& ref, CRoom room)
 {
     building.floors.at(ref.nFloor).rooms.at(ref.nRoom) =

@@ -36,6 +36,9 @@ const CPlacedRadiator& RadiatorOf(const CBuilding& building, const CRadiatorRef&
 /// All rooms of the building, floor by floor.
 std::vector<CRoomRef> AllRooms(const CBuilding& building);
 
+/// Each of the rooms once, in the order of the building.
+std::vector<CRoomRef> InOrder(std::vector<CRoomRef> rooms);
+
 /// Puts another room, or another radiator, in place of the one there, which must exist. Other
 /// states of the building keep theirs.
 void ReplaceRoom(CBuilding& building, const CRoomRef& ref, CRoom room);

@@ -32,4 +32,13 @@ inline CRadiatorChoice ChoiceOf(const CPlacedRadiator& radiator)
             CRadiatorLayer{radiator.strLayer, radiator.nFarbe}, radiator.strBlock};
 }
 
+/// True if what was chosen is what stands there.
+inline bool IsSameRow(const CPlacedRadiator& radiator, const CRadiatorChoice& chosen)
+{
+    return ProductOf(radiator) == chosen.produkt && radiator.strTyp == chosen.strTyp &&
+           radiator.daten.Hoehe == chosen.daten.Hoehe &&
+           radiator.daten.Tiefe == chosen.daten.Tiefe &&
+           radiator.daten.Laenge == chosen.daten.Laenge;
+}
+
 } // namespace workbench

@@ -5,9 +5,11 @@
 #include "platform/format.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/module_call.h"
+#include "workbench/plan/placement.h"
 #include "workbench/plan/wish_handover.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace workbench {
@@ -81,28 +83,9 @@ std::optional<CRadiatorChoice> SearchBeyond(const CRadiatorWish& wish)
     return std::nullopt;
 }
 
-CString Millimetres(double value)
-{
-    return FormatExact(value) + L" mm";
-}
-
-void AddExcess(std::vector<CString>& lacks, const CString& name, double value, double limit)
-{
-    if (value > limit) {
-        lacks.push_back(name + L" " + Millimetres(value) + L", consentiti " + Millimetres(limit));
-    }
-}
-
 std::vector<CString> FindLacks(const CRadiatorWish& wish, const HK_DATEN_VDI3805& daten)
 {
-    std::vector<CString> lacks;
-    AddExcess(lacks, L"altezza", daten.Hoehe, wish.grenzen.hoeheMax);
-    AddExcess(lacks, L"lunghezza", daten.Laenge, wish.grenzen.laengeMax);
-    AddExcess(lacks, L"profondità", daten.Tiefe, wish.grenzen.tiefeMax);
-    if (daten.Tiefe < wish.grenzen.tiefeMin) {
-        lacks.push_back(L"profondità " + Millimetres(daten.Tiefe) + L", richiesti almeno " +
-                        Millimetres(wish.grenzen.tiefeMin));
-    }
+    std::vector<CString> lacks = FindExcess(wish.grenzen, daten);
     if (daten.Leistung < WeakestOutput(wish.leistung)) {
         const double missing = wish.leistung - daten.Leistung;
         lacks.push_back(L"mancano " + FormatFixed(missing, 0) + L" W (" +
@@ -115,8 +98,8 @@ CString DescribeNearest(const CRadiatorWish& wish, const CRadiatorChoice& neares
 {
     const HK_DATEN_VDI3805& daten = nearest.daten;
     CString text = L"il più vicino è " + nearest.strTyp + L", " + FormatExact(daten.Hoehe) +
-                   L" x " + FormatExact(daten.Tiefe) + L" x " + Millimetres(daten.Laenge) + L", " +
-                   FormatFixed(daten.Leistung, 0) + L" W";
+                   L" x " + FormatExact(daten.Tiefe) + L" x " + FormatExact(daten.Laenge) +
+                   L" mm, " + FormatFixed(daten.Leistung, 0) + L" W";
     CString separator = L": ";
     for (const CString& lack : FindLacks(wish, daten)) {
         text += separator + lack;
@@ -163,7 +146,38 @@ CRoomOutcome SearchRadiator(const CRadiatorWish& wish)
     return {RoomStatus::unfitting, found, DescribeNearest(wish, *found)};
 }
 
+/// Of radiators built to measure the catalogue has those from this share of the wished output on.
+constexpr double kBuiltFrom = 0.4;
+
+/// Nobody builds a weaker radiator, in watts.
+constexpr double kLeastOutput = 1.0;
+
+/// What gives less than is wished is nearest to it where it gives most.
+std::optional<CRadiatorChoice> SearchLargest(CRadiatorWish wish)
+{
+    std::optional<CRadiatorChoice> largest;
+    for (; wish.leistung >= kLeastOutput; wish.leistung *= kBuiltFrom) {
+        std::optional<CRadiatorChoice> found = Search(FillFromCatalogue(wish));
+        if (found && (!largest || found->daten.Leistung > largest->daten.Leistung)) {
+            largest = std::move(found);
+        }
+        if (largest && largest->daten.Leistung >= kBuiltFrom * wish.leistung) {
+            return largest;
+        }
+    }
+    return largest;
+}
+
 } // namespace
+
+std::optional<CRadiatorChoice> SelectLargest(CRadiatorWish wish)
+{
+    try {
+        return SearchLargest(std::move(wish));
+    } catch (const CModuleFault&) {
+        return std::nullopt;
+    }
+}
 
 CRoomOutcome SelectRadiator(const CRadiatorWish& wish)
 {

@@ -23,6 +23,10 @@ enum class RoomStatus
     missing,
     /// What was chosen does not cover the room.
     lacking,
+    /// What was chosen does not fit its place.
+    tooLarge,
+    /// What was chosen covers the room and exceeds the need by more than the building allows.
+    oversized,
 };
 
 struct CRoomOutcome
@@ -38,5 +42,9 @@ struct CRoomOutcome
 /// temperatures is nearest to the wished one, through the module's silent selection. One weaker
 /// than 90 per cent of it is not accepted. The catalogues are those of the host's settings.
 CRoomOutcome SelectRadiator(const CRadiatorWish& wish);
+
+/// The radiator of the wished product and within the wished limits that gives most, where none
+/// gives what is wished; nothing if none fits or the catalogue cannot be read.
+std::optional<CRadiatorChoice> SelectLargest(CRadiatorWish wish);
 
 } // namespace workbench

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "workbench/plan/new_radiator.h"
 #include "workbench/plan/plan_edit.h"
-#include "workbench/plan/room_selection.h"
+#include "workbench/plan/room_sizing.h"
 
 #include <functional>
 
@@ -33,13 +32,6 @@ struct CSizingResult
 /// one is not asked.
 using SizingProgress = std::function<bool(std::size_t done, std::size_t all)>;
 
-/// What becomes of radiators that the designer picked himself.
-enum class Picked
-{
-    stay,
-    sizedAnew,
-};
-
 /// True if any of the rooms has a radiator that was picked by hand.
 bool HasPicked(const CBuilding& building, const std::vector<CRoomRef>& rooms);
 
@@ -47,9 +39,9 @@ bool HasPicked(const CBuilding& building, const std::vector<CRoomRef>& rooms);
 /// module: a room without radiator gets one at a free place; a room with one keeps place,
 /// distances, layer, connection and valves and gets another size; of several radiators each is
 /// sized for its share of what they gave before. Where radiators picked by hand stay, the others
-/// share what those leave. A radiator that no row can replace stays as it is,
-/// and the room is told as a fault if it stays open. Rooms that need nothing are passed over, as
-/// are references to rooms that do not exist.
+/// share what those leave. A radiator that no row can replace stays as it is, and the room is told
+/// as a fault if it stays open. Rooms that need nothing are passed over, as are references to rooms
+/// that do not exist.
 CSizingResult SizeRooms(const CBuilding& building, const std::vector<CRoomRef>& rooms,
                         const SizingProgress& progress, Picked picked = Picked::stay);
 

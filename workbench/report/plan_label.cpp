@@ -1,7 +1,6 @@
 #include "workbench/report/plan_label.h"
 
 #include "workbench/building/qt_text.h"
-#include "workbench/plan/coverage.h"
 #include "workbench/report/plan_legend.h"
 
 #include <algorithm>
@@ -35,7 +34,10 @@ QString Watt(double value)
 class CRoomLabelPainter
 {
 public:
-    CRoomLabelPainter(CReportSheet& sheet, const CRoom& room) : m_sheet(sheet), m_room(room) {}
+    CRoomLabelPainter(CReportSheet& sheet, const CRoom& room, Coverage coverage)
+        : m_sheet(sheet), m_room(room), m_coverage(coverage)
+    {
+    }
 
     void Paint(const QRectF& free)
     {
@@ -75,7 +77,7 @@ private:
                 const double top = free.center().y() - (title + 3 * line) / 2;
                 PaintName({free.left(), top, free.width(), title}, name, shrink * kNamePoints);
                 PaintLines({free.left(), top + title, free.width(), line}, figures, look,
-                           PrintInkOf(CoverageOf(m_room)));
+                           PrintInkOf(m_coverage));
                 return true;
             }
         }
@@ -120,13 +122,14 @@ private:
 
     CReportSheet& m_sheet;
     const CRoom& m_room;
+    Coverage m_coverage;
 };
 
 } // namespace
 
-void PaintRoomLabel(CReportSheet& sheet, const QRectF& space, const CRoom& room)
+void PaintRoomLabel(CReportSheet& sheet, const QRectF& space, const CRoom& room, Coverage coverage)
 {
-    CRoomLabelPainter(sheet, room).Paint(space.adjusted(kEdge, kEdge, -kEdge, -kEdge));
+    CRoomLabelPainter(sheet, room, coverage).Paint(space.adjusted(kEdge, kEdge, -kEdge, -kEdge));
 }
 
 void PaintRadiatorNumber(CReportSheet& sheet, const QString& number, double output, double space,

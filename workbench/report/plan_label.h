@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/building/building.h"
+#include "workbench/plan/coverage.h"
 #include "workbench/report/report_sheet.h"
 
 namespace workbench {
@@ -12,8 +12,9 @@ inline constexpr double kNumberHeight = 2.3;
 
 /// Writes a room's name, its demand, what is covered of that and what is left into the middle of
 /// the space, along its longer side where they do not fit along the other. Where they fit along
-/// none it is the name alone, and where that could not be read, nothing.
-void PaintRoomLabel(CReportSheet& sheet, const QRectF& space, const CRoom& room);
+/// none it is the name alone, and where that could not be read, nothing. What is left has the
+/// colour of how the room stands.
+void PaintRoomLabel(CReportSheet& sheet, const QRectF& space, const CRoom& room, Coverage coverage);
 
 /// Writes a radiator's number with its output, in that space without it, about the painter's origin
 /// into a line `away` below it. Nothing if there is not even space for the number.

@@ -1,10 +1,13 @@
 #include "workbench/report/plan_legend.h"
 
+#include "workbench/building/qt_text.h"
+
 #include <QPainterPath>
 #include <QTransform>
 
 #include <algorithm>
-#include <iterator>
+#include <ranges>
+#include <span>
 
 namespace workbench {
 
@@ -15,15 +18,20 @@ struct CCoverageLook
     Coverage coverage;
     QColor fill;
     QColor ink;
-    const char* lpszText;
 };
 
 const CCoverageLook kLooks[] = {
-    {Coverage::covered, {236, 247, 239}, {18, 104, 66}, "coperto"},
-    {Coverage::lacking, {252, 228, 219}, {176, 34, 20}, "insufficiente"},
-    {Coverage::empty, {254, 246, 219}, {146, 94, 0}, "manca il corpo scaldante"},
-    {Coverage::notNeeded, {243, 244, 246}, {98, 106, 116}, "nessun corpo scaldante necessario"},
+    {Coverage::covered, {236, 247, 239}, {18, 104, 66}},
+    {Coverage::lacking, {252, 228, 219}, {176, 34, 20}},
+    {Coverage::empty, {254, 246, 219}, {146, 94, 0}},
+    {Coverage::notNeeded, {243, 244, 246}, {98, 106, 116}},
+    {Coverage::tooLarge, {246, 228, 246}, {132, 28, 132}},
+    {Coverage::oversized, {226, 236, 251}, {32, 78, 160}},
 };
+
+/// Every plan tells these colours; the others only where a room has them, on a line below.
+constexpr std::size_t kAlwaysTold = 4;
+constexpr double kLegendLine = 4.0;
 
 const CCoverageLook& LookOf(Coverage coverage)
 {
@@ -75,18 +83,28 @@ void PaintScaleBar(CReportSheet& sheet, const QPointF& corner, int scale)
                "Scala 1:" + QString::number(scale), {8.0, true, kInk, Qt::AlignLeft});
 }
 
-void PaintLegend(CReportSheet& sheet, const QPointF& corner)
+void PaintLegend(CReportSheet& sheet, const QPointF& corner, const std::set<Coverage>& shown)
 {
     const CTextLook look{6.5, false, kInk, Qt::AlignLeft};
-    double right = corner.x();
-    for (auto entry = std::rbegin(kLooks); entry != std::rend(kLooks); ++entry) {
-        const QString text = entry->lpszText;
+    const auto paint = [&](const CCoverageLook& entry, QPointF& place) {
+        const QString text = ToQt(GetCoverageText(entry.coverage));
         const double width = sheet.WidthOf(text, look) + 1.0;
-        sheet.Text({right - width, corner.y() + 3.2, width, 3.0}, text, look);
-        const QRectF box(right - width - 5.5, corner.y() + 3.3, 4.2, 2.8);
-        sheet.Fill(box, entry->fill);
-        sheet.Frame(box, 0.12, entry->ink);
-        right -= width + 10.0;
+        sheet.Text({place.x() - width, place.y() + 3.2, width, 3.0}, text, look);
+        const QRectF box(place.x() - width - 5.5, place.y() + 3.3, 4.2, 2.8);
+        sheet.Fill(box, entry.fill);
+        sheet.Frame(box, 0.12, entry.ink);
+        place.rx() -= width + 10.0;
+    };
+    const std::span<const CCoverageLook> looks(kLooks);
+    QPointF place = corner;
+    for (const CCoverageLook& entry : std::views::reverse(looks.first(kAlwaysTold))) {
+        paint(entry, place);
+    }
+    place = corner + QPointF(0.0, kLegendLine);
+    for (const CCoverageLook& entry : std::views::reverse(looks.subspan(kAlwaysTold))) {
+        if (shown.contains(entry.coverage)) {
+            paint(entry, place);
+        }
     }
 }
 

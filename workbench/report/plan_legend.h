@@ -3,9 +3,11 @@
 #include "workbench/plan/coverage.h"
 #include "workbench/report/report_sheet.h"
 
+#include <set>
+
 namespace workbench {
 
-/// How a printed plan shows whether a room is covered: a light fill, and a strong form of it for
+/// How a printed plan shows how a room stands: a light fill, and a strong form of it for
 /// figures on that fill.
 QColor PrintFillOf(Coverage coverage);
 QColor PrintInkOf(Coverage coverage);
@@ -13,8 +15,9 @@ QColor PrintInkOf(Coverage coverage);
 /// Paints a bar of the scale with its name, 6.5 mm high, from its upper left corner.
 void PaintScaleBar(CReportSheet& sheet, const QPointF& corner, int scale);
 
-/// Paints what the fills mean, in a line of that height, from its upper right corner.
-void PaintLegend(CReportSheet& sheet, const QPointF& corner);
+/// Paints what the fills mean, in a line of that height, from its upper right corner. What sizes
+/// that ought to be others look like comes on a second line, as far as any room shows it.
+void PaintLegend(CReportSheet& sheet, const QPointF& corner, const std::set<Coverage>& shown);
 
 /// Paints an arrow to the north, 12 mm high, from its tip.
 void PaintNorth(CReportSheet& sheet, const QPointF& tip);

@@ -58,7 +58,7 @@ public:
             m_pages.push_back([this, i](CReportSheet& sheet) { PaintFloor(sheet, i); });
         }
         AddTables({MakeScheduleTable(m_schedule), MakeOpenRoomsTable(m_schedule),
-                   MakeValveTable(m_schedule)},
+                   MakeMissizedTable(m_schedule), MakeValveTable(m_schedule)},
                   0.0);
     }
 

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <set>
 
 namespace workbench {
 
@@ -67,11 +68,11 @@ public:
         Stroke(walls, kWallEdge, OutlineWidth());
     }
 
-    void PaintRoom(const CRoom& room)
+    void PaintRoom(const CRoom& room, Coverage coverage)
     {
         QPainterPath floor;
         floor.addRect(MetresOf(room.grundriss));
-        m_painter.fillPath(m_toPaper.map(floor), PrintFillOf(CoverageOf(room)));
+        m_painter.fillPath(m_toPaper.map(floor), PrintFillOf(coverage));
         Stroke(floor, kWallEdge, OutlineWidth());
     }
 
@@ -94,7 +95,10 @@ public:
         }
     }
 
-    void PaintLabel(const CRoom& room) { PaintRoomLabel(m_sheet, OnPaper(FreeFloor(room)), room); }
+    void PaintLabel(const CRoom& room, Coverage coverage)
+    {
+        PaintRoomLabel(m_sheet, OnPaper(FreeFloor(room)), room, coverage);
+    }
 
     /// On the radiator's side towards the room, to be read from below or from the right.
     void PaintNumber(const CRoom& room, const CPlacedRadiator& radiator, const QString& number)
@@ -221,7 +225,7 @@ private:
 
 CPlanPicture::CPlanPicture(const CBuilding& building, std::size_t floor,
                            const CDxfDrawing& radiators, const CBlockLibrary* valves)
-    : m_floor(building.floors[floor]), m_nFloor(floor),
+    : m_building(building), m_floor(building.floors[floor]), m_nFloor(floor),
       m_drawing(MakeFloorDrawing(building, floor, radiators, valves)), m_walls(WalledArea(m_floor))
 {
 }
@@ -244,19 +248,22 @@ void CPlanPicture::Paint(CReportSheet& sheet, const QRectF& area, int scale) con
     CPlanPainter painter(sheet, m_walls.boundingRect(), place.center(), scale);
     painter.PaintWalls(m_walls);
     for (const auto& room : m_floor.rooms) {
-        painter.PaintRoom(*room);
+        painter.PaintRoom(*room, CoverageOf(m_building, *room));
     }
     painter.PaintWindows(m_drawing);
     painter.PaintInserts(m_drawing);
     std::size_t number = 0;
+    std::set<Coverage> shown;
     for (const auto& room : m_floor.rooms) {
-        painter.PaintLabel(*room);
+        const Coverage coverage = CoverageOf(m_building, *room);
+        shown.insert(coverage);
+        painter.PaintLabel(*room, coverage);
         for (const CPlacedRadiator& radiator : room->heizkoerper) {
             painter.PaintNumber(*room, radiator, RadiatorNumber(m_nFloor, number++));
         }
     }
     PaintScaleBar(sheet, {area.left() + 2.0, place.bottom() + 3.0}, scale);
-    PaintLegend(sheet, {area.right(), place.bottom() + 3.0});
+    PaintLegend(sheet, {area.right(), place.bottom() + 3.0}, shown);
     PaintNorth(sheet, {area.right() - 5.0, area.top() + 1.0});
 }
 

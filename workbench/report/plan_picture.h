@@ -27,6 +27,7 @@ public:
     void Paint(CReportSheet& sheet, const QRectF& area, int scale) const;
 
 private:
+    const CBuilding& m_building;
     const CFloor& m_floor;
     std::size_t m_nFloor;
     CDxfDrawing m_drawing;

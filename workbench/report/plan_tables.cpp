@@ -113,6 +113,20 @@ CReportTable MakeOpenRoomsTable(const CSchedule& schedule)
     return table;
 }
 
+CReportTable MakeMissizedTable(const CSchedule& schedule)
+{
+    constexpr Output output = Output::paperMissized;
+    CReportTable table = MakeTable("Misure da controllare", ScheduleColumns(), output);
+    for (const CScheduleFloor& floor : schedule.floors) {
+        for (const CScheduleRow& row : floor.rows) {
+            if (row.bErster && IsMissized(row.outcome.status)) {
+                table.rows.push_back(MakeRow(output, {floor.strName, row, {}}, RowLook::plain));
+            }
+        }
+    }
+    return table;
+}
+
 CReportTable MakeValveTable(const CSchedule& schedule)
 {
     constexpr Output output = Output::paper;

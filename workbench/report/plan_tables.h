@@ -13,8 +13,12 @@ CReportTable MakeTotalsTable(const CSchedule& schedule);
 /// Every radiator with its number and every room without one, with sums.
 CReportTable MakeScheduleTable(const CSchedule& schedule);
 
-/// Rooms that are not covered, and how much they lack.
+/// Rooms that someone has to look after, and how much they lack.
 CReportTable MakeOpenRoomsTable(const CSchedule& schedule);
+
+/// Rooms with a radiator that does not fit its place, or with more output than the building allows,
+/// and by how much.
+CReportTable MakeMissizedTable(const CSchedule& schedule);
 
 /// The valves to be ordered.
 CReportTable MakeValveTable(const CSchedule& schedule);

@@ -47,8 +47,10 @@ enum class Output
     paper,
     /// Its sums, a line a floor.
     paperSums,
-    /// Its rooms that are not covered.
+    /// Its rooms that someone has to look after.
     paperOpen,
+    /// Its rooms with radiators of a size that ought to be another.
+    paperMissized,
 };
 
 /// How a column looks in one output.

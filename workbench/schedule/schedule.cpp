@@ -1,6 +1,5 @@
 #include "workbench/schedule/schedule.h"
 
-#include "platform/format.h"
 #include "workbench/plan/coverage.h"
 
 #include <algorithm>
@@ -36,35 +35,40 @@ private:
     std::map<std::pair<Key, Key>, CRoomValves> m_fetched;
 };
 
-CString DescribeLack(const CRoom& room)
+RoomStatus StatusOf(const CRoom& room, Coverage coverage)
 {
-    const double missing = RemainderOf(room);
-    return L"mancano " + FormatFixed(missing, 0) + L" W (" +
-           FormatFixed(100.0 * missing / room.GetLeistung(), 1) + L" %)";
-}
-
-CRoomOutcome OutcomeOf(const CRoom& room)
-{
-    switch (CoverageOf(room)) {
+    switch (coverage) {
     case Coverage::notNeeded:
-        return room.heizkoerper.empty()
-                   ? CRoomOutcome{RoomStatus::covered, {}, L"nessun corpo scaldante necessario"}
-                   : CRoomOutcome{RoomStatus::chosen, {}, {}};
+        return room.heizkoerper.empty() ? RoomStatus::covered : RoomStatus::chosen;
     case Coverage::covered:
-        return {RoomStatus::chosen, {}, {}};
+        return RoomStatus::chosen;
     case Coverage::lacking:
-        return {RoomStatus::lacking, {}, DescribeLack(room)};
+        return RoomStatus::lacking;
     case Coverage::empty:
-        return {RoomStatus::missing, {}, DescribeLack(room)};
+        return RoomStatus::missing;
+    case Coverage::tooLarge:
+        return RoomStatus::tooLarge;
+    case Coverage::oversized:
+        return RoomStatus::oversized;
     }
     return {};
+}
+
+CRoomOutcome OutcomeOf(const CBuilding& building, const CRoom& room)
+{
+    const RoomStatus status = StatusOf(room, CoverageOf(building, room));
+    return {status,
+            {},
+            status == RoomStatus::covered ? GetCoverageText(Coverage::notNeeded)
+                                          : DescribeCoverage(building, room)};
 }
 
 /// Makes the rows of rooms.
 class CRowMaker
 {
 public:
-    explicit CRowMaker(const std::vector<CSizingFault>& faults)
+    CRowMaker(const CBuilding& building, const std::vector<CSizingFault>& faults)
+        : m_building(building)
     {
         for (const CSizingFault& fault : faults) {
             m_faults.emplace(fault.room, &fault.outcome);
@@ -75,7 +79,7 @@ public:
     {
         CScheduleRow row;
         row.room = room;
-        row.outcome = OutcomeOf(room);
+        row.outcome = OutcomeOf(m_building, room);
         row.leistungRaum = OutputOf(room);
         row.room.heizkoerper.clear();
         const auto fault = m_faults.find(ref);
@@ -99,6 +103,7 @@ public:
     }
 
 private:
+    const CBuilding& m_building;
     std::map<CRoomRef, const CRoomOutcome*> m_faults;
     CValveFetcher m_valves;
 };
@@ -120,8 +125,7 @@ CScheduleFloor MakeFloor(const CFloor& floor, std::size_t number, CRowMaker& row
 
 bool CScheduleRow::HasRadiator() const
 {
-    return outcome.radiator &&
-           (outcome.status == RoomStatus::chosen || outcome.status == RoomStatus::lacking);
+    return outcome.radiator && outcome.status != RoomStatus::unfitting;
 }
 
 void CScheduleTotals::Add(const CScheduleRow& row)
@@ -130,8 +134,9 @@ void CScheduleTotals::Add(const CScheduleRow& row)
         ++nRooms;
         bedarf += row.room.bedarf;
         required += GetRequired(row.room);
-        nChosen += row.outcome.status == RoomStatus::chosen ? 1 : 0;
-        nOpen += IsOpen(row.outcome.status) ? 1 : 0;
+        const RoomStatus status = row.outcome.status;
+        nChosen += !IsOpen(status) && status != RoomStatus::covered ? 1 : 0;
+        nOpen += IsOpen(status) ? 1 : 0;
     }
     if (row.HasRadiator()) {
         ++nHeizkoerper;
@@ -174,7 +179,7 @@ CSchedule SchedulePlan(const CBuilding& building, const std::vector<CSizingFault
     schedule.bUnread = std::ranges::any_of(faults, [](const CSizingFault& fault) {
         return fault.outcome.status == RoomStatus::badCatalogue;
     });
-    CRowMaker rows(faults);
+    CRowMaker rows(building, faults);
     for (std::size_t floor = 0; floor < building.floors.size(); ++floor) {
         schedule.floors.push_back(MakeFloor(building.floors[floor], floor, rows));
         schedule.totals.Add(schedule.floors.back().totals);
@@ -184,7 +189,13 @@ CSchedule SchedulePlan(const CBuilding& building, const std::vector<CSizingFault
 
 bool IsOpen(RoomStatus status)
 {
-    return status != RoomStatus::chosen && status != RoomStatus::covered;
+    return status != RoomStatus::chosen && status != RoomStatus::covered &&
+           status != RoomStatus::oversized;
+}
+
+bool IsMissized(RoomStatus status)
+{
+    return status == RoomStatus::tooLarge || status == RoomStatus::oversized;
 }
 
 double GetRequired(const CRoom& room)
@@ -211,9 +222,13 @@ CString GetStatusText(RoomStatus status)
     case RoomStatus::badCatalogue:
         return L"catalogo illeggibile";
     case RoomStatus::missing:
-        return L"manca il corpo scaldante";
+        return GetCoverageText(Coverage::empty);
     case RoomStatus::lacking:
-        return L"insufficiente";
+        return GetCoverageText(Coverage::lacking);
+    case RoomStatus::tooLarge:
+        return GetCoverageText(Coverage::tooLarge);
+    case RoomStatus::oversized:
+        return GetCoverageText(Coverage::oversized);
     }
     return {};
 }

@@ -31,7 +31,7 @@ struct CScheduleRow
 struct CScheduleTotals
 {
     int nRooms = 0;
-    /// Rooms with radiators that cover them, and rooms that need some and are not covered.
+    /// Rooms with radiators that cover them and fit, and rooms that need some and are not covered.
     int nChosen = 0;
     int nOpen = 0;
     /// Radiators of the building.
@@ -73,8 +73,13 @@ struct CSchedule
 /// cannot be read say that.
 CSchedule SchedulePlan(const CBuilding& building, const std::vector<CSizingFault>& faults = {});
 
-/// True for a room that needs radiators and is not covered.
+/// True for a room that someone has to look after: it needs radiators and is not covered, or one
+/// does not fit its place.
 bool IsOpen(RoomStatus status);
+
+/// True for a room with a radiator that does not fit its place, or with more output than the
+/// building allows.
+bool IsMissized(RoomStatus status);
 
 /// Output that the room asks of its radiators: never below 0.
 double GetRequired(const CRoom& room);

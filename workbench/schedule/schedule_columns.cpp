@@ -82,6 +82,10 @@ CString StatusCode(RoomStatus status)
         return L"missing";
     case RoomStatus::lacking:
         return L"lacking";
+    case RoomStatus::tooLarge:
+        return L"tooLarge";
+    case RoomStatus::oversized:
+        return L"oversized";
     }
     return {};
 }
@@ -175,18 +179,20 @@ void AddRoom(Columns& columns)
         CScheduleColumn([](const CScheduleLine& line) -> CCell { return line.strFloor; })
             .Total(NameOf(&CScheduleSum::strFloor))
             .Looks({Csv(L"Piano"), Text(Output::paperSums, L"Piano", 67.0),
-                    Text(Output::paperOpen, L"Piano", 50.0)}),
+                    Text(Output::paperOpen, L"Piano", 50.0),
+                    Text(Output::paperMissized, L"Piano", 50.0)}),
         CScheduleColumn(OfRoom(&CRoom::strName))
             .Total(NameOf(&CScheduleSum::strRoom))
             .Json("name", JsonPart::room)
             .Looks({Csv(L"Locale"), Once(Text(Output::console, L"Locale", 22.0)),
-                    Text(Output::paper, L"Locale", 34.0),
-                    Text(Output::paperOpen, L"Locale", 60.0)}),
+                    Text(Output::paper, L"Locale", 34.0), Text(Output::paperOpen, L"Locale", 60.0),
+                    Text(Output::paperMissized, L"Locale", 60.0)}),
         CScheduleColumn([](const CScheduleLine& line) -> CCell {
             return GetStatusText(line.row.outcome.status);
         })
             .Total(NameOf(&CScheduleSum::strStatus))
-            .Looks({Csv(L"Stato"), Text(Output::paperOpen, L"Stato", 57.0)}),
+            .Looks({Csv(L"Stato"), Text(Output::paperOpen, L"Stato", 57.0),
+                    Text(Output::paperMissized, L"Stato", 45.0)}),
         CScheduleColumn([](const CScheduleLine& line) -> CCell {
             return StatusCode(line.row.outcome.status);
         }).Json("status", JsonPart::room),
@@ -238,11 +244,12 @@ void AddDemand(Columns& columns)
             .Looks({Number(Output::paperOpen, L"Resa", 25.0)}),
         CScheduleColumn([](const CScheduleLine& line) -> CCell { return MissingOf(line.row); })
             .Unit(L"W")
+            .Form(kCount)
             .Looks({Number(Output::paperOpen, L"Mancano", 25.0)}),
         CScheduleColumn(
             [](const CScheduleLine& line) -> CCell { return MissingPercentOf(line.row); })
             .Unit(L"%")
-            .Form(kOneDecimal)
+            .Form({.nDecimals = 1, .bHideZero = true})
             .Looks({Number(Output::paperOpen, L"Mancano", 25.0)}),
         CScheduleColumn(OfRoom([](const CRoom& room) {
             return room.grenzen.hoeheMax;
@@ -407,6 +414,9 @@ void AddNotes(Columns& columns)
     columns.push_back(CScheduleColumn([](const CScheduleLine& line) -> CCell {
                           return NotesOf(line.row);
                       }).Looks({Csv(L"Nota")}));
+    columns.push_back(CScheduleColumn([](const CScheduleLine& line) -> CCell {
+                          return line.row.outcome.strNote;
+                      }).Looks({Text(Output::paperMissized, L"Misura", 112.0)}));
     columns.push_back(CScheduleColumn([](const CScheduleLine& line) -> CCell {
                           const CString& note = line.row.outcome.strNote;
                           return note.empty() ? CCell() : CCell(note);

@@ -109,12 +109,16 @@ std::string FormatScheduleJson(const CSchedule& schedule)
     }
     const QJsonObject system = {{"supply", schedule.system.vorlauf},
                                 {"return", schedule.system.ruecklauf}};
-    const QJsonObject root = {{"version", kFormatVersion},
-                              {"building", ToQt(schedule.strBuilding)},
-                              {"system", system},
-                              {"floors", floors},
-                              {"totals", MakeTotals(schedule.totals)},
-                              {"valves", MakeValveBillJson(MakeValveBill(schedule))}};
+    const CValveBill bill = MakeValveBill(schedule);
+    QJsonObject root = {{"version", kFormatVersion},
+                        {"building", ToQt(schedule.strBuilding)},
+                        {"system", system},
+                        {"floors", floors},
+                        {"totals", MakeTotals(schedule.totals)},
+                        {"valves", MakeValveBillJson(bill)}};
+    if (bill.nMissing > 0) {
+        root.insert("valvesMissing", bill.nMissing);
+    }
     CJsonWriter writer(kStyle);
     writer.Value(nullptr, root);
     return writer.Take();

@@ -9,6 +9,7 @@
 #include "platform/path.h"
 #include "reference_host/files/valve_file_check.h"
 #include "workbench/plan/module_call.h"
+#include "workbench/schedule/valve_check.h"
 
 #include <filesystem>
 #include <system_error>
@@ -19,8 +20,6 @@ namespace workbench {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr wchar_t kFileName[] = L"ha.tga";
 
 CValveOutcome MakeMissing(const CValveKey& key, ValveStatus status, const CString& note)
 {
@@ -42,16 +41,10 @@ CString GetFolder(const CValveKey& key)
     return JoinPath(GetVEDir(false), key.strHersteller);
 }
 
-/// The maker's file as a system path.
-CString GetFile(const CValveKey& key)
-{
-    return TextFromPath(ResolvePath(JoinPath(GetFolder(key), kFileName)));
-}
-
 /// A line that lacks a field has raised an exception, which does not say which one it is.
 CValveOutcome ExplainException(const CValveKey& key, const CModuleFault& error)
 {
-    const CString file = GetFile(key);
+    const CString file = ValveFileOf(key.strHersteller);
     try {
         const reference_host::CValveFileCheck check(file);
         if (const auto fault = check.FindReadingFault()) {
@@ -75,7 +68,7 @@ CValveOutcome ExplainSilence(const CValveKey& key)
                            L"\"" + key.strHersteller + L"\" non è il nome di un produttore");
     }
     const CString folder = TextFromPath(ResolvePath(GetFolder(key)));
-    const CString file = GetFile(key);
+    const CString file = ValveFileOf(key.strHersteller);
     for (const CString& place : {folder, file}) {
         std::error_code error;
         const fs::file_type type = fs::status(ResolvePath(place), error).type();

@@ -1,5 +1,7 @@
 #include "workbench/window/coverage_look.h"
 
+#include "workbench/building/qt_text.h"
+
 #include <QPainterPath>
 
 namespace workbench {
@@ -13,6 +15,16 @@ constexpr double kStroke = 2.4;
 QPen InkPen(Coverage coverage)
 {
     return {InkOf(coverage), kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+/// An arrow that points beyond both sides.
+void PaintWidth(QPainter& painter)
+{
+    painter.drawLine(QPointF(2.0, 8.0), QPointF(14.0, 8.0));
+    const QPointF left[] = {{5.4, 4.2}, {1.6, 8.0}, {5.4, 11.8}};
+    const QPointF right[] = {{10.6, 4.2}, {14.4, 8.0}, {10.6, 11.8}};
+    painter.drawPolyline(left, 3);
+    painter.drawPolyline(right, 3);
 }
 
 void PaintWarning(QPainter& painter)
@@ -38,6 +50,10 @@ QColor FillOf(Coverage coverage)
         return {250, 219, 210};
     case Coverage::empty:
         return {252, 240, 206};
+    case Coverage::tooLarge:
+        return {243, 220, 243};
+    case Coverage::oversized:
+        return {218, 230, 250};
     case Coverage::notNeeded:
         break;
     }
@@ -53,6 +69,10 @@ QColor InkOf(Coverage coverage)
         return {178, 34, 20};
     case Coverage::empty:
         return {150, 98, 0};
+    case Coverage::tooLarge:
+        return {132, 28, 132};
+    case Coverage::oversized:
+        return {32, 78, 160};
     case Coverage::notNeeded:
         break;
     }
@@ -61,17 +81,9 @@ QColor InkOf(Coverage coverage)
 
 QString TextOf(Coverage coverage)
 {
-    switch (coverage) {
-    case Coverage::covered:
-        return QStringLiteral("Coperto");
-    case Coverage::lacking:
-        return QStringLiteral("Insufficiente");
-    case Coverage::empty:
-        return QStringLiteral("Manca il corpo scaldante");
-    case Coverage::notNeeded:
-        break;
-    }
-    return QStringLiteral("Nessun corpo scaldante necessario");
+    QString text = ToQt(GetCoverageText(coverage));
+    text[0] = text[0].toUpper();
+    return text;
 }
 
 void PaintSign(QPainter& painter, Coverage coverage, const QRectF& square)
@@ -92,6 +104,13 @@ void PaintSign(QPainter& painter, Coverage coverage, const QRectF& square)
         break;
     case Coverage::empty:
         painter.drawEllipse(QRectF(2.2, 2.2, 11.6, 11.6));
+        break;
+    case Coverage::tooLarge:
+        PaintWidth(painter);
+        break;
+    case Coverage::oversized:
+        painter.drawLine(QPointF(8.0, 2.5), QPointF(8.0, 13.5));
+        painter.drawLine(QPointF(2.5, 8.0), QPointF(13.5, 8.0));
         break;
     case Coverage::notNeeded:
         painter.drawLine(QPointF(2.5, 8.0), QPointF(13.5, 8.0));

@@ -8,8 +8,8 @@
 
 namespace workbench {
 
-/// How the plan shows at a glance whether a room's demand is met: by a soft fill, and for those who
-/// cannot tell the colours apart by a sign as well.
+/// How the plan shows at a glance how a room stands: by a soft fill, and for those who cannot tell
+/// the colours apart by a sign as well.
 
 /// Fill of the room's floor; dark text can be read on it.
 QColor FillOf(Coverage coverage);
@@ -21,7 +21,8 @@ QColor InkOf(Coverage coverage);
 QString TextOf(Coverage coverage);
 
 /// Paints the sign into a square, with y downwards: a tick, an exclamation mark in a triangle, a
-/// ring for a room without radiator, or a dash where nothing is asked.
+/// ring for a room without radiator, an arrow to both sides for one that does not fit, a plus for
+/// too much, or a dash where nothing is asked.
 void PaintSign(QPainter& painter, Coverage coverage, const QRectF& square);
 
 } // namespace workbench

@@ -16,6 +16,7 @@
 #include "workbench/report/plan_pdf.h"
 #include "workbench/schedule/schedule_csv.h"
 #include "workbench/schedule/schedule_json.h"
+#include "workbench/schedule/valve_check.h"
 #include "workbench/window/plan_document.h"
 #include "workbench/window/prompts.h"
 #include "workbench/window/recovery_offer.h"
@@ -120,6 +121,7 @@ bool CFileCommands::RecoverWork(const CString& path)
     Tell(faults);
     if (recovered) {
         TellUse();
+        TellValveFaults();
     }
     return recovered;
 }
@@ -131,6 +133,7 @@ void CFileCommands::Load(const CString& path)
         m_document.Open(path);
     }
     TellUse();
+    TellValveFaults();
 }
 
 void CFileCommands::Tell(const QStringList& lines)
@@ -214,6 +217,15 @@ void CFileCommands::TellUse()
         message += " Qui si apre in sola lettura; \"Salva con nome\" lo scrive altrove.";
     }
     Tell(message.isEmpty() ? QStringList() : QStringList(message));
+}
+
+void CFileCommands::TellValveFaults()
+{
+    QStringList lines;
+    for (const CString& fault : CheckValveFiles(m_document.Building())) {
+        lines += ToQt(fault);
+    }
+    Tell(lines);
 }
 
 bool CFileCommands::MayLeave()

@@ -68,6 +68,8 @@ private:
     void Load(const CString& path);
     /// Tells who else works on the building's file, if anybody does.
     void TellUse();
+    /// Tells which valve files that the building needs are damaged.
+    void TellValveFaults();
     void Tell(const QStringList& lines);
     /// Asks for a file to write; nothing if the user cancelled, or keeps what it would replace.
     std::optional<CString> AskTarget(const QString& title, const QString& filter,

@@ -91,7 +91,8 @@ void CFloorScene::UpdateItems()
         if (i == m_items.size()) {
             m_items.push_back(new CRoomItem(m_options, m_building, ref, m_blocks));
             addItem(m_items.back());
-        } else if (m_items[i]->GetRoom() != rooms[i]) {
+        } else if (m_items[i]->GetRoom() != rooms[i] ||
+                   m_items[i]->GetCoverage() != CoverageOf(m_building, *rooms[i])) {
             m_items[i]->SetRoom(m_building, ref, m_blocks);
         }
     }

@@ -129,8 +129,8 @@ void CFloorScene::helpEvent(QGraphicsSceneHelpEvent* event)
     }
     const CRoom& room = *ItemOf(hit->room).GetRoom();
     QToolTip::showText(event->screenPos(),
-                       hit->radiator ? ToolTipOf(room, room.heizkoerper[*hit->radiator])
-                                     : ToolTipOf(room),
+                       hit->radiator ? ToolTipOf(m_building, room, room.heizkoerper[*hit->radiator])
+                                     : ToolTipOf(m_building, room),
                        event->widget());
     event->accept();
 }

@@ -18,15 +18,6 @@ namespace workbench {
 
 namespace {
 
-/// True if what was chosen is what stands there, which does not make it the designer's own choice.
-bool IsSameRow(const CPlacedRadiator& radiator, const CRadiatorChoice& chosen)
-{
-    return ProductOf(radiator) == chosen.produkt && radiator.strTyp == chosen.strTyp &&
-           radiator.daten.Hoehe == chosen.daten.Hoehe &&
-           radiator.daten.Tiefe == chosen.daten.Tiefe &&
-           radiator.daten.Laenge == chosen.daten.Laenge;
-}
-
 /// Puts what was chosen into the room, for the radiator or as a further one; false if there is no
 /// place for it.
 bool TakeOver(const CBuilding& building, const CString& floor, CRoom& room,
@@ -35,6 +26,7 @@ bool TakeOver(const CBuilding& building, const CString& floor, CRoom& room,
     const CRadiatorStart start = ReadRadiatorStart();
     if (radiator) {
         CPlacedRadiator& present = room.heizkoerper[*radiator];
+        // What stood there already is not the designer's own choice.
         const bool isSame = IsSameRow(present, chosen) && !present.bVonHand;
         TakeChoice(present, chosen, start);
         TakeStart(present, chosen.start);

@@ -185,6 +185,37 @@ void CPlanCommands::Size(const std::vector<CRoomRef>& rooms, const CString& what
     }
 }
 
+void CPlanCommands::Repair(const std::vector<CRoomRef>& rooms, const CString& what)
+{
+    const std::optional<Picked> picked = AskForPicked(m_document.Building(), rooms);
+    if (!picked) {
+        return;
+    }
+    CRepairResult result = RepairWithProgress(&m_window, m_document.Building(), rooms, *picked);
+    if (result.bCancelled) {
+        TellCancelled();
+        return;
+    }
+    TellRepair(result);
+    m_document.Do(what, std::move(result.building));
+}
+
+void CPlanCommands::TellRepair(const CRepairResult& result)
+{
+    const auto open = std::ranges::count_if(result.rooms, [&](const CRepairedRoom& repaired) {
+        return IsOpen(CoverageOf(result.building, RoomOf(result.building, repaired.room)));
+    });
+    QString message = QString("Riparazione: locali esaminati %1, ancora da sistemare %2.")
+                          .arg(result.rooms.size())
+                          .arg(open);
+    for (const CRepairedRoom& repaired : result.rooms) {
+        message += QString("\n%1: %2")
+                       .arg(ToQt(RoomOf(result.building, repaired.room).strName),
+                            ToQt(repaired.strReport));
+    }
+    emit Told(message);
+}
+
 void CPlanCommands::TellCancelled()
 {
     emit Told("Dimensionamento annullato: nulla è cambiato.");
@@ -194,7 +225,7 @@ void CPlanCommands::TellFaults(const CBuilding& building, const CSizingResult& r
 {
     QString message = QString("Corpi scaldanti scelti: %1.").arg(result.nSized);
     const auto open = std::ranges::count_if(result.faults, [&](const CSizingFault& fault) {
-        return IsOpen(CoverageOf(RoomOf(result.building, fault.room)));
+        return IsOpen(CoverageOf(result.building, RoomOf(result.building, fault.room)));
     });
     if (open > 0) {
         message += QString(" Locali da sistemare: %1.").arg(open);
@@ -235,7 +266,9 @@ bool CPlanCommands::ChangeSystem()
     }
     const CHeatingSystem system = dialog.GetSystem();
     CBuilding changed = m_document.Building();
+    changed.ueberschussMax = dialog.GetExcessMax();
     if (system == changed.system) {
+        m_document.Do(L"Limite di sovradimensionamento", std::move(changed));
         return false;
     }
     workbench::ChangeSystem(changed, system);
@@ -250,8 +283,9 @@ bool CPlanCommands::ChangeSystem()
 std::vector<CRoomRef> OpenRooms(const CBuilding& building)
 {
     std::vector<CRoomRef> rooms = AllRooms(building);
-    std::erase_if(rooms,
-                  [&](const CRoomRef& ref) { return !IsOpen(CoverageOf(RoomOf(building, ref))); });
+    std::erase_if(rooms, [&](const CRoomRef& ref) {
+        return !IsOpen(CoverageOf(building, RoomOf(building, ref)));
+    });
     return rooms;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/plan/sizing.h"
+#include "workbench/plan/repair.h"
 
 #include <QObject>
 
@@ -34,10 +34,15 @@ public:
     /// Sizes the rooms anew. `what` names the step.
     void Size(const std::vector<CRoomRef>& rooms, const CString& what);
 
+    /// Gives the rooms among these that need it what they need, as far as that goes, and tells room
+    /// by room what was done.
+    void Repair(const std::vector<CRoomRef>& rooms, const CString& what);
+
     void Connect(const std::vector<CRadiatorRef>& radiators, CDrawer& drawer);
     void Remove(const std::vector<CRadiatorRef>& radiators);
 
-    /// Asks for another heating system of the building. False if it keeps its own.
+    /// Asks for another heating system of the building, and from what excess on radiators count as
+    /// oversized. False if it keeps its system.
     bool ChangeSystem();
 
 signals:
@@ -71,6 +76,7 @@ private:
     OtherSystem AskWhatSystem(const CBuilding& changed, const CHeatingSystem& chosen);
 
     void TellCancelled();
+    void TellRepair(const CRepairResult& result);
     void TellFaults(const CBuilding& building, const CSizingResult& result);
 
     CPlanDocument& m_document;

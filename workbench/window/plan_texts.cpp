@@ -76,6 +76,17 @@ QString Place(const CRoom& room, const CPlacedRadiator& radiator)
            Millimetres(place.breite);
 }
 
+/// What is wrong with the size of a radiator, or of all in its room; empty if nothing is.
+QString SizeFault(const CBuilding& building, const CRoom& room, const CPlacedRadiator& radiator)
+{
+    const CString excess = DescribeExcess(building, room, radiator);
+    if (!excess.empty()) {
+        return TextOf(Coverage::tooLarge) + ": " + ToQt(excess);
+    }
+    const bool isOversized = CoverageOf(building, room) == Coverage::oversized;
+    return isOversized ? StateOf(building, room) : QString();
+}
+
 } // namespace
 
 QString WattText(double value)
@@ -96,7 +107,14 @@ QString ShortLabelOf(const CPlacedRadiator& radiator)
                : Joined({type, Number(daten.Hoehe, 0) + QStringLiteral("×") + length}, " ");
 }
 
-QString ToolTipOf(const CRoom& room)
+QString StateOf(const CBuilding& building, const CRoom& room)
+{
+    const Coverage coverage = CoverageOf(building, room);
+    return TextOf(coverage) +
+           (IsMissized(coverage) ? ": " + ToQt(DescribeCoverage(building, room)) : QString());
+}
+
+QString ToolTipOf(const CBuilding& building, const CRoom& room)
 {
     return Table(
         ToQt(room.strName),
@@ -108,12 +126,12 @@ QString ToolTipOf(const CRoom& room)
           QString::number(room.heizkoerper.size()) + ", " + WattText(OutputOf(room))},
          {"Coperto", WattText(CoveredOf(room))},
          {"Resto", WattText(RemainderOf(room))},
-         {"Stato", TextOf(CoverageOf(room))},
+         {"Stato", StateOf(building, room)},
          {"Prodotto scelto",
           Joined({ToQt(room.strHersteller), ToQt(room.strArt), ToQt(room.strProdukt)}, ", ")}});
 }
 
-QString ToolTipOf(const CRoom& room, const CPlacedRadiator& radiator)
+QString ToolTipOf(const CBuilding& building, const CRoom& room, const CPlacedRadiator& radiator)
 {
     const HK_DATEN_VDI3805& daten = radiator.daten;
     const QString times = QStringLiteral(" × ");
@@ -123,6 +141,7 @@ QString ToolTipOf(const CRoom& room, const CPlacedRadiator& radiator)
          {"Tipo di corpo", ToQt(radiator.strArt)},
          {"Locale", ToQt(room.strName)},
          {"Posto", Place(room, radiator)},
+         {"Stato", SizeFault(building, room, radiator)},
          {"Lunghezza × altezza × profondità", Number(daten.Laenge, 0) + times +
                                                   Number(daten.Hoehe, 0) + times +
                                                   Millimetres(daten.Tiefe)},

@@ -55,7 +55,8 @@ double TakenCorner(const QRectF& area, const QRectF& sign)
 
 CRoomItem::CRoomItem(const CPlanOptions& options, const CBuilding& building, const CRoomRef& ref,
                      const CPlanBlocks& blocks)
-    : m_options(options), m_label(RoomOf(building, ref))
+    : m_options(options), m_coverage(CoverageOf(building, RoomOf(building, ref))),
+      m_label(RoomOf(building, ref), m_coverage)
 {
     SetRoom(building, ref, blocks);
 }
@@ -64,8 +65,8 @@ void CRoomItem::SetRoom(const CBuilding& building, const CRoomRef& ref, const CP
 {
     prepareGeometryChange();
     m_room = building.floors[ref.nFloor].rooms[ref.nRoom];
-    m_label = CRoomLabel(*m_room);
-    m_coverage = CoverageOf(*m_room);
+    m_coverage = CoverageOf(building, *m_room);
+    m_label = CRoomLabel(*m_room, m_coverage);
     m_outline = MetresOf(m_room->grundriss);
     m_bounds = m_outline;
     m_radiators.clear();

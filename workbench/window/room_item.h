@@ -33,6 +33,9 @@ public:
 
     const std::shared_ptr<const CRoom>& GetRoom() const { return m_room; }
 
+    /// How the room stood when it was set.
+    Coverage GetCoverage() const { return m_coverage; }
+
     /// The floor between the walls.
     const QRectF& GetOutline() const { return m_outline; }
     const QRectF& OutlineOf(std::size_t radiator) const;
@@ -54,8 +57,8 @@ private:
     const CPlanOptions& m_options;
     std::shared_ptr<const CRoom> m_room;
     std::vector<CRadiatorDrawing> m_radiators;
+    Coverage m_coverage;
     CRoomLabel m_label;
-    Coverage m_coverage = Coverage::notNeeded;
     QRectF m_outline;
     QRectF m_bounds;
 };

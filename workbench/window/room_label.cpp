@@ -37,11 +37,11 @@ int PixelsFor(double metres, double scale, int least, int most)
 
 } // namespace
 
-CRoomLabel::CRoomLabel(const CRoom& room)
-    : m_strName(ToQt(room.strName)), m_figures{{{"Fabbisogno", WattText(room.bedarf), kNameColor},
-                                                {"Coperto", WattText(CoveredOf(room)), kNameColor},
-                                                {"Resto", WattText(RemainderOf(room)),
-                                                 InkOf(CoverageOf(room))}}}
+CRoomLabel::CRoomLabel(const CRoom& room, Coverage coverage)
+    : m_strName(ToQt(room.strName)), m_figures{
+                                         {{"Fabbisogno", WattText(room.bedarf), kNameColor},
+                                          {"Coperto", WattText(CoveredOf(room)), kNameColor},
+                                          {"Resto", WattText(RemainderOf(room)), InkOf(coverage)}}}
 {
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/building/building.h"
+#include "workbench/plan/coverage.h"
 
 #include <QColor>
 #include <QFont>
@@ -28,7 +28,8 @@ public:
         double dWidth = 0.0;
     };
 
-    explicit CRoomLabel(const CRoom& room);
+    /// What remains has the colour of how the room stands.
+    CRoomLabel(const CRoom& room, Coverage coverage);
 
     /// What there is space for in an area of that size in pixels, at `scale` pixels a metre: all of
     /// it, only the name, shortened if need be, or nothing. No text leaves the area or comes into

@@ -5,6 +5,9 @@
 #include "workbench/window/plan_texts.h"
 
 #include <QColor>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QSize>
 
 namespace workbench {
 
@@ -24,8 +27,18 @@ QString StateText(Coverage coverage)
         return "scarso";
     case Coverage::empty:
         return "manca";
+    case Coverage::tooLarge:
+    case Coverage::oversized:
+        return ToQt(GetCoverageText(coverage));
     }
     return {};
+}
+
+/// A long state gives way to the name of the room; the tooltip has the whole.
+QSize SizeOfLongState()
+{
+    const QFontMetrics metrics(QGuiApplication::font());
+    return {metrics.horizontalAdvance("troppo grande… "), metrics.height()};
 }
 
 } // namespace
@@ -38,7 +51,7 @@ void CRoomRows::Show(const CBuilding& building)
         const CRoom& room = RoomOf(building, ref);
         m_rooms.push_back({ref, ToQt(building.floors[ref.nFloor].strName), ToQt(room.strName),
                            room.bedarf, CoveredOf(room), RemainderOf(room),
-                           workbench::CoverageOf(room)});
+                           workbench::CoverageOf(building, room), StateOf(building, room)});
     }
     endResetModel();
 }
@@ -95,12 +108,18 @@ QVariant CRoomRows::data(const QModelIndex& index, int role) const
         return Text(row, index.column());
     case Qt::UserRole:
         return SortValue(row, index.column());
+    case Qt::SizeHintRole:
+        return index.column() == state && IsMissized(row.coverage) ? QVariant(SizeOfLongState())
+                                                                   : QVariant();
+    case Qt::ToolTipRole:
+        return index.column() == state ? QVariant(row.strState) : QVariant();
     case Qt::TextAlignmentRole:
         return index.column() >= demand && index.column() <= remainder
                    ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
                    : QVariant();
     case Qt::ForegroundRole:
-        return IsOpen(row.coverage) ? QVariant(InkOf(row.coverage)) : QVariant();
+        return IsOpen(row.coverage) || IsMissized(row.coverage) ? QVariant(InkOf(row.coverage))
+                                                                : QVariant();
     default:
         return {};
     }

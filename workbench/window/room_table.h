@@ -47,6 +47,7 @@ private:
         double gedeckt = 0.0;
         double rest = 0.0;
         Coverage coverage = Coverage::notNeeded;
+        QString strState;
     };
 
     static QVariant SortValue(const CRow& row, int column);

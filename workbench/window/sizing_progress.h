@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/plan/sizing.h"
+#include "workbench/plan/repair.h"
 
 class QWidget;
 
@@ -9,5 +9,9 @@ namespace workbench {
 /// Sizes rooms (SizeRooms) behind a bar that shows how far it is and lets the user cancel.
 CSizingResult SizeWithProgress(QWidget* parent, const CBuilding& building,
                                const std::vector<CRoomRef>& rooms, Picked picked);
+
+/// The same for repairing them (RepairRooms).
+CRepairResult RepairWithProgress(QWidget* parent, const CBuilding& building,
+                                 const std::vector<CRoomRef>& rooms, Picked picked);
 
 } // namespace workbench

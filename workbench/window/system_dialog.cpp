@@ -1,6 +1,7 @@
 #include "workbench/window/system_dialog.h"
 
 #include "workbench/building/qt_text.h"
+#include "workbench/plan/coverage.h"
 #include "workbench/window/plan_commands.h"
 
 #include <QComboBox>
@@ -10,6 +11,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace workbench {
 
@@ -30,17 +33,43 @@ QDoubleSpinBox* MakeTemperature(double value)
     return box;
 }
 
+QDoubleSpinBox* MakePercentage(double value)
+{
+    auto* const box = new QDoubleSpinBox;
+    box->setRange(0.0, 1000.0);
+    box->setDecimals(1);
+    box->setSuffix(" %");
+    box->setValue(value);
+    return box;
+}
+
+QString CountText(std::size_t changed, std::size_t now)
+{
+    return QString("%1 (ora %2)").arg(changed).arg(now);
+}
+
+std::size_t CountOversized(const CBuilding& building)
+{
+    const std::vector<CRoomRef> rooms = AllRooms(building);
+    return static_cast<std::size_t>(std::ranges::count_if(rooms, [&](const CRoomRef& ref) {
+        return CoverageOf(building, RoomOf(building, ref)) == Coverage::oversized;
+    }));
+}
+
 } // namespace
 
 CSystemDialog::CSystemDialog(const CBuilding& building, QWidget* parent)
     : QDialog(parent), m_building(building), m_pCommon(new QComboBox),
       m_pVorlauf(MakeTemperature(building.system.vorlauf)),
-      m_pRuecklauf(MakeTemperature(building.system.ruecklauf)), m_pConsequence(new QLabel),
+      m_pRuecklauf(MakeTemperature(building.system.ruecklauf)),
+      m_pExcessMax(MakePercentage(building.ueberschussMax)), m_dExcessShown(m_pExcessMax->value()),
+      m_pConsequence(new QLabel),
       m_pButtons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
 {
     setWindowTitle("Sistema di riscaldamento");
     m_pVorlauf->setObjectName("supply");
     m_pRuecklauf->setObjectName("return");
+    m_pExcessMax->setObjectName("excessMax");
     m_pConsequence->setObjectName("consequence");
     m_pConsequence->setTextFormat(Qt::PlainText);
     m_pConsequence->setWordWrap(true);
@@ -55,6 +84,7 @@ CSystemDialog::CSystemDialog(const CBuilding& building, QWidget* parent)
     form->addRow("&Sistemi usuali:", m_pCommon);
     form->addRow("&Mandata:", m_pVorlauf);
     form->addRow("&Ritorno:", m_pRuecklauf);
+    form->addRow("Sovradimensionato &oltre:", m_pExcessMax);
     auto* const layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addWidget(m_pConsequence);
@@ -65,6 +95,7 @@ CSystemDialog::CSystemDialog(const CBuilding& building, QWidget* parent)
     connect(m_pCommon, &QComboBox::activated, this, &CSystemDialog::TakeCommon);
     connect(m_pVorlauf, &QDoubleSpinBox::valueChanged, this, &CSystemDialog::ShowConsequence);
     connect(m_pRuecklauf, &QDoubleSpinBox::valueChanged, this, &CSystemDialog::ShowConsequence);
+    connect(m_pExcessMax, &QDoubleSpinBox::valueChanged, this, &CSystemDialog::ShowConsequence);
     connect(m_pButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     ShowConsequence();
@@ -73,6 +104,12 @@ CSystemDialog::CSystemDialog(const CBuilding& building, QWidget* parent)
 CHeatingSystem CSystemDialog::GetSystem() const
 {
     return {m_pVorlauf->value(), m_pRuecklauf->value()};
+}
+
+double CSystemDialog::GetExcessMax() const
+{
+    const double shown = m_pExcessMax->value();
+    return shown == m_dExcessShown ? m_building.ueberschussMax : shown;
 }
 
 void CSystemDialog::TakeCommon(int index)
@@ -96,10 +133,11 @@ void CSystemDialog::ShowConsequence()
                    .arg(ToQt(room->strName));
     } else {
         possible = true;
+        changed.ueberschussMax = GetExcessMax();
         ChangeSystem(changed, changed.system);
-        text = QString("Locali da sistemare: %1 (ora %2).")
-                   .arg(OpenRooms(changed).size())
-                   .arg(OpenRooms(m_building).size());
+        text = QString("Locali da sistemare: %1.\nLocali sovradimensionati: %2.")
+                   .arg(CountText(OpenRooms(changed).size(), OpenRooms(m_building).size()),
+                        CountText(CountOversized(changed), CountOversized(m_building)));
     }
     m_pConsequence->setText(text);
     m_pButtons->button(QDialogButtonBox::Ok)->setEnabled(possible);

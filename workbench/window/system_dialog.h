@@ -11,7 +11,8 @@ class QLabel;
 
 namespace workbench {
 
-/// Asks for the heating system of a building and tells beforehand what it would mean for the rooms.
+/// Asks for the heating system of a building, and by how much its radiators may exceed what is
+/// asked, and tells beforehand what that would mean for the rooms.
 class CSystemDialog : public QDialog
 {
     Q_OBJECT
@@ -21,6 +22,9 @@ public:
 
     CHeatingSystem GetSystem() const;
 
+    /// In per cent.
+    double GetExcessMax() const;
+
 private:
     void TakeCommon(int index);
     void ShowConsequence();
@@ -29,6 +33,9 @@ private:
     QComboBox* m_pCommon;
     QDoubleSpinBox* m_pVorlauf;
     QDoubleSpinBox* m_pRuecklauf;
+    QDoubleSpinBox* m_pExcessMax;
+    /// What it showed first, which may be rounded.
+    double m_dExcessShown;
     QLabel* m_pConsequence;
     QDialogButtonBox* m_pButtons;
 };

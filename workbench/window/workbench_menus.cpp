@@ -83,9 +83,9 @@ void CWorkbenchWindow::MakePlantMenu()
     });
     menu.addSeparator();
     AddAction(menu, "repair", "&Ripara i locali scelti", QKeySequence("Ctrl+R"),
-              [this] { m_commands.Size(MarkedRooms(), L"Ripara"); });
+              [this] { m_commands.Repair(MarkedRooms(), L"Ripara"); });
     AddAction(menu, "repairAll", "Ripara &tutti", QKeySequence("Ctrl+Shift+R"),
-              [this] { m_commands.Size(OpenRooms(m_document.Building()), L"Ripara tutti"); });
+              [this] { m_commands.Repair(OpenRooms(m_document.Building()), L"Ripara tutti"); });
 }
 
 void CWorkbenchWindow::MakeViewMenu()

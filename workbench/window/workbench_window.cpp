@@ -125,6 +125,7 @@ void CWorkbenchWindow::ShowBuilding()
     m_pRooms->MarkRooms(m_marked);
     ShowTotals();
     ShowTitle();
+    TellStates();
     EnableActions();
 }
 
@@ -180,6 +181,13 @@ void CWorkbenchWindow::ShowTitle()
     const char* const use = m_document.IsReadOnly() ? " [sola lettura]" : "";
     setWindowTitle(ToQt(m_document.Building().strName) + use + "[*] – radsel");
     setWindowModified(!m_document.IsSaved());
+}
+
+void CWorkbenchWindow::TellStates()
+{
+    if (const QStringList lines = m_states.TakeNew(m_document.Building()); !lines.isEmpty()) {
+        Tell(lines.join('\n'));
+    }
 }
 
 void CWorkbenchWindow::MarkAsPlan()

@@ -5,6 +5,7 @@
 #include "workbench/window/plan_commands.h"
 #include "workbench/window/plan_document.h"
 #include "workbench/window/prompts.h"
+#include "workbench/window/state_notices.h"
 
 #include <QMainWindow>
 
@@ -55,6 +56,7 @@ private:
     void ShowTabs();
     void ShowTotals();
     void ShowTitle();
+    void TellStates();
     void EnableActions();
 
     void MarkAsPlan();
@@ -82,6 +84,7 @@ private:
     std::vector<CRoomRef> m_marked;
     QDockWidget* m_pRoomDock = nullptr;
     QDockWidget* m_pMessageDock = nullptr;
+    CStateNotices m_states;
     QPlainTextEdit* m_pMessages;
     QLabel* m_pTotals;
     std::unique_ptr<CPlanDrawer> m_pDrawer;

@@ -67,6 +67,7 @@ CBuilding OddBuilding()
     building.strName = L"Casa";
     building.system = {70.0, 55.5};
     building.abstaende = {100.0, 80.0};
+    building.ueberschussMax = 22.5;
     building.ventile = {CValveKey{L"A", CString(36, L'1')}, CValveKey{L"B", CString(30, L'2')}};
     building.strNotiz = L"[\"uno\",\"due\"]";
     CRoom empty = OddRoom();
@@ -164,7 +165,7 @@ TEST_F(BuildingFileTest, EveryFieldComesBackExactly)
     const CBuilding read = ReadBuilding(m_folder.Path("casa.json"));
     const auto fields = [](const CBuilding& b) {
         return std::tie(b.strName, b.system.vorlauf, b.system.ruecklauf, b.abstaende.boden,
-                        b.abstaende.sturz, b.strNotiz);
+                        b.abstaende.sturz, b.ueberschussMax, b.strNotiz);
     };
     EXPECT_EQ(fields(read), fields(building));
     EXPECT_EQ(Texts(read.ventile), Texts(building.ventile));
@@ -182,6 +183,7 @@ TEST_F(BuildingFileTest, TheSampleIsWrittenAsItStands)
     std::ifstream file(RADSEL_DATA_DIR "/buildings/villa-dei-tigli.json");
     const std::string bytes(std::istreambuf_iterator<char>(file), {});
     EXPECT_EQ(FormatBuilding(Read(bytes)), bytes);
+    EXPECT_EQ(Read(bytes).ueberschussMax, 15.0) << "files of before have no limit";
 }
 
 TEST_F(BuildingFileTest, ANoteOfAnyKindIsWrittenAsItWasRead)
@@ -212,6 +214,8 @@ TEST_F(BuildingFileTest, WrongFieldsAreNamedWithTheirRoom)
         {"\"Tre\"", "\"Uno\"", "locale \"Uno\": campo \"name\": il nome è già di un altro locale"},
         {"\"Primo\"", "\"Terra\"",
          "piano \"Terra\": campo \"name\": il nome è già di un altro piano"},
+        {"\"floors\"", "\"oversizedAbove\": -1, \"floors\"",
+         "campo \"oversizedAbove\": -1 è fuori dall'intervallo da 0 a 1000"},
         {"\"depth\": 3000", "\"depth\": 0",
          "locale \"Uno\": campo \"depth\": deve essere maggiore di 0"},
         {"3700", "3699.5", // a wall's thickness is 300

@@ -96,35 +96,4 @@ TEST_F(PlanEditTest, ANewSystemGivesTheOutputsOfASilentSelection)
     EXPECT_EQ(RadiatorOf(m_building, {{0, 2}, 1}).daten.Leistung, 1814.0);
 }
 
-TEST_F(PlanEditTest, CoverageAllowsTenPerCentOfWhatIsAskedOfRadiators)
-{
-    const struct
-    {
-        double bedarf, gedeckt;
-        std::vector<double> outputs;
-        Coverage coverage;
-        double remainder;
-    } cases[] = {
-        {1000, 0, {}, Coverage::empty, 1000},
-        {1000, 0, {899}, Coverage::lacking, 101},
-        {1000, 0, {900}, Coverage::covered, 100},
-        {1000, 200, {400, 320}, Coverage::covered, 80}, // 720 of 800 W
-        {1000, 200, {400, 319}, Coverage::lacking, 81},
-        {1000, 0, {800, 600}, Coverage::covered, -400},
-        {1000, 1000, {}, Coverage::notNeeded, 0},
-        {0, 0, {500}, Coverage::notNeeded, -500},
-    };
-    for (const auto& test : cases) {
-        CRoom room = Room(L"Sala", test.bedarf);
-        room.gedeckt = test.gedeckt;
-        for (const double output : test.outputs) {
-            room.heizkoerper.push_back(Radiator(output));
-        }
-        EXPECT_EQ(CoverageOf(room), test.coverage) << test.remainder;
-        EXPECT_EQ(RemainderOf(room), test.remainder);
-        EXPECT_EQ(IsOpen(CoverageOf(room)),
-                  test.coverage == Coverage::empty || test.coverage == Coverage::lacking);
-    }
-}
-
 } // namespace workbench

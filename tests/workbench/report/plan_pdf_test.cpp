@@ -98,14 +98,18 @@ TEST_F(PlanPdfTest, NoHeadingIsCutAndNoRowIsShort)
     lacking.heizkoerper = {Radiator(800.0), Radiator(100.0)};
     lacking.heizkoerper[0].ventile.ruecklauf = CValveKey{L"Nessuno", CString(36, L'1')};
     Add(0, lacking);
+    CRoom strong = Room(L"Forte", 500.0);
+    strong.heizkoerper = {Radiator(1000.0)};
+    Add(0, strong);
     const CSchedule schedule = SchedulePlan(m_building);
     QImage page(1, 1, QImage::Format_RGB32);
     page.setDotsPerMeterX(CReportSheet::kDotsPerInch * 10000 / 254);
     page.setDotsPerMeterY(CReportSheet::kDotsPerInch * 10000 / 254);
     QPainter painter(&page);
     const CReportSheet sheet(painter);
-    for (CReportTable table : {MakeTotalsTable(schedule), MakeScheduleTable(schedule),
-                               MakeOpenRoomsTable(schedule), MakeValveTable(schedule)}) {
+    for (CReportTable table :
+         {MakeTotalsTable(schedule), MakeScheduleTable(schedule), MakeOpenRoomsTable(schedule),
+          MakeMissizedTable(schedule), MakeValveTable(schedule)}) {
         // The narrower paper, less its margins.
         FitColumns(table, 267.0);
         EXPECT_TRUE(FindCutHeadings(sheet, table).empty())

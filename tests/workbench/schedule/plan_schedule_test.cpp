@@ -45,6 +45,18 @@ protected:
         weak.heizkoerper = {Radiator(800.0)};
         Add(0, weak);
     }
+
+    static QJsonObject JsonOf(const CSchedule& schedule)
+    {
+        return QJsonDocument::fromJson(QByteArray::fromStdString(FormatScheduleJson(schedule)))
+            .object();
+    }
+
+    static std::string RowOf(const CReportTable& table, std::size_t row)
+    {
+        const std::vector<QString>& cells = table.rows[row].zellen;
+        return QStringList(cells.begin(), cells.end()).join('|').toStdString();
+    }
 };
 
 } // namespace
@@ -82,9 +94,7 @@ TEST_F(PlanScheduleTest, EveryOutputHasEverySum)
     EXPECT_EQ(words, (std::vector<CString>{L"Totale", L"dell'edificio", L"4000", L"3500", L"1790",
                                            L"1790", L"-48.9", L"2.5"}));
 
-    const auto root =
-        QJsonDocument::fromJson(QByteArray::fromStdString(FormatScheduleJson(schedule))).object();
-    const QJsonObject totals = root["totals"].toObject();
+    const QJsonObject totals = JsonOf(schedule)["totals"].toObject();
     const std::pair<const char*, double> sums[] = {
         {"chosen", 1},     {"demand", 4000}, {"deviationPercent", -48.857142857142854},
         {"litres", 2.5},   {"open", 2},      {"output", 1790},
@@ -96,8 +106,7 @@ TEST_F(PlanScheduleTest, EveryOutputHasEverySum)
     }
 
     const auto lastRow = [](const CReportTable& table) {
-        const std::vector<QString>& cells = table.rows.back().zellen;
-        return QStringList(cells.begin(), cells.end()).join('|').toStdString();
+        return RowOf(table, table.rows.size() - 1);
     };
     EXPECT_EQ(lastRow(MakeScheduleTable(schedule)),
               "|Totale dell'edificio||4000|3500|3 corpi scaldanti||||1790|1790|-48,9|2,5||");
@@ -142,9 +151,7 @@ TEST_F(PlanScheduleTest, TheWidestTableAndTheLongestNotesStayWithinTheConsole)
 
 TEST_F(PlanScheduleTest, FurtherRadiatorsStandWithTheirRoomInJson)
 {
-    const auto root = QJsonDocument::fromJson(
-                          QByteArray::fromStdString(FormatScheduleJson(SchedulePlan(m_building))))
-                          .object();
+    const QJsonObject root = JsonOf(SchedulePlan(m_building));
     const QJsonArray rooms = root["floors"][0]["rooms"].toArray();
     ASSERT_EQ(rooms.size(), 3);
     EXPECT_EQ(rooms[0]["status"], "chosen");
@@ -178,7 +185,57 @@ TEST_F(PlanScheduleTest, ValvesAreThoseOfTheRadiatorsNotOfTheRooms)
     CRoom room = *m_building.floors[0].rooms[0];
     room.ventile.vorlauf = CValveKey{L"Nessuno", CString(36, L'2')};
     m_building.floors[0].rooms[0] = std::make_shared<const CRoom>(room);
-    EXPECT_EQ(MakeValveBill(SchedulePlan(m_building)).nMissing, 1);
+    const CSchedule schedule = SchedulePlan(m_building);
+    EXPECT_EQ(MakeValveBill(schedule).nMissing, 1);
+    EXPECT_EQ(JsonOf(schedule)["valvesMissing"], 1);
+}
+
+TEST_F(PlanScheduleTest, EveryOutputTellsSizesThatOughtToBeOthers)
+{
+    CRoom high = Room(L"Alto", 1000.0);
+    high.heizkoerper = {Radiator(1000.0)};
+    high.heizkoerper[0].daten.Hoehe = 900.0;
+    CRoom strong = Room(L"Forte", 1000.0);
+    strong.plaetze.push_back(strong.plaetze[0]);
+    strong.heizkoerper = {Radiator(600.0), Radiator(600.0)};
+    strong.heizkoerper[1].nPlatz = 1;
+    m_building.floors[0].rooms.clear();
+    Add(0, high);
+    Add(0, strong);
+    const CSchedule schedule = SchedulePlan(m_building);
+    EXPECT_EQ(schedule.floors[0].totals.nOpen, 1);
+    EXPECT_EQ(schedule.floors[0].totals.nChosen, 1);
+    EXPECT_EQ(schedule.floors[0].totals.nHeizkoerper, 3);
+
+    const CString csv = FormatScheduleCsv(schedule);
+    const CString text = FormatScheduleText(schedule, false);
+    const QJsonArray json = JsonOf(schedule)["floors"][0]["rooms"].toArray();
+    const CReportTable open = MakeOpenRoomsTable(schedule);
+    const CReportTable sizes = MakeMissizedTable(schedule);
+    ASSERT_EQ(open.rows.size(), 2u) << "the high one, and that of the other floor";
+    EXPECT_EQ(RowOf(open, 0), "Terra|Alto|troppo grande per il posto|1000|1000||");
+    const struct
+    {
+        CString name, status, note;
+        const char* code;
+    } expected[] = {
+        {L"Alto", L"troppo grande per il posto", L"altezza 900 mm, consentiti 720 mm", "tooLarge"},
+        {L"Forte", L"sovradimensionato", L"200 W in più (20.0 %, limite 15 %)", "oversized"},
+    };
+    ASSERT_EQ(sizes.rows.size(), std::size(expected));
+    for (qsizetype i = 0; i < 2; ++i) {
+        const auto& [name, status, note, code] = expected[i];
+        const std::size_t line = csv.find(L"Terra;" + name + L";" + status + L";");
+        ASSERT_NE(line, CString::npos) << Utf8FromWide(csv);
+        EXPECT_TRUE(csv.substr(line, csv.find(L'\r', line) - line).ends_with(L";" + note));
+        EXPECT_NE(text.find(L"\n    " + status + L": " + note + L"\n"), CString::npos)
+            << Utf8FromWide(text);
+        EXPECT_EQ(json[i]["status"], code);
+        EXPECT_EQ(json[i]["note"].toString().toStdWString(), note);
+        EXPECT_TRUE(json[i]["radiator"].isObject());
+        EXPECT_EQ(RowOf(sizes, static_cast<std::size_t>(i)),
+                  Utf8FromWide(L"Terra|" + name + L"|" + status + L"|" + note));
+    }
 }
 
 } // namespace workbench

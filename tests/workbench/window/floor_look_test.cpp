@@ -7,6 +7,7 @@
 
 #include <QFontMetricsF>
 
+#include <iterator>
 #include <set>
 #include <tuple>
 
@@ -15,8 +16,8 @@ namespace workbench {
 namespace {
 
 /// Those of the sample's rooms, in their order.
-constexpr Coverage kCoverages[] = {Coverage::lacking, Coverage::covered, Coverage::empty,
-                                   Coverage::notNeeded};
+constexpr Coverage kCoverages[] = {Coverage::lacking,   Coverage::covered,  Coverage::empty,
+                                   Coverage::notNeeded, Coverage::tooLarge, Coverage::oversized};
 
 /// The sign as pixels in its ink or not, so that its shape counts only.
 std::vector<bool> ShapeOf(Coverage coverage)
@@ -46,6 +47,13 @@ CRoom RoomNamed(const CString& name)
 TEST(FloorLook, EveryStateHasItsFloorColourAndASignOfItsOwnShape)
 {
     CPlanWindowTest window;
+    window.rooms.Add(0, L"Largo", 1000.0, {1000.0});
+    CPlacedRadiator radiator = RadiatorOf(window.rooms.building, {{0, 4}, 0});
+    radiator.daten.Laenge = 1201.0;
+    ReplaceRadiator(window.rooms.building, {{0, 4}, 0}, radiator);
+    window.rooms.Add(0, L"Troppo", 1000.0, {1151.0});
+    window.scene.ShowFloor(window.rooms.building, 0);
+    window.view.FitToContent();
     const QImage picture = window.Picture();
     std::set<QRgb> fills;
     std::set<std::vector<bool>> shapes;
@@ -53,13 +61,17 @@ TEST(FloorLook, EveryStateHasItsFloorColourAndASignOfItsOwnShape)
         fills.insert(FillOf(coverage).rgb());
         shapes.insert(ShapeOf(coverage));
     }
-    EXPECT_EQ(fills.size(), 4u);
-    EXPECT_EQ(shapes.size(), 4u);
+    EXPECT_EQ(fills.size(), std::size(kCoverages));
+    EXPECT_EQ(shapes.size(), std::size(kCoverages));
     for (std::size_t i = 0; i < std::size(kCoverages); ++i) {
         // Near the upper left corner, where no text stands.
         const QPointF corner = window.scene.BoundsOf({0, i}).bottomLeft() + QPointF(0.2, -0.2);
         EXPECT_EQ(picture.pixelColor(window.Pixel(corner)), FillOf(kCoverages[i]));
     }
+    const QPointF corner = window.scene.BoundsOf({0, 5}).bottomLeft() + QPointF(0.2, -0.2);
+    window.rooms.building.ueberschussMax = 20.0; // the room is the same
+    window.scene.ShowFloor(window.rooms.building, 0);
+    EXPECT_EQ(window.Picture().pixelColor(window.Pixel(corner)), FillOf(Coverage::covered));
 }
 
 TEST(FloorLook, RadiatorsShowInTheColourOfTheirLayerBelowTheWindow)
@@ -128,7 +140,7 @@ TEST(FloorLook, ConnectionsCanBeLeftOutForAPreview)
 
 TEST(RoomLabel, TextsKeepToTheirAreaAndItsFreeCornersAndGiveWayToTheName)
 {
-    const CRoomLabel label(RoomNamed(L"Camera degli ospiti"));
+    const CRoomLabel label(RoomNamed(L"Camera degli ospiti"), Coverage::empty);
     const struct
     {
         QSizeF area;

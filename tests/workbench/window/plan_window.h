@@ -35,6 +35,7 @@ public:
                           4000.0, 3000.0};
         room.plaetze = {{PlaceKind::window, 900.0, 1200.0, Wall::sued, 400.0},
                         {PlaceKind::window, 900.0, 1200.0, Wall::sued, 2400.0}};
+        room.grenzen = {900.0, 1200.0, 0.0, 200.0};
         for (const double output : outputs) {
             CPlacedRadiator radiator;
             radiator.strTyp = L"22/600";

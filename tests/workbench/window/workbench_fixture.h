@@ -80,6 +80,11 @@ protected:
         return RoomOf(m_document.Building(), {floor, room});
     }
 
+    Coverage StateOf(std::size_t floor, std::size_t room) const
+    {
+        return CoverageOf(m_document.Building(), Room(floor, room));
+    }
+
     void Mark(const std::vector<CRoomRef>& rooms)
     {
         m_window->findChild<CFloorScene*>()->MarkRooms(rooms);

@@ -2,6 +2,7 @@
 #include "tools/make_building_samples.h"
 #include "workbench/building/qt_text.h"
 #include "workbench/drawing/plan_view.h"
+#include "workbench/window/plan_texts.h"
 
 #include <QCheckBox>
 #include <QDateTime>
@@ -125,6 +126,68 @@ TEST_F(WorkbenchWindow, AValveFileCutShortIsToldAndChangesNothing)
     EXPECT_TRUE(Messages().contains("ha.tga: riga ")) << Messages().toStdString();
 }
 
+TEST_F(WorkbenchWindow, ADamagedValveFileIsToldWhenTheBuildingOpensAndTheRestWorks)
+{
+    m_window->Start(m_path.wstring(), {});
+    EXPECT_EQ(Messages(), "") << "the sample's files are sound";
+    const fs::path valves = fs::path(m_folder.Path()) / "valvole";
+    fs::copy(fs::path(RADSEL_DATA_DIR) / "valves", valves, fs::copy_options::recursive);
+    std::ofstream(valves / "Fontespada" / "ha.tga") << "010;1;Prova;\n";
+    std::ofstream(valves / "M\u00f6hrental" / "ha.tga", std::ios::app) << "110;\n";
+    fs::remove(valves / "Ostervliet" / "ha.tga");
+    const CSettingOverride damaged(kSettingVEDir, valves.wstring());
+    m_window->Start(m_path.wstring(), {});
+    EXPECT_TRUE(Messages().contains("Fontespada/ha.tga: riga 1: ")) << Messages().toStdString();
+    EXPECT_TRUE(Messages().contains("hrental/ha.tga: riga ")) << Messages().toStdString();
+    EXPECT_FALSE(Messages().contains("Ostervliet")) << "no file is no damaged one";
+    Do("sizeAll");
+    EXPECT_EQ(Open(), 2u);
+}
+
+TEST_F(WorkbenchWindow, SizesThatOughtToBeOthersAreToldWhereverRoomsAreShown)
+{
+    Do("sizeAll");
+    const std::size_t before = Open();
+    auto& list = *m_window->findChild<QTableView*>("rooms");
+    const auto cell = [&](int role) { return list.model()->index(1, 5).data(role).toString(); };
+    EXPECT_EQ(cell(Qt::DisplayRole), "coperto");
+    CBuilding changed = m_document.Building();
+    CPlacedRadiator radiator = RadiatorOf(changed, {{0, 1}, 0});
+    radiator.daten.Hoehe = 900.0;
+    ReplaceRadiator(changed, {{0, 1}, 0}, radiator);
+    m_document.Do(L"Alto", changed);
+    const QString excess = "altezza 900 mm, consentiti 720 mm";
+    EXPECT_EQ(Open(), before + 1);
+    EXPECT_EQ(cell(Qt::DisplayRole), "troppo grande per il posto");
+    EXPECT_EQ(cell(Qt::ToolTipRole), "Troppo grande per il posto: " + excess);
+    EXPECT_TRUE(ToolTipOf(changed, Room(0, 1)).contains(cell(Qt::ToolTipRole)));
+    EXPECT_TRUE(ToolTipOf(changed, Room(0, 1), radiator).contains(excess));
+    const QString told = "Soggiorno: troppo grande per il posto, " + excess;
+    EXPECT_EQ(Messages().count(told), 1) << Messages().toStdString();
+    changed.strNotiz = L"[1]";
+    m_document.Do(L"Nota", changed);
+    EXPECT_EQ(Messages().count(told), 1) << "told once";
+    Do("undo");
+    Do("undo");
+    Do("redo");
+    EXPECT_EQ(Messages().count(told), 2) << "it was well meanwhile";
+
+    InDialog([](QWidget& dialog) {
+        auto& limit = *dialog.findChild<QDoubleSpinBox*>("excessMax");
+        EXPECT_EQ(limit.value(), 15.0);
+        limit.setValue(0.0);
+        EXPECT_TRUE(dialog.findChild<QLabel*>("consequence")->text().contains("sovradimensionati"));
+        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    });
+    Do("system");
+    EXPECT_EQ(m_document.Building().ueberschussMax, 0.0);
+    EXPECT_EQ(Action("undo").text(), "&Annulla: Limite di sovradimensionamento");
+    EXPECT_EQ(Open(), before + 1);
+    EXPECT_FALSE(m_window->findChild<QCheckBox*>("openOnly")->isChecked());
+    EXPECT_TRUE(Messages().contains(QRegularExpression("sovradimensionato, .* limite 0 %")))
+        << Messages().toStdString();
+}
+
 TEST_F(WorkbenchWindow, AnotherSystemShowsWhichRoomsLackAndRepairsThem)
 {
     Do("sizeAll");
@@ -140,12 +203,17 @@ TEST_F(WorkbenchWindow, AnotherSystemShowsWhichRoomsLackAndRepairsThem)
         QString("Locali da sistemare: %1").arg(lacking)));
 
     Mark({{0, 3}});
-    ASSERT_EQ(CoverageOf(Room(0, 3)), Coverage::lacking);
+    ASSERT_EQ(StateOf(0, 3), Coverage::lacking);
     Do("repair");
-    EXPECT_EQ(CoverageOf(Room(0, 3)), Coverage::covered);
+    EXPECT_EQ(StateOf(0, 3), Coverage::covered);
     EXPECT_EQ(Open(), lacking - 1);
+    EXPECT_TRUE(Messages().contains(QRegularExpression(
+        "locali esaminati 1, ancora da sistemare 0\\.\nCucina: .* W invece di ")))
+        << Messages().toStdString();
     Do("repairAll");
     EXPECT_LT(Open(), lacking - 1);
+    EXPECT_TRUE(Messages().contains(QRegularExpression("\nBiblioteca: non cambia, .*\n")))
+        << Messages().toStdString();
     Do("undo");
     EXPECT_EQ(Open(), lacking - 1);
 }
@@ -542,7 +610,7 @@ TEST_F(WorkbenchWindow, TheFilterOfTheListLeavesTheMarksAlone)
     EXPECT_TRUE(Room(0, 3).heizkoerper.empty());
     EXPECT_EQ(rows(), name);
     Do("size");
-    EXPECT_EQ(CoverageOf(Room(0, 3)), Coverage::covered);
+    EXPECT_EQ(StateOf(0, 3), Coverage::covered);
     EXPECT_EQ(rows(), name) << "what was worked on stays in sight";
     const int listed = model.rowCount();
     filter.setChecked(false);
