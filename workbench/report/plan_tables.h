@@ -16,6 +16,9 @@ CReportTable MakeScheduleTable(const CSchedule& schedule);
 /// Rooms that are not covered, and how much they lack.
 CReportTable MakeOpenRoomsTable(const CSchedule& schedule);
 
+/// The radiators to be ordered, with the order numbers of their catalogues.
+CReportTable MakeRadiatorOrderTable(const CSchedule& schedule);
+
 /// The valves to be ordered.
 CReportTable MakeValveTable(const CSchedule& schedule);
 

@@ -109,12 +109,14 @@ std::string FormatScheduleJson(const CSchedule& schedule)
     }
     const QJsonObject system = {{"supply", schedule.system.vorlauf},
                                 {"return", schedule.system.ruecklauf}};
-    const QJsonObject root = {{"version", kFormatVersion},
-                              {"building", ToQt(schedule.strBuilding)},
-                              {"system", system},
-                              {"floors", floors},
-                              {"totals", MakeTotals(schedule.totals)},
-                              {"valves", MakeValveBillJson(MakeValveBill(schedule))}};
+    const QJsonObject root = {
+        {"version", kFormatVersion},
+        {"building", ToQt(schedule.strBuilding)},
+        {"system", system},
+        {"floors", floors},
+        {"totals", MakeTotals(schedule.totals)},
+        {"radiators", MakeItemsJson(MakeRadiatorBill(schedule).items, RadiatorBillColumns())},
+        {"valves", MakeItemsJson(MakeValveBill(schedule).items, BillColumns())}};
     CJsonWriter writer(kStyle);
     writer.Value(nullptr, root);
     return writer.Take();

@@ -99,15 +99,4 @@ QJsonObject MakeValvesJson(const CRoomValves& valves)
     return object;
 }
 
-QJsonArray MakeValveBillJson(const CValveBill& bill)
-{
-    QJsonArray items;
-    for (const CValveItem& item : bill.items) {
-        QJsonObject object;
-        InsertValues(object, BillColumns(), JsonPart::item, item);
-        items.append(object);
-    }
-    return items;
-}
-
 } // namespace workbench

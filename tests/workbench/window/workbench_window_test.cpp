@@ -428,7 +428,8 @@ TEST_F(WorkbenchWindow, ExportsWhatStandsInThePlan)
 {
     Do("sizeAll");
     const std::tuple<const char*, const char*, std::string> exports[] = {
-        {"exportCsv", "distinta.csv", "Piano;Locale;"},
+        {"exportCsv", "distinta.csv", "\xef\xbb\xbfPiano;Locale;"},
+        {"exportXlsx", "distinta.xlsx", "PK"},
         {"exportJson", "distinta.json", "{"},
         {"exportPdf", "progetto.pdf", "%PDF-"},
         {"exportDxf", "pianta.dxf", "0\r\nSECTION\r\n"},
@@ -448,8 +449,11 @@ TEST_F(WorkbenchWindow, ExportsWhatStandsInThePlan)
 TEST_F(WorkbenchWindow, AsksBeforeAFileWhoseSuffixWasNotTypedIsReplaced)
 {
     const std::pair<const char*, const char*> writers[] = {
-        {"exportCsv", "altra.csv"}, {"exportJson", "altra-distinta.json"},
-        {"exportPdf", "altra.pdf"}, {"exportDxf", "altra.dxf"},
+        {"exportCsv", "altra.csv"},
+        {"exportXlsx", "altra.xlsx"},
+        {"exportJson", "altra-distinta.json"},
+        {"exportPdf", "altra.pdf"},
+        {"exportDxf", "altra.dxf"},
         {"saveAs", "altra.json"},
     };
     m_answerPath = (m_path.parent_path() / "altra").wstring();
@@ -471,7 +475,7 @@ TEST_F(WorkbenchWindow, NoExportTakesThePlaceOfTheBuilding)
 {
     const std::string before = BytesOf(m_path);
     m_answerPath = m_path.wstring();
-    for (const char* action : {"exportCsv", "exportJson", "exportPdf", "exportDxf"}) {
+    for (const char* action : {"exportCsv", "exportXlsx", "exportJson", "exportPdf", "exportDxf"}) {
         m_told.clear();
         Do(action);
         EXPECT_TRUE(m_told.contains("casa.json")) << action;
