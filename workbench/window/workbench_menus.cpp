@@ -40,6 +40,7 @@ void CWorkbenchWindow::MakeFileMenu()
     AddAction(exports, "exportXlsx", "Distinta (&Excel)…", {}, [this] { m_files.ExportXlsx(); });
     AddAction(exports, "exportJson", "Distinta (&JSON)…", {}, [this] { m_files.ExportJson(); });
     AddAction(exports, "exportDxf", "Pianta (&DXF)…", {}, [this] { m_files.ExportDxf(); });
+    AddAction(menu, "project", "&Dati del progetto…", {}, [this] { m_commands.DescribeProject(); });
     AddAction(menu, "catalogues", "Cartella dei ca&taloghi…", {},
               [this] { m_files.ChooseCatalogues(); });
     menu.addSeparator();
@@ -123,7 +124,7 @@ void CWorkbenchWindow::EnableActions()
     const bool any = !m_document.Building().floors.empty();
     enable("save", any && !readOnly);
     for (const char* const work : {"saveAs", "exportPdf", "exportCsv", "exportXlsx", "exportJson",
-                                   "exportDxf", "sizeAll", "system"}) {
+                                   "exportDxf", "sizeAll", "system", "project"}) {
         enable(work, any);
     }
     enable("undo", history.CanUndo());

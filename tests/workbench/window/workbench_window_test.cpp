@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTabBar>
@@ -422,6 +423,40 @@ TEST_F(WorkbenchWindow, ADamagedBuildingAtTheStartLeavesAWindow)
     Do("open");
     EXPECT_TRUE(m_window->windowTitle().contains("Villa dei Tigli"));
     EXPECT_TRUE(Action("save").isEnabled());
+}
+
+TEST_F(WorkbenchWindow, WhatPapersSayOfTheProjectIsTypedAndUndone)
+{
+    const CProject before = m_document.Building().project;
+    const auto type = [](QWidget& dialog, const char* field, const QString& text) {
+        dialog.findChild<QLineEdit*>(field)->setText(text);
+    };
+    const auto button = [](QWidget& dialog, QDialogButtonBox::StandardButton which) {
+        return dialog.findChild<QDialogButtonBox*>()->button(which);
+    };
+    InDialog([&](QWidget& dialog) {
+        type(dialog, "client", " Famiglia Bruni ");
+        type(dialog, "designer", "");
+        type(dialog, "number", "2026/014");
+        type(dialog, "date", "31/2/2026");
+        EXPECT_FALSE(button(dialog, QDialogButtonBox::Ok)->isEnabled());
+        type(dialog, "date", "1/3/2026");
+        button(dialog, QDialogButtonBox::Ok)->click();
+    });
+    Do("project");
+    const CProject typed{L"Famiglia Bruni", L"", L"2026/014", L"2026-03-01"};
+    EXPECT_EQ(m_document.Building().project, typed);
+
+    InDialog([&](QWidget& dialog) {
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("date")->text(), "01/03/2026");
+        type(dialog, "designer", "Rossi");
+        button(dialog, QDialogButtonBox::Cancel)->click();
+    });
+    Do("project");
+    EXPECT_EQ(m_document.Building().project, typed);
+    Do("undo");
+    EXPECT_EQ(m_document.Building().project, before);
+    EXPECT_TRUE(m_document.IsSaved());
 }
 
 TEST_F(WorkbenchWindow, ExportsWhatStandsInThePlan)
