@@ -3,12 +3,18 @@
 #include "workbench/plan/coverage.h"
 #include "workbench/report/report_sheet.h"
 
+#include <vector>
+
 namespace workbench {
 
 /// How a printed plan shows whether a room is covered: a light fill, and a strong form of it for
 /// figures on that fill.
 QColor PrintFillOf(Coverage coverage);
 QColor PrintInkOf(Coverage coverage);
+
+/// Metres at which the bar of a scale has its figures, from 0 on: round numbers, in steps that are
+/// round as well, for a bar of at most 60 mm.
+std::vector<double> ScaleBarMarks(int scale);
 
 /// Paints a bar of the scale with its name, 6.5 mm high, from its upper left corner.
 void PaintScaleBar(CReportSheet& sheet, const QPointF& corner, int scale);
