@@ -20,6 +20,9 @@ struct CMeasures
 /// What a cell holds, before an output gives it its form. The first one is the empty cell.
 using CCell = std::variant<std::monostate, CString, double, CMeasures>;
 
+/// The double with the shortest decimal digits that stand for the float: 0.88 for 0.88F.
+double DecimalOf(float value);
+
 /// Stands for as many decimals as the number has.
 inline constexpr int kAllDecimals = -1;
 

@@ -396,7 +396,7 @@ void AddValve(Columns& columns, const CString& name, CValveOutcome CRoomValves::
         CScheduleColumn(ofFound([](const auto& ventil) {
             return double(ventil.DN);
         })).Looks({Csv(name + L" DN")}),
-        CScheduleColumn(ofFound([](const auto& ventil) { return double(ventil.Kvs); }))
+        CScheduleColumn(ofFound([](const auto& ventil) { return DecimalOf(ventil.Kvs); }))
             .Unit(L"m³/h")
             .Form(kKv)
             .Looks({Csv(name + L" kvs")}),

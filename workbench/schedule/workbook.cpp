@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <cmath>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <locale.h>
 #include <system_error>
@@ -27,6 +28,9 @@ constexpr std::size_t kLongestText = 32767;
 constexpr lxw_color_t kHeadingFill = 0xe1e6ec;
 
 constexpr std::uint8_t kPaperA4 = 9;
+
+/// The earliest time of a file in an archive: the start of 1980.
+constexpr std::time_t kFirstDayOfArchives = 315532800;
 
 /// The library prints numbers by the process locale, but the file has points in every country.
 class CPointNumbers
@@ -103,17 +107,25 @@ public:
 
     const char* Name() const { return m_strPath.c_str(); }
     CString Path() const { return TextFromPath(m_strPath); }
+    std::string Folder() const { return std::filesystem::path(m_strPath).parent_path().string(); }
 
 private:
     std::string m_strPath;
 };
 
-CWorkbook::CWorkbook(const CString& title)
-    : m_file(std::make_unique<CTemporaryFile>()), m_pBook(workbook_new(m_file->Name()))
+CWorkbook::CWorkbook(const CString& title) : m_file(std::make_unique<CTemporaryFile>())
 {
+    // The library does not look whether its drafts were written; beside the file that grows out of
+    // them, a disk that is full for them is full for it as well, and that is told.
+    std::string folder = m_file->Folder();
+    lxw_workbook_options options = {};
+    options.tmpdir = folder.data();
+    m_pBook = workbook_new_opt(m_file->Name(), &options);
     std::string text = CellText(title);
     lxw_doc_properties properties = {};
     properties.title = text.data();
+    // The same schedule gives the same bytes whenever it is written.
+    properties.created = kFirstDayOfArchives;
     workbook_set_properties(m_pBook, &properties);
 }
 
