@@ -6,6 +6,8 @@
 #include "reference_host/catalog/catalogue_errors.h"
 #include "reference_host/catalog/catalogue_folder.h"
 #include "reference_host/catalog/catalogue_tree.h"
+#include "reference_host/catalog/order_number.h"
+#include "reference_host/catalog/reader/row_builder.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -129,6 +131,24 @@ std::vector<CFileFault> GetListingErrors()
         errors.push_back(fault);
     }
     return errors;
+}
+
+CString FindOrderNumber(const CString& hersteller, const CString& art, const CString& produkt,
+                        const CString& typ, const HK_DATEN_VDI3805& daten)
+{
+    const std::optional<std::filesystem::path> file =
+        FindCatalogueFile(GetHKDir(false), hersteller);
+    const auto* const katalog =
+        file ? std::get_if<CCatalogue>(&Library().cache.Get(*file)) : nullptr;
+    if (!katalog) {
+        return {};
+    }
+    const auto kind = std::ranges::find(katalog->arten, art, &CCatalogueKind::strName);
+    if (kind == katalog->arten.end()) {
+        return {};
+    }
+    const auto model = std::ranges::find(kind->produkte, produkt, &CCatalogueProduct::strName);
+    return model == kind->produkte.end() ? CString() : FindOrderNumber(*model, typ, daten);
 }
 
 } // namespace reference_host

@@ -155,11 +155,25 @@ struct CClearance
 /// has a limit of its own.
 inline constexpr double kUsualExcess = 15.0;
 
+/// Whose building it is and who plans it, as papers for the client say it. Empty texts are not
+/// said.
+struct CProject
+{
+    CString strClient;
+    CString strDesigner;
+    CString strNumber;
+    /// Day of the project as "2026-03-01".
+    CString strDate;
+
+    bool operator==(const CProject&) const = default;
+};
+
 /// A building. A value whose copies share the rooms that they have in common. Rooms have names
 /// unique in the whole building, floors among the floors.
 struct CBuilding
 {
     CString strName;
+    CProject project;
     CHeatingSystem system;
     CClearance abstaende;
     /// Per cent by which the radiators of a room may exceed what is asked of them.

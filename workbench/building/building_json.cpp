@@ -6,6 +6,7 @@
 #include "workbench/building/json_fields.h"
 #include "workbench/building/json_note.h"
 #include "workbench/building/json_writer.h"
+#include "workbench/building/project_json.h"
 #include "workbench/building/room_json.h"
 #include "workbench/building/valve_keys_json.h"
 
@@ -192,6 +193,7 @@ CBuilding ReadBuilding(CJsonFields fields)
     CBuilding building;
     building.strName = fields.Text("name");
     building.strNotiz = NoteOf(fields);
+    building.project = ReadProject(fields);
     building.system = ReadSystem(fields.Object("system"));
     building.abstaende = ReadClearance(fields.Object("clearance"));
     building.ueberschussMax = fields.NumberOr("oversizedAbove", 0.0, kLargestExcess, kUsualExcess);
@@ -218,6 +220,7 @@ void WriteBuilding(CJsonWriter& writer, const char* name, const CBuilding& build
     writer.Number("version", kNewestVersion);
     writer.Text("name", building.strName);
     WriteNote(writer, building.strNotiz);
+    WriteProject(writer, building.project);
     WritePair(writer, "system", "supply", building.system.vorlauf, "return",
               building.system.ruecklauf);
     WritePair(writer, "clearance", "floor", building.abstaende.boden, "sill",

@@ -2,8 +2,11 @@
 
 #include "platform/encoding.h"
 #include "platform/format.h"
+#include "workbench/dxf/dxf_frame.h"
 
 #include <cstdio>
+#include <string_view>
+#include <utility>
 
 namespace workbench {
 
@@ -47,172 +50,263 @@ class CGroupWriter
 public:
     void Text(int code, const CString& value) { Group(code, EscapedText(value)); }
 
+    /// A value that needs no escaping.
+    void Plain(int code, std::string_view value) { Group(code, value); }
+
     void Int(int code, int value) { Group(code, std::to_string(value)); }
 
     void Real(int code, double value) { Group(code, Utf8FromWide(FormatExact(value))); }
 
-    /// x, y and z; the codes of the three are ten apart.
-    void Point(int code, const CDxfPoint& point)
+    /// x and y; the codes of the two are ten apart.
+    void FlatPoint(int code, const CDxfPoint& point)
     {
         Real(code, point.x);
         Real(code + 10, point.y);
+    }
+
+    /// x, y and z; the codes of the three are ten apart.
+    void Point(int code, const CDxfPoint& point)
+    {
+        FlatPoint(code, point);
         Real(code + 20, 0.0);
     }
+
+    /// Groups of the frame.
+    void Frame(std::string_view groups)
+    {
+        while (!groups.empty()) {
+            const std::string_view line = groups.substr(0, groups.find('\n'));
+            const std::size_t blank = line.find(' ');
+            m_text.append(line.substr(0, blank)).append("\r\n");
+            m_text.append(line.substr(blank + 1)).append("\r\n");
+            groups.remove_prefix(line.size() + 1);
+        }
+    }
+
+    /// The head of a record, with a handle of its own and that of what it belongs to. Returns its
+    /// own.
+    std::string Record(std::string_view record, std::string_view owner)
+    {
+        Plain(0, record);
+        const std::string handle = HandleText(m_nNextHandle++);
+        Plain(5, handle);
+        Plain(330, owner);
+        return handle;
+    }
+
+    /// The same of an entity on its layer.
+    std::string Entity(std::string_view record, std::string_view owner, const CString& layer)
+    {
+        std::string handle = Record(record, owner);
+        Plain(100, "AcDbEntity");
+        Text(8, layer);
+        return handle;
+    }
+
+    /// A handle that no record has.
+    std::string FreeHandle() const { return HandleText(m_nNextHandle); }
 
     std::string TakeText() { return std::move(m_text); }
 
 private:
-    void Group(int code, const std::string& value)
+    static std::string HandleText(unsigned handle)
     {
-        m_text += std::to_string(code) + "\r\n" + value + "\r\n";
+        char digits[16];
+        std::snprintf(digits, sizeof digits, "%X", handle);
+        return digits;
+    }
+
+    void Group(int code, std::string_view value)
+    {
+        m_text.append(std::to_string(code)).append("\r\n").append(value).append("\r\n");
     }
 
     std::string m_text;
+    unsigned m_nNextHandle = dxf_frame::kFirstFreeHandle;
 };
 
-/// Writes the record of a shape behind the groups that all entities share.
+/// Writes an entity into a block or into model space.
 class CEntityWriter
 {
 public:
-    CEntityWriter(CGroupWriter& out, const CDxfEntity& entity) : m_out(out), m_entity(entity) {}
+    CEntityWriter(CGroupWriter& out, std::string_view owner, const CDxfEntity& entity)
+        : m_out(out), m_owner(owner), m_entity(entity)
+    {
+    }
 
     void operator()(const CDxfLine& line) const
     {
-        Head(L"LINE");
+        Head("LINE", "AcDbLine");
         m_out.Point(10, line.von);
         m_out.Point(11, line.bis);
     }
 
     void operator()(const CDxfCircle& circle) const
     {
-        Head(L"CIRCLE");
+        Head("CIRCLE", "AcDbCircle");
         m_out.Point(10, circle.mitte);
         m_out.Real(40, circle.dRadius);
     }
 
     void operator()(const CDxfArc& arc) const
     {
-        Head(L"ARC");
+        Head("ARC", "AcDbCircle");
         m_out.Point(10, arc.mitte);
         m_out.Real(40, arc.dRadius);
+        m_out.Plain(100, "AcDbArc");
         m_out.Real(50, arc.dVon);
         m_out.Real(51, arc.dBis);
     }
 
     void operator()(const CDxfPolyline& polyline) const
     {
-        Head(L"POLYLINE");
-        m_out.Int(66, 1);
-        m_out.Point(10, {});
+        Head("LWPOLYLINE", "AcDbPolyline");
+        m_out.Int(90, static_cast<int>(polyline.punkte.size()));
         m_out.Int(70, polyline.bGeschlossen ? 1 : 0);
         for (const CDxfVertex& vertex : polyline.punkte) {
-            Head(L"VERTEX");
-            m_out.Point(10, vertex.punkt);
+            m_out.FlatPoint(10, vertex.punkt);
             m_out.Real(42, vertex.dBulge);
         }
-        Head(L"SEQEND");
     }
 
 private:
-    void Head(const CString& record) const
+    void Head(std::string_view record, std::string_view subclass) const
     {
-        m_out.Text(0, record);
-        m_out.Text(8, m_entity.strLayer);
+        m_out.Entity(record, m_owner, m_entity.strLayer);
         m_out.Int(62, m_entity.nColor);
+        m_out.Plain(100, subclass);
     }
 
     CGroupWriter& m_out;
+    std::string_view m_owner;
     const CDxfEntity& m_entity;
 };
 
-void BeginSection(CGroupWriter& out, const CString& name)
+void BeginSection(CGroupWriter& out, std::string_view name)
 {
-    out.Text(0, L"SECTION");
-    out.Text(2, name);
+    out.Plain(0, "SECTION");
+    out.Plain(2, name);
 }
 
-void WriteHeader(CGroupWriter& out)
+void EndSection(CGroupWriter& out)
 {
-    BeginSection(out, L"HEADER");
-    out.Text(9, L"$ACADVER");
-    out.Text(1, L"AC1009");
-    out.Text(9, L"$DWGCODEPAGE");
-    out.Text(3, L"ANSI_1252");
-    out.Text(0, L"ENDSEC");
+    out.Plain(0, "ENDSEC");
 }
 
-void WriteLineTypes(CGroupWriter& out)
+void BeginTable(CGroupWriter& out, std::string_view name, std::string_view handle,
+                std::size_t count)
 {
-    out.Text(0, L"TABLE");
-    out.Text(2, L"LTYPE");
+    out.Plain(0, "TABLE");
+    out.Plain(2, name);
+    out.Plain(5, handle);
+    out.Plain(330, "0");
+    out.Plain(100, "AcDbSymbolTable");
+    out.Int(70, static_cast<int>(count));
+}
+
+/// `freeHandle` is the first that nothing in the file has.
+void WriteHeader(CGroupWriter& out, std::string_view freeHandle)
+{
+    constexpr int metres = 6;
+    BeginSection(out, "HEADER");
+    out.Plain(9, "$ACADVER");
+    out.Plain(1, "AC1015");
+    out.Plain(9, "$DWGCODEPAGE");
+    out.Plain(3, "ANSI_1252");
+    out.Plain(9, "$INSUNITS");
+    out.Int(70, metres);
+    out.Plain(9, "$MEASUREMENT");
     out.Int(70, 1);
-    out.Text(0, L"LTYPE");
-    out.Text(2, L"CONTINUOUS");
-    out.Int(70, 0);
-    out.Text(3, L"Solid line");
-    out.Int(72, 65);
-    out.Int(73, 0);
-    out.Real(40, 0.0);
-    out.Text(0, L"ENDTAB");
+    out.Plain(9, "$HANDSEED");
+    out.Plain(5, freeHandle);
+    EndSection(out);
 }
 
 void WriteLayers(CGroupWriter& out, const std::vector<CDxfLayer>& layers)
 {
-    out.Text(0, L"TABLE");
-    out.Text(2, L"LAYER");
-    out.Int(70, static_cast<int>(layers.size()));
+    BeginTable(out, "LAYER", dxf_frame::kLayerTable, layers.size());
     for (const CDxfLayer& layer : layers) {
-        out.Text(0, L"LAYER");
+        out.Record("LAYER", dxf_frame::kLayerTable);
+        out.Plain(100, "AcDbSymbolTableRecord");
+        out.Plain(100, "AcDbLayerTableRecord");
         out.Text(2, layer.strName);
         out.Int(70, 0);
         out.Int(62, layer.nColor);
-        out.Text(6, L"CONTINUOUS");
+        out.Plain(6, "Continuous");
+        out.Plain(390, dxf_frame::kPlotStyle);
     }
-    out.Text(0, L"ENDTAB");
+    out.Plain(0, "ENDTAB");
 }
 
-void WriteEntities(CGroupWriter& out, const std::vector<CDxfEntity>& entities)
+/// Returns the handles of the blocks' records.
+std::vector<std::string> WriteBlockRecords(CGroupWriter& out, const std::vector<CDxfBlock>& blocks)
+{
+    constexpr std::size_t spaces = 2;
+    BeginTable(out, "BLOCK_RECORD", dxf_frame::kBlockRecordTable, blocks.size() + spaces);
+    out.Frame(dxf_frame::kSpaceRecords);
+    std::vector<std::string> handles;
+    for (const CDxfBlock& block : blocks) {
+        handles.push_back(out.Record("BLOCK_RECORD", dxf_frame::kBlockRecordTable));
+        out.Plain(100, "AcDbSymbolTableRecord");
+        out.Plain(100, "AcDbBlockTableRecord");
+        out.Text(2, block.strName);
+        out.Plain(340, "0");
+    }
+    out.Plain(0, "ENDTAB");
+    return handles;
+}
+
+void WriteEntities(CGroupWriter& out, std::string_view owner,
+                   const std::vector<CDxfEntity>& entities)
 {
     for (const CDxfEntity& entity : entities) {
-        std::visit(CEntityWriter(out, entity), entity.shape);
+        std::visit(CEntityWriter(out, owner, entity), entity.shape);
     }
 }
 
-/// `record` is that of an attribute or of its definition.
-void WriteAttribute(CGroupWriter& out, const CString& record, const CString& layer,
-                    const CDxfPoint& punkt, const CDxfAttribute& attribute)
+/// The text of an attribute or of its definition.
+void WriteAttributeText(CGroupWriter& out, const CDxfPoint& punkt, const CDxfAttribute& attribute)
 {
-    out.Text(0, record);
-    out.Text(8, layer);
+    out.Plain(100, "AcDbText");
     out.Point(10, punkt);
     out.Real(40, kAttributeHeight);
     out.Text(1, attribute.strWert);
+}
+
+void WriteDefinition(CGroupWriter& out, std::string_view owner, const CDxfPoint& punkt,
+                     const CDxfAttribute& attribute)
+{
+    out.Entity("ATTDEF", owner, L"0");
+    WriteAttributeText(out, punkt, attribute);
+    out.Plain(100, "AcDbAttributeDefinition");
+    out.Text(3, attribute.strName);
     out.Text(2, attribute.strName);
     out.Int(70, kInvisible);
 }
 
-void WriteBlock(CGroupWriter& out, const CDxfBlock& block)
+void WriteBlock(CGroupWriter& out, const CDxfBlock& block, std::string_view record)
 {
-    out.Text(0, L"BLOCK");
-    out.Text(8, L"0");
+    constexpr int hasAttributes = 2;
+    out.Entity("BLOCK", record, L"0");
+    out.Plain(100, "AcDbBlockBegin");
     out.Text(2, block.strName);
-    out.Int(70, 0);
+    out.Int(70, block.attribute.empty() ? 0 : hasAttributes);
     out.Point(10, block.basis);
     out.Text(3, block.strName);
-    WriteEntities(out, block.entities);
+    out.Plain(1, "");
+    WriteEntities(out, record, block.entities);
     for (const CDxfAttribute& attribute : block.attribute) {
-        WriteAttribute(out, L"ATTDEF", L"0", block.basis, attribute);
-        out.Text(3, attribute.strName);
+        WriteDefinition(out, record, block.basis, attribute);
     }
-    out.Text(0, L"ENDBLK");
-    out.Text(8, L"0");
+    out.Entity("ENDBLK", record, L"0");
+    out.Plain(100, "AcDbBlockEnd");
 }
 
 void WriteInsert(CGroupWriter& out, const CDxfInsert& insert)
 {
-    out.Text(0, L"INSERT");
-    out.Text(8, insert.strLayer);
+    const std::string handle = out.Entity("INSERT", dxf_frame::kModelSpace, insert.strLayer);
     out.Int(62, insert.nColor);
+    out.Plain(100, "AcDbBlockReference");
     if (!insert.attribute.empty()) {
         out.Int(66, 1);
     }
@@ -222,19 +316,22 @@ void WriteInsert(CGroupWriter& out, const CDxfInsert& insert)
     out.Real(42, insert.dSkalaY);
     out.Real(50, insert.dWinkel);
     for (const CDxfAttribute& attribute : insert.attribute) {
-        WriteAttribute(out, L"ATTRIB", insert.strLayer, insert.punkt, attribute);
+        out.Entity("ATTRIB", handle, insert.strLayer);
+        WriteAttributeText(out, insert.punkt, attribute);
+        out.Plain(100, "AcDbAttribute");
+        out.Text(2, attribute.strName);
+        out.Int(70, kInvisible);
     }
     if (!insert.attribute.empty()) {
-        out.Text(0, L"SEQEND");
-        out.Text(8, insert.strLayer);
+        out.Entity("SEQEND", handle, insert.strLayer);
     }
 }
 
 void WriteText(CGroupWriter& out, const CDxfText& text)
 {
-    out.Text(0, L"TEXT");
-    out.Text(8, text.strLayer);
+    out.Entity("TEXT", dxf_frame::kModelSpace, text.strLayer);
     out.Int(62, text.nColor);
+    out.Plain(100, "AcDbText");
     out.Point(10, text.punkt);
     out.Real(40, text.dHoehe);
     out.Text(1, text.strText);
@@ -243,6 +340,31 @@ void WriteText(CGroupWriter& out, const CDxfText& text)
         out.Int(72, static_cast<int>(text.ausrichtung));
         out.Point(11, text.punkt);
     }
+    out.Plain(100, "AcDbText");
+}
+
+void WriteBlocks(CGroupWriter& out, const std::vector<CDxfBlock>& blocks,
+                 const std::vector<std::string>& records)
+{
+    BeginSection(out, "BLOCKS");
+    out.Frame(dxf_frame::kSpaceBlocks);
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+        WriteBlock(out, blocks[i], records[i]);
+    }
+    EndSection(out);
+}
+
+void WriteModelSpace(CGroupWriter& out, const CDxfDrawing& drawing)
+{
+    BeginSection(out, "ENTITIES");
+    WriteEntities(out, dxf_frame::kModelSpace, drawing.entities);
+    for (const CDxfInsert& insert : drawing.inserts) {
+        WriteInsert(out, insert);
+    }
+    for (const CDxfText& text : drawing.texts) {
+        WriteText(out, text);
+    }
+    EndSection(out);
 }
 
 } // namespace
@@ -250,27 +372,19 @@ void WriteText(CGroupWriter& out, const CDxfText& text)
 std::string WriteDxf(const CDxfDrawing& drawing)
 {
     CGroupWriter out;
-    WriteHeader(out);
-    BeginSection(out, L"TABLES");
-    WriteLineTypes(out);
+    out.Frame(dxf_frame::kBeforeLayers);
     WriteLayers(out, drawing.layers);
-    out.Text(0, L"ENDSEC");
-    BeginSection(out, L"BLOCKS");
-    for (const CDxfBlock& block : drawing.blocks) {
-        WriteBlock(out, block);
-    }
-    out.Text(0, L"ENDSEC");
-    BeginSection(out, L"ENTITIES");
-    WriteEntities(out, drawing.entities);
-    for (const CDxfInsert& insert : drawing.inserts) {
-        WriteInsert(out, insert);
-    }
-    for (const CDxfText& text : drawing.texts) {
-        WriteText(out, text);
-    }
-    out.Text(0, L"ENDSEC");
-    out.Text(0, L"EOF");
-    return out.TakeText();
+    out.Frame(dxf_frame::kBeforeBlockRecords);
+    const std::vector<std::string> records = WriteBlockRecords(out, drawing.blocks);
+    EndSection(out);
+    WriteBlocks(out, drawing.blocks, records);
+    WriteModelSpace(out, drawing);
+    out.Frame(dxf_frame::kObjects);
+    out.Plain(0, "EOF");
+
+    CGroupWriter header;
+    WriteHeader(header, out.FreeHandle());
+    return header.TakeText() + out.TakeText();
 }
 
 } // namespace workbench

@@ -32,6 +32,8 @@ struct CArguments
     CString strConnectionList;
     /// The schedule on the screen shows the kv tables of the valves as well.
     bool bValves = false;
+    /// The CSV file is for programs.
+    bool bCsvPlain = false;
     /// The connection dialog can be expanded.
     bool bSuperUser = false;
     /// Nothing: the building's own.

@@ -16,6 +16,7 @@
 #include "workbench/schedule/schedule_csv.h"
 #include "workbench/schedule/schedule_json.h"
 #include "workbench/schedule/schedule_text.h"
+#include "workbench/schedule/schedule_xlsx.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -28,6 +29,7 @@ namespace workbench {
 namespace {
 
 constexpr wchar_t kCsvName[] = L"corpi-scaldanti.csv";
+constexpr wchar_t kXlsxName[] = L"corpi-scaldanti.xlsx";
 constexpr wchar_t kJsonName[] = L"corpi-scaldanti.json";
 
 /// What a run comes to.
@@ -64,7 +66,10 @@ void WriteFiles(const CResult& result, const CDrawingBlocks& blocks, const CArgu
     if (error) {
         throw CFileException::FromErrno(error.value(), folder);
     }
-    WriteWholeFile(JoinPath(folder, kCsvName), Utf8FromWide(FormatScheduleCsv(result.schedule)));
+    const CsvForm form = arguments.bCsvPlain ? CsvForm::plain : CsvForm::spreadsheet;
+    WriteWholeFile(JoinPath(folder, kCsvName),
+                   Utf8FromWide(FormatScheduleCsv(result.schedule, form)));
+    WriteWholeFile(JoinPath(folder, kXlsxName), FormatScheduleXlsx(result.schedule));
     WriteWholeFile(JoinPath(folder, kJsonName), FormatScheduleJson(result.schedule));
     WritePlanFiles(folder, result.building, blocks);
     if (!arguments.strSave.empty()) {
@@ -90,8 +95,8 @@ ExitCode Deliver(const CResult& result, const CArguments& arguments, std::ostrea
     CString text = FormatScheduleText(result.schedule, arguments.bValves);
     try {
         WriteFiles(result, ReadBlocks(code, err), arguments);
-        text += L"Scritti " + CString(kCsvName) + L", " + kJsonName + L", " + kPdfName + L" e " +
-                kDxfName + L" in " + arguments.strOutput + L"\n";
+        text += L"Scritti " + CString(kCsvName) + L", " + kXlsxName + L", " + kJsonName + L", " +
+                kPdfName + L" e " + kDxfName + L" in " + arguments.strOutput + L"\n";
     } catch (const CFileException& error) {
         code = Report(err, L"risultati non scrivibili: " + error.GetErrorMessage(),
                       ExitCode::outputNotWritable);

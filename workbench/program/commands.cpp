@@ -65,6 +65,7 @@ constexpr COption kSystem{L"--system", true, KeepSystem};
 constexpr COption kRoom{L"--room", true, KeepText<&CArguments::strRoom>};
 constexpr COption kSave{L"--save", true, KeepText<&CArguments::strSave>};
 constexpr COption kValves{L"--valves", false, KeepYes<&CArguments::bValves>};
+constexpr COption kCsvPlain{L"--csv-plain", false, KeepYes<&CArguments::bCsvPlain>};
 constexpr COption kSuperUser{L"--superuser", false, KeepYes<&CArguments::bSuperUser>, UseSuperUser};
 
 } // namespace
@@ -80,7 +81,7 @@ std::span<const CCommand> GetCommands()
         {L"--batch",
          {},
          {&kBuilding, &kSample, &kCatalogues, &kValveCatalogues, &kSystem, &kRoom, &kValves,
-          &kOutput, &kSave},
+          &kCsvPlain, &kOutput, &kSave},
          RunBatch,
          CommandId::batch},
         {L"--radiator-dialog",

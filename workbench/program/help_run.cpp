@@ -20,8 +20,10 @@ Opzioni:
                      senza l'opzione valgono quelle dell'edificio
   --room NOME        calcola soltanto questo locale
   --valves           mostra anche le tabelle kv delle valvole
-  --output DIR       cartella dei risultati: corpi-scaldanti.csv, corpi-scaldanti.json,
-                     progetto.pdf con piante e distinta, pianta.dxf
+  --csv-plain        scrive il CSV per i programmi: punto decimale, nessun segno di codifica, codici
+                     senza formule; senza l'opzione è per un foglio di calcolo in italiano
+  --output DIR       cartella dei risultati: corpi-scaldanti.csv, corpi-scaldanti.xlsx,
+                     corpi-scaldanti.json, progetto.pdf con piante e distinta, pianta.dxf
   --save FILE        scrive l'edificio con i corpi scaldanti scelti
   --list-connections [FILE]
                      mostra in parole un elenco di tipi di attacco (Vent.txt) e nient'altro;

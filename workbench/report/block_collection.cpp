@@ -4,6 +4,7 @@
 #include "workbench/drawing/block_path.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace workbench {
 
@@ -61,10 +62,15 @@ const CBlockCollection::CTaken* CBlockCollection::TakeValve(const CString& name)
     if (!found.pBlock) {
         return nullptr;
     }
-    for (const CDxfEntity& entity : found.pBlock->entities) {
-        AddLayer(m_drawing, {entity.strLayer, FindLayerColor(*found.pLayers, entity.strLayer)});
+    CDxfBlock block = *found.pBlock;
+    std::vector<CDxfLayer> layers;
+    for (CDxfEntity& entity : block.entities) {
+        const int color = FindLayerColor(*found.pLayers, entity.strLayer);
+        entity.strLayer = LayerName(entity.strLayer);
+        layers.push_back({entity.strLayer, color});
+        AddLayer(m_drawing, layers.back());
     }
-    return Take(key, *found.pBlock, *found.pLayers);
+    return Take(key, std::move(block), layers);
 }
 
 const CBlockCollection::CTaken* CBlockCollection::Take(const CString& key, CDxfBlock block,
@@ -78,6 +84,14 @@ const CBlockCollection::CTaken* CBlockCollection::Take(const CString& key, CDxfB
     const QRectF bounds = BoundsOf(MakeBlockPaths(layers, block));
     m_drawing.blocks.push_back(std::move(block));
     return &m_taken.emplace(key, CTaken{m_drawing.blocks.back().strName, bounds}).first->second;
+}
+
+CString LayerName(CString name)
+{
+    for (const wchar_t refused : CString(L"<>/\\\":;?*|,=` \u00a0")) {
+        ReplaceAll(name, refused, L'_');
+    }
+    return name;
 }
 
 void AddLayer(CDxfDrawing& drawing, const CDxfLayer& layer)

@@ -32,7 +32,8 @@ public:
     /// inserted. It defines the radiators' attributes.
     const CTaken& TakeRadiator(const CString& name);
 
-    /// The block of a valve as it is, with its layers; null if the library does not have it.
+    /// The block of a valve as it is, with its layers under the names of LayerName(); null if the
+    /// library does not have it.
     const CTaken* TakeValve(const CString& name);
 
 private:
@@ -45,11 +46,15 @@ private:
     std::map<CString, CTaken> m_taken;
 };
 
+/// A layer's name without what CAD programs refuse in one, and without blanks, at which command
+/// lines and scripts end a name: floors lend theirs to layers.
+CString LayerName(CString name);
+
 /// Adds a layer, unless the drawing has one of that name.
 void AddLayer(CDxfDrawing& drawing, const CDxfLayer& layer);
 
 /// Names of the attributes of a radiator, in the order in which its block defines them.
-inline constexpr const wchar_t* kRadiatorAttributes[] = {L"H_VL_PUNKT", L"H_RL_PUNKT", L"H_LAENGE",
-                                                         L"H_TIEFE", L"H_HOEHE"};
+inline constexpr const wchar_t* kRadiatorAttributes[] = {
+    L"H_VL_PUNKT", L"H_RL_PUNKT", L"H_LAENGE", L"H_TIEFE", L"H_HOEHE", L"H_TYP", L"H_LEISTUNG"};
 
 } // namespace workbench

@@ -22,8 +22,7 @@ constexpr double kWall = 0.3;
 
 constexpr double kTitleHeight = 0.4;
 constexpr double kSubtitleHeight = 0.2;
-constexpr double kNameHeight = 0.2;
-constexpr double kFigureHeight = 0.14;
+constexpr double kRoomTextHeight = 0.16;
 constexpr double kLabelHeight = 0.1;
 /// From one base line to the next, in heights of the text.
 constexpr double kLineStep = 1.7;
@@ -55,14 +54,9 @@ int LayerColor(int index)
     return index >= 1 && index <= 255 ? index : kColorDefault;
 }
 
-/// The layer's name without what CAD programs refuse in one: floors lend theirs to layers.
 CString LayerOf(const CPlacedRadiator& radiator)
 {
-    CString layer = radiator.strLayer.empty() ? kLayerRadiators : radiator.strLayer;
-    for (const wchar_t refused : CString(L"<>/\\\":;?*|,=`")) {
-        ReplaceAll(layer, refused, L'_');
-    }
-    return layer;
+    return radiator.strLayer.empty() ? kLayerRadiators : LayerName(radiator.strLayer);
 }
 
 /// Draws floors into a drawing, each moved along x.
@@ -163,28 +157,35 @@ private:
                                                At(to + outX / 2, line.dY2 + outY / 2)}});
     }
 
+    /// All texts of a room have one height.
     void DrawRoomTexts(const CRoom& room)
     {
+        const std::vector<CString> lines = {room.strName, L"Fabbisogno " + Watt(room.bedarf),
+                                            L"Coperto " + Watt(CoveredOf(room)),
+                                            L"Resto " + Watt(RemainderOf(room))};
+        const double height = TextHeightFor(room, lines);
         const CFloorRect& plan = room.grundriss;
         const double x = (plan.x + plan.breite / 2.0) / 1000.0 + m_dx;
-        double y = (plan.y + plan.tiefe / 2.0) / 1000.0 + kFigureHeight;
-        AddText(kLayerTexts, At(x, y), HeightFor(room, room.strName, kNameHeight), 0.0,
-                DxfAlign::middle, room.strName);
-        for (const CString& line :
-             {L"Fabbisogno " + Watt(room.bedarf), L"Coperto " + Watt(CoveredOf(room)),
-              L"Resto " + Watt(RemainderOf(room))}) {
-            y -= kLineStep * kFigureHeight;
-            AddText(kLayerTexts, At(x, y), HeightFor(room, line, kFigureHeight), 0.0,
-                    DxfAlign::middle, line);
+        const double middle = (plan.y + plan.tiefe / 2.0) / 1000.0;
+        double y = middle + (kLineStep * static_cast<double>(lines.size() - 1) - 1.0) * height / 2;
+        for (const CString& line : lines) {
+            AddText(kLayerTexts, At(x, y), height, 0.0, DxfAlign::middle, line);
+            y -= kLineStep * height;
         }
     }
 
-    /// The height, lowered for a text that otherwise would leave the room.
-    static double HeightFor(const CRoom& room, const CString& text, double height)
+    /// The usual height, lowered for texts that otherwise would leave the room.
+    static double TextHeightFor(const CRoom& room, const std::vector<CString>& lines)
     {
-        const double width = room.grundriss.breite / 1000.0;
-        const double characters = static_cast<double>(std::max<std::size_t>(text.size(), 1));
-        return Rounded(std::min(height, width / (kCharacterWidth * characters)));
+        double height =
+            std::min(kRoomTextHeight, room.grundriss.tiefe / 1000.0 /
+                                          (kLineStep * static_cast<double>(lines.size())));
+        for (const CString& line : lines) {
+            const double characters = static_cast<double>(std::max<std::size_t>(line.size(), 1));
+            height =
+                std::min(height, room.grundriss.breite / 1000.0 / (kCharacterWidth * characters));
+        }
+        return Rounded(height);
     }
 
     void DrawRadiator(const CRadiatorRef& ref)
@@ -219,10 +220,13 @@ private:
         insert.dSkalaY = stretch(pose.dTiefe, block.bounds.height());
         insert.dWinkel = pose.dWinkel;
         insert.punkt = BasePoint(pose, insert, block.bounds.center());
-        const CString values[] = {radiator.anschluss.AnschlussAN, radiator.anschluss.AnschlussRI,
+        const CString values[] = {radiator.anschluss.AnschlussAN,
+                                  radiator.anschluss.AnschlussRI,
                                   FormatExact(radiator.daten.Laenge / 1000.0),
                                   FormatExact(radiator.daten.Tiefe / 1000.0),
-                                  FormatExact(radiator.daten.Hoehe / 1000.0)};
+                                  FormatExact(radiator.daten.Hoehe / 1000.0),
+                                  radiator.strTyp,
+                                  FormatFixed(radiator.daten.Leistung, 0)};
         for (std::size_t i = 0; i < std::size(values); ++i) {
             insert.attribute.push_back({kRadiatorAttributes[i], values[i]});
         }

@@ -38,17 +38,8 @@ const CCoverageLook& LookOf(Coverage coverage)
     return *std::ranges::find(kLooks, coverage, &CCoverageLook::coverage);
 }
 
-/// Metres that a bar of the scale shows: a round number, at most 60 mm long.
-double LengthOfBar(int scale)
-{
-    double length = 1.0;
-    for (const double metres : {2.0, 5.0, 10.0, 20.0, 50.0, 100.0, 200.0}) {
-        if (1000.0 * metres / scale <= 60.0) {
-            length = metres;
-        }
-    }
-    return length;
-}
+/// Longest bar of a scale in millimetres.
+constexpr double kLongestBar = 60.0;
 
 } // namespace
 
@@ -62,24 +53,48 @@ QColor PrintInkOf(Coverage coverage)
     return LookOf(coverage).ink;
 }
 
+std::vector<double> ScaleBarMarks(int scale)
+{
+    // Lengths whose parts are round as well.
+    struct CBar
+    {
+        double part;
+        int count;
+    };
+    constexpr CBar bars[] = {{0.1, 5}, {0.5, 2},  {0.5, 4},  {1.0, 5},  {2.0, 5},
+                             {5.0, 4}, {10.0, 5}, {20.0, 5}, {50.0, 4}, {100.0, 5}};
+    const CBar* fitting = std::begin(bars);
+    for (const CBar& bar : bars) {
+        if (1000.0 * bar.part * bar.count / scale <= kLongestBar) {
+            fitting = &bar;
+        }
+    }
+    std::vector<double> marks;
+    for (int i = 0; i <= fitting->count; ++i) {
+        marks.push_back(i * fitting->part);
+    }
+    return marks;
+}
+
 void PaintScaleBar(CReportSheet& sheet, const QPointF& corner, int scale)
 {
-    constexpr int kParts = 4;
     constexpr double kHeight = 1.6;
-    const double length = LengthOfBar(scale);
-    const double part = 1000.0 * length / kParts / scale;
+    const std::vector<double> marks = ScaleBarMarks(scale);
+    const double part = 1000.0 * marks[1] / scale;
     const CTextLook look{6.0, false, kInk, Qt::AlignHCenter};
-    for (int i = 0; i < kParts; ++i) {
-        const QRectF box(corner.x() + i * part, corner.y() + 4.0, part, kHeight);
-        sheet.Fill(box, i % 2 == 0 ? kInk : QColor(Qt::white));
-        sheet.Frame(box, 0.15, kInk);
+    for (std::size_t i = 0; i < marks.size(); ++i) {
+        const double left = corner.x() + 1000.0 * marks[i] / scale;
+        const bool isLast = i + 1 == marks.size();
+        const QString metres = QString::number(marks[i]).replace('.', ',');
+        sheet.Text({left - 10.0, corner.y() + 1.0, 20.0, 2.6}, isLast ? metres + " m" : metres,
+                   look);
+        if (!isLast) {
+            const QRectF box(left, corner.y() + 4.0, part, kHeight);
+            sheet.Fill(box, i % 2 == 0 ? kInk : QColor(Qt::white));
+            sheet.Frame(box, 0.15, kInk);
+        }
     }
-    for (int i = 0; i <= kParts; ++i) {
-        const QString metres = QString::number(i * length / kParts).replace('.', ',');
-        sheet.Text({corner.x() + i * part - 10.0, corner.y() + 1.0, 20.0, 2.6},
-                   i == kParts ? metres + " m" : metres, look);
-    }
-    sheet.Text({corner.x() + kParts * part + 8.0, corner.y() + 3.0, 30.0, 3.6},
+    sheet.Text({corner.x() + 1000.0 * marks.back() / scale + 8.0, corner.y() + 3.0, 30.0, 3.6},
                "Scala 1:" + QString::number(scale), {8.0, true, kInk, Qt::AlignLeft});
 }
 

@@ -4,6 +4,7 @@
 #include "workbench/report/report_sheet.h"
 
 #include <set>
+#include <vector>
 
 namespace workbench {
 
@@ -11,6 +12,10 @@ namespace workbench {
 /// figures on that fill.
 QColor PrintFillOf(Coverage coverage);
 QColor PrintInkOf(Coverage coverage);
+
+/// Metres at which the bar of a scale has its figures, from 0 on: round numbers, in steps that are
+/// round as well, for a bar of at most 60 mm.
+std::vector<double> ScaleBarMarks(int scale);
 
 /// Paints a bar of the scale with its name, 6.5 mm high, from its upper left corner.
 void PaintScaleBar(CReportSheet& sheet, const QPointF& corner, int scale);

@@ -6,6 +6,7 @@
 #include "workbench/report/plan_tables.h"
 
 #include <QBuffer>
+#include <QImage>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPdfWriter>
@@ -20,6 +21,17 @@ namespace {
 
 constexpr double kMargin = 15.0;
 constexpr double kHeadHeight = 14.0;
+
+/// The title's part on the first page: where its facts begin, a line of them, what stands between
+/// those of the project and those of the plant, and what follows.
+constexpr double kFactsTop = 34.0;
+constexpr double kFactHeight = 6.4;
+constexpr double kFactsGap = 4.0;
+constexpr double kTitleGap = 5.0;
+
+/// The list of contents stands beside the facts of the plant.
+constexpr double kContentsWidth = 95.0;
+constexpr double kContentHeight = 5.6;
 constexpr double kFootHeight = 8.0;
 
 /// A plan at this scale or a larger one needs no larger paper.
@@ -38,6 +50,37 @@ QString Watt(double value)
     return QString::number(value, 'f', 0) + " W";
 }
 
+QString DayText(const QDate& date)
+{
+    return date.toString("dd/MM/yyyy");
+}
+
+/// The day of the project, or that of the report where the building names none.
+QDate DateOf(const CProject& project, const QDate& date)
+{
+    const QDate own = QDate::fromString(ToQt(project.strDate), Qt::ISODate);
+    return own.isValid() ? own : date;
+}
+
+/// A page on which nothing is painted, to measure texts with before there is one.
+class CMeasuringPage
+{
+public:
+    CMeasuringPage() : m_image(1, 1, QImage::Format_RGB32)
+    {
+        constexpr int dotsPerMetre = CReportSheet::kDotsPerInch * 10000 / 254;
+        m_image.setDotsPerMeterX(dotsPerMetre);
+        m_image.setDotsPerMeterY(dotsPerMetre);
+        m_painter.begin(&m_image);
+    }
+
+    CReportSheet Sheet() { return CReportSheet(m_painter); }
+
+private:
+    QImage m_image;
+    QPainter m_painter;
+};
+
 /// All pages of the report, laid out before the first is painted, so that each knows how many there
 /// are.
 class CPlanReport
@@ -46,19 +89,20 @@ public:
     CPlanReport(const CBuilding& building, const CDxfDrawing& radiators,
                 const CBlockLibrary* valves, const QDate& date)
         : m_building(building), m_schedule(SchedulePlan(building)),
-          m_strDate(date.toString("dd/MM/yyyy"))
+          m_strDate(DayText(DateOf(building.project, date)))
     {
         for (std::size_t i = 0; i < building.floors.size(); ++i) {
             m_pictures.emplace_back(building, i, radiators, valves);
         }
         ChoosePaper();
-        AddTables({MakeTotalsTable(m_schedule)}, kTitleHeight);
+        AddTables({MakeTotalsTable(m_schedule)}, TitleHeight());
         for (std::size_t i = 0; i < m_pictures.size(); ++i) {
             m_contents.emplace_back("Pianta: " + ToQt(building.floors[i].strName), m_pages.size());
             m_pages.push_back([this, i](CReportSheet& sheet) { PaintFloor(sheet, i); });
         }
         AddTables({MakeScheduleTable(m_schedule), MakeOpenRoomsTable(m_schedule),
-                   MakeMissizedTable(m_schedule), MakeValveTable(m_schedule)},
+                   MakeMissizedTable(m_schedule), MakeRadiatorOrderTable(m_schedule),
+                   MakeValveTable(m_schedule)},
                   0.0);
     }
 
@@ -89,8 +133,18 @@ public:
 private:
     using Page = std::function<void(CReportSheet&)>;
 
+    using Facts = std::vector<std::pair<QString, QString>>;
+
+    double PlantTop() const
+    {
+        return kFactsTop + kFactHeight * static_cast<double>(ProjectFacts().size()) + kFactsGap;
+    }
+
     /// Of the title's part on the first page.
-    static constexpr double kTitleHeight = 97.0;
+    double TitleHeight() const
+    {
+        return PlantTop() + kFactHeight * static_cast<double>(PlantFacts().size()) + kTitleGap;
+    }
 
     /// The larger paper, if it shows any floor at a larger scale than the smaller one can.
     void ChoosePaper()
@@ -130,8 +184,9 @@ private:
     void AddTables(std::vector<CReportTable> tables, double above)
     {
         const QRectF area = Area().adjusted(0.0, above, 0.0, 0.0);
+        CMeasuringPage measuring;
         for (CReportTable& table : tables) {
-            FitColumns(table, area.width());
+            FitColumns(table, area.width(), measuring.Sheet());
         }
         const auto shared = std::make_shared<std::vector<CReportTable>>(std::move(tables));
         for (const std::vector<CTableLine>& lines : LayOutTables(*shared, area.height())) {
@@ -167,36 +222,58 @@ private:
                    {30.0, true, kInk, Qt::AlignLeft});
         sheet.Text({text.left(), text.top() + 15.0, text.width(), 10.0},
                    "Progetto dei corpi scaldanti", {16.0, false, kGrey, Qt::AlignLeft});
-        double top = text.top() + 34.0;
-        for (const auto& [what, value] : Facts()) {
-            sheet.Text({text.left(), top, 60.0, 6.0}, what, {10.0, false, kGrey, Qt::AlignLeft});
-            sheet.Text({text.left() + 62.0, top, text.width() - 62.0, 6.0}, value,
+        PaintFacts(sheet, text.adjusted(0.0, kFactsTop, 0.0, 0.0), ProjectFacts());
+        const double left = area.right() - kContentsWidth;
+        PaintFacts(sheet, text.adjusted(0.0, PlantTop(), left - text.right() - kTitleGap, 0.0),
+                   PlantFacts());
+        PaintContents(sheet, {left, text.top() + PlantTop()});
+    }
+
+    /// From the upper edge of the space downwards.
+    static void PaintFacts(CReportSheet& sheet, const QRectF& space, const Facts& facts)
+    {
+        constexpr double names = 62.0;
+        double top = space.top();
+        for (const auto& [what, value] : facts) {
+            sheet.Text({space.left(), top, names - 2.0, 6.0}, what,
+                       {10.0, false, kGrey, Qt::AlignLeft});
+            sheet.Text({space.left() + names, top, space.width() - names, 6.0}, value,
                        {10.0, true, kInk, Qt::AlignLeft});
-            top += 6.4;
+            top += kFactHeight;
         }
-        PaintContents(sheet, {area.right() - 95.0, text.top() + 34.0});
     }
 
     /// As many lines as the title's part has space for.
     void PaintContents(CReportSheet& sheet, QPointF corner) const
     {
-        constexpr std::size_t kMost = 9;
-        for (std::size_t i = 0; i < std::min(m_contents.size(), kMost); ++i) {
-            const QRectF line(corner, QSizeF(95.0, 5.6));
+        const auto most = static_cast<std::size_t>((TitleHeight() - PlantTop()) / kContentHeight);
+        for (std::size_t i = 0; i < std::min(m_contents.size(), most); ++i) {
+            const QRectF line(corner, QSizeF(kContentsWidth, kContentHeight));
             sheet.Text(line.adjusted(0.0, 0.0, -20.0, 0.0), m_contents[i].first,
                        {9.0, false, kInk, Qt::AlignLeft});
             sheet.Text(line, "pagina " + QString::number(m_contents[i].second + 1),
                        {9.0, false, kGrey, Qt::AlignRight});
-            corner.ry() += 5.6;
+            corner.ry() += kContentHeight;
         }
     }
 
-    std::vector<std::pair<QString, QString>> Facts() const
+    /// As far as the building says something.
+    Facts ProjectFacts() const
+    {
+        const CProject& project = m_building.project;
+        Facts facts = {{"Committente", ToQt(project.strClient)},
+                       {"Progettista", ToQt(project.strDesigner)},
+                       {"Progetto n.", ToQt(project.strNumber)},
+                       {"Data", m_strDate}};
+        std::erase_if(facts, [](const auto& fact) { return fact.second.isEmpty(); });
+        return facts;
+    }
+
+    Facts PlantFacts() const
     {
         const CScheduleTotals& totals = m_schedule.totals;
         const CHeatingSystem& system = m_building.system;
-        return {{"Data", m_strDate},
-                {"Impianto", Degrees(system.vorlauf) + "/" + Degrees(system.ruecklauf) +
+        return {{"Impianto", Degrees(system.vorlauf) + "/" + Degrees(system.ruecklauf) +
                                  QStringLiteral(" °C (mandata/ritorno)")},
                 {"Piani", QString::number(m_building.floors.size())},
                 {"Locali", QString::number(totals.nRooms)},
@@ -227,7 +304,12 @@ private:
         const QRectF area = Area();
         const QRectF foot(area.left(), area.bottom() + 3.0, area.width(), kFootHeight - 3.0);
         sheet.Line(foot.topLeft(), foot.topRight(), 0.15, kGrey);
-        sheet.Text(foot, ToQt(m_building.strName), {7.5, false, kGrey, Qt::AlignLeft});
+        const CString& number = m_building.project.strNumber;
+        const QRectF leftPart = foot.adjusted(0.0, 0.0, -foot.width() / 2 - 15.0, 0.0);
+        sheet.Text(leftPart,
+                   ToQt(m_building.strName) +
+                       (number.empty() ? QString() : QStringLiteral(" · n. ") + ToQt(number)),
+                   {7.5, false, kGrey, Qt::AlignLeft});
         sheet.Text(foot, m_strDate, {7.5, false, kGrey, Qt::AlignHCenter});
         sheet.Text(foot, QString("Pagina %1 di %2").arg(page + 1).arg(m_pages.size()),
                    {7.5, false, kGrey, Qt::AlignRight});

@@ -112,31 +112,32 @@ public:
         m_painter.save();
         m_painter.translate(m_toPaper.map(QPointF(pose.dX, pose.dY)));
         m_painter.rotate(isTurned ? 180.0 - pose.dWinkel : -pose.dWinkel);
-        PaintRadiatorNumber(m_sheet, number, radiator.daten.Leistung,
-                            1000.0 * SpaceAlong(room, pose) / m_nScale, isTurned ? away : -away);
+        PaintRadiatorNumber(m_sheet, number, radiator.daten.Leistung, SpaceAlong(room, pose),
+                            isTurned ? away : -away);
         m_painter.restore();
     }
 
 private:
     double OutlineWidth() const { return m_nScale > kLargestNumberScale ? kHairline : kOutline; }
 
-    /// Metres that a text beside the radiator may take along its wall: to the nearer corner, but no
-    /// further than half way to where others stand.
-    static double SpaceAlong(const CRoom& room, const CRadiatorPose& pose)
+    /// What a text beside the radiator may take along its wall: to the corners, but no further than
+    /// half way to where others stand. Texts run eastwards or northwards.
+    CSpaceAlong SpaceAlong(const CRoom& room, const CRadiatorPose& pose) const
     {
         const QRectF floor = MetresOf(room.grundriss);
         const bool isLevel = std::fmod(pose.dWinkel, 180.0) == 0.0;
         const double at = isLevel ? pose.dX : pose.dY;
-        double half = isLevel ? std::min(at - floor.left(), floor.right() - at)
-                              : std::min(at - floor.top(), floor.bottom() - at);
+        double before = at - (isLevel ? floor.left() : floor.top());
+        double behind = (isLevel ? floor.right() : floor.bottom()) - at;
         for (const CPlacedRadiator& other : room.heizkoerper) {
             const CRadiatorPose standing = PoseOf(room, other);
-            const double distance = std::fabs((isLevel ? standing.dX : standing.dY) - at);
-            if (standing.dWinkel == pose.dWinkel && distance > 0.0) {
-                half = std::min(half, distance / 2);
+            const double half = ((isLevel ? standing.dX : standing.dY) - at) / 2;
+            if (standing.dWinkel == pose.dWinkel && half != 0.0) {
+                double& side = half > 0.0 ? behind : before;
+                side = std::min(side, std::fabs(half));
             }
         }
-        return 2.0 * half;
+        return {1000.0 * before / m_nScale, 1000.0 * behind / m_nScale};
     }
 
     void Stroke(const QPainterPath& path, const QColor& color, double width)

@@ -56,9 +56,24 @@ CReportRow MakeSum(Output output, const CScheduleSum& sum, RowLook look)
     return {MakeSumCells<QString>(ScheduleColumns(), output, sum, FormatCell), look};
 }
 
-CReportRow MakeBillSum(const CBillSum& sum, RowLook look)
+/// What is to be ordered, a row an item.
+template <class ITEM>
+CReportTable MakeBill(const QString& title, const std::vector<CColumn<ITEM, CBillSum>>& columns,
+                      const std::vector<ITEM>& items)
 {
-    return {MakeSumCells<QString>(BillColumns(), Output::paper, sum, FormatCell), look};
+    CReportTable table = MakeTable(title, columns, Output::paper);
+    for (const ITEM& item : items) {
+        table.rows.push_back(
+            {MakeCells<QString>(columns, Output::paper, item, false, FormatCell), RowLook::plain});
+    }
+    return table;
+}
+
+template <class ITEM>
+CReportRow MakeBillSum(const std::vector<CColumn<ITEM, CBillSum>>& columns, const CBillSum& sum,
+                       RowLook look)
+{
+    return {MakeSumCells<QString>(columns, Output::paper, sum, FormatCell), look};
 }
 
 } // namespace
@@ -127,21 +142,27 @@ CReportTable MakeMissizedTable(const CSchedule& schedule)
     return table;
 }
 
+CReportTable MakeRadiatorOrderTable(const CSchedule& schedule)
+{
+    const CRadiatorBill bill = MakeRadiatorBill(schedule);
+    CReportTable table = MakeBill("Corpi scaldanti da ordinare", RadiatorBillColumns(), bill.items);
+    if (bill.nRadiators > 0) {
+        table.rows.push_back(
+            MakeBillSum(RadiatorBillColumns(), {L"Totale", bill.nRadiators}, RowLook::total));
+    }
+    return table;
+}
+
 CReportTable MakeValveTable(const CSchedule& schedule)
 {
-    constexpr Output output = Output::paper;
-    CReportTable table = MakeTable("Valvole da ordinare", BillColumns(), output);
     const CValveBill bill = MakeValveBill(schedule);
-    for (const CValveItem& item : bill.items) {
-        table.rows.push_back(
-            {MakeCells<QString>(BillColumns(), output, item, false, FormatCell), RowLook::plain});
-    }
+    CReportTable table = MakeBill("Valvole da ordinare", BillColumns(), bill.items);
     if (bill.nMissing > 0) {
         table.rows.push_back(
-            MakeBillSum({L"non trovate nei cataloghi", bill.nMissing}, RowLook::warning));
+            MakeBillSum(BillColumns(), {kMissingInBill, bill.nMissing}, RowLook::warning));
     }
     if (bill.nValves > 0) {
-        table.rows.push_back(MakeBillSum({L"Totale", bill.nValves}, RowLook::total));
+        table.rows.push_back(MakeBillSum(BillColumns(), {L"Totale", bill.nValves}, RowLook::total));
     }
     return table;
 }

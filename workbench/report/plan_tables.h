@@ -20,6 +20,9 @@ CReportTable MakeOpenRoomsTable(const CSchedule& schedule);
 /// and by how much.
 CReportTable MakeMissizedTable(const CSchedule& schedule);
 
+/// The radiators to be ordered, with the order numbers of their catalogues.
+CReportTable MakeRadiatorOrderTable(const CSchedule& schedule);
+
 /// The valves to be ordered.
 CReportTable MakeValveTable(const CSchedule& schedule);
 

@@ -1,6 +1,7 @@
 #include "workbench/report/report_table.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace workbench {
@@ -114,6 +115,33 @@ double WidthOf(const CReportTable& table)
     return width;
 }
 
+CTextLook HeadingLook()
+{
+    return {kPoints, true, kInk, {}};
+}
+
+/// Millimetres that every column takes for its heading and its texts, none of them pressed.
+std::vector<double> NeedsOf(const CReportTable& table, const CReportSheet& sheet)
+{
+    std::vector<double> needs;
+    for (const CReportColumn& column : table.columns) {
+        needs.push_back(sheet.WidthOf(column.strTitel, HeadingLook()));
+    }
+    for (const CReportRow& row : table.rows) {
+        if (row.look == RowLook::group) {
+            continue;
+        }
+        const CTextLook look{kPoints, row.look == RowLook::total, kInk, {}};
+        for (std::size_t i = 0; i < needs.size(); ++i) {
+            needs[i] = std::max(needs[i], sheet.WidthOf(row.zellen.at(i), look));
+        }
+    }
+    for (double& need : needs) {
+        need += 2.0 * kPadding;
+    }
+    return needs;
+}
+
 void PaintCells(CReportSheet& sheet, QRectF row, const CReportTable& table,
                 const std::vector<QString>& cells, CTextLook look)
 {
@@ -124,11 +152,6 @@ void PaintCells(CReportSheet& sheet, QRectF row, const CReportTable& table,
         sheet.Text(row.adjusted(kPadding, 0.0, -kPadding, 0.0), cells.at(i), look);
         row.translate(column.dBreite, 0.0);
     }
-}
-
-CTextLook HeadingLook()
-{
-    return {kPoints, true, kInk, {}};
 }
 
 void PaintHeadings(CReportSheet& sheet, const QRectF& row, const CReportTable& table)
@@ -168,11 +191,23 @@ void PaintRow(CReportSheet& sheet, const QRectF& row, const CReportTable& table,
 
 } // namespace
 
-void FitColumns(CReportTable& table, double width)
+void FitColumns(CReportTable& table, double width, const CReportSheet& sheet)
 {
     const double factor = width / WidthOf(table);
     for (CReportColumn& column : table.columns) {
         column.dBreite *= factor;
+    }
+    const std::vector<double> needs = NeedsOf(table, sheet);
+    double spare = 0.0;
+    double lack = 0.0;
+    for (std::size_t i = 0; i < needs.size(); ++i) {
+        const double left = table.columns[i].dBreite - needs[i];
+        (left > 0.0 ? spare : lack) += std::fabs(left);
+    }
+    const double moved = std::min(spare, lack);
+    for (std::size_t i = 0; i < needs.size() && moved > 0.0; ++i) {
+        const double left = table.columns[i].dBreite - needs[i];
+        table.columns[i].dBreite -= left * moved / (left > 0.0 ? spare : lack);
     }
 }
 

@@ -38,8 +38,9 @@ struct CReportTable
     std::vector<CReportRow> rows;
 };
 
-/// Widens or narrows all columns alike to a width in all.
-void FitColumns(CReportTable& table, double width);
+/// Gives all columns together a width: alike at first, and then those whose texts have less than
+/// they need take of what others have to spare.
+void FitColumns(CReportTable& table, double width, const CReportSheet& sheet);
 
 /// A line of a table at its place on a page.
 struct CTableLine

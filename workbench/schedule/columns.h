@@ -20,6 +20,9 @@ struct CMeasures
 /// What a cell holds, before an output gives it its form. The first one is the empty cell.
 using CCell = std::variant<std::monostate, CString, double, CMeasures>;
 
+/// The double with the shortest decimal digits that stand for the float: 0.88 for 0.88F.
+double DecimalOf(float value);
+
 /// Stands for as many decimals as the number has.
 inline constexpr int kAllDecimals = -1;
 
@@ -39,6 +42,7 @@ struct CNumberForm
 /// The tables that show a list of columns or some of them.
 enum class Output
 {
+    /// The CSV file, and the sheets of the workbook.
     csv,
     console,
     /// The table of a valve with bypass, which has other columns than that of any other valve.
@@ -101,6 +105,15 @@ public:
         return *this;
     }
 
+    /// What a spreadsheet calculates in a line of sums: "{}" stands for the cells above, and
+    /// "{name}" for the line's own cell in the column that JSON calls so. Without it the line has
+    /// the sum as it is.
+    CColumn& Formula(const char* formula)
+    {
+        m_lpszFormula = formula;
+        return *this;
+    }
+
     /// The name of the value in JSON and the object that has it; of the sums all that are numbers
     /// and have a name.
     CColumn& Json(const char* name, JsonPart part = JsonPart::none)
@@ -131,6 +144,9 @@ public:
     CCell ValueOf(const LINE& line) const { return m_value(line); }
     CCell TotalOf(const SUM& sum) const { return m_total ? m_total(sum) : CCell(); }
 
+    /// Null where the sum is no formula.
+    const char* GetFormula() const { return m_lpszFormula; }
+
     /// Null for a column that JSON does not have.
     const char* JsonName() const { return m_lpszJson; }
     JsonPart GetJsonPart() const { return m_json; }
@@ -147,6 +163,7 @@ public:
 private:
     Value m_value;
     std::function<CCell(const SUM&)> m_total;
+    const char* m_lpszFormula = nullptr;
     const char* m_lpszJson = nullptr;
     JsonPart m_json = JsonPart::none;
     const wchar_t* m_lpszUnit = L"";

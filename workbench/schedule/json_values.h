@@ -2,6 +2,7 @@
 
 #include "workbench/schedule/columns.h"
 
+#include <QJsonArray>
 #include <QJsonObject>
 
 namespace workbench {
@@ -24,6 +25,20 @@ void InsertValues(QJsonObject& object, const std::vector<CColumn<LINE, SUM>>& co
             object.insert(column.JsonName(), JsonOf(cell));
         }
     }
+}
+
+/// A list of items as objects of what their columns say.
+template <class LINE, class SUM>
+QJsonArray MakeItemsJson(const std::vector<LINE>& items,
+                         const std::vector<CColumn<LINE, SUM>>& columns)
+{
+    QJsonArray list;
+    for (const LINE& item : items) {
+        QJsonObject object;
+        InsertValues(object, columns, JsonPart::item, item);
+        list.append(object);
+    }
+    return list;
 }
 
 } // namespace workbench

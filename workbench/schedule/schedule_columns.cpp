@@ -15,6 +15,8 @@ constexpr CNumberForm kCount{.bHideZero = true};
 constexpr CNumberForm kExact{.nDecimals = kAllDecimals};
 constexpr CNumberForm kKv{.nDecimals = 3, .nFileDecimals = 3};
 
+constexpr const char* kSum = "SUM({})";
+
 CColumnLook Text(Output output, const CString& heading, double width = 0.0)
 {
     return {.output = output, .strHeading = heading, .breite = width};
@@ -222,6 +224,7 @@ void AddDemand(Columns& columns)
     const Columns demand = {
         CScheduleColumn(OfRoom(&CRoom::bedarf))
             .Total(SumOf(&CScheduleTotals::bedarf))
+            .Formula(kSum)
             .Json("demand", JsonPart::room)
             .Unit(L"W")
             .Looks({Once(Csv(L"Fabbisogno")), Once(Console(L"Fabb.")),
@@ -233,6 +236,7 @@ void AddDemand(Columns& columns)
             .Looks({Once(Csv(L"Coperto"))}),
         CScheduleColumn(OfRoom(&GetRequired))
             .Total(SumOf(&CScheduleTotals::required))
+            .Formula(kSum)
             .Json("required", JsonPart::room)
             .Unit(L"W")
             .Looks({Once(Csv(L"Richiesto")), Once(Console(L"Rich.")),
@@ -323,6 +327,7 @@ void AddOutput(Columns& columns)
     const Columns output = {
         CScheduleColumn(OfData(&HK_DATEN_VDI3805::LeistungEN442))
             .Total(SumOf(&CScheduleTotals::leistungEN442))
+            .Formula(kSum)
             .Json("outputEN442", JsonPart::radiator)
             .Unit(L"W")
             .Looks({Csv(L"Resa EN 442"), Console(L"EN 442"),
@@ -330,6 +335,7 @@ void AddOutput(Columns& columns)
                     Number(Output::paperSums, L"EN 442", 22.0)}),
         CScheduleColumn(OfData(&HK_DATEN_VDI3805::Leistung))
             .Total(SumOf(&CScheduleTotals::leistung))
+            .Formula(kSum)
             .Json("output", JsonPart::radiator)
             .Unit(L"W")
             .Looks({Csv(L"Resa di progetto"), Console(L"Resa"),
@@ -339,6 +345,7 @@ void AddOutput(Columns& columns)
             .Total([](const CScheduleSum& sum) -> CCell {
                 return GetDeviation(sum.totals.leistung, sum.totals.required);
             })
+            .Formula("IF({required}>0,100*({output}-{required})/{required},0)")
             .Json("deviationPercent", JsonPart::firstRadiator)
             .Unit(L"%")
             .Form(kPercent)
@@ -351,6 +358,7 @@ void AddOutput(Columns& columns)
             .Looks({Csv(L"Elementi"), Console(L"Elem.")}),
         CScheduleColumn(OfData(&HK_DATEN_VDI3805::Inhalt))
             .Total(SumOf(&CScheduleTotals::inhalt))
+            .Formula(kSum)
             .Json("litres", JsonPart::radiator)
             .Unit(L"l")
             .Form(kLitres)
@@ -395,7 +403,7 @@ void AddValve(Columns& columns, const CString& name, CValveOutcome CRoomValves::
         CScheduleColumn(ofFound([](const auto& ventil) {
             return double(ventil.DN);
         })).Looks({Csv(name + L" DN")}),
-        CScheduleColumn(ofFound([](const auto& ventil) { return double(ventil.Kvs); }))
+        CScheduleColumn(ofFound([](const auto& ventil) { return DecimalOf(ventil.Kvs); }))
             .Unit(L"m³/h")
             .Form(kKv)
             .Looks({Csv(name + L" kvs")}),
@@ -437,35 +445,99 @@ Columns MakeScheduleColumns()
     return columns;
 }
 
-template <class FIELD>
+template <class ITEM, class FIELD>
 auto OfItem(FIELD field)
 {
-    return [field](const CValveItem& item) -> CCell { return item.*field; };
+    return [field](const ITEM& item) -> CCell { return static_cast<CCell>(item.*field); };
+}
+
+/// How many pieces of an item are to be ordered, as every bill tells it.
+template <class COLUMN, class ITEM>
+COLUMN PiecesColumn(std::vector<CColumnLook> looks)
+{
+    return COLUMN([](const ITEM& item) -> CCell { return double(item.nAnzahl); })
+        .Total([](const CBillSum& sum) -> CCell { return double(sum.nAnzahl); })
+        .Formula(kSum)
+        .Json("count", JsonPart::item)
+        .Looks(std::move(looks));
+}
+
+CCell SumName(const CBillSum& sum)
+{
+    return sum.strName;
 }
 
 std::vector<CBillColumn> MakeBillColumns()
 {
+    constexpr auto of = [](auto field) { return OfItem<CValveItem>(field); };
     return {
-        CBillColumn(OfItem(&CValveItem::strHersteller))
-            .Total([](const CBillSum& sum) -> CCell { return sum.strName; })
+        CBillColumn(of(&CValveItem::strHersteller))
+            .Total(SumName)
             .Json("maker", JsonPart::item)
-            .Looks({Text(Output::console, L"Valvole", 22.0),
+            .Looks({Csv(L"Produttore"), Text(Output::console, L"Valvole", 22.0),
                     Text(Output::paper, L"Produttore", 60.0)}),
-        CBillColumn(OfItem(&CValveItem::strBestellNr))
+        CBillColumn(of(&CValveItem::strBestellNr))
             .Json("name", JsonPart::item)
-            .Looks(
-                {Text(Output::console, L"Articolo", 30.0), Text(Output::paper, L"Articolo", 50.0)}),
-        CBillColumn(OfItem(&CValveItem::strVentilNr))
+            .Looks({Csv(L"Articolo"), Text(Output::console, L"Articolo", 30.0),
+                    Text(Output::paper, L"Articolo", 50.0)}),
+        CBillColumn(of(&CValveItem::strVentilNr))
             .Json("number", JsonPart::item)
-            .Looks({Text(Output::paper, L"Codice", 107.0)}),
-        CBillColumn(OfItem(&CValveItem::DN))
+            .Looks({Csv(L"Codice"), Text(Output::paper, L"Codice", 107.0)}),
+        CBillColumn(of(&CValveItem::DN))
             .Json("DN", JsonPart::item)
             .Form(kExact)
-            .Looks({Console(L"DN"), Number(Output::paper, L"DN", 20.0)}),
-        CBillColumn([](const CValveItem& item) -> CCell { return double(item.nAnzahl); })
-            .Total([](const CBillSum& sum) -> CCell { return double(sum.nAnzahl); })
-            .Json("count", JsonPart::item)
-            .Looks({Console(L"Pezzi"), Number(Output::paper, L"Pezzi", 30.0)}),
+            .Looks({Csv(L"DN"), Console(L"DN"), Number(Output::paper, L"DN", 20.0)}),
+        PiecesColumn<CBillColumn, CValveItem>(
+            {Csv(L"Pezzi"), Console(L"Pezzi"), Number(Output::paper, L"Pezzi", 30.0)}),
+    };
+}
+
+std::vector<CRadiatorBillColumn> MakeRadiatorBillColumns()
+{
+    using Column = CRadiatorBillColumn;
+    constexpr auto of = [](auto field) { return OfItem<CRadiatorItem>(field); };
+    const auto measure = [](double CMeasures::*field) {
+        return [field](const CRadiatorItem& item) -> CCell { return item.masse.*field; };
+    };
+    return {
+        Column(of(&CRadiatorItem::strHersteller))
+            .Total(SumName)
+            .Json("maker", JsonPart::item)
+            .Looks({Csv(L"Produttore"), Text(Output::paper, L"Produttore", 34.0)}),
+        Column(of(&CRadiatorItem::strArt)).Json("kind", JsonPart::item).Looks({Csv(L"Categoria")}),
+        Column(of(&CRadiatorItem::strProdukt))
+            .Json("product", JsonPart::item)
+            .Looks({Csv(L"Prodotto"), Text(Output::paper, L"Prodotto", 66.0)}),
+        Column(of(&CRadiatorItem::strTyp))
+            .Json("type", JsonPart::item)
+            .Looks({Csv(L"Tipo"), Text(Output::paper, L"Tipo", 44.0)}),
+        Column(measure(&CMeasures::hoehe))
+            .Json("height", JsonPart::item)
+            .Unit(L"mm")
+            .Looks({Csv(L"Altezza")}),
+        Column(measure(&CMeasures::tiefe))
+            .Json("depth", JsonPart::item)
+            .Unit(L"mm")
+            .Looks({Csv(L"Profondità")}),
+        Column(measure(&CMeasures::laenge))
+            .Json("length", JsonPart::item)
+            .Unit(L"mm")
+            .Looks({Csv(L"Lunghezza")}),
+        Column(of(&CRadiatorItem::masse))
+            .Unit(L"mm")
+            .Looks({Text(Output::paper, L"H × P × L", 38.0)}),
+        Column(of(&CRadiatorItem::elemente))
+            .Json("sections", JsonPart::item)
+            .Form(kCount)
+            .Looks({Csv(L"Elementi"), Number(Output::paper, L"Elementi", 18.0)}),
+        // Made to measure, a radiator has no order number; then its size says what to order.
+        Column([](const CRadiatorItem& item) -> CCell {
+            return item.strBestellNr.empty() ? CCell() : CCell(item.strBestellNr);
+        })
+            .Json("orderNumber", JsonPart::item)
+            .Looks({Csv(L"Codice d'ordine"),
+                    Marked(Text(Output::paper, L"Codice d'ordine", 47.0), L"–")}),
+        PiecesColumn<Column, CRadiatorItem>({Csv(L"Pezzi"), Number(Output::paper, L"Pezzi", 20.0)}),
     };
 }
 
@@ -509,6 +581,12 @@ const std::vector<CScheduleColumn>& ScheduleColumns()
 const std::vector<CBillColumn>& BillColumns()
 {
     static const std::vector<CBillColumn> columns = MakeBillColumns();
+    return columns;
+}
+
+const std::vector<CRadiatorBillColumn>& RadiatorBillColumns()
+{
+    static const std::vector<CRadiatorBillColumn> columns = MakeRadiatorBillColumns();
     return columns;
 }
 

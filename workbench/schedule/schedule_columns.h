@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/schedule/columns.h"
+#include "workbench/schedule/radiator_bill.h"
 #include "workbench/schedule/schedule.h"
 #include "workbench/schedule/valve_bill.h"
 
@@ -8,8 +9,8 @@
 
 namespace workbench {
 
-/// Everything that the console, the CSV file, the JSON file and the report show in columns. A
-/// column more is an entry in one of these lists.
+/// Everything that the console, the CSV file, the workbook, the JSON file and the report show in
+/// columns. A column more is an entry in one of these lists.
 
 /// A line of the schedule.
 struct CScheduleLine
@@ -35,16 +36,23 @@ using CScheduleColumn = CColumn<CScheduleLine, CScheduleSum>;
 
 const std::vector<CScheduleColumn>& ScheduleColumns();
 
-/// A line below the valves of the bill: what it counts, and the count.
+/// A line below the items of a bill: what it counts, and the count.
 struct CBillSum
 {
     CString strName;
     int nAnzahl = 0;
 };
 
+/// What the line is called that counts items which are wanted and were not found.
+inline constexpr wchar_t kMissingInBill[] = L"non trovate nei cataloghi";
+
 using CBillColumn = CColumn<CValveItem, CBillSum>;
 
 const std::vector<CBillColumn>& BillColumns();
+
+using CRadiatorBillColumn = CColumn<CRadiatorItem, CBillSum>;
+
+const std::vector<CRadiatorBillColumn>& RadiatorBillColumns();
 
 /// A row of a valve's kv table.
 struct CKvLine

@@ -6,8 +6,10 @@
 #include "workbench/schedule/schedule_columns.h"
 
 #include <charconv>
+#include <functional>
 #include <string>
 #include <system_error>
+#include <utility>
 
 namespace workbench {
 
@@ -22,14 +24,7 @@ CString JoinLine(const std::vector<CString>& fields)
     return line + L"\r\n";
 }
 
-CString FormatHeadings()
-{
-    std::vector<CString> headings;
-    ForEachShown(ScheduleColumns(), Output::csv, [&](const auto& column, const CColumnLook& look) {
-        headings.push_back(column.HeadingOf(look));
-    });
-    return JoinLine(headings);
-}
+constexpr wchar_t kByteOrderMark = L'\ufeff';
 
 bool IsNumber(const CString& text)
 {
@@ -49,28 +44,90 @@ CString Defused(const CString& text)
     return (isFormula && !IsNumber(text) ? L"'" : L"") + Printable(text);
 }
 
-CString FormatField(const CNumberForm& form, const CCell& cell)
+/// True for digits with no more between them than stands in numbers, dates and times, which a
+/// spreadsheet would write anew in its own way: "0200010115…", "1.01", "12/3", "2E5".
+bool IsLikeANumber(const CString& text)
 {
-    if (const auto* const number = std::get_if<double>(&cell)) {
-        return form.nFileDecimals == kAllDecimals ? FormatExact(*number)
-                                                  : FormatFixed(*number, form.nFileDecimals);
+    return text.find_first_of(L"0123456789") != CString::npos &&
+           CString(L"0123456789+-.,").find(text[0]) != CString::npos &&
+           text.find_first_not_of(L"0123456789+-.,:/ %Ee") == CString::npos;
+}
+
+/// A formula whose value is the text.
+CString Kept(const CString& text)
+{
+    return L"=\"" + text + L"\"";
+}
+
+/// Writes the lines of one file.
+class CCsvWriter
+{
+public:
+    explicit CCsvWriter(CsvForm form) : m_form(form)
+    {
+        if (form == CsvForm::spreadsheet) {
+            m_text += kByteOrderMark;
+        }
     }
-    const auto* const text = std::get_if<CString>(&cell);
-    return text ? Defused(*text) : CString();
-}
 
-CString FormatRow(const CScheduleFloor& floor, const CScheduleRow& row)
-{
-    return JoinLine(MakeCells<CString>(ScheduleColumns(), Output::csv,
-                                       CScheduleLine{floor.strName, row, {}}, !row.bErster,
-                                       FormatField));
-}
+    void AddHeadings()
+    {
+        std::vector<CString> headings;
+        ForEachShown(ScheduleColumns(), Output::csv,
+                     [&](const auto& column, const CColumnLook& look) {
+                         headings.push_back(column.HeadingOf(look));
+                     });
+        m_text += JoinLine(headings);
+    }
 
-CString FormatTotals(const CString& floor, const CString& status, const CScheduleTotals& totals)
-{
-    return JoinLine(MakeSumCells<CString>(ScheduleColumns(), Output::csv,
-                                          CScheduleSum{totals, floor, {}, status}, FormatField));
-}
+    void AddRow(const CScheduleFloor& floor, const CScheduleRow& row)
+    {
+        m_text += JoinLine(MakeCells<CString>(ScheduleColumns(), Output::csv,
+                                              CScheduleLine{floor.strName, row, {}}, !row.bErster,
+                                              FieldFormat()));
+    }
+
+    void AddTotals(const CString& floor, const CString& status, const CScheduleTotals& totals)
+    {
+        m_text +=
+            JoinLine(MakeSumCells<CString>(ScheduleColumns(), Output::csv,
+                                           CScheduleSum{totals, floor, {}, status}, FieldFormat()));
+    }
+
+    CString TakeText() { return std::move(m_text); }
+
+private:
+    std::function<CString(const CNumberForm&, const CCell&)> FieldFormat() const
+    {
+        return [this](const CNumberForm& form, const CCell& cell) {
+            const auto* const number = std::get_if<double>(&cell);
+            const auto* const text = std::get_if<CString>(&cell);
+            if (number) {
+                return FormatNumber(form, *number);
+            }
+            return text ? FormatText(*text) : CString();
+        };
+    }
+
+    CString FormatNumber(const CNumberForm& form, double value) const
+    {
+        CString number = form.nFileDecimals == kAllDecimals
+                             ? FormatExact(value)
+                             : FormatFixed(value, form.nFileDecimals);
+        if (m_form == CsvForm::spreadsheet) {
+            ReplaceAll(number, L'.', L',');
+        }
+        return number;
+    }
+
+    CString FormatText(const CString& text) const
+    {
+        return m_form == CsvForm::spreadsheet && IsLikeANumber(text) ? Kept(text) : Defused(text);
+    }
+
+    CsvForm m_form;
+    CString m_text;
+};
 
 } // namespace
 
@@ -86,18 +143,20 @@ CString QuoteCsv(const CString& text)
     return quoted + L"\"";
 }
 
-CString FormatScheduleCsv(const CSchedule& schedule)
+CString FormatScheduleCsv(const CSchedule& schedule, CsvForm form)
 {
-    CString text = FormatHeadings();
+    CCsvWriter csv(form);
+    csv.AddHeadings();
     for (const CScheduleFloor& floor : schedule.floors) {
         for (const CScheduleRow& row : floor.rows) {
-            text += FormatRow(floor, row);
+            csv.AddRow(floor, row);
         }
     }
     for (const CScheduleFloor& floor : schedule.floors) {
-        text += FormatTotals(floor.strName, L"totale del piano", floor.totals);
+        csv.AddTotals(floor.strName, L"totale del piano", floor.totals);
     }
-    return text + FormatTotals({}, L"totale dell'edificio", schedule.totals);
+    csv.AddTotals({}, L"totale dell'edificio", schedule.totals);
+    return csv.TakeText();
 }
 
 } // namespace workbench

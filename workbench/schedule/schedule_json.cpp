@@ -110,12 +110,14 @@ std::string FormatScheduleJson(const CSchedule& schedule)
     const QJsonObject system = {{"supply", schedule.system.vorlauf},
                                 {"return", schedule.system.ruecklauf}};
     const CValveBill bill = MakeValveBill(schedule);
-    QJsonObject root = {{"version", kFormatVersion},
-                        {"building", ToQt(schedule.strBuilding)},
-                        {"system", system},
-                        {"floors", floors},
-                        {"totals", MakeTotals(schedule.totals)},
-                        {"valves", MakeValveBillJson(bill)}};
+    QJsonObject root = {
+        {"version", kFormatVersion},
+        {"building", ToQt(schedule.strBuilding)},
+        {"system", system},
+        {"floors", floors},
+        {"totals", MakeTotals(schedule.totals)},
+        {"radiators", MakeItemsJson(MakeRadiatorBill(schedule).items, RadiatorBillColumns())},
+        {"valves", MakeItemsJson(bill.items, BillColumns())}};
     if (bill.nMissing > 0) {
         root.insert("valvesMissing", bill.nMissing);
     }

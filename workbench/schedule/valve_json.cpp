@@ -4,22 +4,11 @@
 #include "workbench/schedule/json_values.h"
 #include "workbench/schedule/schedule_columns.h"
 
-#include <charconv>
 #include <cstddef>
 
 namespace workbench {
 
 namespace {
-
-/// The double with the shortest decimal digits that stand for the float: 0.88 for 0.88F.
-double Decimal(float value)
-{
-    char digits[32];
-    const auto end = std::to_chars(digits, digits + sizeof digits, value);
-    double result = 0.0;
-    std::from_chars(digits, end.ptr, result);
-    return result;
-}
 
 /// Machines get a code that does not change with the user's language.
 QString StatusCode(ValveStatus status)
@@ -42,7 +31,7 @@ QJsonObject MakeKvRow(const CKvLine& line)
     QJsonObject row;
     InsertValues(row, KvColumns(), JsonPart::item, line);
     for (QJsonValueRef value : row) {
-        value = Decimal(static_cast<float>(value.toDouble()));
+        value = DecimalOf(static_cast<float>(value.toDouble()));
     }
     return row;
 }
@@ -65,10 +54,10 @@ void InsertRecord(QJsonObject& object, const VDI3805_VENTIL_KV& ventil)
     object.insert("bypass", ventil.VentilTyp == 1);
     object.insert("adjustable", ventil.Einstellbar != 0);
     object.insert("DN", ventil.DN);
-    object.insert("kvs", Decimal(ventil.Kvs));
-    object.insert("value5", Decimal(ventil.Wert5));
-    object.insert("value6", Decimal(ventil.Wert6));
-    object.insert("pressureMax", Decimal(ventil.DruckMax));
+    object.insert("kvs", DecimalOf(ventil.Kvs));
+    object.insert("value5", DecimalOf(ventil.Wert5));
+    object.insert("value6", DecimalOf(ventil.Wert6));
+    object.insert("pressureMax", DecimalOf(ventil.DruckMax));
     object.insert("text", ToQt(ventil.Zusatz));
     object.insert("rows", MakeKvRows(ventil));
 }
@@ -97,17 +86,6 @@ QJsonObject MakeValvesJson(const CRoomValves& valves)
     InsertValve(object, QStringLiteral("supply"), valves.vorlauf);
     InsertValve(object, QStringLiteral("return"), valves.ruecklauf);
     return object;
-}
-
-QJsonArray MakeValveBillJson(const CValveBill& bill)
-{
-    QJsonArray items;
-    for (const CValveItem& item : bill.items) {
-        QJsonObject object;
-        InsertValues(object, BillColumns(), JsonPart::item, item);
-        items.append(object);
-    }
-    return items;
 }
 
 } // namespace workbench

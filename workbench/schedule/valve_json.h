@@ -1,9 +1,7 @@
 #pragma once
 
-#include "workbench/schedule/valve_bill.h"
 #include "workbench/schedule/valve_selection.h"
 
-#include <QJsonArray>
 #include <QJsonObject>
 
 namespace workbench {
@@ -11,8 +9,5 @@ namespace workbench {
 /// "supply" and "return" with key and status each; a valve that was found has its whole record and
 /// its kv rows. Empty if the room has no valves.
 QJsonObject MakeValvesJson(const CRoomValves& valves);
-
-/// The items of the bill, each with its count.
-QJsonArray MakeValveBillJson(const CValveBill& bill);
 
 } // namespace workbench

@@ -16,6 +16,7 @@
 #include "workbench/report/plan_pdf.h"
 #include "workbench/schedule/schedule_csv.h"
 #include "workbench/schedule/schedule_json.h"
+#include "workbench/schedule/schedule_xlsx.h"
 #include "workbench/schedule/valve_check.h"
 #include "workbench/window/plan_document.h"
 #include "workbench/window/prompts.h"
@@ -275,6 +276,13 @@ void CFileCommands::ExportCsv()
     Export("Esporta la distinta", "CSV (*.csv)", L".csv", [this](const CString& path) {
         const CSchedule schedule = SchedulePlan(m_document.Building());
         WriteWholeFile(path, Utf8FromWide(FormatScheduleCsv(schedule)));
+    });
+}
+
+void CFileCommands::ExportXlsx()
+{
+    Export("Esporta la distinta", "Excel (*.xlsx)", L".xlsx", [this](const CString& path) {
+        WriteWholeFile(path, FormatScheduleXlsx(SchedulePlan(m_document.Building())));
     });
 }
 

@@ -41,6 +41,7 @@ public:
     bool MayLeave();
 
     void ExportCsv();
+    void ExportXlsx();
     void ExportJson();
     void ExportPdf();
     void ExportDxf();

@@ -8,6 +8,7 @@
 #include "workbench/plan/sizing.h"
 #include "workbench/window/module_calls.h"
 #include "workbench/window/plan_document.h"
+#include "workbench/window/project_dialog.h"
 #include "workbench/window/prompts.h"
 #include "workbench/window/sizing_progress.h"
 #include "workbench/window/system_dialog.h"
@@ -256,6 +257,16 @@ void CPlanCommands::Remove(const std::vector<CRadiatorRef>& radiators)
     RemoveRadiators(changed, radiators);
     m_document.Do(radiators.size() == 1 ? L"Elimina corpo scaldante" : L"Elimina corpi scaldanti",
                   std::move(changed));
+}
+
+void CPlanCommands::DescribeProject()
+{
+    CProjectDialog dialog(m_document.Building().project, &m_window);
+    if (dialog.exec() == QDialog::Accepted) {
+        CBuilding changed = m_document.Building();
+        changed.project = dialog.GetProject();
+        m_document.Do(L"Dati del progetto", std::move(changed));
+    }
 }
 
 bool CPlanCommands::ChangeSystem()

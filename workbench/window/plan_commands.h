@@ -41,6 +41,9 @@ public:
     void Connect(const std::vector<CRadiatorRef>& radiators, CDrawer& drawer);
     void Remove(const std::vector<CRadiatorRef>& radiators);
 
+    /// Asks for what papers say of the project.
+    void DescribeProject();
+
     /// Asks for another heating system of the building, and from what excess on radiators count as
     /// oversized. False if it keeps its system.
     bool ChangeSystem();

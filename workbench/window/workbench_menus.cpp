@@ -37,8 +37,10 @@ void CWorkbenchWindow::MakeFileMenu()
     AddAction(exports, "exportPdf", "&Progetto (PDF)…", QKeySequence("Ctrl+P"),
               [this] { m_files.ExportPdf(); });
     AddAction(exports, "exportCsv", "Distinta (&CSV)…", {}, [this] { m_files.ExportCsv(); });
+    AddAction(exports, "exportXlsx", "Distinta (&Excel)…", {}, [this] { m_files.ExportXlsx(); });
     AddAction(exports, "exportJson", "Distinta (&JSON)…", {}, [this] { m_files.ExportJson(); });
     AddAction(exports, "exportDxf", "Pianta (&DXF)…", {}, [this] { m_files.ExportDxf(); });
+    AddAction(menu, "project", "&Dati del progetto…", {}, [this] { m_commands.DescribeProject(); });
     AddAction(menu, "catalogues", "Cartella dei ca&taloghi…", {},
               [this] { m_files.ChooseCatalogues(); });
     menu.addSeparator();
@@ -121,8 +123,8 @@ void CWorkbenchWindow::EnableActions()
     findChild<QAction*>("save")->setText(readOnly ? "&Salva (sola lettura)" : "&Salva");
     const bool any = !m_document.Building().floors.empty();
     enable("save", any && !readOnly);
-    for (const char* const work :
-         {"saveAs", "exportPdf", "exportCsv", "exportJson", "exportDxf", "sizeAll", "system"}) {
+    for (const char* const work : {"saveAs", "exportPdf", "exportCsv", "exportXlsx", "exportJson",
+                                   "exportDxf", "sizeAll", "system", "project"}) {
         enable(work, any);
     }
     enable("undo", history.CanUndo());

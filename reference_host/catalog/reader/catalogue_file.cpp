@@ -266,9 +266,10 @@ void CCatalogueParser::TakeArtikel(const CRecordLine& line)
                     L", che prima di questa riga il prodotto non contiene.");
     }
     const double size = Read(line, 2, L"lunghezza o numero di elementi", kLaenge);
-    line.ReadText(3, L"numero d'ordine");
+    CCatalogueSeries& serie = produkt.serien[found->second];
+    serie.bestellNummern.emplace(size, line.ReadText(3, L"numero d'ordine"));
     if (!line.IsEmpty(4)) {
-        produkt.serien[found->second].typTexte.emplace(size, line.GetText(4));
+        serie.typTexte.emplace(size, line.GetText(4));
     }
 }
 

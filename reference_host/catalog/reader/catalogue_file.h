@@ -60,6 +60,8 @@ struct CCatalogueSeries
     std::optional<CSections> glieder;
     /// Type texts of single sizes, by length or by number of sections.
     std::map<double, CString> typTexte;
+    /// Order numbers of single sizes, in the same way.
+    std::map<double, CString> bestellNummern;
 
     bool IsPerMetre() const { return cBauart == L'M' || cBauart == L'm'; }
     bool IsPerSection() const { return cBauart == L'S' || cBauart == L's'; }

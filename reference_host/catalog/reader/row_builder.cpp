@@ -115,15 +115,21 @@ std::vector<CSize> SizesOf(const CCatalogueSeries& serie, double requiredOutput)
     return serie.zuschnitt ? Merged(standard, CutSizes(serie, requiredOutput)) : standard;
 }
 
-const CString& TypeText(const CCatalogueSeries& serie, const CSize& size)
+/// By what the articles of a series name a size.
+double NameOfSize(const CCatalogueSeries& serie, double laenge, double elemente)
 {
-    const auto own = serie.typTexte.find(serie.IsPerSection() ? size.dElemente : size.dLaenge);
+    return serie.IsPerSection() ? elemente : laenge;
+}
+
+const CString& TypeText(const CCatalogueSeries& serie, double sizeName)
+{
+    const auto own = serie.typTexte.find(sizeName);
     return own == serie.typTexte.end() ? serie.strTyp : own->second;
 }
 
 void FillRow(HK_VDI3805_TYP& row, const CCatalogueSeries& serie, const CSize& size)
 {
-    row.Name = TypeText(serie, size);
+    row.Name = TypeText(serie, NameOfSize(serie, size.dLaenge, size.dElemente));
     row.Daten.Hoehe = serie.dHoehe;
     row.Daten.Tiefe = serie.dTiefe;
     row.Daten.Laenge = size.dLaenge;
@@ -155,6 +161,20 @@ std::vector<HK_VDI3805_TYP> BuildRows(const CCatalogueProduct& produkt, double r
         }
     }
     return rows;
+}
+
+CString FindOrderNumber(const CCatalogueProduct& produkt, const CString& typ,
+                        const HK_DATEN_VDI3805& daten)
+{
+    for (const CCatalogueSeries& serie : produkt.serien) {
+        const double name = NameOfSize(serie, daten.Laenge, daten.Elemente);
+        const auto number = serie.bestellNummern.find(name);
+        if (number != serie.bestellNummern.end() && serie.dHoehe == daten.Hoehe &&
+            serie.dTiefe == daten.Tiefe && TypeText(serie, name) == typ) {
+            return number->second;
+        }
+    }
+    return {};
 }
 
 } // namespace reference_host

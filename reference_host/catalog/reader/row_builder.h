@@ -15,4 +15,9 @@ namespace reference_host {
 /// finite number gives the short end. The rows are not linked yet.
 std::vector<HK_VDI3805_TYP> BuildRows(const CCatalogueProduct& produkt, double requiredOutput);
 
+/// The order number of a row of the product: of the first size with this type text and these
+/// measures that has one. Empty if there is none.
+CString FindOrderNumber(const CCatalogueProduct& produkt, const CString& typ,
+                        const HK_DATEN_VDI3805& daten);
+
 } // namespace reference_host

@@ -1,5 +1,6 @@
 #include "host/host_catalog.h"
 
+#include "reference_host/catalog/order_number.h"
 #include "reference_host/prefs/host_settings.h"
 #include "tests/reference_host/catalog/catalogue_fixture.h"
 
@@ -248,6 +249,34 @@ TEST_F(CHostCatalogTest, NodesThatAHostHungBelowAMakerAreLeftToTheHost)
     ASSERT_EQ(Read(L"Alfa"), 1);
     EXPECT_EQ(Produkt(L"Alfa")->pNext, nullptr);
     EXPECT_EQ(row.pNext, nullptr);
+}
+
+TEST_F(CHostCatalogTest, ASizeIsOrderedUnderTheNumberOfItsOwnArticle)
+{
+    WriteCatalogue("Alfa", OneProduct("700;1;T;M;600;102;1000;1.3;6.3\n710.01;1;500\n"
+                                      "710.01;2;1000\n800;1;500;N-500;\n800;1;500;N-due\n"
+                                      "700;2;T;M;900;102;1000;1.3;6.3\n710.01;1;500\n"
+                                      "800;2;500;N-900;T alto\n"
+                                      "700;3;G;S;600;80;100;1.3;1\n710.03;50;9\n800;3;4;N-G4\n"));
+    ReadHKDaten();
+    const auto number = [](const wchar_t* typ, double hoehe, double tiefe, double laenge,
+                           double elemente = 0.0, const wchar_t* produkt = L"P") {
+        HK_DATEN_VDI3805 daten;
+        daten.Hoehe = hoehe;
+        daten.Tiefe = tiefe;
+        daten.Laenge = laenge;
+        daten.Elemente = elemente;
+        return FindOrderNumber(L"Alfa", L"K", produkt, typ, daten);
+    };
+    EXPECT_EQ(number(L"T", 600, 102, 500), L"N-500") << "the first of two";
+    EXPECT_EQ(number(L"T alto", 900, 102, 500), L"N-900");
+    EXPECT_EQ(number(L"G", 600, 80, 200, 4), L"N-G4");
+    EXPECT_EQ(number(L"T", 600, 102, 1000), L"") << "a size without article";
+    EXPECT_EQ(number(L"T", 900, 102, 500), L"") << "another size's type text";
+    EXPECT_EQ(number(L"T", 600, 100, 500), L"") << "a depth that the catalogue does not have";
+    EXPECT_EQ(number(L"T", 600, 102, 500, 0, L"Q"), L"");
+    WriteCatalogue("Alfa", "rotto");
+    EXPECT_EQ(number(L"T", 600, 102, 500), L"");
 }
 
 TEST(RoomTools, TheFloorStandsBeforeTheFirstPoint)

@@ -70,6 +70,7 @@ CBuilding OddBuilding()
     building.ueberschussMax = 22.5;
     building.ventile = {CValveKey{L"A", CString(36, L'1')}, CValveKey{L"B", CString(30, L'2')}};
     building.strNotiz = L"[\"uno\",\"due\"]";
+    building.project = {L"Società \"Tigli\"", L"P. i. Rossi", L"2026/014", L"2026-03-01"};
     CRoom empty = OddRoom();
     empty.strName = L"Vuoto";
     empty.heizkoerper.clear();

@@ -109,6 +109,27 @@ TEST_F(BuildingJson, WrongFieldsAreNamedWithTheirRoom)
     }
 }
 
+TEST_F(BuildingJson, TheProjectMayBeLeftOutWholeOrInPart)
+{
+    const auto with = [](const std::string& project) {
+        return Replaced(kBuilding, "\"system\"", "\"project\": " + project + ", \"system\"");
+    };
+    EXPECT_EQ(Read(kBuilding).project, CProject());
+    EXPECT_EQ(FormatBuilding(Read(with("{}"))), FormatBuilding(Read(kBuilding)));
+    EXPECT_EQ(Read(with(R"({"client": "Bruni", "date": "2026-03-01"})")).project,
+              (CProject{L"Bruni", L"", L"", L"2026-03-01"}));
+    const std::pair<const char*, const char*> faults[] = {
+        {R"({"date": "01/03/2026"})", "campo \"date\": attesa una data come \"2026-03-01\""},
+        {R"({"date": "2026-02-30"})", "campo \"date\": attesa una data come \"2026-03-01\""},
+        {R"({"client": " "})", "campo \"client\": il testo è vuoto"},
+        {R"({"customer": "Bruni"})", "campo \"customer\": campo sconosciuto"},
+        {R"("Bruni")", "campo \"project\": atteso un oggetto { }"},
+    };
+    for (const auto& [project, message] : faults) {
+        EXPECT_EQ(ErrorOf(with(project)), message);
+    }
+}
+
 TEST_F(BuildingJson, ValvesOfARoomWinPieceByPiece)
 {
     const std::string all =

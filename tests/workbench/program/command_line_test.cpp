@@ -41,12 +41,13 @@ TEST(CommandLine, EveryOptionIsRead)
     const CArguments arguments = Parse(
         {L"--batch", L"--building", L"casa.json", L"--catalogues=listini", L"--system", L"55,5/45",
          L"--room", L"Città = bagno", L"--output", L"risultati", L"--valves", L"--valve-catalogues",
-         L"valvole", L"--building=--altra.json", L"--sample", L"esempio.json"});
+         L"valvole", L"--csv-plain", L"--building=--altra.json", L"--sample", L"esempio.json"});
     EXPECT_EQ(arguments.strBuilding, L"--altra.json") << "the last of two counts";
     EXPECT_EQ(arguments.strSample, L"esempio.json");
     EXPECT_EQ(arguments.strCatalogues, L"listini");
     EXPECT_EQ(arguments.strValveCatalogues, L"valvole");
     EXPECT_TRUE(arguments.bValves);
+    EXPECT_TRUE(arguments.bCsvPlain);
     EXPECT_EQ(arguments.strRoom, L"Città = bagno");
     EXPECT_EQ(arguments.strOutput, L"risultati");
     ASSERT_TRUE(arguments.system);

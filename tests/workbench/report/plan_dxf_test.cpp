@@ -52,6 +52,8 @@ protected:
             radiator.strBlock = L"rad";
             room.heizkoerper.push_back(radiator);
         }
+        room.heizkoerper[0].strTyp = L"22/600 è";
+        room.heizkoerper[0].daten.Leistung = 299.6;
         room.heizkoerper[0].anschluss.AnschlussAN = kVorlauf;
         room.heizkoerper[0].anschluss.AnschlussRI = kRuecklauf;
         room.heizkoerper[3].strBlock = L"MANCA";
@@ -59,7 +61,7 @@ protected:
         m_building.floors[0].rooms = {std::make_shared<const CRoom>(room)};
         CRoom upper = Room(L"Sopra", 500.0);
         upper.heizkoerper = {Radiator(500.0)};
-        upper.heizkoerper[0].strLayer = L"HEIZ_1/2";
+        upper.heizkoerper[0].strLayer = L"HEIZ_1/2 alto";
         m_building.floors[1].rooms = {std::make_shared<const CRoom>(upper)};
     }
 
@@ -95,11 +97,10 @@ TEST_F(PlanDxfTest, AttributesAreTheRadiatorsOwnTextsToTheLetter)
 {
     const CDxfDrawing drawing = Exported();
     ASSERT_EQ(drawing.inserts.size(), 5u);
-    const std::vector<CDxfAttribute> expected = {{L"H_VL_PUNKT", kVorlauf},
-                                                 {L"H_RL_PUNKT", kRuecklauf},
-                                                 {L"H_LAENGE", L"0.7"},
-                                                 {L"H_TIEFE", L"0.1"},
-                                                 {L"H_HOEHE", L"0.6"}};
+    const std::vector<CDxfAttribute> expected = {
+        {L"H_VL_PUNKT", kVorlauf}, {L"H_RL_PUNKT", kRuecklauf}, {L"H_LAENGE", L"0.7"},
+        {L"H_TIEFE", L"0.1"},      {L"H_HOEHE", L"0.6"},        {L"H_TYP", L"22/600 è"},
+        {L"H_LEISTUNG", L"300"}};
     EXPECT_EQ(drawing.inserts[0].attribute, expected);
     EXPECT_EQ(FindAttribute(drawing.inserts[1].attribute, L"H_VL_PUNKT"), L"");
     for (const CDxfInsert& insert : drawing.inserts) {
@@ -136,7 +137,8 @@ TEST_F(PlanDxfTest, RadiatorsAreOnTheirLayersInTheirColours)
     EXPECT_EQ(drawing.inserts[0].strLayer, L"HEIZ_Terra");
     EXPECT_EQ(drawing.inserts[0].nColor, kColorByLayer);
     EXPECT_EQ(drawing.inserts[3].nColor, 5);
-    EXPECT_EQ(drawing.inserts[4].strLayer, L"HEIZ_1_2");
+    EXPECT_EQ(drawing.inserts[4].strLayer, L"HEIZ_1_2_alto");
+    EXPECT_EQ(FindLayerColor(drawing.layers, L"HEIZ_1_2_alto"), kColorDefault);
     const CDxfBlock* const block = FindBlock(drawing, L"RAD");
     ASSERT_NE(block, nullptr);
     EXPECT_EQ(block->entities[0].nColor, kColorByBlock);
@@ -157,19 +159,25 @@ TEST_F(PlanDxfTest, FloorsStandSideBySideUnderTheirTitles)
     // The room is 5 m wide and has a wall around it.
     EXPECT_GT(upper.punkt.x, lower.punkt.x + 5.6);
     EXPECT_EQ(find(L"Sopra").punkt.y, find(L"Küche è già \"ampia\"").punkt.y);
+    const CDxfText name = find(L"Küche è già \"ampia\"");
+    double below = name.punkt.y;
     for (const wchar_t* figure : {L"Fabbisogno 1000 W", L"Coperto 1200 W", L"Resto -200 W"}) {
-        EXPECT_LT(find(figure).punkt.x, upper.punkt.x);
+        const CDxfText text = find(figure);
+        EXPECT_LT(text.punkt.x, upper.punkt.x);
+        EXPECT_EQ(text.dHoehe, name.dHoehe) << "one height a room";
+        EXPECT_LT(text.punkt.y, below - text.dHoehe);
+        below = text.punkt.y;
     }
 }
 
 TEST_F(PlanDxfTest, ValveGraphicsTurnTheirPipeAwayFromTheRadiator)
 {
     CDxfDrawing valves;
-    valves.layers = {{L"MANDATA", 1}};
+    valves.layers = {{L"MANDATA NORD", 1}};
     // One of them has the name of a radiator's block.
     for (const wchar_t* name : {L"DIRITTA", L"RAD"}) {
         valves.blocks.push_back(
-            {name, {}, {{L"MANDATA", kColorByLayer, CDxfLine{{-0.1, 0.0}, {0.0, 0.02}}}}});
+            {name, {}, {{L"MANDATA NORD", kColorByLayer, CDxfLine{{-0.1, 0.0}, {0.0, 0.02}}}}});
     }
     m_folder.WriteBytes("valvole.dxf", WriteDxf(valves));
     const CBlockLibrary library(m_folder.Path("valvole.dxf"));
@@ -196,7 +204,7 @@ TEST_F(PlanDxfTest, ValveGraphicsTurnTheirPipeAwayFromTheRadiator)
     }
     EXPECT_EQ(drawing.inserts[0].strBlock, L"RAD");
     EXPECT_EQ(drawing.inserts[2].strBlock, L"RAD_2");
-    EXPECT_EQ(FindLayerColor(drawing.layers, L"MANDATA"), 1);
+    EXPECT_EQ(FindLayerColor(drawing.layers, L"MANDATA_NORD"), 1);
 }
 
 } // namespace workbench

@@ -4,13 +4,19 @@
 #include "tests/src/platform/thrown.h"
 #include "tests/support/file_size_limit.h"
 #include "tests/workbench/plan/plan_fixture.h"
+#include "workbench/report/plan_label.h"
+#include "workbench/report/plan_legend.h"
 #include "workbench/report/plan_tables.h"
 
 #include <QApplication>
 #include <QImage>
+#include <QPaintDevice>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QStringList>
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 
 namespace workbench {
@@ -46,6 +52,56 @@ protected:
         }
         return count;
     }
+};
+
+/// Notes the texts that are painted on it.
+class CTextNotes : public QPaintDevice
+{
+public:
+    QStringList Texts() const { return m_engine.texts; }
+
+    QPaintEngine* paintEngine() const override { return &m_engine; }
+
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        switch (metric) {
+        case PdmDpiX:
+        case PdmDpiY:
+        case PdmPhysicalDpiX:
+        case PdmPhysicalDpiY:
+            return CReportSheet::kDotsPerInch;
+        case PdmWidth:
+        case PdmHeight:
+        case PdmWidthMM:
+        case PdmHeightMM:
+        case PdmNumColors:
+        case PdmDepth:
+            return 1;
+        default:
+            return QPaintDevice::metric(metric);
+        }
+    }
+
+private:
+    class CEngine : public QPaintEngine
+    {
+    public:
+        CEngine() : QPaintEngine(AllFeatures) {}
+        bool begin(QPaintDevice* /*device*/) override { return true; }
+        bool end() override { return true; }
+        void updateState(const QPaintEngineState& /*state*/) override {}
+        void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
+        Type type() const override { return User; }
+        void drawTextItem(const QPointF& /*at*/, const QTextItem& item) override
+        {
+            texts += item.text();
+        }
+
+        QStringList texts;
+    };
+
+    mutable CEngine m_engine;
 };
 
 CReportTable TableOf(std::size_t groups, std::size_t rows)
@@ -107,11 +163,11 @@ TEST_F(PlanPdfTest, NoHeadingIsCutAndNoRowIsShort)
     page.setDotsPerMeterY(CReportSheet::kDotsPerInch * 10000 / 254);
     QPainter painter(&page);
     const CReportSheet sheet(painter);
-    for (CReportTable table :
-         {MakeTotalsTable(schedule), MakeScheduleTable(schedule), MakeOpenRoomsTable(schedule),
-          MakeMissizedTable(schedule), MakeValveTable(schedule)}) {
+    for (CReportTable table : {MakeTotalsTable(schedule), MakeScheduleTable(schedule),
+                               MakeOpenRoomsTable(schedule), MakeMissizedTable(schedule),
+                               MakeRadiatorOrderTable(schedule), MakeValveTable(schedule)}) {
         // The narrower paper, less its margins.
-        FitColumns(table, 267.0);
+        FitColumns(table, 267.0, sheet);
         EXPECT_TRUE(FindCutHeadings(sheet, table).empty())
             << table.strTitel.toStdString() << ": "
             << FindCutHeadings(sheet, table).front().toStdString();
@@ -122,6 +178,59 @@ TEST_F(PlanPdfTest, NoHeadingIsCutAndNoRowIsShort)
             }
         }
     }
+}
+
+TEST_F(PlanPdfTest, ANameIsWholeWhereThereIsRoomForIt)
+{
+    const CRoom room = Room(L"Camera matrimoniale degli ospiti", 1000.0);
+    const auto label = [&](const QSizeF& space) {
+        CTextNotes notes;
+        QPainter painter(&notes);
+        CReportSheet sheet(painter);
+        PaintRoomLabel(sheet, {{}, space}, room);
+        painter.end();
+        return notes.Texts().join(' ').toStdString();
+    };
+    const std::string name = "Camera matrimoniale degli ospiti";
+    const std::string figures = " Fabbisogno 1000 W Coperto 0 W Resto 1000 W";
+    EXPECT_EQ(label({60.0, 40.0}), name + figures);
+    EXPECT_EQ(label({17.0, 22.0}), name + figures) << "in three lines";
+    EXPECT_EQ(label({22.0, 17.0}), name + figures);
+    EXPECT_EQ(label({15.0, 8.0}), name) << "the figures have no room";
+    EXPECT_NE(label({9.0, 4.0}).find("…"), std::string::npos);
+    EXPECT_EQ(label({2.0, 2.0}), "");
+}
+
+TEST(PlanLegend, TheScaleBarHasRoundNumbers)
+{
+    for (const int scale : {20, 50, 100, 200, 250, 500, 1000, 2000, 5000}) {
+        const std::vector<double> marks = ScaleBarMarks(scale);
+        ASSERT_GT(marks.size(), 1u);
+        const double length = 1000.0 * marks.back() / scale;
+        EXPECT_TRUE(length > 20.0 && length <= 60.0) << scale << ": " << length;
+        const double leading = marks[1] / std::pow(10.0, std::floor(std::log10(marks[1])));
+        EXPECT_TRUE(leading == 1.0 || leading == 2.0 || leading == 5.0) << scale << ": " << leading;
+        for (std::size_t i = 0; i < marks.size(); ++i) {
+            EXPECT_DOUBLE_EQ(marks[i], static_cast<double>(i) * marks[1]);
+        }
+    }
+}
+
+TEST(ReportTable, ColumnsOfLongTextsTakeOfWhatOthersHaveToSpare)
+{
+    CTextNotes notes;
+    QPainter painter(&notes);
+    const CReportSheet sheet(painter);
+    const QString text = "Lindenbrück, Sockelkonvektor zweireihig";
+    CReportTable table{"T", {{"A", 60.0}, {"B", 20.0}, {"C", 20.0}}, {{{"a", text, "c"}}}};
+    FitColumns(table, 100.0, sheet);
+    EXPECT_GT(table.columns[1].dBreite, sheet.WidthOf(text, {7.0}));
+    double all = 0.0;
+    for (const CReportColumn& column : table.columns) {
+        EXPECT_GT(column.dBreite, 5.0);
+        all += column.dBreite;
+    }
+    EXPECT_DOUBLE_EQ(all, 100.0);
 }
 
 TEST(ReportTable, EveryPageRepeatsTitleHeadingsAndGroup)

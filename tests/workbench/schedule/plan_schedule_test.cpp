@@ -1,6 +1,7 @@
 #include "platform/encoding.h"
 #include "tests/workbench/plan/plan_fixture.h"
 #include "workbench/report/plan_tables.h"
+#include "workbench/schedule/radiator_bill.h"
 #include "workbench/schedule/schedule_csv.h"
 #include "workbench/schedule/schedule_json.h"
 #include "workbench/schedule/schedule_text.h"
@@ -63,7 +64,7 @@ protected:
 
 TEST_F(PlanScheduleTest, ColumnsOfTheCsvFileSumToItsTotals)
 {
-    const CString csv = FormatScheduleCsv(SchedulePlan(m_building));
+    const CString csv = FormatScheduleCsv(SchedulePlan(m_building), CsvForm::plain);
     for (const CString line :
          {L"Terra;Due;scelto;20;1200;200;1000;Prova;Radiatori a piastra;Tipo 22;A;600;100;"
           L"1000;600;600;-1.0;0;2.500;;;;;;;;;;;;;",
@@ -82,6 +83,17 @@ TEST_F(PlanScheduleTest, ColumnsOfTheCsvFileSumToItsTotals)
         EXPECT_NE(csv.find(L"\n" + line + L"\r"), CString::npos)
             << Utf8FromWide(line + L"\nin\n" + csv);
     }
+}
+
+TEST_F(PlanScheduleTest, ASpreadsheetGetsCommasAndCodesAsTexts)
+{
+    const CString csv = FormatScheduleCsv(SchedulePlan(m_building));
+    EXPECT_TRUE(csv.starts_with(L"\ufeffPiano;Locale;"));
+    const CString line = L"Terra;Due;scelto;20;;;;Prova;Radiatori a piastra;Tipo 11;B;600;100;1000;"
+                         L"390;390;;0;0,000;;;;;;;Nessuno;\"=\"\"" +
+                         CString(36, L'1') + L"\"\"\";;;;;";
+    EXPECT_NE(csv.find(L"\n" + line), CString::npos) << Utf8FromWide(csv);
+    EXPECT_NE(csv.find(L";1790;1790;-48,9;;2,500;"), CString::npos) << "the sums";
 }
 
 TEST_F(PlanScheduleTest, EveryOutputHasEverySum)
@@ -178,6 +190,37 @@ TEST_F(PlanScheduleTest, TheTextNamesARoomOnceAndSaysWhatItLacks)
     EXPECT_NE(text.find(L"Locali: 4; con corpo scaldante: 1; già coperti: 1; senza corpo scaldante "
                         L"adatto: 2."),
               CString::npos);
+}
+
+TEST_F(PlanScheduleTest, RadiatorsAreOrderedBySizeUnderTheNumbersOfTheirCatalogue)
+{
+    m_folder.WriteBytes("Prova/hk.tga", "010;2010-05;Prova S.p.A.;2026-01\n"
+                                        "100;1;Radiatori a piastra\n110;1;Tipo 22\n"
+                                        "700;1;22/600;M;600;100;1000;1.3;5\n"
+                                        "710.01;1;500\n710.01;2;1000\n800;1;1000;P22-1000\n");
+    CRoom room = Room(L"Altro", 1000.0);
+    room.heizkoerper = {Radiator(500.0, 500.0), Radiator(800.0), Radiator(800.0)};
+    for (CPlacedRadiator& radiator : room.heizkoerper) {
+        radiator.strTyp = L"22/600";
+    }
+    m_building.floors[0].rooms.clear();
+    Add(0, room);
+    const CSchedule schedule = SchedulePlan(m_building);
+    const CRadiatorBill bill = MakeRadiatorBill(schedule);
+    EXPECT_EQ(bill.nRadiators, 3);
+    ASSERT_EQ(bill.items.size(), 2u);
+    EXPECT_EQ(bill.items[0].masse.laenge, 500.0);
+    EXPECT_EQ(bill.items[0].strBestellNr, L"");
+    EXPECT_EQ(bill.items[1].strBestellNr, L"P22-1000");
+    EXPECT_EQ(bill.items[1].nAnzahl, 2);
+
+    const CReportTable table = MakeRadiatorOrderTable(schedule);
+    ASSERT_EQ(table.rows.size(), 3u);
+    const auto& cells = table.rows[1].zellen;
+    EXPECT_EQ(QStringList(cells.begin(), cells.end()).join('|'),
+              "Prova|Tipo 22|22/600|600 × 100 × 1000||P22-1000|2");
+    EXPECT_EQ(table.rows[0].zellen[5], "–") << "what is made to measure";
+    EXPECT_EQ(table.rows[2].zellen.back(), "3");
 }
 
 TEST_F(PlanScheduleTest, ValvesAreThoseOfTheRadiatorsNotOfTheRooms)

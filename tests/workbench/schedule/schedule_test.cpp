@@ -209,23 +209,28 @@ TEST(ScheduleCsv, FieldsAreQuotedWhereTheyNeedIt)
 
 TEST(ScheduleCsv, NoTextIsTakenForAFormulaOrForAControlCharacter)
 {
-    const std::pair<CString, CString> cases[] = {
-        {L"=HYPERLINK(1)", L"'=HYPERLINK(1)"},
-        {L"+39 045", L"'+39 045"},
-        {L"-T 22", L"'-T 22"},
-        {L"@A1", L"'@A1"},
-        {L"-12.5", L"-12.5"},
-        {L"+7", L"+7"},
-        {L"T=22", L"T=22"},
-        {L"\t=1\x1b", L"?=1?"},
+    // What a spreadsheet would write anew is kept by a formula of that text.
+    const std::tuple<CString, CString, CString> cases[] = {
+        {L"=HYPERLINK(1)", L"'=HYPERLINK(1)", L"'=HYPERLINK(1)"},
+        {L"+39 045", L"'+39 045", L"\"=\"\"+39 045\"\"\""},
+        {L"-T 22", L"'-T 22", L"'-T 22"},
+        {L"@A1", L"'@A1", L"'@A1"},
+        {L"-12.5", L"-12.5", L"\"=\"\"-12.5\"\"\""},
+        {L"1.01", L"1.01", L"\"=\"\"1.01\"\"\""},
+        {L"T=22", L"T=22", L"T=22"},
+        {L"+1\"&A1", L"\"'+1\"\"&A1\"", L"\"'+1\"\"&A1\""},
+        {L"\t=1\x1b", L"?=1?", L"?=1?"},
     };
-    for (const auto& [text, written] : cases) {
+    for (const auto& [text, plain, spreadsheet] : cases) {
         CSchedule schedule;
         CScheduleRow row;
         row.room.strName = text;
         schedule.floors.push_back({L"Terra", {row}, {}});
-        const CString csv = FormatScheduleCsv(schedule);
-        EXPECT_NE(csv.find(L"Terra;" + written + L";"), CString::npos) << Utf8FromWide(csv);
+        for (const auto& [form, written] :
+             {std::pair(CsvForm::plain, plain), std::pair(CsvForm::spreadsheet, spreadsheet)}) {
+            const CString csv = FormatScheduleCsv(schedule, form);
+            EXPECT_NE(csv.find(L"Terra;" + written + L";"), CString::npos) << Utf8FromWide(csv);
+        }
     }
 }
 

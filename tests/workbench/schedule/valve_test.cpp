@@ -1,6 +1,8 @@
 #include "platform/encoding.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
+#include "workbench/schedule/json_values.h"
+#include "workbench/schedule/schedule_columns.h"
 #include "workbench/schedule/schedule_csv.h"
 #include "workbench/schedule/valve_json.h"
 #include "workbench/schedule/valve_text.h"
@@ -194,7 +196,7 @@ TEST_F(ValveTest, ScheduleShowsNamesTablesAndTheBill)
                                                         L"Valvole: 3; mancanti: 1.\n");
     EXPECT_EQ(FormatValveBill(MakeValveBill(MakeValveSchedule({{}}))), L"");
 
-    const CString csv = FormatScheduleCsv(schedule);
+    const CString csv = FormatScheduleCsv(schedule, CsvForm::plain);
     const CString plainCsv = L";E1;" + plain.strVentilNr + L";PT-15;15;0.880;sì";
     EXPECT_NE(csv.find(plainCsv + L";E1;" + bypass.strVentilNr + L";PB-15;15;1.700;no;\r\n"),
               CString::npos);
@@ -214,7 +216,7 @@ TEST_F(ValveTest, ScheduleShowsNamesTablesAndTheBill)
     const QJsonObject jsonOfLost = MakeValvesJson(lost);
     EXPECT_EQ(jsonOfLost["supply"]["status"].toString(), "notFound");
     EXPECT_TRUE(MakeValvesJson({}).isEmpty());
-    const QJsonArray bill = MakeValveBillJson(MakeValveBill(schedule));
+    const QJsonArray bill = MakeItemsJson(MakeValveBill(schedule).items, BillColumns());
     EXPECT_EQ(bill[1]["count"].toInt(), 2);
 }
 

@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTabBar>
@@ -492,11 +493,46 @@ TEST_F(WorkbenchWindow, ADamagedBuildingAtTheStartLeavesAWindow)
     EXPECT_TRUE(Action("save").isEnabled());
 }
 
+TEST_F(WorkbenchWindow, WhatPapersSayOfTheProjectIsTypedAndUndone)
+{
+    const CProject before = m_document.Building().project;
+    const auto type = [](QWidget& dialog, const char* field, const QString& text) {
+        dialog.findChild<QLineEdit*>(field)->setText(text);
+    };
+    const auto button = [](QWidget& dialog, QDialogButtonBox::StandardButton which) {
+        return dialog.findChild<QDialogButtonBox*>()->button(which);
+    };
+    InDialog([&](QWidget& dialog) {
+        type(dialog, "client", " Famiglia Bruni ");
+        type(dialog, "designer", "");
+        type(dialog, "number", "2026/014");
+        type(dialog, "date", "31/2/2026");
+        EXPECT_FALSE(button(dialog, QDialogButtonBox::Ok)->isEnabled());
+        type(dialog, "date", "1/3/2026");
+        button(dialog, QDialogButtonBox::Ok)->click();
+    });
+    Do("project");
+    const CProject typed{L"Famiglia Bruni", L"", L"2026/014", L"2026-03-01"};
+    EXPECT_EQ(m_document.Building().project, typed);
+
+    InDialog([&](QWidget& dialog) {
+        EXPECT_EQ(dialog.findChild<QLineEdit*>("date")->text(), "01/03/2026");
+        type(dialog, "designer", "Rossi");
+        button(dialog, QDialogButtonBox::Cancel)->click();
+    });
+    Do("project");
+    EXPECT_EQ(m_document.Building().project, typed);
+    Do("undo");
+    EXPECT_EQ(m_document.Building().project, before);
+    EXPECT_TRUE(m_document.IsSaved());
+}
+
 TEST_F(WorkbenchWindow, ExportsWhatStandsInThePlan)
 {
     Do("sizeAll");
     const std::tuple<const char*, const char*, std::string> exports[] = {
-        {"exportCsv", "distinta.csv", "Piano;Locale;"},
+        {"exportCsv", "distinta.csv", "\xef\xbb\xbfPiano;Locale;"},
+        {"exportXlsx", "distinta.xlsx", "PK"},
         {"exportJson", "distinta.json", "{"},
         {"exportPdf", "progetto.pdf", "%PDF-"},
         {"exportDxf", "pianta.dxf", "0\r\nSECTION\r\n"},
@@ -516,8 +552,11 @@ TEST_F(WorkbenchWindow, ExportsWhatStandsInThePlan)
 TEST_F(WorkbenchWindow, AsksBeforeAFileWhoseSuffixWasNotTypedIsReplaced)
 {
     const std::pair<const char*, const char*> writers[] = {
-        {"exportCsv", "altra.csv"}, {"exportJson", "altra-distinta.json"},
-        {"exportPdf", "altra.pdf"}, {"exportDxf", "altra.dxf"},
+        {"exportCsv", "altra.csv"},
+        {"exportXlsx", "altra.xlsx"},
+        {"exportJson", "altra-distinta.json"},
+        {"exportPdf", "altra.pdf"},
+        {"exportDxf", "altra.dxf"},
         {"saveAs", "altra.json"},
     };
     m_answerPath = (m_path.parent_path() / "altra").wstring();
@@ -539,7 +578,7 @@ TEST_F(WorkbenchWindow, NoExportTakesThePlaceOfTheBuilding)
 {
     const std::string before = BytesOf(m_path);
     m_answerPath = m_path.wstring();
-    for (const char* action : {"exportCsv", "exportJson", "exportPdf", "exportDxf"}) {
+    for (const char* action : {"exportCsv", "exportXlsx", "exportJson", "exportPdf", "exportDxf"}) {
         m_told.clear();
         Do(action);
         EXPECT_TRUE(m_told.contains("casa.json")) << action;
