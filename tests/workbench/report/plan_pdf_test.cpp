@@ -187,7 +187,7 @@ TEST_F(PlanPdfTest, ANameIsWholeWhereThereIsRoomForIt)
         CTextNotes notes;
         QPainter painter(&notes);
         CReportSheet sheet(painter);
-        PaintRoomLabel(sheet, {{}, space}, room);
+        PaintRoomLabel(sheet, {{}, space}, room, Coverage::empty);
         painter.end();
         return notes.Texts().join(' ').toStdString();
     };
