@@ -36,7 +36,7 @@ std::vector<fs::path> HelpFolders()
     if (!chosen.empty()) {
         return {ResolvePath(chosen)};
     }
-    // Installed, the library lies one to three folders below the prefix; built, one below the build.
+    // Installed, the library lies one to three folders below the prefix; built, one below that.
     fs::path prefix = LibraryFolder().parent_path();
     std::vector<fs::path> folders = {prefix / "help"};
     for (int level = 0; level < 3; ++level) {
