@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <random>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -109,8 +110,10 @@ void FillProduct(CMemoryCatalogue& catalogue, CRandom& random)
 {
     const int rows = random.OneIn(500) ? 1990 + random.Below(30) : random.Below(40);
     for (int i = 0; i < rows; ++i) {
-        catalogue.Add(L"MmSsE\0x"[random.Below(7)], random.Grid(300, 5, 20), random.Grid(50, 25, 5),
-                      random.Grid(400, 100, 12), random.Grid(100, 212.7, 10), random.Below(5), 0.0);
+        HK_VDI3805_TYP& row = catalogue.Add(L"MmSsE\0x"[random.Below(7)], random.Grid(300, 5, 20),
+                                            random.Grid(50, 25, 5), random.Grid(400, 100, 12),
+                                            random.Grid(100, 212.7, 10), random.Below(5));
+        row.Daten.Exponent = random.Grid(1.2, 0.05, 4);
     }
 }
 
@@ -119,16 +122,18 @@ HK_DATEN_VDI3805_UEBERGABE RandomWish(const CMemoryCatalogue& catalogue, CRandom
     auto wish = catalogue.Uebergabe(random.OneIn(10) ? 0.0 : random.Grid(100, 123.5, 20));
     wish.HoeheMin = random.Grid(280, 5, 25);
     wish.HoeheMax = wish.HoeheMin + random.Grid(-5, 20, 8);
-    wish.TiefeMin = random.Grid(25, 25, 5);
-    wish.TiefeMax = random.Grid(50, 25, 7);
+    wish.TiefeMin = random.Grid(25, 5, 21);
+    wish.TiefeMax = random.Grid(50, 5, 31);
     wish.LaengeMin = random.Grid(300, 100, 10);
     wish.LaengeMax = random.Grid(400, 100, 15);
-    wish.LeistungMin = random.OneIn(2) ? -1.0 : random.Grid(0, 100, 10);
-    wish.LeistungMax = random.OneIn(2) ? -1.0 : random.Grid(500, 200, 10);
+    // Of all values below 0 only -1 asks for a derived bound.
+    wish.LeistungMin = random.OneIn(2) ? -1.0 : random.Grid(-100, 100, 11);
+    wish.LeistungMax = random.OneIn(2) ? -1.0 : random.Grid(-100, 200, 13);
     wish.Toleranz = random.Grid(0.0, 0.1, 6);
     wish.Vorlauf = random.OneIn(10) ? 0.0 : random.Grid(35, 10, 6);
-    wish.Ruecklauf = random.Grid(15, 10, 6);
+    wish.Ruecklauf = random.OneIn(10) ? -5.0 : random.Grid(15, 10, 6);
     wish.Raumtemperatur = random.Grid(15, 5, 3);
+    wish.Umrechnungsfaktor = 0.5; // of an earlier pass
     return wish;
 }
 
@@ -156,6 +161,7 @@ TEST(FilterDifferential, AgreesWithANaiveFilterOnRandomCatalogues)
         katalog.Filtern();
 
         const HK_VDI3805_TYP* row = katalog.GetErgebnis();
+        const HK_VDI3805_TYP* before = nullptr;
         for (const Found& e : expected) {
             ASSERT_NE(row, nullptr);
             ASSERT_EQ(row->Daten.Hoehe, e.row->Daten.Hoehe);
@@ -165,7 +171,9 @@ TEST(FilterDifferential, AgreesWithANaiveFilterOnRandomCatalogues)
             ASSERT_TRUE(row->Daten.Leistung == e.design ||
                         (std::isnan(row->Daten.Leistung) && std::isnan(e.design)));
             ASSERT_EQ(row->Daten.Elemente, e.sections);
-            row = row->pNext;
+            ASSERT_EQ(row->Daten.Exponent, e.row->Daten.Exponent);
+            ASSERT_EQ(row->pPrev, before);
+            before = std::exchange(row, row->pNext);
         }
         ASSERT_EQ(row, nullptr);
         taken += static_cast<long long>(expected.size());
