@@ -121,12 +121,6 @@ TEST_F(TextFile, OnlyTheLittleEndianMarkMakesAWideFile)
     }
 }
 
-TEST_F(TextFile, EightBitTextIsCodePage1252)
-{
-    EXPECT_EQ(ReadBack("\x80\x8A\x9F\xA0\xB2\xC4\xFF\x81\x8D\x8F\x90\x9D\n"),
-              Lines({L"\u20AC\u0160\u0178\u00A0\u00B2\u00C4\u00FF\x81\x8D\x8F\x90\x9D"}));
-}
-
 TEST_F(TextFile, SurrogatePairsOfAWideFileSurviveAlsoOverAChunkBorder)
 {
     EXPECT_EQ(ReadBack(kMark + Units(u"a\U0001F525b\n")), Lines({L"a\U0001F525b"}));

@@ -16,32 +16,29 @@ protected:
 
 TEST_F(Units, LengthsAreShownAndReadInTheUsersUnitWhateverTheDrawingHas)
 {
-    struct Case
+    const struct
     {
-        const wchar_t* user;
+        const wchar_t *drawing, *user;
         CString unit;
-        CString oneAndAHalf;
-        CString typed;
+        const wchar_t *oneAndAHalf, *typed;
         double meters;
+    } cases[] = {
+        {L"1000", L"1", L"m", L"1.500", L"1,25", 1.25},
+        {L"1", L"100", L"cm", L"150.00", L"150", 1.5},
+        {L"100", L"1000", L"mm", L"1500.0", L"12,5 mm", 0.0125},
+        {L"10", L"1000", L"mm", L"1500.0", L"mm", 0.0},
+        {L"", L"10", L"m", L"1.500", L"2", 2.0},
+        {L"-100", L"-1", L"m", L"1.500", L"2", 2.0},
     };
-    for (const wchar_t* drawing : {L"1", L"100", L"1000", L"10", L"", L"-100"}) {
-        for (const Case& c : {
-                 Case{L"1", L"m", L"1.500", L"1,25", 1.25},
-                 Case{L"100", L"cm", L"150.00", L"150", 1.5},
-                 Case{L"1000", L"mm", L"1500.0", L"12,5 mm", 0.0125},
-                 Case{L"10", L"m", L"1.500", L"2", 2.0},
-                 Case{L"-1", L"m", L"1.500", L"2", 2.0},
-                 Case{L"1000", L"mm", L"1500.0", L"mm", 0.0},
-             }) {
-            SCOPED_TRACE(::testing::PrintToString(CString(drawing) + L" / " + c.user));
-            const CSettingOverride drawingUnit(kSettingDrawingUnit, drawing);
-            const CSettingOverride userUnit(kSettingUserUnit, c.user);
-            ResetUnits();
-            EXPECT_EQ(GetUnitText(false), c.unit);
-            EXPECT_EQ(GetUnitText(true), L"[" + c.unit + L"]");
-            EXPECT_EQ(MeterToText(1.5), c.oneAndAHalf);
-            EXPECT_DOUBLE_EQ(TextToMeter(c.typed), c.meters);
-        }
+    for (const auto& c : cases) {
+        SCOPED_TRACE(::testing::PrintToString(CString(c.user)));
+        const CSettingOverride drawingUnit(kSettingDrawingUnit, c.drawing);
+        const CSettingOverride userUnit(kSettingUserUnit, c.user);
+        ResetUnits();
+        EXPECT_EQ(GetUnitText(false), c.unit);
+        EXPECT_EQ(GetUnitText(true), L"[" + c.unit + L"]");
+        EXPECT_EQ(MeterToText(1.5), c.oneAndAHalf);
+        EXPECT_DOUBLE_EQ(TextToMeter(c.typed), c.meters);
     }
 }
 
