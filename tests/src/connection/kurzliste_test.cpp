@@ -64,34 +64,34 @@ protected:
 
 TEST_F(KurzlisteTest, NamesAndEntriesFollowTheirLinesAlone)
 {
-    const CString punkt = kPunkt;
-    struct Case
+    // The lines with "|" between them; a V, v or R alone stands for one with a point.
+    const struct
     {
         const char* what;
-        std::vector<CString> lines, names, entries;
+        const wchar_t* lines;
+        std::vector<CString> names, entries;
+    } cases[] = {
+        {"one type", L"[Eckventil]|V|R", {L"Eckventil"}, {L"Eckventil"}},
+        {"no closing bracket", L"[abc|V|R", {L"ab"}, {L"ab"}},
+        {"a bracket alone", L"[|V|R", {L""}, {L""}},
+        {"two names in a row", L"[a]|[b]|V|R", {L"a", L"b"}, {L"b"}},
+        {"two pairs behind one name", L"[a]|V|R|V|R", {L"a"}, {L"a", L"a"}},
+        {"too few numbers", L"[a]|V|R1;2", {L"a"}, {}},
+        {"too few in the flow", L"[a]|V1;2|R", {L"a"}, {}},
+        {"three numbers are enough", L"[a]|V1;2;3|R1;2;3", {L"a"}, {L"a"}},
+        {"no flow line", L"[a]|v|R", {L"a"}, {}},
+        {"a name in the place of the return", L"[a]|V|[b]|x|y", {L"a"}, {}},
+        {"blank lines count", L"[a]||V|R|y", {L"a"}, {}},
     };
-    const Case cases[] = {
-        {"one type", {L"[Eckventil]", L"V" + punkt, L"R" + punkt}, {L"Eckventil"}, {L"Eckventil"}},
-        {"no closing bracket", {L"[abc", L"V" + punkt, L"R" + punkt}, {L"ab"}, {L"ab"}},
-        {"a bracket alone", {L"[", L"V" + punkt, L"R" + punkt}, {L""}, {L""}},
-        {"two names in a row", {L"[a]", L"[b]", L"V" + punkt, L"R" + punkt}, {L"a", L"b"}, {L"b"}},
-        {"two pairs behind one name",
-         {L"[a]", L"V" + punkt, L"R" + punkt, L"V" + punkt, L"R" + punkt},
-         {L"a"},
-         {L"a", L"a"}},
-        {"too few numbers", {L"[a]", L"V" + punkt, L"R1;2"}, {L"a"}, {}},
-        {"too few in the flow", {L"[a]", L"V1;2", L"R" + punkt}, {L"a"}, {}},
-        {"three numbers are enough", {L"[a]", L"V1;2;3", L"R1;2;3"}, {L"a"}, {L"a"}},
-        {"no flow line", {L"[a]", L"v" + punkt, L"R" + punkt}, {L"a"}, {}},
-        {"a name in the place of the return",
-         {L"[a]", L"V" + punkt, L"[b]", L"x", L"y"},
-         {L"a"},
-         {}},
-        {"blank lines count", {L"[a]", L"", L"V" + punkt, L"R" + punkt, L"y"}, {L"a"}, {}},
-    };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        Schreibe(c.lines);
+        CStringArray pieces;
+        SplitString(pieces, c.lines, L'|');
+        std::vector<CString> lines(pieces.begin(), pieces.end());
+        for (CString& line : lines) {
+            line += line == L"V" || line == L"v" || line == L"R" ? kPunkt : L"";
+        }
+        Schreibe(lines);
         m_zustand = {};
         m_ansicht = {};
         EXPECT_TRUE(LeseVentTxt(m_zustand, m_ansicht));
@@ -140,42 +140,28 @@ TEST_F(KurzlisteTest, StoringChangesTheListInMemoryAndNeverVentTxt)
     SchreibeVentTxt(m_zustand, m_ansicht);
     EXPECT_EQ(m_zustand.m_Anschlussliste[0].Name, L"a") << "nothing selected, nothing stored";
 
-    m_ansicht.typen.gewaehlt = 0;
-    m_zustand.m_TextName = L"vecchio";
-    m_ansicht.beimLesen = [this] { m_zustand.m_TextName = L"nuovo"; };
-    SchreibeVentTxt(m_zustand, m_ansicht);
-    m_ansicht.beimLesen = {};
-    EXPECT_EQ(m_ansicht.aufrufe, "Read ");
-    EXPECT_EQ(m_zustand.m_Anschlussliste[0].Name, L"nuovo");
-    EXPECT_EQ(m_ansicht.typen.texte.size(), 2U) << "overwritten, the name stays";
-
-    m_zustand.m_bNeu = true;
-    m_zustand.m_TextName = L"terzo";
-    SchreibeVentTxt(m_zustand, m_ansicht);
-    EXPECT_EQ(m_zustand.m_Anschlussliste.GetSize(), 3);
-    EXPECT_EQ(m_zustand.m_Anschlussliste[2].Name, L"terzo");
-    EXPECT_EQ(m_ansicht.typen.texte.back(), L"terzo");
-    EXPECT_EQ(m_ansicht.typen.gewaehlt, 2);
-
-    m_zustand.m_bNeu = false;
-    m_zustand.m_TextName = L"3";
-    SchreibeVentTxt(m_zustand, m_ansicht);
+    m_ansicht.typen.gewaehlt = 1;
+    for (const wchar_t* const name : {L"un nome lungo", L"3"}) {
+        m_zustand.m_TextName = name;
+        SchreibeVentTxt(m_zustand, m_ansicht);
+        EXPECT_EQ(m_zustand.m_Anschlussliste[1].Name, name);
+    }
     m_zustand.m_Aktuell.AnschlussRI = L"manca/punto";
     const CMessageLog messages;
     EXPECT_NO_THROW(SchreibeVentTxt(m_zustand, m_ansicht));
     EXPECT_TRUE(messages.Texts().empty()) << "that no file can have the name is not told";
 
-    m_ansicht.typen.gewaehlt = 3;
+    m_ansicht.typen.gewaehlt = 2;
     EXPECT_THROW(SchreibeVentTxt(m_zustand, m_ansicht), CInvalidArgException);
 
     EXPECT_EQ(m_folder.ReadBytes("HEIZUNG/Vent.txt"), before);
     CStringArray written;
     ReadTextFile(L"R" + ritorno, written, 0, -1);
-    ASSERT_EQ(written.GetSize(), 9) << "a file of the last line's name in the current folder, with "
+    ASSERT_EQ(written.GetSize(), 6) << "a file of the last line's name in the current folder, with "
                                        "nothing left of what was longer";
-    EXPECT_EQ(written[6], L"[3]");
-    EXPECT_EQ(written[7], L"V" + punkt);
-    EXPECT_EQ(written[8], L"R" + ritorno);
+    EXPECT_EQ(written[3], L"[3]");
+    EXPECT_EQ(written[4], L"V" + punkt);
+    EXPECT_EQ(written[5], L"R" + ritorno);
 }
 
 TEST_F(KurzlisteTest, TheDataRootIsLookedForInOrderAndMissedOnce)

@@ -132,31 +132,6 @@ TEST_F(CMassTest, TheListsShowTheLimitsOrTheWholeRange)
     }
 }
 
-TEST_F(CMassTest, EachListLimitsTheRows)
-{
-    const struct
-    {
-        int liste;
-        CString text;
-        double HK_DATEN_VDI3805_UEBERGABE::*grenze;
-        std::size_t zeilen;
-    } cases[] = {
-        {18004, L"600", &HK_DATEN_VDI3805_UEBERGABE::HoeheMin, 3},
-        {18008, L"300", &HK_DATEN_VDI3805_UEBERGABE::HoeheMax, 3},
-        {18009, L"100", &HK_DATEN_VDI3805_UEBERGABE::TiefeMin, 4},
-        {18010, L"60", &HK_DATEN_VDI3805_UEBERGABE::TiefeMax, 2},
-    };
-    for (const auto& c : cases) {
-        m_uebergabe = m_katalog.Uebergabe(1000.0);
-        Zeige([&](CDialogUser& user) {
-            EXPECT_EQ(GitterZeilen(user).size(), 6U);
-            user.Choose(c.liste, c.text);
-            EXPECT_EQ(GitterZeilen(user).size(), c.zeilen) << c.liste;
-        });
-        EXPECT_EQ(m_uebergabe.*c.grenze, std::stod(c.text)) << "Cancel takes nothing back";
-    }
-}
-
 TEST_F(CAuswahlDialogTest, NumbersShowPlainAndKeepWhatTheirTextCannotHold)
 {
     Raum(100000.0, 0.0);

@@ -370,6 +370,11 @@ public:
                   row < 0 ? CString() : expected.at(static_cast<std::size_t>(row))[5]);
         ASSERT_EQ(_wtof(m_user.Text(18005)), m_uebergabe.Leistung);
         ASSERT_EQ(_wtof(m_user.Text(18002)), m_uebergabe.LaengeMin);
+        ASSERT_EQ(_wtof(m_user.Text(18003)), m_uebergabe.LaengeMax);
+        ASSERT_EQ(_wtof(m_user.Text(18004)), m_uebergabe.HoeheMin);
+        ASSERT_EQ(_wtof(m_user.Text(18008)), m_uebergabe.HoeheMax);
+        ASSERT_EQ(_wtof(m_user.Text(18009)), m_uebergabe.TiefeMin);
+        ASSERT_EQ(_wtof(m_user.Text(18010)), m_uebergabe.TiefeMax);
         ASSERT_EQ(_wtof(m_user.Text(18107)), std::floor(m_uebergabe.Raumtemperatur));
         ASSERT_FALSE(m_user.IsChecked(18047) && m_user.IsChecked(18049));
         ASSERT_NE(m_user.IsEnabled(18004), m_user.IsChecked(18019));
