@@ -1,6 +1,7 @@
 #include "frame/hkauswahl_uebergabe.h"
 #include "host/host_base.h"
 #include "host/host_prefs.h"
+#include "platform/format.h"
 #include "tests/support/environment_variable.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -132,45 +134,51 @@ TEST_F(HostSettings, TheCatalogueFolderComesFromTheSettingThenTheEnvironment)
     EXPECT_EQ(GetHKDir(false), L"override");
 }
 
-TEST_F(HostSettings, UnitsAreMetresUntilChosen)
+TEST_F(HostSettings, EachPreferenceHasADefaultAndAKeyOfItsOwn)
 {
-    int drawing = -77;
-    lmGetDimension2(drawing);
-    EXPECT_EQ(drawing, 1);
-    EXPECT_EQ(lmGetDimensionUsr(), 1);
-
-    ASSERT_TRUE(StoreHostSetting(kSettingDrawingUnit, L"1000"));
-    ASSERT_TRUE(StoreHostSetting(kSettingUserUnit, L"100"));
-    lmGetDimension2(drawing);
-    EXPECT_EQ(drawing, 1000);
-    EXPECT_EQ(lmGetDimensionUsr(), 100);
-}
-
-TEST_F(HostSettings, DialogPreferencesHaveDefaultsUntilChosen)
-{
-    using Switch = bool (*)(bool&);
-    const std::pair<Switch, const wchar_t*> switches[] = {
-        {lmGetAllowLumoSkin, kSettingAllowSkin},
-        {lmGetAllowEnterAsTab, kSettingEnterAsTab},
-        {lmGetUseVistaBanner, kSettingVistaBanner}};
-    for (const auto& [get, key] : switches) {
+    const auto number = [](void (*get)(int&)) {
+        int value = -77;
+        get(value);
+        return FormatInt(value);
+    };
+    const auto flag = [](bool (*get)(bool&)) {
         bool on = true;
         EXPECT_TRUE(get(on));
-        EXPECT_FALSE(on);
-        ASSERT_TRUE(StoreHostSetting(key, L"1"));
-        EXPECT_TRUE(get(on));
-        EXPECT_TRUE(on) << "each under a key of its own";
-        ASSERT_TRUE(StoreHostSetting(key, L"0"));
+        return FormatInt(on ? 1 : 0);
+    };
+    const struct
+    {
+        const wchar_t *key, *before, *stored;
+        std::function<CString()> get;
+    } preferences[] = {
+        {kSettingDrawingUnit, L"1", L"1000", [&] { return number(lmGetDimension2); }},
+        {kSettingUserUnit, L"1", L"100", [] { return FormatInt(lmGetDimensionUsr()); }},
+        {kSettingAllowSkin, L"0", L"1", [&] { return flag(lmGetAllowLumoSkin); }},
+        {kSettingEnterAsTab, L"0", L"1", [&] { return flag(lmGetAllowEnterAsTab); }},
+        {kSettingVistaBanner, L"0", L"1", [&] { return flag(lmGetUseVistaBanner); }},
+        {kSettingSuperUser, L"0", L"1", [&] { return flag(lmGetGlobalSuperUser); }},
+        {kSettingHKLayerColor, L"1", L"5", [&] { return number(lmGetHKLayerColor); }},
+    };
+    for (const auto& preference : preferences) {
+        EXPECT_EQ(preference.get(), preference.before) << preference.key;
+        ASSERT_TRUE(StoreHostSetting(preference.key, preference.stored));
+        EXPECT_EQ(preference.get(), preference.stored) << preference.key;
     }
 
-    CString text;
-    EXPECT_TRUE(lmGetCurrentWinposFile(text));
-    EXPECT_EQ(text, L"winpos.txt");
-    EXPECT_TRUE(lmGetProductLongName(text));
-    EXPECT_EQ(text, L"Workbench Termotecnica");
-    ASSERT_TRUE(StoreHostSetting(kSettingWinposFile, L"finestre.txt"));
-    EXPECT_TRUE(lmGetCurrentWinposFile(text));
-    EXPECT_EQ(text, L"finestre.txt");
+    for (const bool stored : {false, true}) {
+        CString file;
+        CString layer;
+        bool automatisch = !stored;
+        EXPECT_TRUE(lmGetCurrentWinposFile(file));
+        lmGetHKLayer(layer);
+        lmGetAutoLayerManagement(automatisch, !stored);
+        EXPECT_EQ(file, stored ? L"finestre.txt" : L"winpos.txt");
+        EXPECT_EQ(layer, stored ? L"Radiatori" : L"HEIZ_HK_$d");
+        EXPECT_TRUE(automatisch) << "as the caller proposes, until it is stored";
+        ASSERT_TRUE(StoreHostSetting(kSettingWinposFile, L"finestre.txt"));
+        ASSERT_TRUE(StoreHostSetting(kSettingHKLayer, L"Radiatori"));
+        ASSERT_TRUE(StoreHostSetting(kSettingAutoLayer, L"1"));
+    }
 }
 
 TEST_F(HostSettings, ASkinColorIsDeliveredOnlyWhereOneIsSet)
@@ -211,32 +219,7 @@ TEST_F(HostSettings, AWorkPathLeavesTheTargetAloneUntilItIsSet)
     }
 }
 
-TEST_F(HostSettings, TheLayerOfRadiatorsHasADefaultAndCanBeChosen)
-{
-    CString layer;
-    int farbe = -1;
-    bool automatisch = false;
-    lmGetHKLayer(layer);
-    lmGetHKLayerColor(farbe);
-    lmGetAutoLayerManagement(automatisch, true);
-    EXPECT_EQ(layer, L"HEIZ_HK_$d");
-    EXPECT_EQ(farbe, 1);
-    EXPECT_TRUE(automatisch);
-    lmGetAutoLayerManagement(automatisch, false);
-    EXPECT_FALSE(automatisch);
-
-    ASSERT_TRUE(StoreHostSetting(kSettingHKLayer, L"Radiatori"));
-    ASSERT_TRUE(StoreHostSetting(kSettingHKLayerColor, L"5"));
-    ASSERT_TRUE(StoreHostSetting(kSettingAutoLayer, L"1"));
-    lmGetHKLayer(layer);
-    lmGetHKLayerColor(farbe);
-    lmGetAutoLayerManagement(automatisch, false);
-    EXPECT_EQ(layer, L"Radiatori");
-    EXPECT_EQ(farbe, 5);
-    EXPECT_TRUE(automatisch);
-}
-
-TEST_F(HostSettings, BlocksAndRightsThatNobodySetLeaveTheTargetsAlone)
+TEST_F(HostSettings, BlocksThatNobodySetLeaveTheTargetsAlone)
 {
     const CEnvironmentVariable folder("RADSEL_HKBLOCKDIR", nullptr);
     const CEnvironmentVariable valves("RADSEL_VEBLOCKDIR", "/valves");
@@ -254,13 +237,6 @@ TEST_F(HostSettings, BlocksAndRightsThatNobodySetLeaveTheTargetsAlone)
     ASSERT_TRUE(StoreHostSetting(kSettingHKBlockFolder, L"D:\\blocchi"));
     EXPECT_TRUE(lmGetDWGDefPath(static_cast<LumoDWGDefsNames>(2), text));
     EXPECT_EQ(text, L"D:\\blocchi");
-
-    bool superUser = true;
-    EXPECT_TRUE(lmGetGlobalSuperUser(superUser));
-    EXPECT_FALSE(superUser);
-    ASSERT_TRUE(StoreHostSetting(kSettingSuperUser, L"1"));
-    EXPECT_TRUE(lmGetGlobalSuperUser(superUser));
-    EXPECT_TRUE(superUser);
 }
 
 TEST_F(HostSettings, RecordsLieBesideTheSettings)
