@@ -66,19 +66,6 @@ TEST_F(CHostCatalogTest, NamesAreLookedUpExactlyAndNullHasNothingBelow)
     EXPECT_EQ(FindProdukt(nullptr, L"P"), nullptr);
 }
 
-TEST_F(CHostCatalogTest, ListingAgainKeepsWhatWasRead)
-{
-    WriteCatalogue("Alfa", Products({"P"}));
-    ASSERT_EQ(Read(L"Alfa"), 1);
-    HK_VDI3805_HERSTELLER* const alfa = FindHersteller(L"Alfa");
-    const HK_VDI3805_TYP* const row = Produkt(L"Alfa")->pTyp;
-
-    WriteCatalogue("Aaa", Products({"P"}));
-    EXPECT_EQ(Makers(), (std::vector<CString>{L"Aaa", L"Alfa"}));
-    EXPECT_EQ(FindHersteller(L"Alfa"), alfa);
-    EXPECT_EQ(Produkt(L"Alfa")->pTyp, row);
-}
-
 TEST_F(CHostCatalogTest, AMakerThatVanishesIsUnlistedButStaysAllocated)
 {
     WriteCatalogue("Alfa", Products({"P"}));

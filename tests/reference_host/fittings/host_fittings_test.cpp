@@ -172,40 +172,26 @@ void ExpectPoint(const LM_APUNKT& point, TgaGewerk gewerk, const std::array<doub
     }
 }
 
-TEST_F(AnschlussPunkte, AreTheConnectionsAndBehindThemTheirPipeEnds)
-{
-    // The return stands first in the list and comes last all the same.
-    Add(L"H_RL_PUNKT", L"0.5;-0.03;0;0;-0.5;0;0;270");
-    AddSize();
-    Add(L"H_VL_PUNKT", L"-0.5;0;0;0;0.5;-0.03;180;0;0.1");
-    const std::vector<LM_APUNKT> points = Points();
-    ASSERT_EQ(points.size(), 4U);
-    // Flow: x = -0.5 * 1.2, z = 0.5 * 0.6 - 0.03; its pipe end 0.1 further along -x.
-    ExpectPoint(points[0], kGewerkVorlauf, {-0.6, 0, 0.27}, {-1, 0, 0});
-    ExpectPoint(points[2], kGewerkVorlauf, {-0.7, 0, 0.27}, {-1, 0, 0});
-    EXPECT_EQ(points[0].Wert, 0.1);
-    // Return: x = 0.5 * 1.2 - 0.03, z = -0.5 * 0.6; without a side distance the pipe ends there.
-    ExpectPoint(points[1], kGewerkRuecklauf, {0.57, 0, -0.3}, {0, 0, -1});
-    ExpectPoint(points[3], kGewerkRuecklauf, {0.57, 0, -0.3}, {0, 0, -1});
-}
-
-TEST_F(AnschlussPunkte, FollowATurnedMovedAndScaledRadiator)
+TEST_F(AnschlussPunkte, AndTheirPipeEndsFollowATurnedMovedAndScaledRadiator)
 {
     // A drawing in millimetres; the radiator turned by 90 degrees about z, so that its x is the
     // drawing's y and its y the drawing's -x.
     m_trafo.Achsen = {{{0, 1000, 0}, {-1000, 0, 0}, {0, 0, 1000}}};
     m_trafo.Ursprung = {5000, 7000, 300};
     AddSize();
+    // Local (0, 0, -0.3 - 0.05), along y: to the drawing's -x. The return stands first in the list
+    // and comes last all the same; without a side distance its pipe ends there.
+    Add(L"H_RL_PUNKT", L"0;0;0;0;-0.5;-0.05;90;0");
     // Local (0.5 * 1.2, 0.5 * 0.1 + 0.02, 0.5 * 0.6 - 0.03) = (0.6, 0.07, 0.27), the pipe end 0.05
     // further along x at (0.65, 0.07, 0.27).
     Add(L"H_VL_PUNKT", L"0.5;0;0.5;0.02;0.5;-0.03;0;0;0.05");
-    // Local (0, 0, -0.3 - 0.05), along y: to the drawing's -x.
-    Add(L"H_RL_PUNKT", L"0;0;0;0;-0.5;-0.05;90;0");
     const std::vector<LM_APUNKT> points = Points();
     ASSERT_EQ(points.size(), 4U);
     ExpectPoint(points[0], kGewerkVorlauf, {4930, 7600, 570}, {0, 1, 0});
     ExpectPoint(points[2], kGewerkVorlauf, {4930, 7650, 570}, {0, 1, 0});
+    EXPECT_EQ(points[0].Wert, 0.05);
     ExpectPoint(points[1], kGewerkRuecklauf, {5000, 7000, -50}, {-1, 0, 0});
+    ExpectPoint(points[3], kGewerkRuecklauf, {5000, 7000, -50}, {-1, 0, 0});
 }
 
 TEST_F(AnschlussPunkte, LeaveInTheDirectionOfTheirAngles)
