@@ -4,12 +4,9 @@
 #include "platform/encoding.h"
 #include "tests/src/connection/test_ansicht.h"
 #include "tests/support/setting_override.h"
-#include "tools/make_connections_samples.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <tuple>
 
@@ -17,18 +14,9 @@ using namespace reference_host;
 
 namespace {
 
-const std::string kRoot = RADSEL_DATA_DIR "/root";
-
-TEST(ConnectionSamples, TheFileIsWhatTheGeneratorMakes)
-{
-    std::ifstream file(kRoot + "/HEIZUNG/Vent.txt", std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    EXPECT_TRUE(bytes == MakeSampleConnections());
-}
-
 TEST(ConnectionSamples, EveryTypeIsReadUnderItsNameAndDiffersFromAllOthers)
 {
-    const CSettingOverride setting{kSettingServerPath, WideFromUtf8(kRoot)};
+    const CSettingOverride setting{kSettingServerPath, WideFromUtf8(RADSEL_DATA_DIR "/root")};
     CAnschlussZustand zustand;
     CTestAnsicht ansicht;
     ASSERT_TRUE(LeseVentTxt(zustand, ansicht));

@@ -1,22 +1,16 @@
 #include "tests/src/valve/ventil_fixture.h"
 #include "tests/support/message_log.h"
-#include "tools/make_valves_samples.h"
 #include "valve/ventil_abruf.h"
 #include "valve/ventil_bewertung.h"
 #include "valve/ventil_texte.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <set>
 
 using namespace reference_host;
 
 namespace {
-
-const std::string kFolder = RADSEL_DATA_DIR "/valves";
 
 /// The valve files of the repository.
 class CVentilSamplesTest : public testing::Test
@@ -25,19 +19,19 @@ protected:
     template <class Take>
     void ForEachArticle(Take take)
     {
-        for (const CSampleValves& sample : MakeSampleValves()) {
-            SCOPED_TRACE(Utf8FromWide(sample.strHersteller));
+        for (const wchar_t* const maker : {L"Fontespada", L"Möhrental", L"Ostervliet"}) {
+            SCOPED_TRACE(maker);
             CVentVdiKatalog katalog;
-            ASSERT_TRUE(katalog.LadeHersteller(sample.strHersteller));
+            ASSERT_TRUE(katalog.LadeHersteller(maker));
             ForEachArtikel(katalog, [&](const auto& gruppe, const auto& artikel) {
                 SCOPED_TRACE(Utf8FromWide(artikel.BestellNr));
-                take(sample.strHersteller, gruppe, artikel);
+                take(maker, gruppe, artikel);
             });
         }
     }
 
 private:
-    CSettingOverride m_setting{kSettingVEDir, WideFromUtf8(kFolder)};
+    CSettingOverride m_setting{kSettingVEDir, WideFromUtf8(RADSEL_DATA_DIR "/valves")};
 };
 
 bool Between(double value, double low, double high)
@@ -72,23 +66,6 @@ void ExpectBelievable(const VDI3805_VENTIL_KV& ventil)
 }
 
 } // namespace
-
-TEST_F(CVentilSamplesTest, TheFilesAreWhatTheGeneratorMakes)
-{
-    std::set<std::string> makers;
-    for (const CSampleValves& sample : MakeSampleValves()) {
-        const std::string name = Utf8FromWide(sample.strHersteller);
-        makers.insert(name);
-        std::ifstream file(kFolder + "/" + name + "/ha.tga", std::ios::binary);
-        const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-        EXPECT_TRUE(bytes == sample.strBytes) << name;
-    }
-    for (const auto& entry : std::filesystem::directory_iterator(kFolder)) {
-        if (entry.is_directory()) {
-            EXPECT_TRUE(makers.contains(entry.path().filename().string())) << entry.path();
-        }
-    }
-}
 
 TEST_F(CVentilSamplesTest, EveryArticleIsFoundByItsKeyAndHasABelievableTable)
 {
