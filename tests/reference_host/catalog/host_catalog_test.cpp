@@ -25,6 +25,13 @@ protected:
         return bytes;
     }
 
+    /// Gives the maker "Alfa" a file with these products and reads it.
+    void ReadAlfa(const std::vector<std::string>& names, double length = 500) const
+    {
+        WriteCatalogue("Alfa", Products(names, length));
+        ASSERT_EQ(Read(L"Alfa"), static_cast<int>(names.size()));
+    }
+
     static std::vector<CString> Makers()
     {
         std::vector<CString> names;
@@ -55,8 +62,7 @@ TEST_F(CHostCatalogTest, MakersAreTheSubFoldersWithACatalogue)
 
 TEST_F(CHostCatalogTest, NamesAreLookedUpExactlyAndNullHasNothingBelow)
 {
-    WriteCatalogue("Alfa", Products({"P", "Q"}));
-    ASSERT_EQ(Read(L"Alfa"), 2);
+    ReadAlfa({"P", "Q"});
     HK_VDI3805_ART* const art = FindArt(FindHersteller(L"Alfa"), L"K");
     ASSERT_NE(art, nullptr);
     EXPECT_EQ(FindProdukt(art, L"Q")->Name, L"Q");
@@ -68,12 +74,15 @@ TEST_F(CHostCatalogTest, NamesAreLookedUpExactlyAndNullHasNothingBelow)
 
 TEST_F(CHostCatalogTest, AMakerThatVanishesIsUnlistedButStaysAllocated)
 {
-    WriteCatalogue("Alfa", Products({"P"}));
     WriteCatalogue("Beta", Products({"P"}));
-    ASSERT_EQ(Read(L"Alfa"), 1);
+    ReadAlfa({"P"});
+    ASSERT_EQ(Read(L"Beta"), 1);
     HK_VDI3805_HERSTELLER* const alfa = FindHersteller(L"Alfa");
+    const HK_VDI3805_TYP* const row = Produkt(L"Beta")->pTyp;
     std::filesystem::remove_all(m_folder.Root() / "Alfa");
     EXPECT_EQ(Makers(), (std::vector<CString>{L"Beta"}));
+    ASSERT_NE(Produkt(L"Beta"), nullptr);
+    EXPECT_EQ(Produkt(L"Beta")->pTyp, row) << "listing again keeps what was read";
     EXPECT_EQ(alfa->Name, L"Alfa");
     EXPECT_EQ(alfa->pNext, nullptr);
     EXPECT_EQ(FindProdukt(FindArt(alfa, L"K"), L"P")->pTyp->Daten.Laenge, 500);
@@ -112,8 +121,7 @@ TEST_F(CHostCatalogTest, WhatCannotBeReadIsToldWithTheSystemsReason)
 
 TEST_F(CHostCatalogTest, AnotherFolderHasMakersOfItsOwn)
 {
-    WriteCatalogue("Alfa", Products({"P"}));
-    ASSERT_EQ(Read(L"Alfa"), 1);
+    ReadAlfa({"P"});
     HK_VDI3805_HERSTELLER* const before = FindHersteller(L"Alfa");
 
     const CTempFolder other;
@@ -144,13 +152,11 @@ TEST_F(CHostCatalogTest, AChangedRequirementGivesOtherRowsBelowTheSameNodes)
 
 TEST_F(CHostCatalogTest, AFileThatShrinksKeepsItsNodesAndRetiresTheRest)
 {
-    WriteCatalogue("Alfa", Products({"P", "Q", "R"}));
-    ASSERT_EQ(Read(L"Alfa"), 3);
+    ReadAlfa({"P", "Q", "R"});
     HK_VDI3805_PRODUKT* const p = Produkt(L"Alfa");
     HK_VDI3805_PRODUKT* const q = Produkt(L"Alfa", L"K", L"Q");
 
-    WriteCatalogue("Alfa", Products({"R", "P"}));
-    ASSERT_EQ(Read(L"Alfa"), 2);
+    ReadAlfa({"R", "P"});
     EXPECT_EQ(Produkt(L"Alfa"), p);
     EXPECT_EQ(p->pNext, nullptr);
     EXPECT_EQ(Produkt(L"Alfa", L"K", L"Q"), nullptr);
@@ -158,16 +164,14 @@ TEST_F(CHostCatalogTest, AFileThatShrinksKeepsItsNodesAndRetiresTheRest)
     EXPECT_EQ(q->pTyp, nullptr);
     EXPECT_EQ(q->pNext, nullptr);
 
-    WriteCatalogue("Alfa", Products({"Q"}, 1234));
-    ASSERT_EQ(Read(L"Alfa"), 1);
+    ReadAlfa({"Q"}, 1234);
     EXPECT_EQ(Produkt(L"Alfa", L"K", L"Q"), q);
     EXPECT_EQ(q->pTyp->Daten.Laenge, 1234);
 }
 
 TEST_F(CHostCatalogTest, AFileThatVanishesOrBreaksLeavesTheMakerUnread)
 {
-    WriteCatalogue("Alfa", Products({"P"}));
-    ASSERT_EQ(Read(L"Alfa"), 1);
+    ReadAlfa({"P"});
     HK_VDI3805_HERSTELLER* const alfa = FindHersteller(L"Alfa");
     HK_VDI3805_PRODUKT* const produkt = Produkt(L"Alfa");
 

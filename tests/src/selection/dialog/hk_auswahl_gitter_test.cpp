@@ -220,13 +220,24 @@ TEST_F(CAuswahlDialogTest, TheGridHasALookOfItsOwn)
     });
 }
 
-TEST_F(CAuswahlDialogTest, EveryCellOfAColumnExplainsIt)
+TEST_F(CAuswahlDialogTest, EveryColumnHasItsHeadingAndEveryCellOfItExplainsIt)
 {
-    Zeige([](CDialogUser& user) {
+    const std::pair<const wchar_t*, const wchar_t*> spalten[] = {
+        {L"Type", L"Descrizione tipo del corpo scaldante"},
+        {L"Alt.\n[mm]", L"Altezza del corpo scaldante"},
+        {L"Prof.\n[mm]", L"Profondità del corpo scaldante"},
+        {L"Lung.\n[mm]", L"Lunghezza del corpo scaldante"},
+        {L"EN442\n[Watt]", L"Resa corpo scaldante secondo EN442"},
+        {L"Resa\nC.S", L"Resa a norma del corpo scaldante"},
+        {L"Nr.\nElem", L"Numero elementi del corpo scaldante (a piastra == 1)"},
+        {L"Litri", L"Contenuto acqua corpi scaldanti"}};
+    Zeige([&](CDialogUser& user) {
         QHeaderView& kopf = *Gitter(user).horizontalHeader();
-        for (const auto& [spalte, text] : {std::pair(0, L"Descrizione tipo del corpo scaldante"),
-                                           {2, L"Profondità del corpo scaldante"},
-                                           {7, L"Contenuto acqua corpi scaldanti"}}) {
+        ASSERT_EQ(kopf.count(), 8);
+        for (int spalte = 0; spalte < 8; ++spalte) {
+            const auto& [titel, text] = spalten[spalte];
+            EXPECT_EQ(kopf.model()->headerData(spalte, Qt::Horizontal).toString().toStdWString(),
+                      titel);
             const int x = kopf.sectionViewportPosition(spalte) + 9;
             EXPECT_EQ(TipAt(*kopf.viewport(), {x, 9}).toStdWString(), text);
             const QPoint place(x, MitteDerZeile(user, 1).y());
