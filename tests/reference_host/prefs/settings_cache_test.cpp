@@ -9,7 +9,7 @@ TEST(SettingsCache, LinesComeBackAsTheyWereWhateverTheirCharacters)
 {
     CSettingsCache& cache = *lmGetCacheObject();
     const CString separateSurrogates = {wchar_t{0xD83D}, wchar_t{0xDE00}};
-    const std::initializer_list<CString> cases[] = {
+    const std::vector<CString> cases[] = {
         {},
         {L""},
         {L"plain", L"", L"\u00FF last of the narrowest", L""},

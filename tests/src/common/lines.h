@@ -2,9 +2,9 @@
 
 #include "platform/array.h"
 
-#include <initializer_list>
+#include <vector>
 
-inline CStringArray Lines(std::initializer_list<CString> lines)
+inline CStringArray Lines(const std::vector<CString>& lines)
 {
     CStringArray array;
     for (const CString& line : lines) {

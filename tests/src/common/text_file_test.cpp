@@ -137,24 +137,12 @@ TEST_F(TextFile, SurrogatePairsOfAWideFileSurviveAlsoOverAChunkBorder)
 
 TEST_F(TextFile, TheLimitStopsAWideFileOnlyAndOnlyWhenHitExactly)
 {
-    struct Case
+    const struct
     {
-        int held;
-        int limit;
-        int wide;
-        int narrow;
-    };
-    for (const Case& c : {
-             Case{0, -1, 3, 3},
-             Case{0, 1, 1, 3},
-             Case{0, 2, 2, 3},
-             Case{0, 3, 3, 3},
-             Case{0, 4, 3, 3},
-             Case{0, 0, 3, 3},
-             Case{0, -2, 3, 3},
-             Case{1, 2, 2, 4},
-             Case{1, 1, 4, 4},
-         }) {
+        int held, limit, wide, narrow;
+    } cases[] = {{0, -1, 3, 3}, {0, 1, 1, 3},  {0, 2, 2, 3}, {0, 3, 3, 3}, {0, 4, 3, 3},
+                 {0, 0, 3, 3},  {0, -2, 3, 3}, {1, 2, 2, 4}, {1, 1, 4, 4}};
+    for (const auto& c : cases) {
         CStringArray held;
         held.SetSize(c.held);
         const std::string text = "a\r\nb\r\nc\r\n";
@@ -183,27 +171,24 @@ TEST_F(TextFile, WritingStartsWithTheMarkOnlyAtTheStartOfTheFile)
 {
     const CStringArray lines = Lines({L"\u00E4", L"", L"\U0001F525"});
     const std::string written = Units(u"\u00E4\r\n\r\n\U0001F525\r\n");
-    struct Case
+    constexpr unsigned kKeep = kCreateAndWrite | CFile::modeNoTruncate;
+    const struct
     {
-        const char* name;
-        const char* before;
-        bool cut;
-        bool append;
+        const char *name, *before;
+        bool cut, append;
         unsigned flags;
         std::string after;
+    } cases[] = {
+        {"new", nullptr, false, false, kCreateAndWrite, kMark + written},
+        {"replaced", "a longer text than the new one", false, false, kCreateAndWrite,
+         kMark + written},
+        {"cut", "a longer text than the new one", true, false, CFile::modeWrite, kMark + written},
+        {"cut and append", "old", true, true, CFile::modeWrite, kMark + written},
+        {"append", "old", false, true, CFile::modeWrite, "old" + written},
+        {"append to nothing", "", false, true, CFile::modeWrite, kMark + written},
+        {"append kept", "old", false, true, kKeep, "old" + written},
     };
-    for (const Case& c : {
-             Case{"new", nullptr, false, false, kCreateAndWrite, kMark + written},
-             Case{"replaced", "a much longer text than the new one", false, false, kCreateAndWrite,
-                  kMark + written},
-             Case{"cut", "a much longer text than the new one", true, false, CFile::modeWrite,
-                  kMark + written},
-             Case{"cut and append", "old", true, true, CFile::modeWrite, kMark + written},
-             Case{"append", "old", false, true, CFile::modeWrite, "old" + written},
-             Case{"append to nothing", "", false, true, CFile::modeWrite, kMark + written},
-             Case{"append kept", "old", false, true, kCreateAndWrite | CFile::modeNoTruncate,
-                  "old" + written},
-         }) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         if (c.before != nullptr) {
             m_folder.WriteBytes(c.name, c.before);

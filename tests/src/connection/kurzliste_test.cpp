@@ -5,6 +5,7 @@
 #include "platform/environment.h"
 #include "platform/exception.h"
 #include "platform/message.h"
+#include "tests/src/common/lines.h"
 #include "tests/src/connection/test_ansicht.h"
 #include "tests/support/message_log.h"
 #include "tests/support/setting_override.h"
@@ -45,12 +46,8 @@ protected:
 
     void Schreibe(const std::vector<CString>& lines)
     {
-        CStringArray array;
-        for (const CString& line : lines) {
-            array.Add(line);
-        }
         std::filesystem::create_directories(m_folder.Root() / "HEIZUNG");
-        ASSERT_TRUE(WriteTextFile(HeizungPfad(L"Vent.txt"), array, false, false, 0x1001));
+        ASSERT_TRUE(WriteTextFile(HeizungPfad(L"Vent.txt"), Lines(lines), false, false, 0x1001));
     }
 
     CTempFolder m_folder;

@@ -3,6 +3,7 @@
 #include "common/heizung_ordner.h"
 #include "common/text_file.h"
 #include "reference_host/prefs/host_settings.h"
+#include "tests/src/common/lines.h"
 #include "tests/support/file_size_limit.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
@@ -31,11 +32,7 @@ protected:
     /// `ended`: the last line has a line end, as every other.
     void Schreibe(const Texts& lines, bool ended = true) const
     {
-        CStringArray array;
-        for (const CString& line : lines) {
-            array.Add(line);
-        }
-        ASSERT_TRUE(WriteTextFile(HeizungPfad(L"CmbData.txt"), array, false, false, 0x1001));
+        ASSERT_TRUE(WriteTextFile(HeizungPfad(L"CmbData.txt"), Lines(lines), false, false, 0x1001));
         if (!ended) {
             constexpr std::uintmax_t kLineEnd = 4;
             const auto file = m_folder.Root() / "HEIZUNG/CmbData.txt";
