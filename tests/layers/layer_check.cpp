@@ -18,9 +18,7 @@ struct CRoom
     std::set<std::string> reach;
 };
 
-/// An include of a file of the project or of a header of the toolkit.
 const std::regex kOwnInclude("\\s*#\\s*include\\s*\"([^\"]+)\".*");
-const std::regex kToolkitInclude("\\s*#\\s*include\\s*[<\"]Q[A-Za-z].*");
 /// A name of the toolkit ahead of any comment or text: "Q", a capital, a small letter.
 const std::regex kToolkitName("([^/\"]*[^/\"A-Za-z0-9_])?Q[A-Z][a-z].*");
 
@@ -104,9 +102,9 @@ private:
             return;
         }
         const CRoom& room = m_rooms.at(folder);
-        const bool inside = room.strToolkit == "toolkit=inside";
-        const bool open = room.strToolkit == "toolkit=open" ||
-                          (inside && (file.extension() == ".cpp" || file.parent_path() != folder));
+        // A room that is free of the toolkit has none of its headers to include.
+        const bool hidesToolkit = room.strToolkit == "toolkit=inside" && file.extension() == ".h" &&
+                                  file.parent_path() == folder;
         std::ifstream stream(m_root / file);
         int number = 0;
         for (std::string line; std::getline(stream, line);) {
@@ -119,9 +117,7 @@ private:
                     m_faults.push_back(place + folder + " may not include " + target);
                 }
             }
-            if (!open && std::regex_match(line, kToolkitInclude)) {
-                m_faults.push_back(place + folder + " is free of the toolkit");
-            } else if (!open && inside && std::regex_match(line, kToolkitName)) {
+            if (hidesToolkit && std::regex_match(line, kToolkitName)) {
                 m_faults.push_back(place + "a header of " + folder + " shows the toolkit");
             }
         }
