@@ -4,8 +4,6 @@
 #include "tests/src/selection/dialog/auswahl_fixture.h"
 #include "tests/support/memory_catalogue.h"
 
-#include <QAbstractButton>
-
 using namespace reference_host;
 
 namespace {
@@ -43,17 +41,6 @@ TEST_F(CAuswahlDialogTest, OpensOnTheHandOver)
               }),
               0);
     EXPECT_EQ(m_uebergabe.Leistung, m_uebergabe.Daten.Leistung) << "the chosen radiator's";
-}
-
-TEST_F(CAuswahlDialogTest, StoringAndDeletingHaveTheirOwnIcons)
-{
-    Zeige([](CDialogUser& user) {
-        for (const auto& [id, nummer] : {std::pair(268, 35), {269, 36}}) {
-            const auto& knopf = dynamic_cast<QAbstractButton&>(user.Widget(id));
-            const QImage icon = ToNative(CImageLoader().LoadLumoIcon(nummer, 16, 16));
-            EXPECT_EQ(knopf.icon().pixmap(16).toImage(), QPixmap::fromImage(icon).toImage()) << id;
-        }
-    });
 }
 
 TEST_F(CAuswahlDialogTest, WithoutDrawingOrProductTheDialogStillWorks)

@@ -199,15 +199,11 @@ TEST_F(CAuswahlDialogTest, HeadingsShowTheDirectionOfTheirSortUntilTheNextOne)
     });
 }
 
-TEST_F(CAuswahlDialogTest, TheGridHasALookOfItsOwn)
+TEST_F(CAuswahlDialogTest, TheGridMarksWholeCellsAndKeepsColumnsWideEnough)
 {
     Zeige([](CDialogUser& user) {
         QTableView& view = Gitter(user);
-        QHeaderView& kopf = *view.horizontalHeader();
-        EXPECT_EQ(view.font(), ToNative(CFont{L"Segoe UI", 15, 100}));
-        EXPECT_EQ(kopf.height(), qRound(32 * GetDialogScale()));
-        EXPECT_EQ(kopf.viewport()->grab().toImage().pixelColor(1, 1), QColor(Qt::white));
-        EXPECT_EQ(kopf.minimumSectionSize(), 60) << "for the user's dragging too";
+        EXPECT_EQ(view.horizontalHeader()->minimumSectionSize(), 60) << "for the user's dragging";
 
         KlickeZeile(user, 1);
         view.setFocus();

@@ -5,13 +5,10 @@
 #include "frame/handover.h"
 #include "host/host_catalog.h"
 #include "platform/encoding.h"
-#include "uikit/native/access.h"
 
 #include "tests/dialog_support/dialog_test.h"
 
 #include <gtest/gtest.h>
-
-#include <QTreeWidget>
 
 #include <vector>
 
@@ -44,11 +41,6 @@ Lines operator+(Lines first, const Lines& second)
 {
     first.insert(first.end(), second.begin(), second.end());
     return first;
-}
-
-QTreeWidget& Tree(const CDialogUser& user)
-{
-    return dynamic_cast<QTreeWidget&>(user.Widget(kBaum));
 }
 
 class TreeDialog : public CDialogTest
@@ -193,23 +185,6 @@ TEST_F(TreeDialog, AManufacturerWhoseFileCannotBeReadBecomesALeafWithoutAWord)
     });
     EXPECT_EQ(Chosen(), (Path{L"", L"", L"Guasto"}));
     EXPECT_TRUE(m_driver.Messages().empty());
-}
-
-TEST_F(TreeDialog, ManufacturersAndKindsHaveOnePictureAndProductsAnother)
-{
-    Want(L"Alfa", L"Piastre", L"Tipo 22");
-    Run([](CDialogUser& user) {
-        const auto picture = [](const QTreeWidgetItem* item) {
-            return item->icon(0).pixmap(16, 16).toImage();
-        };
-        const QTreeWidgetItem* maker = Tree(user).topLevelItem(0);
-        EXPECT_FALSE(picture(maker).isNull());
-        EXPECT_EQ(picture(maker), picture(maker->child(0)));
-        EXPECT_FALSE(picture(maker->child(0)->child(0)).isNull());
-        EXPECT_NE(picture(maker), picture(maker->child(0)->child(0)));
-        EXPECT_TRUE(Tree(user).topLevelItem(1)->child(0)->icon(0).isNull());
-        user.Click(kIdCancel);
-    });
 }
 
 TEST_F(TreeDialog, OpensWhereOkLeftIt)
