@@ -4,7 +4,7 @@
 #include "workbench/plan/room_selection.h"
 
 #include <algorithm>
-#include <compare>
+#include <tuple>
 #include <utility>
 
 namespace workbench {
@@ -23,8 +23,6 @@ struct CCapacity
 {
     double tiefe = 0.0;
     double leistung = 0.0;
-
-    auto operator<=>(const CCapacity&) const = default;
 };
 
 CCapacity CapacityOf(const CString& produkt, const std::vector<CRadiatorWish>& wishes)
@@ -69,7 +67,9 @@ std::vector<CRadiatorProduct> FindStrongerTypes(const std::vector<CRadiatorWish>
             stronger.push_back({capacity, {own.strHersteller, own.strArt, name}});
         }
     }
-    std::ranges::stable_sort(stronger, {}, [](const auto& entry) { return entry.first; });
+    std::ranges::stable_sort(stronger, {}, [](const auto& entry) {
+        return std::tuple(entry.first.tiefe, entry.first.leistung);
+    });
     std::vector<CRadiatorProduct> products;
     for (auto& [capacity, produkt] : stronger) {
         products.push_back(std::move(produkt));
