@@ -93,6 +93,7 @@ change_system_and_repair() {
     keys ctrl+shift+r # one step, which the file saved next holds
     await_window radsel
     click "Dimensiona anche quelli"
+    await_other_totals
     back_to_plan
 }
 

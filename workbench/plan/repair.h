@@ -25,7 +25,7 @@ struct CRepairResult
 /// Gives rooms what they need, as far as catalogues and places go. Each is sized anew with its
 /// product (SizeRooms). Where that is not enough its radiators become the largest that fit their
 /// places; then its free places get radiators as well; and where that is not enough either, all of
-/// this is done with another product of the same kind: the weakest that is enough, or else the
+/// this is done with another product of the same kind: the slimmest that is enough, or else the
 /// strongest. That product becomes the room's. A room stays as good as it was at least. Rooms that
 /// are covered by radiators of the right size are passed over, as are those that need nothing and
 /// references to rooms that do not exist.

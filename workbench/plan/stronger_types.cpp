@@ -4,6 +4,7 @@
 #include "workbench/plan/room_selection.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace workbench {
@@ -17,15 +18,23 @@ constexpr double kPlenty = 4.0;
 /// The module finds nothing for an output that is further from all rows than 100 kW.
 constexpr double kMostAsked = 90000.0;
 
-/// What the product could give at the places of the wishes, in watts.
-double CapacityOf(const CString& produkt, const std::vector<CRadiatorWish>& wishes)
+/// What a product could give at the places of the wishes, in watts, and its depth there, in mm.
+struct CCapacity
 {
-    double capacity = 0.0;
+    double tiefe = 0.0;
+    double leistung = 0.0;
+};
+
+CCapacity CapacityOf(const CString& produkt, const std::vector<CRadiatorWish>& wishes)
+{
+    CCapacity capacity;
     for (CRadiatorWish wish : wishes) {
         wish.produkt.strProdukt = produkt;
         wish.leistung = std::min(kPlenty * wish.bedarf, kMostAsked);
-        const auto largest = SelectLargest(std::move(wish));
-        capacity += largest ? largest->daten.Leistung : 0.0;
+        if (const auto largest = SelectLargest(std::move(wish))) {
+            capacity.tiefe = std::max(capacity.tiefe, largest->daten.Tiefe);
+            capacity.leistung += largest->daten.Leistung;
+        }
     }
     return capacity;
 }
@@ -51,14 +60,16 @@ std::vector<CRadiatorProduct> FindStrongerTypes(const std::vector<CRadiatorWish>
         return {};
     }
     const CRadiatorProduct& own = wishes.front().produkt;
-    const double enough = CapacityOf(own.strProdukt, wishes);
-    std::vector<std::pair<double, CRadiatorProduct>> stronger;
+    const double present = CapacityOf(own.strProdukt, wishes).leistung;
+    std::vector<std::pair<CCapacity, CRadiatorProduct>> stronger;
     for (const CString& name : ProductsOfKind(own)) {
-        if (const double capacity = CapacityOf(name, wishes); capacity > enough) {
+        if (const CCapacity capacity = CapacityOf(name, wishes); capacity.leistung > present) {
             stronger.push_back({capacity, {own.strHersteller, own.strArt, name}});
         }
     }
-    std::ranges::stable_sort(stronger, {}, [](const auto& entry) { return entry.first; });
+    std::ranges::stable_sort(stronger, {}, [](const auto& entry) {
+        return std::tuple(entry.first.tiefe, entry.first.leistung);
+    });
     std::vector<CRadiatorProduct> products;
     for (auto& [capacity, produkt] : stronger) {
         products.push_back(std::move(produkt));

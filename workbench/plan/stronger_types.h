@@ -7,8 +7,8 @@
 namespace workbench {
 
 /// The products of the same maker and kind as that of the wishes that could give more than it at
-/// their places, all together; from the weakest to the strongest. The catalogue must have been
-/// read.
+/// their places, all together: the slimmest first, of equally deep ones the weakest. The catalogue
+/// must have been read.
 std::vector<CRadiatorProduct> FindStrongerTypes(const std::vector<CRadiatorWish>& wishes);
 
 } // namespace workbench

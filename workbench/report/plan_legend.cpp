@@ -6,8 +6,8 @@
 #include <QTransform>
 
 #include <algorithm>
-#include <ranges>
-#include <span>
+#include <cstddef>
+#include <iterator>
 
 namespace workbench {
 
@@ -110,15 +110,13 @@ void PaintLegend(CReportSheet& sheet, const QPointF& corner, const std::set<Cove
         sheet.Frame(box, 0.12, entry.ink);
         place.rx() -= width + 10.0;
     };
-    const std::span<const CCoverageLook> looks(kLooks);
-    QPointF place = corner;
-    for (const CCoverageLook& entry : std::views::reverse(looks.first(kAlwaysTold))) {
-        paint(entry, place);
-    }
-    place = corner + QPointF(0.0, kLegendLine);
-    for (const CCoverageLook& entry : std::views::reverse(looks.subspan(kAlwaysTold))) {
-        if (shown.contains(entry.coverage)) {
-            paint(entry, place);
+    QPointF first = corner;
+    QPointF second = corner + QPointF(0.0, kLegendLine);
+    for (std::size_t i = std::size(kLooks); i-- > 0;) {
+        if (i < kAlwaysTold) {
+            paint(kLooks[i], first);
+        } else if (shown.contains(kLooks[i].coverage)) {
+            paint(kLooks[i], second);
         }
     }
 }

@@ -28,6 +28,17 @@ public:
         m_sinceShown.start();
     }
 
+    /// A desktop may leave the keys with a bar that goes while the program works.
+    ~CSizingBar()
+    {
+        if (m_bar.isActiveWindow()) {
+            m_bar.hide();
+            m_bar.parentWidget()->activateWindow();
+        }
+    }
+    CSizingBar(const CSizingBar&) = delete;
+    CSizingBar& operator=(const CSizingBar&) = delete;
+
     bool GoOn(std::size_t done, std::size_t all)
     {
         if (m_sinceShown.elapsed() >= kShowEvery) {

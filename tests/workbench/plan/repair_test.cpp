@@ -13,14 +13,15 @@ class RepairTest : public CPlanFixture
 protected:
     RepairTest()
     {
-        // At 75/65/20 °C: 500, 2000 and 1000 W/m; a section has 50 W and 50 mm.
-        m_folder.WriteBytes(
-            "Scala/hk.tga",
-            "010;2010-05;Scala S.p.A.;2026-01\n"
-            "100;1;Piastre\n" +
-                Series("1", "11", "M;600;60;500") + kLengths + Series("2", "33", "M;600;150;2000") +
-                kLengths + Series("3", "22", "M;600;100;1000") + kLengths + "100;2;Tubolari\n" +
-                Series("1", "T", "S;600;100;50") + "710.03;50;100;0\n");
+        // At 75/65/20 °C: 500, 2000, 1000 and 950 W/m; a section has 50 W and 50 mm.
+        m_folder.WriteBytes("Scala/hk.tga",
+                            "010;2010-05;Scala S.p.A.;2026-01\n"
+                            "100;1;Piastre\n" +
+                                Series("1", "11", "M;600;60;500") + kLengths +
+                                Series("2", "33", "M;600;150;2000") + kLengths +
+                                Series("3", "22", "M;600;100;1000") + kLengths +
+                                Series("4", "30", "M;600;150;950") + kLengths + "100;2;Tubolari\n" +
+                                Series("1", "T", "S;600;100;50") + "710.03;50;100;0\n");
     }
 
     static std::string Series(const std::string& number, const std::string& type,
@@ -111,7 +112,7 @@ TEST_F(RepairTest, TakesTheLargestSizeThenFurtherPlacesThenAStrongerType)
          L"Tipo 22",
          Coverage::covered,
          L"aggiunto al posto 3"},
-        // A stronger type last, the weakest that is enough.
+        // A stronger type last, the slimmest that is enough.
         {L"Tipo 11",
          2000,
          {2000},
