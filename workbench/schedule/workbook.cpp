@@ -57,7 +57,7 @@ private:
 /// a file with one opens nowhere.
 bool IsRefused(wchar_t c)
 {
-    const auto code = static_cast<std::uint32_t>(c);
+    const auto code = std::char_traits<wchar_t>::to_int_type(c);
     const bool isSurrogate = code >= 0xd800 && code < 0xe000;
     const bool isByte = code >= 0xf780 && code < 0xf800;
     return isSurrogate || isByte || code == 0xfffe || code == 0xffff || code > 0x10ffff;
