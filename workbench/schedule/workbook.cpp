@@ -94,10 +94,14 @@ public:
     CTemporaryFile()
     {
         std::error_code error;
-        m_strPath = (std::filesystem::temp_directory_path(error) / "radsel-XXXXXX").string();
+        const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+        if (error) {
+            throw CFileException::FromErrno(error.value(), L"TMPDIR");
+        }
+        m_strPath = (folder / "radsel-XXXXXX").string();
         const int file = mkstemp(m_strPath.data());
-        if (error || file < 0) {
-            throw CFileException::FromErrno(error ? error.value() : errno, Path());
+        if (file < 0) {
+            throw CFileException::FromErrno(errno, Path());
         }
         close(file);
     }
