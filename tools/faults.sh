@@ -64,6 +64,7 @@ has_end() { # FILE
     case $1 in
     *.pdf) [[ $(tail -c 6 "$1") == %%EOF* ]] ;;
     *.dxf) [[ $(tail -n 1 "$1") == EOF* ]] ;;
+    *.xlsx) [[ $(tail -c 22 "$1" | head -c 2) == PK ]] ;;
     *.json) [[ $(tail -n 1 "$1") == "}" ]] ;;
     *) [[ $(tail -c 1 "$1") == "" ]] ;;
     esac

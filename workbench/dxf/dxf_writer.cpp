@@ -88,7 +88,7 @@ public:
     std::string Record(std::string_view record, std::string_view owner)
     {
         Plain(0, record);
-        const std::string handle = HandleText(m_nNextHandle++);
+        std::string handle = HandleText(m_nNextHandle++);
         Plain(5, handle);
         Plain(330, owner);
         return handle;

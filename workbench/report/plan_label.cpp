@@ -112,13 +112,14 @@ private:
     template <class MAKE>
     std::optional<CLabel> FirstFitting(double points, const QSizeF& space, MAKE make) const
     {
-        for (; points >= kLeastPoints; points *= kShrink) {
+        while (points >= kLeastPoints) {
             for (const CBrokenName& name : m_names) {
                 CLabel label = make(points, name);
                 if (Fits(label, space)) {
                     return label;
                 }
             }
+            points *= kShrink;
         }
         return std::nullopt;
     }

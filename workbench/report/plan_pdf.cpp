@@ -11,7 +11,6 @@
 #include <QPageSize>
 #include <QPdfWriter>
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 
@@ -243,18 +242,38 @@ private:
         }
     }
 
-    /// As many lines as the title's part has space for.
+    /// Beside the facts of the plant.
     void PaintContents(CReportSheet& sheet, QPointF corner) const
     {
-        const auto most = static_cast<std::size_t>((TitleHeight() - PlantTop()) / kContentHeight);
-        for (std::size_t i = 0; i < std::min(m_contents.size(), most); ++i) {
+        const double height = kFactHeight * static_cast<double>(PlantFacts().size());
+        for (const auto& [what, pages] :
+             Contents(static_cast<std::size_t>(height / kContentHeight))) {
             const QRectF line(corner, QSizeF(kContentsWidth, kContentHeight));
-            sheet.Text(line.adjusted(0.0, 0.0, -20.0, 0.0), m_contents[i].first,
+            sheet.Text(line.adjusted(0.0, 0.0, -30.0, 0.0), what,
                        {9.0, false, kInk, Qt::AlignLeft});
-            sheet.Text(line, "pagina " + QString::number(m_contents[i].second + 1),
-                       {9.0, false, kGrey, Qt::AlignRight});
+            sheet.Text(line, pages, {9.0, false, kGrey, Qt::AlignRight});
             corner.ry() += kContentHeight;
         }
+    }
+
+    /// What begins on which page. Plans, which come first, share a line where there is no space for
+    /// a line each.
+    std::vector<std::pair<QString, QString>> Contents(std::size_t most) const
+    {
+        std::vector<std::pair<QString, QString>> lines;
+        std::size_t next = 0;
+        if (m_contents.size() > most && m_pictures.size() > 1) {
+            const std::size_t first = m_contents.front().second + 1;
+            lines.emplace_back(
+                "Piante dei piani",
+                QStringLiteral("pagine %1–%2").arg(first).arg(first + m_pictures.size() - 1));
+            next = m_pictures.size();
+        }
+        for (; next < m_contents.size(); ++next) {
+            lines.emplace_back(m_contents[next].first,
+                               "pagina " + QString::number(m_contents[next].second + 1));
+        }
+        return lines;
     }
 
     /// As far as the building says something.

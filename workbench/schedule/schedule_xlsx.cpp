@@ -42,7 +42,7 @@ public:
         ForEachShown(m_columns, Output::csv, [&](const COLUMN& column, const CColumnLook& look) {
             m_shown.push_back(&column);
             m_widths.push_back(kNarrowest);
-            PutText(static_cast<Column>(m_shown.size() - 1), column.HeadingOf(look),
+            PutText(static_cast<Column>(Columns() - 1), column.HeadingOf(look),
                     CWorkbook::Look::heading);
         });
         ++m_row;
@@ -68,7 +68,7 @@ public:
     template <class SUM>
     void AddSum(const SUM& sum, const CRows& rows)
     {
-        for (Column column = 0; column < m_shown.size(); ++column) {
+        for (Column column = 0; column < Columns(); ++column) {
             const CCell cell = m_shown[column]->TotalOf(sum);
             const char* const formula = m_shown[column]->GetFormula();
             const auto* const number = std::get_if<double>(&cell);
@@ -84,13 +84,15 @@ public:
 
     void Finish(Row lastToFilter)
     {
-        for (Column column = 0; column < m_widths.size(); ++column) {
+        for (Column column = 0; column < Columns(); ++column) {
             m_book.Width(column, m_widths[column] + 2);
         }
-        m_book.Filter(lastToFilter, static_cast<Column>(m_shown.size() - 1));
+        m_book.Filter(lastToFilter, static_cast<Column>(Columns() - 1));
     }
 
 private:
+    Column Columns() const { return static_cast<Column>(m_shown.size()); }
+
     void Put(Column column, const CCell& cell, CWorkbook::Look look)
     {
         if (const auto* const number = std::get_if<double>(&cell)) {

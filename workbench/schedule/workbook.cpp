@@ -57,7 +57,7 @@ private:
 /// a file with one opens nowhere.
 bool IsRefused(wchar_t c)
 {
-    const auto code = static_cast<std::uint32_t>(c);
+    const auto code = std::char_traits<wchar_t>::to_int_type(c);
     const bool isSurrogate = code >= 0xd800 && code < 0xe000;
     const bool isByte = code >= 0xf780 && code < 0xf800;
     return isSurrogate || isByte || code == 0xfffe || code == 0xffff || code > 0x10ffff;
@@ -94,10 +94,14 @@ public:
     CTemporaryFile()
     {
         std::error_code error;
-        m_strPath = (std::filesystem::temp_directory_path(error) / "radsel-XXXXXX").string();
+        const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
+        if (error) {
+            throw CFileException::FromErrno(error.value(), L"TMPDIR");
+        }
+        m_strPath = (folder / "radsel-XXXXXX").string();
         const int file = mkstemp(m_strPath.data());
-        if (error || file < 0) {
-            throw CFileException::FromErrno(error ? error.value() : errno, Path());
+        if (file < 0) {
+            throw CFileException::FromErrno(errno, Path());
         }
         close(file);
     }
