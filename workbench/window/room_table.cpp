@@ -5,6 +5,8 @@
 #include "workbench/window/plan_texts.h"
 
 #include <QColor>
+#include <QGuiApplication>
+#include <QPalette>
 
 namespace workbench {
 
@@ -100,7 +102,9 @@ QVariant CRoomRows::data(const QModelIndex& index, int role) const
                    ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
                    : QVariant();
     case Qt::ForegroundRole:
-        return IsOpen(row.coverage) ? QVariant(InkOf(row.coverage)) : QVariant();
+        return IsOpen(row.coverage)
+                   ? QVariant(InkOn(QGuiApplication::palette().color(QPalette::Base), row.coverage))
+                   : QVariant();
     default:
         return {};
     }
