@@ -17,6 +17,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace reference_host {
 
 namespace {
@@ -25,6 +27,8 @@ constexpr int kSwatchSide = 14;
 constexpr int kRowHeight = 22;
 constexpr int kColorColumnWidth = 64;
 constexpr QSize kSize(380, 430);
+/// The same in characters and lines of the font, where that is a large one.
+constexpr QSize kCharacters(54, 28);
 
 /// What no drawing accepts in the name of a layer.
 const QRegularExpression kLayerName(QStringLiteral("[^<>/\\\\\":;?*|,=`]*"));
@@ -56,7 +60,8 @@ CLayerDialog::CLayerDialog(std::vector<CLayerEntry> layers, const QString& name,
     QDialogButtonBox* const buttons = AddButtons(*this);
     m_ok = buttons->buttons().constFirst();
     layout->addWidget(buttons);
-    resize(kSize);
+    resize(kSize.expandedTo({kCharacters.width() * fontMetrics().averageCharWidth(),
+                             kCharacters.height() * fontMetrics().height()}));
 
     FillList();
     ShowChoice();
@@ -74,7 +79,8 @@ void CLayerDialog::MakeList()
     m_list->header()->setSectionsMovable(false);
     m_list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_list->header()->setSectionResizeMode(1, QHeaderView::Fixed);
-    m_list->header()->resizeSection(1, kColorColumnWidth);
+    m_list->header()->resizeSection(
+        1, std::max(kColorColumnWidth, m_list->header()->sectionSizeHint(1)));
     m_list->headerItem()->setTextAlignment(1, Qt::AlignCenter);
     m_list->setIconSize({kSwatchSide, kSwatchSide});
 

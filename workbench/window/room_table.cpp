@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QPalette>
 #include <QSize>
 
 namespace workbench {
@@ -103,6 +104,10 @@ QString CRoomRows::Text(const CRow& row, int column)
 QVariant CRoomRows::data(const QModelIndex& index, int role) const
 {
     const CRow& row = m_rooms[static_cast<std::size_t>(index.row())];
+    // The column of the names gives way to the others.
+    if (role == Qt::ToolTipRole && index.column() == room) {
+        return row.strRoom;
+    }
     switch (role) {
     case Qt::DisplayRole:
         return Text(row, index.column());
@@ -118,8 +123,9 @@ QVariant CRoomRows::data(const QModelIndex& index, int role) const
                    ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
                    : QVariant();
     case Qt::ForegroundRole:
-        return IsOpen(row.coverage) || IsMissized(row.coverage) ? QVariant(InkOf(row.coverage))
-                                                                : QVariant();
+        return IsOpen(row.coverage) || IsMissized(row.coverage)
+                   ? QVariant(InkOn(QGuiApplication::palette().color(QPalette::Base), row.coverage))
+                   : QVariant();
     default:
         return {};
     }

@@ -1,21 +1,26 @@
 #include "dialogs/resizing_dialog.h"
 #include "module/radsel_app.h"
 #include "tests/dialog_support/dialog_driver.h"
+#include "tests/look/cut_texts.h"
 #include "tests/support/message_log.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
+#include "tools/dark_palette.h"
 #include "tools/dialog_gallery.h"
 #include "uikit/application.h"
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
+#include "uikit/native/caption_bar.h"
+#include "uikit/native/contrast.h"
 #include "uikit/native/dialog_window.h"
 
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QFontDatabase>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyleOptionButton>
 #include <QTest>
 
 #include <algorithm>
@@ -64,50 +69,22 @@ std::vector<Part> PartsOf(const CDialog& dialog)
     return parts;
 }
 
-/// The area that a control has for its caption.
-QSize RoomForCaption(const Part& part)
+/// Texts that the dialog put there are data, which may be shortened where the whole is told.
+void CheckTexts(const CDialog& dialog, const std::vector<Part>& parts, Complaints& complaints)
 {
-    constexpr int kTitleEnds = 22;
-    QStyleOptionButton option;
-    option.initFrom(part.widget);
-    const auto inside = [&](QStyle::SubElement element) {
-        return part.widget->style()->subElementRect(element, &option, part.widget).size();
-    };
-    switch (part.control.kind) {
-    case ControlKind::button:
-    case ControlKind::defaultButton:
-        return inside(QStyle::SE_PushButtonContents);
-    case ControlKind::checkBox:
-        return inside(QStyle::SE_CheckBoxContents);
-    case ControlKind::radioButton:
-        return inside(QStyle::SE_RadioButtonContents);
-    case ControlKind::groupBox:
-        return part.place.size() - QSize(kTitleEnds, 0);
-    default:
-        return part.widget->contentsRect().size();
+    const CDialogWindow& window = *WindowOf(dialog);
+    for (const CutText& cut : FindCutTexts(window.Client())) {
+        const auto part = std::ranges::find(parts, cut.widget, &Part::widget);
+        const bool isCaption = part != parts.end() && cut.text == ToNative(part->control.caption);
+        if (isCaption || !cut.isTold) {
+            complaints.push_back("does not fit: " + std::to_string(GetControlId(*cut.widget)) +
+                                 " \"" + cut.text.toStdString() + '"');
+        }
     }
-}
-
-/// Texts that the dialog put there are data, which may be shortened.
-void CheckCaptions(const std::vector<Part>& parts, Complaints& complaints)
-{
-    for (const Part& part : parts) {
-        CWnd handle;
-        CNativeAccess::Attach(handle, part.widget);
-        const CString caption = part.control.caption;
-        if (caption.empty() || handle.GetWindowText() != caption) {
-            continue;
-        }
-        const QSize needed =
-            part.widget->fontMetrics().size(Qt::TextShowMnemonic, ToNative(caption));
-        const QSize room = RoomForCaption(part);
-        // A check box without any room for its caption has its words in the controls around it.
-        if (part.control.kind == ControlKind::checkBox && room.width() <= 0) {
-            continue;
-        }
-        if (needed.width() > room.width() || needed.height() > room.height()) {
-            complaints.push_back("caption does not fit: " + Name(part));
-        }
+    const CCaptionBar& caption = window.Caption();
+    if (caption.fontMetrics().horizontalAdvance(window.windowTitle()) >
+        caption.TitleArea().width()) {
+        complaints.push_back("the title does not fit");
     }
 }
 
@@ -318,7 +295,7 @@ void CheckEnlarged(CDialog& dialog, const std::vector<Followers>& rules, Complai
             }
         }
     }
-    CheckCaptions(after, complaints);
+    CheckTexts(dialog, after, complaints);
     CheckPlaces(dialog, after, complaints);
 }
 
@@ -345,7 +322,7 @@ Complaints Check(CDialog& dialog, const SizingRules& rules)
 {
     const std::vector<Part> parts = PartsOf(dialog);
     Complaints complaints;
-    CheckCaptions(parts, complaints);
+    CheckTexts(dialog, parts, complaints);
     CheckPlaces(dialog, parts, complaints);
     CheckKeyboard(dialog, parts, complaints);
     CheckSizing(dialog, rules, complaints);
@@ -406,7 +383,7 @@ protected:
               for (const int id : m_presses) {
                   CDialogUser(dialog).Click(id);
               }
-              m_complaints = Check(dialog, m_sizingRules);
+              m_complaints = Check(dialog);
               dialog.EndDialog(kIdCancel);
           }))
     {
@@ -422,6 +399,28 @@ protected:
         SetDialogFontSize(8);
     }
 
+    virtual Complaints Check(CDialog& dialog) { return ::Check(dialog, m_sizingRules); }
+
+    /// Opens every dialog with sample data, and expects no complaint of any.
+    void LookAtAll()
+    {
+        const CTempFolder workplace;
+        const CSettingOverride valves(kSettingVEDir, L"");
+        const CSettingOverride catalogues(kSettingHKDir, L"");
+        const CSettingOverride root(kSettingServerPath, L"");
+        const CSettingOverride local(kSettingLocalPath, L"");
+        const std::vector<GalleryEntry> gallery = DialogGallery(RADSEL_DATA_DIR);
+        // Opening and cancelling is not to touch the sample data.
+        OverrideHostSetting(kSettingLocalPath, workplace.Path());
+        for (const GalleryEntry& entry : gallery) {
+            const int opened = m_opened;
+            m_presses = entry.presses;
+            entry.open();
+            EXPECT_EQ(m_opened, opened + 1) << entry.name;
+            EXPECT_EQ(m_complaints, Complaints{}) << entry.name;
+        }
+    }
+
     CMessageLog m_messages;
     Complaints m_complaints;
     SizingRules m_sizingRules = kSizingRules;
@@ -433,21 +432,7 @@ protected:
 
 TEST_P(AllDialogs, FitTheirCaptionsWorkByKeyboardAndFollowTheirSize)
 {
-    const CTempFolder workplace;
-    const CSettingOverride valves(kSettingVEDir, L"");
-    const CSettingOverride catalogues(kSettingHKDir, L"");
-    const CSettingOverride root(kSettingServerPath, L"");
-    const CSettingOverride local(kSettingLocalPath, L"");
-    const std::vector<GalleryEntry> gallery = DialogGallery(RADSEL_DATA_DIR);
-    // Opening and cancelling is not to touch the sample data.
-    OverrideHostSetting(kSettingLocalPath, workplace.Path());
-    for (const GalleryEntry& entry : gallery) {
-        const int opened = m_opened;
-        m_presses = entry.presses;
-        entry.open();
-        EXPECT_EQ(m_opened, opened + 1) << entry.name;
-        EXPECT_EQ(m_complaints, Complaints{}) << entry.name;
-    }
+    LookAtAll();
 }
 
 TEST_P(AllDialogs, FaultsAreFound)
@@ -475,15 +460,26 @@ TEST_P(AllDialogs, FaultsAreFound)
     };
     CNarrowed(dialog, {10, 11}).DoModal();
     EXPECT_EQ(m_complaints, (Complaints{
-                                "7002: caption does not fit: 10 \"Una didascalia troppo lunga\"",
-                                "7002: caption does not fit: 11 \"Un pulsante troppo lungo\"",
-                                "7002: caption does not fit: 12 \"Bassa\"",
+                                "7002: does not fit: 10 \"Una didascalia troppo lunga\"",
+                                "7002: does not fit: 11 \"Un pulsante troppo lungo\"",
+                                "7002: does not fit: 12 \"Bassa\"",
                                 "7002: overlap: 20 \"Cornice\" and 21 \"\"",
                                 "7002: overlap: 20 \"Cornice\" and 22 \"\"",
                                 "7002: outside: 2 \"No\"",
                                 "7002: no way in by keyboard: 2 \"No\"",
                                 "7002: read before 25 \"\": 26 \"\"",
                             }));
+}
+
+TEST_P(AllDialogs, ALongTitleGetsItsRoom)
+{
+    using enum ControlKind;
+    static const DialogTemplate dialog = {
+        7004,       L"Un titolo più lungo di tutto quello che il dialogo contiene",
+        100,        40,
+        frameFixed, {{kIdOk, defaultButton, L"OK", 4, 20, 44, 14}}};
+    CDialog(dialog).DoModal();
+    EXPECT_EQ(m_complaints, Complaints{});
 }
 
 /// A dialog some of whose controls follow and others do not.
@@ -545,5 +541,132 @@ TEST_P(AllDialogs, LostAnchorsAreFound)
 INSTANTIATE_TEST_SUITE_P(Fonts, AllDialogs,
                          ::testing::Values(DialogFont{L"Tahoma", 8}, DialogFont{L"Tahoma", 12},
                                            DialogFont{L"DejaVu Sans Mono", 9}));
+
+/// Looks at nothing but texts, in many fonts.
+class DialogTexts : public AllDialogs
+{
+protected:
+    Complaints Check(CDialog& dialog) override
+    {
+        Complaints complaints;
+        CheckTexts(dialog, PartsOf(dialog), complaints);
+        for (const CutText& cut : FindCutListItems(WindowOf(dialog)->Client())) {
+            complaints.push_back("cut in its list: " + cut.text.toStdString());
+        }
+        return complaints;
+    }
+};
+
+TEST_P(DialogTexts, AreNowhereCut)
+{
+    ASSERT_TRUE(QFontDatabase::families().contains(ToNative(GetParam().face)));
+    LookAtAll();
+}
+
+/// From narrow to wide. More dots to the inch come from the environment, for other runs.
+const DialogFont kFontsOfManyWidths[] = {
+    {L"DejaVu Serif Condensed", 8},
+    {L"DejaVu Serif Condensed", 11},
+    {L"DejaVu Sans Condensed", 9},
+    {L"DejaVu Sans Condensed", 13},
+    {L"DejaVu Serif", 9},
+    {L"DejaVu Serif", 13},
+    {L"DejaVu Sans", 8},
+    {L"DejaVu Sans", 11},
+    {L"DejaVu Sans Mono", 9},
+    {L"DejaVu Sans Mono", 13},
+};
+
+INSTANTIATE_TEST_SUITE_P(Fonts, DialogTexts, ::testing::ValuesIn(kFontsOfManyWidths));
+
+/// Colours that meet in a picture: the one that is there most, and the one that stands out most
+/// from it.
+std::pair<QColor, double> ContrastIn(const QImage& picture)
+{
+    std::map<QRgb, int> counts;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            ++counts[picture.pixel(x, y)];
+        }
+    }
+    const QColor back =
+        std::ranges::max_element(counts, {}, [](const auto& c) { return c.second; })->first;
+    double contrast = 1.0;
+    for (const auto& [color, count] : counts) {
+        contrast = std::max(contrast, ContrastOf(QColor(color), back));
+    }
+    return {back, contrast};
+}
+
+/// Looks at the texts of what can be used as they are painted.
+class DialogColors : public AllDialogs
+{
+protected:
+    Complaints Check(CDialog& dialog) override
+    {
+        QWidget* const window = CNativeAccess::Widget(dialog);
+        const QImage picture = window->grab().toImage();
+        Complaints complaints;
+        const auto colorsOf = [&](const QWidget& widget) {
+            return ContrastIn(picture.copy(QRect(widget.mapTo(window, QPoint()), widget.size())));
+        };
+        const auto check = [&](const QWidget& widget, const std::string& name) {
+            // The letters of common sizes are smoothed, which takes some of their contrast.
+            constexpr double kLeast = 3.0;
+            if (widget.isEnabled() && !widget.size().isEmpty() &&
+                colorsOf(widget).second < kLeast) {
+                complaints.push_back("cannot be read: " + name);
+            }
+        };
+        check(WindowOf(dialog)->Caption(), "title");
+        for (const Part& part : PartsOf(dialog)) {
+            CWnd handle;
+            CNativeAccess::Attach(handle, part.widget);
+            // A check box as small as its sign has its words in the controls around it.
+            const int sign = 2 * part.place.height();
+            const bool isSign = part.control.kind == ControlKind::checkBox;
+            if (!handle.GetWindowText().empty() && !IsGroup(part) &&
+                (!isSign || part.place.width() > sign)) {
+                check(*part.widget, Name(part));
+            }
+        }
+        for (const Part& part : PartsOf(dialog)) {
+            constexpr int kSketch = 16022;
+            const bool isSketch =
+                part.control.id == kSketch && part.control.kind == ControlKind::canvas;
+            if (isSketch && !IsReadable(Qt::black, colorsOf(*part.widget).first)) {
+                complaints.push_back("dark below dark lines: " + Name(part));
+            }
+        }
+        for (const auto* view : window->findChildren<QAbstractItemView*>()) {
+            if (view->isVisible() && view->model()->rowCount() > 0) {
+                check(*view->viewport(), view->metaObject()->className());
+            }
+        }
+        return complaints;
+    }
+};
+
+/// A dark palette as desktops have it, and one in which somebody set no more than the roles that
+/// come to mind; each with and without the host's colours, which are light.
+TEST_P(DialogColors, CanBeReadInDarkPalettes)
+{
+    QPalette byHand = QApplication::palette();
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button}) {
+        byHand.setColor(role, QColor(40, 40, 40));
+    }
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        byHand.setColor(role, Qt::white);
+    }
+    for (const QPalette& palette : {DarkPalette(), byHand}) {
+        const CColors colors(palette);
+        for (const wchar_t* const skin : {L"0", L"1"}) {
+            const CSettingOverride allowed(kSettingAllowSkin, skin);
+            LookAtAll();
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Template, DialogColors, ::testing::Values(DialogFont{L"Tahoma", 8}));
 
 } // namespace
