@@ -22,6 +22,8 @@ struct CForm
 struct CFinish
 {
     const wchar_t* lpszText;
+    /// Without the metal, as names of articles have it.
+    const wchar_t* lpszName;
     const wchar_t* lpszKurz;
 };
 
@@ -166,7 +168,8 @@ void WriteTexts(CValveWriter& writer, const CRange& range)
     }
 }
 
-/// The articles of the latest data set: one a finish.
+/// The articles of the latest data set: one a finish. What tells the articles of a series apart
+/// comes first in their names, as a narrow tree shows but the beginnings.
 void WriteArticles(CValveWriter& writer, const CRange& range, std::size_t form, const CString& name,
                    const CString& kurz, CSampleIdent ident)
 {
@@ -177,8 +180,8 @@ void WriteArticles(CValveWriter& writer, const CRange& range, std::size_t form, 
     for (const CFinish& ausfuehrung : range.ausfuehrungen) {
         ++ident.nWerkstoff;
         writer.Artikel(ident, kurz + L"-" + bauform.lpszKurz + dn + L"-" + ausfuehrung.lpszKurz,
-                       name + L", " + bauform.lpszText + L", DN " + dn + L", " +
-                           ausfuehrung.lpszText);
+                       L"DN " + dn + L" " + ausfuehrung.lpszName + L", " + bauform.lpszText +
+                           L", " + name);
     }
 }
 
@@ -231,10 +234,10 @@ CSampleValves MakeFontespada()
     constexpr CRange range = {{{{L"Squadra", L"S", 1.0, 52},
                                 {L"Diritta", L"D", 0.9, 83},
                                 {L"Assiale", L"A", 0.85, 60},
-                                {L"Squadra più corta", L"C", 0.95, 48}}},
-                              {{{L"Ottone nichelato", L"N"},
-                                {L"Ottone cromato", L"C"},
-                                {L"Ottone verniciato bianco", L"B"}}},
+                                {L"Corta a squadra", L"C", 0.95, 48}}},
+                              {{{L"Ottone nichelato", L"nichelato", L"N"},
+                                {L"Ottone cromato", L"cromato", L"C"},
+                                {L"Ottone verniciato bianco", L"bianco", L"B"}}},
                               {L"Testa termostatica M30x1,5", L"Volantino"}};
     CValveWriter writer;
     writer.Kopf(L"Fontespada Valvole S.p.A.");
@@ -257,13 +260,14 @@ CSampleValves MakeFontespada()
 
 CSampleValves MakeMoehrental()
 {
-    constexpr CRange range = {
-        {{{L"Eckform", L"E", 1.0, 53},
-          {L"Durchgang, größere Baulänge", L"D", 0.9, 85},
-          {L"Axialform", L"A", 0.85, 59},
-          {L"Winkeleck für Räume mit Fußleisten", L"W", 0.8, 55}}},
-        {{{L"Messing vernickelt", L"N"}, {L"Messing verchromt", L"C"}, {L"Rotguß, weiß", L"W"}}},
-        {L"Thermostatkopf", L"Handrad oder Schlüssel"}};
+    constexpr CRange range = {{{{L"Eckform", L"E", 1.0, 53},
+                                {L"Durchgang, größere Baulänge", L"D", 0.9, 85},
+                                {L"Axialform", L"A", 0.85, 59},
+                                {L"Winkeleck für Räume mit Fußleisten", L"W", 0.8, 55}}},
+                              {{{L"Messing vernickelt", L"vernickelt", L"N"},
+                                {L"Messing verchromt", L"verchromt", L"C"},
+                                {L"Rotguß, weiß", L"weiß", L"W"}}},
+                              {L"Thermostatkopf", L"Handrad oder Schlüssel"}};
     CValveWriter writer;
     writer.Kopf(L"Möhrental Armaturen GmbH");
     writer.Hauptgruppe(L"Thermostatventile");
@@ -296,7 +300,8 @@ CSampleValves MakeMoehrental()
     const double kv = kvFine * SizeFactor(kLarge[0]);
     writer.Datensatz({fine.nArt, kLarge[0], KvsOf(kv, 1.0), fine.dDruckMax, true});
     WriteRows(writer, fine, kv);
-    writer.Artikel({2, kHand, 1, kLarge[0], 1}, L"KG-E25-N", L"Baureihe KG, Eckform, DN 25");
+    writer.Artikel({2, kHand, 1, kLarge[0], 1}, L"KG-E25-N",
+                   L"DN 25 vernickelt, Eckform, Baureihe KG");
     writer.Hauptgruppe(L"Einrohrventile");
     WriteBypassSeries(writer, range, {L"Baureihe KE, Bypass stellbar", L"KE", 0.5, 0.1, 3, 1.6});
     return {L"Möhrental", writer.GetBytes(ValveEncoding::dos)};
@@ -304,13 +309,14 @@ CSampleValves MakeMoehrental()
 
 CSampleValves MakeOstervliet()
 {
-    constexpr CRange range = {
-        {{{L"Haaks", L"H", 1.0, 52},
-          {L"Recht", L"R", 0.9, 82},
-          {L"Axiaal", L"A", 0.85, 58},
-          {L"Dubbel haaks", L"D", 0.8, 54}}},
-        {{{L"Messing vernikkeld", L"N"}, {L"Messing verchroomd", L"C"}, {L"Messing zwart", L"Z"}}},
-        {L"Thermostaatknop", L"Inbussleutel"}};
+    constexpr CRange range = {{{{L"Haaks", L"H", 1.0, 52},
+                                {L"Recht", L"R", 0.9, 82},
+                                {L"Axiaal", L"A", 0.85, 58},
+                                {L"Dubbel haaks", L"D", 0.8, 54}}},
+                              {{{L"Messing vernikkeld", L"vernikkeld", L"N"},
+                                {L"Messing verchroomd", L"verchroomd", L"C"},
+                                {L"Messing zwart", L"zwart", L"Z"}}},
+                              {L"Thermostaatknop", L"Inbussleutel"}};
     CValveWriter writer;
     writer.Kopf(L"Ostervliet Appendages B.V.");
     writer.Hauptgruppe(L"Thermostaatventielen");

@@ -52,7 +52,7 @@ set_up_a_connection() {
     expect_line Ritorno "all'estremità sinistra 30 mm a destra, in alto, tubo verso l'alto"
     expect_line 'Distanza laterale, mandata' '0\.100 m'
     expect_line 'Distanza laterale, ritorno' '0\.000 m'
-    local valve='Ostervliet Reeks OA, voorinstelling 1 tot 6, Haaks, DN 10, Messing zwart, DN 10'
+    local valve='Ostervliet DN 10 zwart, Haaks, Reeks OA, voorinstelling 1 tot 6, DN 10'
     expect_line 'Valvola di mandata' "$valve"
     expect_line 'Valvola di ritorno' "$valve" # an empty side takes over what is picked
     expect_line 'Grafico di mandata' BLOCCO_H_SQUADRA_DX

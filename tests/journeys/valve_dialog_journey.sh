@@ -35,7 +35,7 @@ choose_by_keys_and_mouse() {
     expect_line NumeroTGA 020001011000000000030000000003000100
     expect_line 'Gruppo principale' Thermostaatventielen
     expect_line Gruppo 'Reeks OA, voorinstelling 1 tot 6'
-    expect_line Denominazione 'Reeks OA, voorinstelling 1 tot 6, Haaks, DN 10, Messing zwart'
+    expect_line Denominazione 'DN 10 zwart, Haaks, Reeks OA, voorinstelling 1 tot 6'
     expect_line DN 10
     expect_line Regolabile sì
 }
@@ -46,7 +46,7 @@ confirm_a_preset() {
     keys Return
     expect_exit 0
     expect_line Produttore Fontespada
-    expect_line Denominazione 'Serie FT con preregolazione, Squadra, DN 15, Ottone cromato'
+    expect_line Denominazione 'DN 15 cromato, Squadra, Serie FT con preregolazione'
     expect_line DN 15
 }
 

@@ -2,6 +2,7 @@
 
 #include "uikit/native/access.h"
 #include "uikit/native/image_icon.h"
+#include "uikit/native/whole_text.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -156,6 +157,25 @@ void CTreeWidget::focusInEvent(QFocusEvent* event)
 {
     QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
     viewport()->update();
+}
+
+bool CTreeWidget::IsCut(const QTreeWidgetItem& item) const
+{
+    const int left = visualItemRect(&item).left();
+    return left < 0 || left + sizeHintForIndex(indexFromItem(&item)).width() > viewport()->width();
+}
+
+bool CTreeWidget::viewportEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto& help = *static_cast<QHelpEvent*>(event);
+        const QTreeWidgetItem* const item = itemAt(help.pos());
+        if (item != nullptr && IsCut(*item)) {
+            TellWholeText(help, *viewport(), item->text(0), visualItemRect(item));
+            return true;
+        }
+    }
+    return QTreeWidget::viewportEvent(event);
 }
 
 /// Rows reach across the tree however short their texts are.

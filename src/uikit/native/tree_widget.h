@@ -8,7 +8,8 @@
 #include <map>
 #include <utility>
 
-/// A tree that asks before an item opens, by whatever way.
+/// A tree that asks before an item opens, by whatever way, and tells as a tooltip the whole text of
+/// an item that reaches beyond its sides.
 class CTreeWidget : public QTreeWidget
 {
     Q_OBJECT
@@ -38,6 +39,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                          const QEvent* event) const override;
@@ -46,6 +48,7 @@ private:
     bool IsClosedParent(const QTreeWidgetItem* item) const;
     bool AskToOpen(QTreeWidgetItem* item);
     void TellChoice();
+    bool IsCut(const QTreeWidgetItem& item) const;
 
     MayExpand m_mayExpand;
     CImageList m_images;

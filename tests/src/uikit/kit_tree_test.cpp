@@ -1,3 +1,4 @@
+#include "tests/dialog_support/widget_look.h"
 #include "tests/src/uikit/kit_recorder.h"
 
 #include <QTest>
@@ -158,6 +159,22 @@ TEST_F(KitTree, AnExplorersTreeChoosesWholeRowsAndLightsUpUnderTheMouse)
         pointAt(QEvent::HoverLeave, QPointF(-1, -1));
         EXPECT_EQ(endOfRow(last), plain);
         EXPECT_TRUE(viewport->testAttribute(Qt::WA_Hover)) << "else a mouse brings no such event";
+    });
+}
+
+TEST_F(KitTree, PointingAtAnItemThatIsCutTellsTheWhole)
+{
+    Run([&](CDialogUser&) {
+        Fill();
+        const std::wstring words(400, L'w');
+        const HTREEITEM wide = m_dialog.tree.InsertItem(words.c_str(), -1, -1, nullptr);
+        QCoreApplication::processEvents();
+        const auto tip = [&](HTREEITEM item) {
+            const int y = Middle(item).y();
+            return TipAt(*widget->viewport(), {widget->viewport()->width() / 2, y});
+        };
+        EXPECT_EQ(tip(last), QString());
+        EXPECT_EQ(tip(wide), ToNative(words));
     });
 }
 

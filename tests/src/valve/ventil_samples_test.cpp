@@ -99,7 +99,20 @@ TEST_F(CVentilSamplesTest, EveryArticleHasItsTexts)
                 EXPECT_NE(text, L"...");
                 EXPECT_GT(text.find(L';'), 3U) << Utf8FromWide(text);
             }
-            const CString finish = texte.Werkstoff.substr(0, texte.Werkstoff.find(L';'));
-            EXPECT_TRUE(artikel.Bezeichnung.ends_with(finish) || artikel.BestellNr == L"KG-E25-N");
+            const CString form = texte.Bauform.substr(0, texte.Bauform.find(L';'));
+            EXPECT_NE(artikel.Bezeichnung.find(L", " + form + L", "), CString::npos);
         });
+}
+
+/// The tree of the dialog shows about that much of an article's name.
+TEST_F(CVentilSamplesTest, TheBeginningOfItsNameTellsAnArticleFromTheOthersOfItsGroup)
+{
+    constexpr std::size_t kShown = 20;
+    std::set<std::pair<CString, CString>> beginnings;
+    ForEachArticle([&](const CString& maker, const VENT_VDI3805_GRUPPE& gruppe,
+                       const VENT_VDI3805_ARTIKEL& artikel) {
+        const CString beginning = artikel.Bezeichnung.substr(0, kShown);
+        EXPECT_TRUE(beginnings.emplace(maker + gruppe.Name, beginning).second)
+            << Utf8FromWide(artikel.Bezeichnung);
+    });
 }
