@@ -17,14 +17,19 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace reference_host {
 
 namespace {
 
 constexpr int kSwatchSide = 14;
 constexpr int kRowHeight = 22;
+constexpr int kRowGap = 4;
 constexpr int kColorColumnWidth = 64;
 constexpr QSize kSize(380, 430);
+/// The same in characters and lines of the font, where that is a large one.
+constexpr QSize kCharacters(54, 28);
 
 /// What no drawing accepts in the name of a layer.
 const QRegularExpression kLayerName(QStringLiteral("[^<>/\\\\\":;?*|,=`]*"));
@@ -56,7 +61,8 @@ CLayerDialog::CLayerDialog(std::vector<CLayerEntry> layers, const QString& name,
     QDialogButtonBox* const buttons = AddButtons(*this);
     m_ok = buttons->buttons().constFirst();
     layout->addWidget(buttons);
-    resize(kSize);
+    resize(kSize.expandedTo({kCharacters.width() * fontMetrics().averageCharWidth(),
+                             kCharacters.height() * fontMetrics().height()}));
 
     FillList();
     ShowChoice();
@@ -74,7 +80,8 @@ void CLayerDialog::MakeList()
     m_list->header()->setSectionsMovable(false);
     m_list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_list->header()->setSectionResizeMode(1, QHeaderView::Fixed);
-    m_list->header()->resizeSection(1, kColorColumnWidth);
+    m_list->header()->resizeSection(
+        1, std::max(kColorColumnWidth, m_list->header()->sectionSizeHint(1)));
     m_list->headerItem()->setTextAlignment(1, Qt::AlignCenter);
     m_list->setIconSize({kSwatchSide, kSwatchSide});
 
@@ -117,7 +124,7 @@ void CLayerDialog::FillList()
         auto* const item = new QTreeWidgetItem(m_list, {layer.name, QString::number(layer.color)});
         item->setIcon(0, ColorIcon(layer.color, kSwatchSide));
         item->setTextAlignment(1, Qt::AlignCenter);
-        item->setSizeHint(0, {0, kRowHeight});
+        item->setSizeHint(0, {0, std::max(kRowHeight, fontMetrics().height() + kRowGap)});
         if (&layer == chosen) {
             m_list->setCurrentItem(item);
         }

@@ -108,6 +108,22 @@ void CCaptionBar::resizeEvent(QResizeEvent* event)
     }
 }
 
+/// The help icon stands beside the buttons.
+int CCaptionBar::WidthBesideTitle() const
+{
+    return kTitleIndent + ButtonWidth() * static_cast<int>(m_buttons.size() + 2);
+}
+
+int CCaptionBar::WidthForTitle() const
+{
+    return WidthBesideTitle() + fontMetrics().horizontalAdvance(m_window.windowTitle());
+}
+
+QRect CCaptionBar::TitleArea() const
+{
+    return {kTitleIndent, 0, width() - WidthBesideTitle(), height()};
+}
+
 void CCaptionBar::paintEvent(QPaintEvent* /*event*/)
 {
     {
@@ -118,8 +134,7 @@ void CCaptionBar::paintEvent(QPaintEvent* /*event*/)
         painter.setPen(
             palette().color(m_window.isActiveWindow() ? QPalette::Active : QPalette::Disabled,
                             QPalette::WindowText));
-        const int buttons = ButtonWidth() * static_cast<int>(m_buttons.size() + 2);
-        const QRect area = rect().adjusted(kTitleIndent, 0, -buttons, 0);
+        const QRect area = TitleArea();
         painter.drawText(
             area, Qt::AlignLeft | Qt::AlignVCenter,
             fontMetrics().elidedText(m_window.windowTitle(), Qt::ElideRight, area.width()));

@@ -19,6 +19,10 @@ public:
     static int Height();
     static int ButtonWidth();
 
+    /// What the bar takes to show the whole title of its window.
+    int WidthForTitle() const;
+    QRect TitleArea() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -31,6 +35,7 @@ protected:
 private:
     void AddButton(const char* name, unsigned command);
     void ToggleMaximized();
+    int WidthBesideTitle() const;
 
     CDialogWindow& m_window;
     bool m_maximizable;

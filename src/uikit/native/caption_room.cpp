@@ -42,8 +42,8 @@ std::optional<int> RoomForCaption(ControlKind kind, const QWidget& widget)
 double BaseWidthForCaption(const ControlTemplate& control, const QWidget& widget)
 {
     const std::optional<int> room = RoomForCaption(control.kind, widget);
-    // A check box that has no room at all has its words in the controls around it.
-    if (!room || *room <= 0) {
+    // A check box that has no room for a letter has its words in the controls around it.
+    if (!room || *room < widget.fontMetrics().averageCharWidth()) {
         return 0;
     }
     const int caption =

@@ -2,9 +2,12 @@
 
 #include "uikit/native/access.h"
 #include "uikit/native/image_icon.h"
+#include "uikit/native/whole_text.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QLineEdit>
-#include <QStylePainter>
+#include <QScreen>
 
 namespace {
 
@@ -52,17 +55,52 @@ void CComboWidget::ShowImages(int index)
     setItemIcon(index, MakeImageIcon(ToNative(bitmap)));
 }
 
-void CComboWidget::paintEvent(QPaintEvent* event)
+void CComboWidget::showPopup()
 {
-    if (isEditable() || currentIndex() < 0 || m_images.GetImageCount() == 0) {
-        QComboBox::paintEvent(event);
+    // Twice the frame: that of the list and that of the window that it lies in.
+    const int frames = 4 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    const int bar =
+        count() > maxVisibleItems() ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+    const int widest = view()->sizeHintForColumn(0) + frames + bar;
+    view()->setMinimumWidth(qMin(widest, screen()->availableGeometry().width()));
+    QComboBox::showPopup();
+}
+
+void CComboWidget::initStyleOption(QStyleOptionComboBox* option) const
+{
+    QComboBox::initStyleOption(option);
+    if (isEditable()) {
         return;
     }
-    QStylePainter painter(this);
-    QStyleOptionComboBox option;
-    initStyleOption(&option);
-    const CBitmap bitmap = m_images.Get(currentData(kSelectedImageRole).toInt());
-    option.currentIcon = MakeImageIcon(ToNative(bitmap));
-    painter.drawComplexControl(QStyle::CC_ComboBox, option);
-    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    if (currentIndex() >= 0 && m_images.GetImageCount() > 0) {
+        const CBitmap bitmap = m_images.Get(currentData(kSelectedImageRole).toInt());
+        option->currentIcon = MakeImageIcon(ToNative(bitmap));
+    }
+    option->currentText =
+        fontMetrics().elidedText(option->currentText, Qt::ElideRight, RoomForText(*option));
+}
+
+int CComboWidget::RoomForText(const QStyleOptionComboBox& option) const
+{
+    // What the style keeps free on both sides of the text, and behind a picture.
+    constexpr int kMargins = 2;
+    constexpr int kIconGap = 4;
+    const int icon = option.currentIcon.isNull() ? 0 : option.iconSize.width() + kIconGap;
+    return style()
+               ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+               .width() -
+           icon - kMargins;
+}
+
+bool CComboWidget::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        if (fontMetrics().horizontalAdvance(currentText()) > RoomForText(option)) {
+            TellWholeText(*static_cast<QHelpEvent*>(event), *this, currentText());
+            return true;
+        }
+    }
+    return QComboBox::event(event);
 }

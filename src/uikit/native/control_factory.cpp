@@ -7,7 +7,6 @@
 #include "uikit/native/tree_widget.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -68,7 +67,7 @@ QWidget* MakeCheckButton(const ControlTemplate& control, QWidget& parent)
 
 QWidget* MakeEdit(const ControlTemplate& control, QWidget& parent)
 {
-    auto* edit = new QLineEdit(&parent);
+    auto* edit = new CEditWidget(&parent);
     edit->setReadOnly((control.style & styleReadOnly) != 0);
     if (edit->isReadOnly()) {
         QPalette colors = edit->palette();

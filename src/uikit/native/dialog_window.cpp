@@ -144,7 +144,8 @@ void CDialogWindow::Fill(const DialogTemplate& dialogTemplate)
         return MapUnits({control.x, control.y, control.x + control.cx, control.y + control.cy});
     };
     std::vector<QWidget*> widgets;
-    double width = m_baseUnits.width();
+    const int title = m_caption->WidthForTitle() - 2 * Border();
+    double width = std::max(m_baseUnits.width(), 4.0 * title / dialogTemplate.cx);
     for (const ControlTemplate& control : dialogTemplate.controls) {
         widgets.push_back(Add(control, place(control)));
         width = std::max(width, BaseWidthForCaption(control, *widgets.back()));

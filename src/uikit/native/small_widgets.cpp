@@ -1,12 +1,13 @@
 #include "uikit/native/small_widgets.h"
 
+#include "uikit/native/whole_text.h"
+
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QTextDocument>
+#include <QStyleOptionFrame>
 #include <QToolButton>
-#include <QToolTip>
 
 namespace {
 
@@ -89,12 +90,29 @@ void CLabelWidget::paintEvent(QPaintEvent* event)
 bool CLabelWidget::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && IsCut()) {
-        // A text that looks like markup would be taken for it, and load what it names.
-        const QString tip = Qt::mightBeRichText(text()) ? Qt::convertFromPlainText(text()) : text();
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
+        TellWholeText(*static_cast<QHelpEvent*>(event), *this, text());
         return true;
     }
     return QLabel::event(event);
+}
+
+bool CEditWidget::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && IsCut()) {
+        TellWholeText(*static_cast<QHelpEvent*>(event), *this, text());
+        return true;
+    }
+    return QLineEdit::event(event);
+}
+
+bool CEditWidget::IsCut() const
+{
+    /// What an edit keeps free on each side of its text.
+    constexpr int kMargin = 2;
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+    return fontMetrics().horizontalAdvance(text()) > inside.width() - 2 * kMargin;
 }
 
 CGroupWidget::CGroupWidget(QWidget* parent) : QGroupBox(parent)

@@ -2,6 +2,7 @@
 
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QWidget>
 
 #include <vector>
@@ -26,6 +27,21 @@ private:
     void PaintColumns();
 
     std::vector<int> m_columns;
+};
+
+/// An edit that tells as its tooltip the whole of a text that it cannot show.
+class CEditWidget : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    bool IsCut() const;
 };
 
 /// A frame whose title stands in its top line.

@@ -1,6 +1,7 @@
 #include "dialogs/resizing_dialog.h"
 #include "module/radsel_app.h"
 #include "tests/dialog_support/dialog_driver.h"
+#include "tests/look/cut_texts.h"
 #include "tests/support/message_log.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
@@ -8,14 +9,15 @@
 #include "uikit/application.h"
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
+#include "uikit/native/caption_bar.h"
 #include "uikit/native/dialog_window.h"
 
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QFontDatabase>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QStyleOptionButton>
 #include <QTest>
 
 #include <algorithm>
@@ -64,50 +66,22 @@ std::vector<Part> PartsOf(const CDialog& dialog)
     return parts;
 }
 
-/// The area that a control has for its caption.
-QSize RoomForCaption(const Part& part)
+/// Texts that the dialog put there are data, which may be shortened where the whole is told.
+void CheckTexts(const CDialog& dialog, const std::vector<Part>& parts, Complaints& complaints)
 {
-    constexpr int kTitleEnds = 22;
-    QStyleOptionButton option;
-    option.initFrom(part.widget);
-    const auto inside = [&](QStyle::SubElement element) {
-        return part.widget->style()->subElementRect(element, &option, part.widget).size();
-    };
-    switch (part.control.kind) {
-    case ControlKind::button:
-    case ControlKind::defaultButton:
-        return inside(QStyle::SE_PushButtonContents);
-    case ControlKind::checkBox:
-        return inside(QStyle::SE_CheckBoxContents);
-    case ControlKind::radioButton:
-        return inside(QStyle::SE_RadioButtonContents);
-    case ControlKind::groupBox:
-        return part.place.size() - QSize(kTitleEnds, 0);
-    default:
-        return part.widget->contentsRect().size();
+    const CDialogWindow& window = *WindowOf(dialog);
+    for (const CutText& cut : FindCutTexts(window.Client())) {
+        const auto part = std::ranges::find(parts, cut.widget, &Part::widget);
+        const bool isCaption = part != parts.end() && cut.text == ToNative(part->control.caption);
+        if (isCaption || !cut.isTold) {
+            complaints.push_back("does not fit: " + std::to_string(GetControlId(*cut.widget)) +
+                                 " \"" + cut.text.toStdString() + '"');
+        }
     }
-}
-
-/// Texts that the dialog put there are data, which may be shortened.
-void CheckCaptions(const std::vector<Part>& parts, Complaints& complaints)
-{
-    for (const Part& part : parts) {
-        CWnd handle;
-        CNativeAccess::Attach(handle, part.widget);
-        const CString caption = part.control.caption;
-        if (caption.empty() || handle.GetWindowText() != caption) {
-            continue;
-        }
-        const QSize needed =
-            part.widget->fontMetrics().size(Qt::TextShowMnemonic, ToNative(caption));
-        const QSize room = RoomForCaption(part);
-        // A check box without any room for its caption has its words in the controls around it.
-        if (part.control.kind == ControlKind::checkBox && room.width() <= 0) {
-            continue;
-        }
-        if (needed.width() > room.width() || needed.height() > room.height()) {
-            complaints.push_back("caption does not fit: " + Name(part));
-        }
+    const CCaptionBar& caption = window.Caption();
+    if (caption.fontMetrics().horizontalAdvance(window.windowTitle()) >
+        caption.TitleArea().width()) {
+        complaints.push_back("the title does not fit");
     }
 }
 
@@ -318,7 +292,7 @@ void CheckEnlarged(CDialog& dialog, const std::vector<Followers>& rules, Complai
             }
         }
     }
-    CheckCaptions(after, complaints);
+    CheckTexts(dialog, after, complaints);
     CheckPlaces(dialog, after, complaints);
 }
 
@@ -345,7 +319,7 @@ Complaints Check(CDialog& dialog, const SizingRules& rules)
 {
     const std::vector<Part> parts = PartsOf(dialog);
     Complaints complaints;
-    CheckCaptions(parts, complaints);
+    CheckTexts(dialog, parts, complaints);
     CheckPlaces(dialog, parts, complaints);
     CheckKeyboard(dialog, parts, complaints);
     CheckSizing(dialog, rules, complaints);
@@ -406,7 +380,7 @@ protected:
               for (const int id : m_presses) {
                   CDialogUser(dialog).Click(id);
               }
-              m_complaints = Check(dialog, m_sizingRules);
+              m_complaints = Check(dialog);
               dialog.EndDialog(kIdCancel);
           }))
     {
@@ -422,6 +396,28 @@ protected:
         SetDialogFontSize(8);
     }
 
+    virtual Complaints Check(CDialog& dialog) { return ::Check(dialog, m_sizingRules); }
+
+    /// Opens every dialog with sample data, and expects no complaint of any.
+    void LookAtAll()
+    {
+        const CTempFolder workplace;
+        const CSettingOverride valves(kSettingVEDir, L"");
+        const CSettingOverride catalogues(kSettingHKDir, L"");
+        const CSettingOverride root(kSettingServerPath, L"");
+        const CSettingOverride local(kSettingLocalPath, L"");
+        const std::vector<GalleryEntry> gallery = DialogGallery(RADSEL_DATA_DIR);
+        // Opening and cancelling is not to touch the sample data.
+        OverrideHostSetting(kSettingLocalPath, workplace.Path());
+        for (const GalleryEntry& entry : gallery) {
+            const int opened = m_opened;
+            m_presses = entry.presses;
+            entry.open();
+            EXPECT_EQ(m_opened, opened + 1) << entry.name;
+            EXPECT_EQ(m_complaints, Complaints{}) << entry.name;
+        }
+    }
+
     CMessageLog m_messages;
     Complaints m_complaints;
     SizingRules m_sizingRules = kSizingRules;
@@ -433,21 +429,7 @@ protected:
 
 TEST_P(AllDialogs, FitTheirCaptionsWorkByKeyboardAndFollowTheirSize)
 {
-    const CTempFolder workplace;
-    const CSettingOverride valves(kSettingVEDir, L"");
-    const CSettingOverride catalogues(kSettingHKDir, L"");
-    const CSettingOverride root(kSettingServerPath, L"");
-    const CSettingOverride local(kSettingLocalPath, L"");
-    const std::vector<GalleryEntry> gallery = DialogGallery(RADSEL_DATA_DIR);
-    // Opening and cancelling is not to touch the sample data.
-    OverrideHostSetting(kSettingLocalPath, workplace.Path());
-    for (const GalleryEntry& entry : gallery) {
-        const int opened = m_opened;
-        m_presses = entry.presses;
-        entry.open();
-        EXPECT_EQ(m_opened, opened + 1) << entry.name;
-        EXPECT_EQ(m_complaints, Complaints{}) << entry.name;
-    }
+    LookAtAll();
 }
 
 TEST_P(AllDialogs, FaultsAreFound)
@@ -475,9 +457,9 @@ TEST_P(AllDialogs, FaultsAreFound)
     };
     CNarrowed(dialog, {10, 11}).DoModal();
     EXPECT_EQ(m_complaints, (Complaints{
-                                "7002: caption does not fit: 10 \"Una didascalia troppo lunga\"",
-                                "7002: caption does not fit: 11 \"Un pulsante troppo lungo\"",
-                                "7002: caption does not fit: 12 \"Bassa\"",
+                                "7002: does not fit: 10 \"Una didascalia troppo lunga\"",
+                                "7002: does not fit: 11 \"Un pulsante troppo lungo\"",
+                                "7002: does not fit: 12 \"Bassa\"",
                                 "7002: overlap: 20 \"Cornice\" and 21 \"\"",
                                 "7002: overlap: 20 \"Cornice\" and 22 \"\"",
                                 "7002: outside: 2 \"No\"",
@@ -545,5 +527,42 @@ TEST_P(AllDialogs, LostAnchorsAreFound)
 INSTANTIATE_TEST_SUITE_P(Fonts, AllDialogs,
                          ::testing::Values(DialogFont{L"Tahoma", 8}, DialogFont{L"Tahoma", 12},
                                            DialogFont{L"DejaVu Sans Mono", 9}));
+
+/// Looks at nothing but texts, in many fonts.
+class DialogTexts : public AllDialogs
+{
+protected:
+    Complaints Check(CDialog& dialog) override
+    {
+        Complaints complaints;
+        CheckTexts(dialog, PartsOf(dialog), complaints);
+        for (const CutText& cut : FindCutListItems(WindowOf(dialog)->Client())) {
+            complaints.push_back("cut in its list: " + cut.text.toStdString());
+        }
+        return complaints;
+    }
+};
+
+TEST_P(DialogTexts, AreNowhereCut)
+{
+    ASSERT_TRUE(QFontDatabase::families().contains(ToNative(GetParam().face)));
+    LookAtAll();
+}
+
+/// From narrow to wide. More dots to the inch come from the environment, for other runs.
+const DialogFont kFontsOfManyWidths[] = {
+    {L"DejaVu Serif Condensed", 8},
+    {L"DejaVu Serif Condensed", 11},
+    {L"DejaVu Sans Condensed", 9},
+    {L"DejaVu Sans Condensed", 13},
+    {L"DejaVu Serif", 9},
+    {L"DejaVu Serif", 13},
+    {L"DejaVu Sans", 8},
+    {L"DejaVu Sans", 11},
+    {L"DejaVu Sans Mono", 9},
+    {L"DejaVu Sans Mono", 13},
+};
+
+INSTANTIATE_TEST_SUITE_P(Fonts, DialogTexts, ::testing::ValuesIn(kFontsOfManyWidths));
 
 } // namespace
