@@ -50,6 +50,8 @@ enum ControlStyle : unsigned
     styleNoTabStop = 256,
     /// A canvas that shows its picture pale while it is disabled. Others show it unchanged.
     stylePales = 512,
+    /// A canvas for drawings in dark ink, light even in a dialog of dark colours.
+    stylePaper = 1024,
 };
 
 /// Id of every control that is only there to be seen, such as a caption.

@@ -79,6 +79,12 @@ QColor InkOf(Coverage coverage)
     return {104, 112, 122};
 }
 
+QColor InkOn(const QColor& ground, Coverage coverage)
+{
+    constexpr int kDark = 128;
+    return ground.lightness() < kDark ? FillOf(coverage) : InkOf(coverage);
+}
+
 QString TextOf(Coverage coverage)
 {
     QString text = ToQt(GetCoverageText(coverage));

@@ -17,6 +17,9 @@ QColor FillOf(Coverage coverage);
 /// Strong form of the same colour, for signs and figures on that fill.
 QColor InkOf(Coverage coverage);
 
+/// The same on another ground, such as that of a list: a light one on a dark ground.
+QColor InkOn(const QColor& ground, Coverage coverage);
+
 /// In words, as lists and tool tips have it.
 QString TextOf(Coverage coverage);
 

@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QPalette>
 #include <QSize>
 
 namespace workbench {
@@ -118,8 +119,9 @@ QVariant CRoomRows::data(const QModelIndex& index, int role) const
                    ? QVariant(Qt::AlignRight | Qt::AlignVCenter)
                    : QVariant();
     case Qt::ForegroundRole:
-        return IsOpen(row.coverage) || IsMissized(row.coverage) ? QVariant(InkOf(row.coverage))
-                                                                : QVariant();
+        return IsOpen(row.coverage) || IsMissized(row.coverage)
+                   ? QVariant(InkOn(QGuiApplication::palette().color(QPalette::Base), row.coverage))
+                   : QVariant();
     default:
         return {};
     }

@@ -35,7 +35,7 @@ const DialogTemplate& VentTemplate()
             {idWand, edit, L"", 76, 106, 34, 13, styleRight},
             {idWandEinheit, label, L"mm", 113, 108, 14, 9},
 
-            {idBild, canvas, L"", 146, 29, 98, 57, styleSunken | stylePales},
+            {idBild, canvas, L"", 146, 29, 98, 57, styleSunken | stylePales | stylePaper},
             {idErsterPreset, radioButton, L"", 135, 35, 10, 10, styleGroup},
             {idErsterPreset + 1, radioButton, L"", 135, 70, 10, 10},
             {idErsterPreset + 2, radioButton, L"", 154, 18, 10, 10},

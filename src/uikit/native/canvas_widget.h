@@ -23,6 +23,9 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    QColor Back() const;
+
     bool m_pales;
+    bool m_paper;
     QImage m_image;
 };

@@ -1,6 +1,7 @@
 #include "uikit/native/caption_bar.h"
 
 #include "uikit/application.h"
+#include "uikit/native/contrast.h"
 #include "uikit/native/dialog_window.h"
 
 #include <QContextMenuEvent>
@@ -32,9 +33,10 @@ protected:
         const bool closes = m_command == systemClose;
         QColor ink = palette().color(QPalette::WindowText);
         if (underMouse()) {
-            painter.fillRect(rect(), closes ? QColor(0xC4, 0x2B, 0x1C)
-                                            : palette().color(QPalette::Midlight));
-            ink = closes ? QColor(Qt::white) : ink;
+            const QColor back =
+                closes ? QColor(0xC4, 0x2B, 0x1C) : palette().color(QPalette::Midlight);
+            painter.fillRect(rect(), back);
+            ink = closes ? QColor(Qt::white) : ReadableInk(ink, back);
         }
         constexpr int kHalf = 4;
         const QPointF c = QRectF(rect()).center();
@@ -56,6 +58,14 @@ protected:
 private:
     unsigned m_command;
 };
+
+/// Dark palettes made by hand may leave the light role as light as it was.
+QColor BackOf(const QPalette& palette)
+{
+    const QColor light = palette.color(QPalette::Light);
+    const QColor ink = palette.color(QPalette::Active, QPalette::WindowText);
+    return IsReadable(ink, light) ? light : palette.color(QPalette::Window);
+}
 
 } // namespace
 
@@ -98,16 +108,6 @@ int CCaptionBar::ButtonWidth()
     return Height() * 5 / 4;
 }
 
-void CCaptionBar::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    int right = width();
-    for (QToolButton* button : m_buttons) {
-        right -= ButtonWidth();
-        button->setGeometry(right, 0, ButtonWidth(), height());
-    }
-}
-
 /// The help icon stands beside the buttons.
 int CCaptionBar::WidthBesideTitle() const
 {
@@ -124,11 +124,21 @@ QRect CCaptionBar::TitleArea() const
     return {kTitleIndent, 0, width() - WidthBesideTitle(), height()};
 }
 
+void CCaptionBar::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    int right = width();
+    for (QToolButton* button : m_buttons) {
+        right -= ButtonWidth();
+        button->setGeometry(right, 0, ButtonWidth(), height());
+    }
+}
+
 void CCaptionBar::paintEvent(QPaintEvent* /*event*/)
 {
     {
         QPainter painter(this);
-        painter.fillRect(rect(), palette().color(QPalette::Light));
+        painter.fillRect(rect(), BackOf(palette()));
         painter.setPen(palette().color(QPalette::Mid));
         painter.drawLine(0, height() - 1, width(), height() - 1);
         painter.setPen(

@@ -3,6 +3,7 @@
 #include "uikit/native/access.h"
 #include "uikit/native/canvas_widget.h"
 #include "uikit/native/combo_widget.h"
+#include "uikit/native/contrast.h"
 #include "uikit/native/small_widgets.h"
 
 #include <QAbstractButton>
@@ -49,7 +50,7 @@ void SetColor(QWidget& widget, QPalette::ColorRole role, const std::optional<COL
 {
     if (color) {
         QPalette colors = widget.palette();
-        colors.setColor(role, ToNative(*color));
+        SetBack(colors, role, ToNative(*color));
         widget.setPalette(colors);
     }
 }
@@ -72,6 +73,9 @@ void ApplyControlColors(QWidget& widget, const std::function<ControlColors(Color
             auto* style = new CTextBackgroundStyle(ToNative(*colors.textBackground));
             style->setParent(edit);
             edit->setStyle(style);
+            QPalette inks = edit->palette();
+            SetInkFor(inks, QPalette::Base, ToNative(*colors.textBackground));
+            edit->setPalette(inks);
         }
     } else if (auto* combo = qobject_cast<CComboWidget*>(&widget)) {
         ColorList(*combo, choose(ColorKind::listBox));

@@ -7,6 +7,7 @@
 #include "uikit/native/caption_room.h"
 #include "uikit/native/colors.h"
 #include "uikit/native/combo_widget.h"
+#include "uikit/native/contrast.h"
 #include "uikit/native/control_factory.h"
 #include "uikit/native/small_widgets.h"
 #include "uikit/native/surface.h"
@@ -271,7 +272,7 @@ void CDialogWindow::ApplyColors()
         const ControlColors dialog = m_dialog.OnCtlColor(ColorKind::dialog);
         if (dialog.brush) {
             QPalette colors = m_client->palette();
-            colors.setColor(QPalette::Window, ToNative(*dialog.brush));
+            SetBack(colors, QPalette::Window, ToNative(*dialog.brush));
             m_client->setPalette(colors);
         }
         for (const auto& [id, widget] : m_controls) {

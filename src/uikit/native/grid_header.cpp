@@ -1,6 +1,6 @@
 #include "uikit/native/grid_header.h"
 
-#include "uikit/native/access.h"
+#include "uikit/native/contrast.h"
 #include "uikit/native/grid_view.h"
 
 #include <QPainter>
@@ -28,7 +28,7 @@ void CGridHeader::paintEvent(QPaintEvent* /*event*/)
         const QRect rect(sectionViewportPosition(column), 0, sectionSize(column), bottom);
         painter.setPen(between);
         painter.drawLine(rect.right(), rect.top() + 4, rect.right(), rect.bottom() - 4);
-        painter.setPen(palette().color(QPalette::Text));
+        painter.setPen(ReadableInk(palette().color(QPalette::Text), back));
         m_view.Paint().DrawCell(painter, rect.adjusted(0, 0, -1, 0), column, -1);
     }
     painter.setPen(back.darker(140));

@@ -1,6 +1,7 @@
 #include "uikit/native/grid_paint.h"
 
 #include "uikit/native/access.h"
+#include "uikit/native/contrast.h"
 
 #include <QtMath>
 
@@ -174,7 +175,7 @@ void CGridPaint::paint(QPainter* painter, const QStyleOptionViewItem& option,
     if (!current) {
         painter->drawLine(rect.topRight(), rect.bottomRight());
     }
-    painter->setPen(
-        colors.color(QPalette::Active, strong ? QPalette::HighlightedText : QPalette::Text));
+    painter->setPen(strong ? colors.color(QPalette::Active, QPalette::HighlightedText)
+                           : ReadableInk(colors.color(QPalette::Active, QPalette::Text), back));
     DrawCell(*painter, rect.adjusted(0, 0, -1, -1), index.column(), index.row());
 }
