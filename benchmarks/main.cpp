@@ -4,6 +4,7 @@
 
 #include "benchmarks/ratio_table.h"
 #include "benchmarks/valve_file.h"
+#include "tools/pretended_screen.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -87,6 +88,7 @@ int main(int argc, char** argv)
 
     // Dialogs are painted without a screen, at the size of their templates.
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    const CPretendedScreen screen(kAmple, kAmple);
 
     std::vector<std::string> arguments(argv, argv + argc);
     arguments.insert(arguments.begin() + 1, "--benchmark_min_time=0.1");

@@ -8,6 +8,7 @@
 #include "reference_host/prefs/host_settings.h"
 #include "tools/dialog_gallery.h"
 #include "tools/picture_compare.h"
+#include "tools/pretended_screen.h"
 #include "uikit/application.h"
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
@@ -123,6 +124,7 @@ int main(int argc, char** argv)
     const QDir folder(QDir(argv[argc - 1]).absolutePath());
     const QTemporaryDir settings;
     const std::string data = EnterNeutralPlace(settings, argv[argc - 2]).toStdString();
+    const CPretendedScreen screen(kAmple, kAmple);
     EnsureApplication();
     SetDialogFontSize(8);
     Pictures pictures;

@@ -67,7 +67,7 @@ void CBrushedDialog::OnNcPaint(CDC& dc)
     const int knoepfe =
         2 + ((rahmen & frameMaximizeBox) != 0 ? 1 : 0) + ((rahmen & frameMinimizeBox) != 0 ? 1 : 0);
     const CRect fenster = GetWindowRect();
-    const int kante = fenster.Width() - knoepfe * GetCaptionButtonWidth();
+    const int kante = dc.GetSize().cx - knoepfe * GetCaptionButtonWidth();
     m_rcHilfe =
         CRect{kante - kHilfeBreite, 0, kante, kHilfeHoehe}.MovedBy(fenster.left, fenster.top);
     dc.DrawBitmap({kante - kIconGroesse, kIconOben},

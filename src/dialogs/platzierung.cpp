@@ -47,5 +47,5 @@ void PlatzierungLaden(CDialog& dialog, const CString& schluessel, int* alpha, bo
 
 void PlatzierungSpeichern(const CDialog& dialog, const CString& schluessel, const int* alpha)
 {
-    SchreibePlatzierung(schluessel, dialog.GetWindowRect(), alpha != nullptr ? *alpha : kDeckend);
+    SchreibePlatzierung(schluessel, dialog.GetKeptRect(), alpha != nullptr ? *alpha : kDeckend);
 }

@@ -69,7 +69,7 @@ int CDialog::DoModal()
     CDialogWindow* window = WindowOf(*this);
     if (!m_ended) {
         window->ApplyColors();
-        window->ApplyMinMax(window->size());
+        window->ApplyMinMax(window->WholeSize());
         if (focusFirst) {
             window->FocusFirst();
         }
@@ -234,6 +234,13 @@ void CDialog::PostNextControl()
         QMetaObject::invokeMethod(
             window, [window] { window->NextControl(); }, Qt::QueuedConnection);
     }
+}
+
+CRect CDialog::GetKeptRect() const
+{
+    const CDialogWindow* window = WindowOf(*this);
+    return window != nullptr ? FromNative(QRect(window->KeptPlace(), window->WholeSize()))
+                             : CRect();
 }
 
 int CDialog::GetFocusId() const

@@ -125,6 +125,10 @@ public:
     /// Rectangle in pixels for one in dialog units.
     CRect MapDialogRect(const CRect& units) const;
 
+    /// The rectangle of the window as the dialog and the user have placed it: a program that opens
+    /// dialogs beside what they change may have moved it as it showed, for this time.
+    CRect GetKeptRect() const;
+
     bool IsResizable() const { return (GetTemplate().frame & frameResizable) != 0; }
 
 protected:

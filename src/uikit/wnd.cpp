@@ -101,8 +101,12 @@ CRect CWnd::GetClientRect() const
 CRect CWnd::GetWindowRect() const
 {
     const QWidget* widget = CNativeAccess::Widget(*this);
-    return widget != nullptr ? FromNative(QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size()))
-                             : CRect();
+    if (widget == nullptr) {
+        return {};
+    }
+    const auto* dialog = qobject_cast<const CDialogWindow*>(widget);
+    const QSize size = dialog != nullptr ? dialog->WholeSize() : widget->size();
+    return FromNative(QRect(widget->mapToGlobal(QPoint(0, 0)), size));
 }
 
 CRect CWnd::GetPlace() const
@@ -118,9 +122,10 @@ void CWnd::MoveWindow(const CRect& rect)
         return;
     }
     if (auto* dialog = qobject_cast<CDialogWindow*>(widget)) {
-        dialog->ApplyMinMax(ToNative(rect).size());
+        dialog->Place(ToNative(rect));
+    } else {
+        widget->setGeometry(ToNative(rect));
     }
-    widget->setGeometry(ToNative(rect));
 }
 
 void CWnd::SetFocus()

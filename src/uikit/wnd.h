@@ -36,7 +36,7 @@ public:
     /// Area inside the frame, its left top corner being 0, 0. For a dialog that is the area below
     /// the caption bar.
     CRect GetClientRect() const;
-    /// The whole window on the screen.
+    /// The whole window on the screen, of a dialog with what a small screen scrolls to.
     CRect GetWindowRect() const;
     /// Place of a control in its dialog's client area.
     CRect GetPlace() const;

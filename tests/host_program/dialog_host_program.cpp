@@ -12,6 +12,7 @@
 #include "host/host_prefs.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -23,6 +24,7 @@
 #include <functional>
 #include <iostream>
 #include <memory>
+#include <set>
 #include <sstream>
 #include <string>
 
@@ -188,6 +190,21 @@ void WhenModal(const std::function<void(QWidget&)>& look)
     });
 }
 
+/// Follows Tab around the window; false if a control that it comes to is not in sight.
+bool AllCanBeReached(QWidget& window)
+{
+    std::set<const QWidget*> visited;
+    for (QWidget* focus = window.focusWidget(); focus != nullptr && visited.insert(focus).second;
+         focus = window.focusWidget()) {
+        if (focus->visibleRegion().isEmpty()) {
+            return false;
+        }
+        QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+        QApplication::sendEvent(focus, &tab);
+    }
+    return visited.size() > 1;
+}
+
 /// Where a message goes is decided when it comes, whatever was there when the library was loaded.
 void RunMessages(int& argc, char** argv)
 {
@@ -240,8 +257,9 @@ void RunOnScreen(int& argc, char** argv)
             // 12 pixels at 96 to the inch.
             Expect(std::fabs(font.pointSizeF() - (inMessageFont ? 9 : 8)) < 0.01,
                    std::string("size, ") + call.name);
-            Expect(inMessageFont || (window.width() <= 1024 && window.height() <= 768),
-                   std::string("fits 1024 x 768, ") + call.name);
+            Expect(QRect(QPoint(), screen).contains(window.geometry()),
+                   std::string("fits the screen, ") + call.name);
+            Expect(AllCanBeReached(window), std::string("shows what Tab comes to, ") + call.name);
         });
         Expect(call.isCancelled() && opened == 1, std::string("opens, ") + call.name);
     }

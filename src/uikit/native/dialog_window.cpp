@@ -24,6 +24,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QWindow>
 
 #include <algorithm>
@@ -54,6 +55,15 @@ bool LosesFocus(const QWidget& control, Qt::FocusReason reason)
     return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason &&
            (qobject_cast<const QLineEdit*>(&control) != nullptr ||
             qobject_cast<const QComboBox*>(&control) != nullptr);
+}
+
+/// Bars that an area needs to show what is larger than it: their width and height, or 0.
+QSize BarsFor(const QSize& area, const QSize& content, int bar)
+{
+    const bool across = content.width() > area.width();
+    const bool down = content.height() > area.height() - (across ? bar : 0);
+    const bool acrossToo = content.width() > area.width() - (down ? bar : 0);
+    return {down ? bar : 0, acrossToo ? bar : 0};
 }
 
 bool IsClick(const QWidget& control, const QMouseEvent& release)
@@ -105,10 +115,16 @@ CDialogWindow::CDialogWindow(CDialog& dialog, QWidget* owner)
     setFont(GetDialogFont());
     m_caption = new CCaptionBar(*this, dialog.GetTemplate().frame);
     m_client = new CClientArea(*this);
+    m_scroll = new QScrollArea(this);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->viewport()->setAutoFillBackground(false);
+    m_scroll->setWidget(m_client);
+    m_client->setAutoFillBackground(false);
     setMouseTracking(dialog.IsResizable());
     // The pointer of the sizing border would stay while the mouse is inside.
     m_caption->setCursor(Qt::ArrowCursor);
-    m_client->setCursor(Qt::ArrowCursor);
+    m_scroll->setCursor(Qt::ArrowCursor);
 }
 
 CDialogWindow::~CDialogWindow() = default;
@@ -287,14 +303,53 @@ void CDialogWindow::ApplyColors()
 void CDialogWindow::ApplyMinMax(const QSize& size)
 {
     if (!m_dialog.IsResizable()) {
-        setFixedSize(size);
+        m_least = size;
+        setFixedSize(FitToScreen(size));
         return;
     }
     MinMaxInfo info{{0, 0}, {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}, {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}};
     m_dialog.Guard([&] { m_dialog.OnMinMaxInfo(info); });
-    setMinimumSize(info.minTrackSize.cx, info.minTrackSize.cy);
-    setMaximumSize(qMin(info.maxTrackSize.cx, info.maxSize.cx),
-                   qMin(info.maxTrackSize.cy, info.maxSize.cy));
+    m_least = {info.minTrackSize.cx, info.minTrackSize.cy};
+    const QSize least = FitToScreen(m_least);
+    // Bars stand beside what they scroll.
+    const QSize bars = (least - m_least).expandedTo({0, 0});
+    setMinimumSize(least);
+    setMaximumSize(
+        qMin(qMin(info.maxTrackSize.cx, info.maxSize.cx) + bars.width(), QWIDGETSIZE_MAX),
+        qMin(qMin(info.maxTrackSize.cy, info.maxSize.cy) + bars.height(), QWIDGETSIZE_MAX));
+}
+
+void CDialogWindow::Place(const QRect& whole)
+{
+    if (whole.topLeft() != pos()) {
+        m_ownPlace = whole.topLeft();
+    }
+    ApplyMinMax(whole.size());
+    m_asked = whole.size();
+    setGeometry(QRect(whole.topLeft(), FitToScreen(whole.size())));
+    LayOut();
+}
+
+QSize CDialogWindow::FrameSize() const
+{
+    return {2 * Border(), CCaptionBar::Height() + Border()};
+}
+
+QSize CDialogWindow::WholeSize() const
+{
+    return m_client->size() + FrameSize();
+}
+
+QPoint CDialogWindow::KeptPlace() const
+{
+    return pos() == m_shownPlace ? m_ownPlace : pos();
+}
+
+QSize CDialogWindow::FitToScreen(QSize whole) const
+{
+    const QSize room = screen()->availableSize();
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, m_scroll);
+    return (whole + BarsFor(room, whole, bar)).boundedTo(room);
 }
 
 void CDialogWindow::FocusFirst()
@@ -343,12 +398,17 @@ void CDialogWindow::DefaultPlace()
     const QRect around = owner != nullptr && owner->isVisible()
                              ? owner->frameGeometry()
                              : QGuiApplication::primaryScreen()->availableGeometry();
-    move(around.center() - rect().center());
+    const QRect room = screen()->availableGeometry();
+    const QPoint corner = around.center() - rect().center();
+    move(qBound(room.left(), corner.x(), qMax(room.left(), room.right() + 1 - width())),
+         qBound(room.top(), corner.y(), qMax(room.top(), room.bottom() + 1 - height())));
+    m_ownPlace = pos();
 }
 
 void CDialogWindow::SetClientSize(const QSize& size)
 {
-    resize(size.width() + 2 * Border(), size.height() + CCaptionBar::Height() + Border());
+    m_least = size + FrameSize();
+    resize(FitToScreen(m_least));
     LayOut();
 }
 
@@ -398,10 +458,16 @@ void CDialogWindow::Leave()
 
 void CDialogWindow::LayOut()
 {
+    if (size() != FitToScreen(m_asked)) {
+        m_asked = {};
+    }
     const int border = Border();
     m_caption->setGeometry(0, 0, width(), CCaptionBar::Height());
-    m_client->setGeometry(border, CCaptionBar::Height(), width() - 2 * border,
-                          height() - CCaptionBar::Height() - border);
+    const QSize area = size() - FrameSize();
+    m_scroll->setGeometry(QRect(QPoint(border, CCaptionBar::Height()), area));
+    const QSize least = m_least.expandedTo(m_asked) - FrameSize();
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, m_scroll);
+    m_client->resize((area - BarsFor(area, least, bar)).expandedTo(least));
 }
 
 void CDialogWindow::resizeEvent(QResizeEvent* event)
@@ -474,6 +540,9 @@ bool CDialogWindow::eventFilter(QObject* object, QEvent* event)
             return true;
         }
         break;
+    case QEvent::FocusIn:
+        m_scroll->ensureWidgetVisible(static_cast<QWidget*>(object), 0, 0);
+        break;
     case QEvent::FocusOut:
         if (LosesFocus(control, static_cast<QFocusEvent*>(event)->reason())) {
             Tell(GetControlId(control), ControlEvent::focusLost);
@@ -534,7 +603,7 @@ Qt::Edges CDialogWindow::EdgesAt(const QPoint& place) const
 
 void CDialogWindow::mousePressEvent(QMouseEvent* event)
 {
-    ApplyMinMax(size());
+    ApplyMinMax(WholeSize());
     const Qt::Edges edges = EdgesAt(event->pos());
     if (event->button() == Qt::LeftButton && edges) {
         windowHandle()->startSystemResize(edges);
@@ -543,7 +612,7 @@ void CDialogWindow::mousePressEvent(QMouseEvent* event)
 
 void CDialogWindow::mouseMoveEvent(QMouseEvent* event)
 {
-    ApplyMinMax(size());
+    ApplyMinMax(WholeSize());
     const Qt::Edges edges = EdgesAt(event->pos());
     const bool falling =
         edges == (Qt::LeftEdge | Qt::TopEdge) || edges == (Qt::RightEdge | Qt::BottomEdge);
@@ -560,6 +629,14 @@ void CDialogWindow::leaveEvent(QEvent* event)
 {
     QWidget::leaveEvent(event);
     unsetCursor();
+}
+
+void CDialogWindow::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!m_shownPlace) {
+        m_shownPlace = pos();
+    }
 }
 
 void CDialogWindow::changeEvent(QEvent* event)

@@ -9,11 +9,13 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <vector>
 
 class CCaptionBar;
 class QButtonGroup;
+class QScrollArea;
 
 /// The system's own entries of the system menu.
 enum SystemCommand : unsigned
@@ -26,6 +28,9 @@ enum SystemCommand : unsigned
 
 /// The toolkit's side of a dialog: frame, caption bar and client area, and the way of their events
 /// into the dialog's handlers.
+///
+/// A dialog has the size that it asks for, and its handlers know no other. Where that is more than
+/// the screen has, the window shows a part of it and scroll bars for the rest.
 class CDialogWindow : public QWidget
 {
     Q_OBJECT
@@ -52,6 +57,13 @@ public:
     /// Applies the least and largest size that the dialog allows; one that cannot be resized gets
     /// exactly `size`.
     void ApplyMinMax(const QSize& size);
+    /// Puts the window there, as large as the screen lets it be.
+    void Place(const QRect& whole);
+    /// Size of the window with all of its client area, whatever the screen shows of it.
+    QSize WholeSize() const;
+    /// Where the window would stand had not the program around it moved it when it showed. A move
+    /// after that is the user's.
+    QPoint KeptPlace() const;
     void FocusFirst();
     void ShowSystemMenu(const QPoint& screen);
     void DefaultPlace();
@@ -78,6 +90,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
@@ -91,13 +104,22 @@ private:
     void LayOut();
     Qt::Edges EdgesAt(const QPoint& place) const;
     int Border() const;
+    QSize FrameSize() const;
+    QSize FitToScreen(QSize whole) const;
 
     CDialog& m_dialog;
     CDialogFontScope m_font;
     /// Average character of the font; all dialog units are parts of it.
     QSizeF m_baseUnits;
     CCaptionBar* m_caption;
+    QScrollArea* m_scroll;
     QWidget* m_client;
+    /// Size of the window below which its client area scrolls.
+    QSize m_least;
+    /// What the dialog has asked for; nothing once the user has sized the window.
+    QSize m_asked;
+    QPoint m_ownPlace;
+    std::optional<QPoint> m_shownPlace;
     std::map<int, QPointer<QWidget>> m_controls;
     /// Controls that tell of clicks because of their style.
     std::set<const QWidget*> m_notifying;

@@ -10,6 +10,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QEvent>
+#include <QWidget>
+
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
@@ -255,6 +259,40 @@ TEST(ArbeitsOrdner, WithNoFolderAtAllThatIsToldOnce)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(AskWithoutFolder(), testing::ExitedWithCode(0), "");
+}
+
+/// A program around the dialogs that has its own mind about where they show.
+class CMover : public QObject
+{
+public:
+    CMover() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        auto* const window = qobject_cast<QWidget*>(object);
+        if (event->type() == QEvent::Show && window != nullptr && window->isModal()) {
+            window->move(600, 400);
+        }
+        return false;
+    }
+};
+
+TEST_F(Platzierung, KeepsWhatTheUserMovesAndNotWhatTheProgramAroundMoves)
+{
+    const CMover mover;
+    CFesterDialog dialog(kFest);
+    m_folder.WriteBytes(kDatei, "CHIAVE|50|99|60|99|255|\n");
+    const auto kept = [&](const std::function<void(QWidget&)>& work) {
+        Open(
+            dialog, [&] { work(*QApplication::activeModalWidget()); }, kIdOk);
+        CRect rect;
+        LesePlatzierung(L"CHIAVE", rect, nullptr);
+        EXPECT_EQ(rect.Width(), dialog.m_resourceSize.cx);
+        return std::pair(rect.left, rect.top);
+    };
+    EXPECT_EQ(kept([](QWidget& window) { EXPECT_EQ(window.pos(), QPoint(600, 400)); }),
+              std::pair(50, 60));
+    EXPECT_EQ(kept([](QWidget& window) { window.move(610, 420); }), std::pair(610, 420));
 }
 
 } // namespace
