@@ -6,6 +6,7 @@ program=$1
 data=$2
 plugins=$3
 deadline=30 # seconds for one thing to happen
+size=1280x1024 # of the screen
 scratch=$(mktemp -d)
 server=
 job=
@@ -46,7 +47,7 @@ await() {
 # ends, the number being taken.
 screen_answers() {
     export DISPLAY=:$((100 + RANDOM % 30000))
-    Xvfb "$DISPLAY" -screen 0 1280x1024x24 -nolisten tcp -noreset >"$scratch/screen.log" 2>&1 &
+    Xvfb "$DISPLAY" -screen 0 "${size}x24" -nolisten tcp -noreset >"$scratch/screen.log" 2>&1 &
     server=$!
     while kill -0 "$server" 2>/dev/null; do
         ! xdotool getmouselocation >/dev/null 2>&1 || return 0

@@ -7,7 +7,7 @@ target_link_libraries(radsel_finder PRIVATE Qt6::Widgets radsel_warnings)
 set_target_properties(radsel_finder PROPERTIES AUTOMOC ON
     LIBRARY_OUTPUT_DIRECTORY ${finder_folder}/generic)
 
-foreach(journey enter_key valve_dialog connection_dialog radiator_dialog workbench)
+foreach(journey enter_key valve_dialog connection_dialog radiator_dialog small_screen workbench)
     add_test(NAME journey_${journey} COMMAND ${CMAKE_CURRENT_LIST_DIR}/${journey}_journey.sh
         $<TARGET_FILE:radsel_workbench> ${PROJECT_SOURCE_DIR}/data ${finder_folder})
     set_tests_properties(journey_${journey} PROPERTIES TIMEOUT 180 ENVIRONMENT

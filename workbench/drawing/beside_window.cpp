@@ -1,9 +1,10 @@
 #include "workbench/drawing/beside_window.h"
 
+#include "workbench/drawing/plan_view.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QScreen>
-#include <QWidget>
 
 #include <algorithm>
 
@@ -13,11 +14,39 @@ namespace {
 
 constexpr int kGap = 12;
 
+/// What a view keeps of its width at least; a plan narrower than that shows nothing.
+constexpr int kLeastView = 160;
+
 } // namespace
 
-CBesideWindow::CBesideWindow(const QWidget& widget) : m_widget(widget)
+CBesideWindow::CBesideWindow(CPlanView& view, const QRectF& inSight)
+    : m_view(view), m_inSight(inSight)
 {
     QCoreApplication::instance()->installEventFilter(this);
+}
+
+CBesideWindow::~CBesideWindow()
+{
+    m_view.KeepFree(0, m_inSight);
+}
+
+/// Left edge of the dialog: right of the view or left of it, or else at the screen's right edge.
+int CBesideWindow::PlaceFor(const QWidget& dialog)
+{
+    const QRect room = dialog.screen()->availableGeometry();
+    const QRect view(m_view.mapToGlobal(QPoint(0, 0)), m_view.size());
+    const int right = view.right() + 1 + kGap;
+    const int left = view.left() - kGap - dialog.width();
+    const int furthest = room.right() + 1 - dialog.width();
+    if (right <= furthest) {
+        return right;
+    }
+    if (left >= room.left()) {
+        return left;
+    }
+    m_view.KeepFree(std::clamp(right - furthest, 0, std::max(view.width() - kLeastView, 0)),
+                    m_inSight);
+    return std::max(furthest, room.left());
 }
 
 bool CBesideWindow::eventFilter(QObject* object, QEvent* event)
@@ -26,11 +55,11 @@ bool CBesideWindow::eventFilter(QObject* object, QEvent* event)
     if (event->type() != QEvent::Show || dialog == nullptr || !dialog->isModal()) {
         return false;
     }
-    const QRect kept(m_widget.mapToGlobal(QPoint(0, 0)), m_widget.size());
-    if (dialog->geometry().intersects(kept)) {
-        // Where the screen is too narrow for both the dialog must stay on it whole.
-        const int furthest = dialog->screen()->availableGeometry().right() - dialog->width();
-        dialog->move(std::min(kept.right() + kGap, furthest), kept.top());
+    const QRect view(m_view.mapToGlobal(QPoint(0, 0)), m_view.size());
+    if (dialog->geometry().intersects(view)) {
+        const QRect room = dialog->screen()->availableGeometry();
+        const int lowest = std::max(room.bottom() + 1 - dialog->height(), room.top());
+        dialog->move(PlaceFor(*dialog), std::clamp(view.top(), room.top(), lowest));
     }
     return false;
 }

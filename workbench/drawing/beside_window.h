@@ -1,23 +1,29 @@
 #pragma once
 
 #include <QObject>
-
-class QWidget;
+#include <QRectF>
 
 namespace workbench {
 
-/// As long as it lives, modal dialogs that would open over a widget open beside it on the right, so
-/// that they do not hide what changes in it.
+class CPlanView;
+
+/// As long as it lives, modal dialogs that would open over a view open beside it, so that they do
+/// not hide what changes in it. Where the screen has no room for both, the view makes some.
 class CBesideWindow : public QObject
 {
 public:
-    /// The widget outlives the object.
-    explicit CBesideWindow(const QWidget& widget);
+    /// `inSight` is what of the plan has to stay in sight, in its metres; nothing if that is empty.
+    /// The view outlives the object.
+    explicit CBesideWindow(CPlanView& view, const QRectF& inSight = {});
+    ~CBesideWindow() override;
 
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    const QWidget& m_widget;
+    int PlaceFor(const QWidget& dialog);
+
+    CPlanView& m_view;
+    QRectF m_inSight;
 };
 
 } // namespace workbench

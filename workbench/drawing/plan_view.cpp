@@ -93,6 +93,14 @@ void CPlanView::PanBy(const QPoint& pixels)
     verticalScrollBar()->setValue(verticalScrollBar()->value() - pixels.y());
 }
 
+void CPlanView::KeepFree(int pixels, const QRectF& inSight)
+{
+    setViewportMargins(0, 0, pixels, 0);
+    if (!m_bFitted && !inSight.isEmpty()) {
+        ensureVisible(inSight);
+    }
+}
+
 bool CPlanView::event(QEvent* event)
 {
     // Otherwise a widget gives the focus away before the scene is asked.

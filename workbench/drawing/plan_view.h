@@ -25,6 +25,10 @@ public:
     /// scales at which a building can be worked on.
     void ZoomAt(const QPoint& position, double factor);
 
+    /// Leaves so many pixels of the window's right side to something that stands before it. A part
+    /// of the plan that is given, in metres, stays in sight.
+    void KeepFree(int pixels, const QRectF& inSight);
+
 protected:
     bool event(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;

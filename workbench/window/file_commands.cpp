@@ -18,6 +18,7 @@
 #include "workbench/schedule/schedule_json.h"
 #include "workbench/schedule/schedule_xlsx.h"
 #include "workbench/schedule/valve_check.h"
+#include "workbench/window/kept_window.h"
 #include "workbench/window/plan_document.h"
 #include "workbench/window/prompts.h"
 #include "workbench/window/recovery_offer.h"
@@ -48,12 +49,16 @@ bool MayExist(const CString& path)
            std::filesystem::file_type::not_found;
 }
 
-/// Path beside the building's file, with another suffix.
+/// Path beside the building's file, or in the folder used last, with another suffix.
 CString Proposal(const CPlanDocument& document, const CString& suffix)
 {
     const CString& path = document.Path();
     const std::size_t dot = path.rfind(L'.');
-    return (path.empty() ? document.Building().strName : path.substr(0, dot)) + suffix;
+    if (!path.empty()) {
+        return path.substr(0, dot) + suffix;
+    }
+    const CString folder = LastFolder();
+    return (folder.empty() ? CString() : folder + L"/") + document.Building().strName + suffix;
 }
 
 /// Shows the wait cursor as long as it lives.
@@ -79,11 +84,13 @@ void CFileCommands::Open()
     if (!MayLeave()) {
         return;
     }
-    const auto path =
-        m_prompts.openFile(&m_window, "Apri edificio", kBuildingFilter, m_document.Path());
+    const CString folder = LastFolder();
+    const auto path = m_prompts.openFile(&m_window, "Apri edificio", kBuildingFilter,
+                                         folder.empty() ? m_document.Path() : folder);
     if (!path) {
         return;
     }
+    KeepFolderOf(*path);
     try {
         OpenOrRecover(*path);
     } catch (const CException& error) {
@@ -169,7 +176,11 @@ std::optional<CString> CFileCommands::AskTarget(const QString& title, const QStr
         path == *typed || !MayExist(path) ||
         m_prompts.ask(&m_window, QString("Il file %1 esiste già. Sostituirlo?").arg(ToQt(path)),
                       "&Sostituisci", "&Annulla", false) == CPrompts::Answer::yes;
-    return replaces ? std::optional(path) : std::nullopt;
+    if (!replaces) {
+        return std::nullopt;
+    }
+    KeepFolderOf(path);
+    return path;
 }
 
 /// Asks if there is something to be asked.

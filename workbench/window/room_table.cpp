@@ -104,6 +104,10 @@ QString CRoomRows::Text(const CRow& row, int column)
 QVariant CRoomRows::data(const QModelIndex& index, int role) const
 {
     const CRow& row = m_rooms[static_cast<std::size_t>(index.row())];
+    // The column of the names gives way to the others.
+    if (role == Qt::ToolTipRole && index.column() == room) {
+        return row.strRoom;
+    }
     switch (role) {
     case Qt::DisplayRole:
         return Text(row, index.column());

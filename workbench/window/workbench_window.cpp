@@ -6,6 +6,7 @@
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/placement.h"
 #include "workbench/window/floor_scene.h"
+#include "workbench/window/kept_window.h"
 #include "workbench/window/plan_drawer.h"
 #include "workbench/window/plan_texts.h"
 #include "workbench/window/room_list.h"
@@ -14,6 +15,7 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTabBar>
@@ -27,7 +29,11 @@ namespace workbench {
 namespace {
 
 constexpr QSize kWindowSize(1240, 800);
+/// What a window system puts around a window, at most.
+constexpr QSize kWindowFrame(16, 48);
 constexpr int kListWidth = 500;
+/// Of the window's width, in percent, where that is a small one.
+constexpr int kListShare = 45;
 constexpr int kMessagesHeight = 120;
 
 } // namespace
@@ -54,7 +60,9 @@ CWorkbenchWindow::CWorkbenchWindow(CPlanDocument& document, CDrawingBlocks block
     m_pView->setObjectName("plan");
     m_pView->setFrameShape(QFrame::NoFrame);
 
-    statusBar()->addWidget(m_pTotals);
+    // Long totals must not keep the window from being small.
+    m_pTotals->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addWidget(m_pTotals, 1);
     m_pTotals->setObjectName("totals");
     MakeDocks();
     MakeFileMenu();
@@ -63,9 +71,7 @@ CWorkbenchWindow::CWorkbenchWindow(CPlanDocument& document, CDrawingBlocks block
     MakePlantMenu();
     MakeViewMenu();
     Connect();
-    resize(kWindowSize);
-    resizeDocks({m_pRoomDock}, {kListWidth}, Qt::Horizontal);
-    resizeDocks({m_pMessageDock}, {kMessagesHeight}, Qt::Vertical);
+    PlaceWindow();
     ShowBuilding();
     m_pView->setFocus();
 }
@@ -88,6 +94,17 @@ void CWorkbenchWindow::MakeDocks()
     };
     m_pRoomDock = add("roomDock", "Locali", m_pRooms, Qt::RightDockWidgetArea);
     m_pMessageDock = add("messageDock", "Avvisi", m_pMessages, Qt::BottomDockWidgetArea);
+    m_pMessageDock->hide();
+}
+
+/// As the user left the window, or else as large as it is made for and the screen allows.
+void CWorkbenchWindow::PlaceWindow()
+{
+    resize(kWindowSize.boundedTo(screen()->availableSize() - kWindowFrame));
+    resizeDocks({m_pRoomDock}, {std::min(kListWidth, width() * kListShare / 100)}, Qt::Horizontal);
+    resizeDocks({m_pMessageDock}, {kMessagesHeight}, Qt::Vertical);
+    RestoreWindow(*this);
+    // It shows with the first message.
     m_pMessageDock->hide();
 }
 
@@ -170,6 +187,7 @@ void CWorkbenchWindow::ShowTotals()
                            .arg(building.system.ruecklauf)
                            .arg(WattText(bedarf), WattText(gedeckt))
                            .arg(OpenRooms(building).size()));
+    m_pTotals->setToolTip(m_pTotals->text());
 }
 
 void CWorkbenchWindow::ShowTitle()
@@ -257,7 +275,11 @@ void CWorkbenchWindow::AddToMarked()
 
 void CWorkbenchWindow::ConnectMarked()
 {
-    const CBesideWindow beside(*m_pView);
+    QRectF rooms;
+    for (const CRadiatorRef& radiator : RadiatorsOfMark()) {
+        rooms |= m_pScene->BoundsOf(radiator.room);
+    }
+    const CBesideWindow beside(*m_pView, rooms);
     m_pScene->ShowConnections(false);
     m_commands.Connect(RadiatorsOfMark(), *m_pDrawer);
     m_pDrawer->ClearPreview();
@@ -285,6 +307,7 @@ void CWorkbenchWindow::closeEvent(QCloseEvent* event)
         return;
     }
     m_document.ForgetKept();
+    KeepWindow(*this);
     event->accept();
 }
 

@@ -49,6 +49,7 @@ private:
     void MakePlantMenu();
     void MakeViewMenu();
     void MakeDocks();
+    void PlaceWindow();
     void Connect();
 
     void ShowBuilding();

@@ -1,5 +1,7 @@
 // Windows without a screen, at one font size whatever the machine's is.
 
+#include "tools/pretended_screen.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -7,7 +9,7 @@
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const CPretendedScreen screen(kAmple, kAmple);
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
     QFont font = QApplication::font();
