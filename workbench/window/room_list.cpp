@@ -28,6 +28,14 @@ CRoomList::CRoomList(QWidget* parent)
     m_pView->verticalHeader()->setDefaultSectionSize(m_pView->fontMetrics().height() * 3 / 2);
     m_pView->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_pView->horizontalHeader()->setSectionResizeMode(CRoomRows::room, QHeaderView::Stretch);
+    // The names give way to the figures, but not with their heading, which is bold above marks.
+    QFont bold = m_pView->horizontalHeader()->font();
+    bold.setBold(true);
+    constexpr int kGap = 8;
+    m_pView->horizontalHeader()->setMinimumSectionSize(
+        QFontMetrics(bold).horizontalAdvance(
+            m_pTable->headerData(CRoomRows::room, Qt::Horizontal).toString()) +
+        kGap);
     m_pView->setObjectName("rooms");
     m_pOpenOnly->setObjectName("openOnly");
 

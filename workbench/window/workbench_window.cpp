@@ -32,6 +32,8 @@ constexpr QSize kWindowSize(1240, 800);
 /// What a window system puts around a window, at most.
 constexpr QSize kWindowFrame(16, 48);
 constexpr int kListWidth = 500;
+/// The same in a large font.
+constexpr int kListCharacters = 60;
 /// Of the window's width, in percent, where that is a small one.
 constexpr int kListShare = 45;
 constexpr int kMessagesHeight = 120;
@@ -101,7 +103,8 @@ void CWorkbenchWindow::MakeDocks()
 void CWorkbenchWindow::PlaceWindow()
 {
     resize(kWindowSize.boundedTo(screen()->availableSize() - kWindowFrame));
-    resizeDocks({m_pRoomDock}, {std::min(kListWidth, width() * kListShare / 100)}, Qt::Horizontal);
+    const int list = std::max(kListWidth, kListCharacters * fontMetrics().averageCharWidth());
+    resizeDocks({m_pRoomDock}, {std::min(list, width() * kListShare / 100)}, Qt::Horizontal);
     resizeDocks({m_pMessageDock}, {kMessagesHeight}, Qt::Vertical);
     RestoreWindow(*this);
     // It shows with the first message.

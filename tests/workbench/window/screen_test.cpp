@@ -2,16 +2,21 @@
 // more on each of those on which designers work.
 
 #include "tests/look/cut_texts.h"
+#include "tests/look/fonts.h"
 #include "tests/workbench/window/module_user.h"
 #include "tests/workbench/window/workbench_fixture.h"
 #include "tools/dark_palette.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/window/coverage_look.h"
 #include "workbench/window/kept_window.h"
+#include "workbench/window/system_dialog.h"
 
 #include <QDockWidget>
 #include <QScreen>
 #include <QTableView>
+
+#include <algorithm>
+#include <iterator>
 
 namespace workbench {
 
@@ -58,6 +63,22 @@ TEST_F(AnyScreen, HoldsTheWholeWindowAndItsTexts)
     for (const char* const part : {"plan", "rooms", "messages", "totals"}) {
         const auto* const widget = m_window->findChild<QWidget*>(part);
         EXPECT_TRUE(OnScreen(*m_window).contains(OnScreen(*widget))) << part;
+    }
+}
+
+TEST_F(AnyScreen, TextsFitInEveryFont)
+{
+    for (const QFont& font : kDesktopFonts) {
+        const CDesktopFont desktop(font);
+        m_window = MakeWindow(m_document);
+        Show();
+        CSystemDialog system(m_document.Building(), m_window.get());
+        system.show();
+        QApplication::processEvents();
+        std::vector<CutText> cut = FindCutTexts(*m_window);
+        std::ranges::copy(FindCutListItems(system), std::back_inserter(cut));
+        std::erase_if(cut, [](const CutText& text) { return text.isTold; });
+        EXPECT_EQ(Describe(cut), "") << font.toString().toStdString();
     }
 }
 
