@@ -25,7 +25,6 @@ namespace {
 
 constexpr int kSwatchSide = 14;
 constexpr int kRowHeight = 22;
-constexpr int kRowGap = 4;
 constexpr int kColorColumnWidth = 64;
 constexpr QSize kSize(380, 430);
 /// The same in characters and lines of the font, where that is a large one.
@@ -124,7 +123,7 @@ void CLayerDialog::FillList()
         auto* const item = new QTreeWidgetItem(m_list, {layer.name, QString::number(layer.color)});
         item->setIcon(0, ColorIcon(layer.color, kSwatchSide));
         item->setTextAlignment(1, Qt::AlignCenter);
-        item->setSizeHint(0, {0, std::max(kRowHeight, fontMetrics().height() + kRowGap)});
+        item->setSizeHint(0, {0, kRowHeight});
         if (&layer == chosen) {
             m_list->setCurrentItem(item);
         }

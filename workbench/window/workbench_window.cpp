@@ -62,9 +62,7 @@ CWorkbenchWindow::CWorkbenchWindow(CPlanDocument& document, CDrawingBlocks block
     m_pView->setObjectName("plan");
     m_pView->setFrameShape(QFrame::NoFrame);
 
-    // Long totals must not keep the window from being small.
-    m_pTotals->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    statusBar()->addWidget(m_pTotals, 1);
+    statusBar()->addWidget(m_pTotals);
     m_pTotals->setObjectName("totals");
     MakeDocks();
     MakeFileMenu();

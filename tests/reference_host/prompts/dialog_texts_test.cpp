@@ -12,6 +12,8 @@
 #include <QTreeWidget>
 
 #include <functional>
+#include <iterator>
+#include <vector>
 
 using namespace reference_host;
 
@@ -37,7 +39,9 @@ TEST(HostDialogs, ShowTheirTextsWholeInEveryFont)
         [&] { GetColorDlg(color); },
         [&] { ShowTransDlg(alpha); },
     };
-    for (const QFont& font : kDesktopFonts) {
+    std::vector<QFont> fonts(std::begin(kDesktopFonts), std::end(kDesktopFonts));
+    fonts.emplace_back("DejaVu Sans", 26); // as 13 at twice the dots to the inch
+    for (const QFont& font : fonts) {
         const CDesktopFont desktop(font);
         for (const auto& open : dialogs) {
             OnNextDialog([&](QWidget& dialog) {

@@ -471,6 +471,17 @@ TEST_P(AllDialogs, FaultsAreFound)
                             }));
 }
 
+TEST_P(AllDialogs, ALongTitleGetsItsRoom)
+{
+    using enum ControlKind;
+    static const DialogTemplate dialog = {
+        7004,       L"Un titolo più lungo di tutto quello che il dialogo contiene",
+        100,        40,
+        frameFixed, {{kIdOk, defaultButton, L"OK", 4, 20, 44, 14}}};
+    CDialog(dialog).DoModal();
+    EXPECT_EQ(m_complaints, Complaints{});
+}
+
 /// A dialog some of whose controls follow and others do not.
 class CHalfAnchored : public CResizingDialog
 {
@@ -570,7 +581,7 @@ INSTANTIATE_TEST_SUITE_P(Fonts, DialogTexts, ::testing::ValuesIn(kFontsOfManyWid
 
 /// Colours that meet in a picture: the one that is there most, and the one that stands out most
 /// from it.
-double ContrastIn(const QImage& picture)
+std::pair<QColor, double> ContrastIn(const QImage& picture)
 {
     std::map<QRgb, int> counts;
     for (int y = 0; y < picture.height(); ++y) {
@@ -584,7 +595,7 @@ double ContrastIn(const QImage& picture)
     for (const auto& [color, count] : counts) {
         contrast = std::max(contrast, ContrastOf(QColor(color), back));
     }
-    return contrast;
+    return {back, contrast};
 }
 
 /// Looks at the texts of what can be used as they are painted.
@@ -596,12 +607,14 @@ protected:
         QWidget* const window = CNativeAccess::Widget(dialog);
         const QImage picture = window->grab().toImage();
         Complaints complaints;
+        const auto colorsOf = [&](const QWidget& widget) {
+            return ContrastIn(picture.copy(QRect(widget.mapTo(window, QPoint()), widget.size())));
+        };
         const auto check = [&](const QWidget& widget, const std::string& name) {
-            const QRect place(widget.mapTo(window, QPoint()), widget.size());
             // The letters of common sizes are smoothed, which takes some of their contrast.
             constexpr double kLeast = 3.0;
-            if (widget.isEnabled() && !place.isEmpty() &&
-                ContrastIn(picture.copy(place)) < kLeast) {
+            if (widget.isEnabled() && !widget.size().isEmpty() &&
+                colorsOf(widget).second < kLeast) {
                 complaints.push_back("cannot be read: " + name);
             }
         };
@@ -615,6 +628,14 @@ protected:
             if (!handle.GetWindowText().empty() && !IsGroup(part) &&
                 (!isSign || part.place.width() > sign)) {
                 check(*part.widget, Name(part));
+            }
+        }
+        for (const Part& part : PartsOf(dialog)) {
+            constexpr int kSketch = 16022;
+            const bool isSketch =
+                part.control.id == kSketch && part.control.kind == ControlKind::canvas;
+            if (isSketch && !IsReadable(Qt::black, colorsOf(*part.widget).first)) {
+                complaints.push_back("dark below dark lines: " + Name(part));
             }
         }
         for (const auto* view : window->findChildren<QAbstractItemView*>()) {

@@ -1,3 +1,4 @@
+#include "tests/dialog_support/widget_look.h"
 #include "tests/src/uikit/kit_recorder.h"
 
 #include "platform/exception.h"
@@ -7,6 +8,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QTest>
+#include <QTextDocument>
 #include <QTimer>
 #include <QToolButton>
 
@@ -113,6 +115,29 @@ TEST_F(KitContract, FieldsThatHoldNoNumberStopTheExchange)
         m_dialog.number = 0.1;
         m_dialog.UpdateData(false);
         EXPECT_EQ(Item(idNumber).GetWindowText(), L"0.1");
+    });
+}
+
+TEST_F(KitContract, PointingAtATextThatIsCutTellsTheWhole)
+{
+    Run([&](CDialogUser& user) {
+        // A tip that was there before would pass for another's.
+        const auto nameOf = [](int id) {
+            return L"Angelo & <b>figli</b> " + std::to_wstring(id) + CString(60, L'w');
+        };
+        CComboBox list;
+        CNativeAccess::CopyTo(list, Item(idSorted));
+        list.AddString(nameOf(idSorted));
+        list.SetCurSel(0);
+        for (const int id : {idText, idReadOnly, idLabel}) {
+            Item(id).SetWindowText(nameOf(id));
+        }
+        for (const int id : {idSorted, idText, idReadOnly, idLabel}) {
+            QWidget& widget = user.Widget(id);
+            QTextDocument shown;
+            shown.setHtml(TipAt(widget, widget.rect().center()));
+            EXPECT_EQ(FromNative(shown.toPlainText()), nameOf(id));
+        }
     });
 }
 
