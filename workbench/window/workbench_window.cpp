@@ -35,7 +35,7 @@ constexpr int kListWidth = 500;
 /// The same in a large font.
 constexpr int kListCharacters = 60;
 /// Of the window's width, in percent, where that is a small one.
-constexpr int kListShare = 45;
+constexpr int kListShare = 55;
 constexpr int kMessagesHeight = 120;
 
 } // namespace
