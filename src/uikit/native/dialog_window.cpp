@@ -15,7 +15,6 @@
 
 #include <QButtonGroup>
 #include <QEventLoop>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -23,7 +22,6 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
 #include <QScrollArea>
 #include <QWindow>
 
@@ -55,15 +53,6 @@ bool LosesFocus(const QWidget& control, Qt::FocusReason reason)
     return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason &&
            (qobject_cast<const QLineEdit*>(&control) != nullptr ||
             qobject_cast<const QComboBox*>(&control) != nullptr);
-}
-
-/// Bars that an area needs to show what is larger than it: their width and height, or 0.
-QSize BarsFor(const QSize& area, const QSize& content, int bar)
-{
-    const bool across = content.width() > area.width();
-    const bool down = content.height() > area.height() - (across ? bar : 0);
-    const bool acrossToo = content.width() > area.width() - (down ? bar : 0);
-    return {down ? bar : 0, acrossToo ? bar : 0};
 }
 
 bool IsClick(const QWidget& control, const QMouseEvent& release)
@@ -140,11 +129,6 @@ void CDialogWindow::PaintBesideTitle()
 void CDialogWindow::PressFrame(const QPoint& screen)
 {
     m_dialog.Guard([&] { m_dialog.OnNcLButtonDown({screen.x(), screen.y()}); });
-}
-
-int CDialogWindow::Border() const
-{
-    return m_dialog.IsResizable() ? kSizingBorder : 1;
 }
 
 QRect CDialogWindow::MapUnits(const CRect& units) const
@@ -300,58 +284,6 @@ void CDialogWindow::ApplyColors()
     });
 }
 
-void CDialogWindow::ApplyMinMax(const QSize& size)
-{
-    if (!m_dialog.IsResizable()) {
-        m_least = size;
-        setFixedSize(FitToScreen(size));
-        return;
-    }
-    MinMaxInfo info{{0, 0}, {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}, {QWIDGETSIZE_MAX, QWIDGETSIZE_MAX}};
-    m_dialog.Guard([&] { m_dialog.OnMinMaxInfo(info); });
-    m_least = {info.minTrackSize.cx, info.minTrackSize.cy};
-    const QSize least = FitToScreen(m_least);
-    // Bars stand beside what they scroll.
-    const QSize bars = (least - m_least).expandedTo({0, 0});
-    setMinimumSize(least);
-    setMaximumSize(
-        qMin(qMin(info.maxTrackSize.cx, info.maxSize.cx) + bars.width(), QWIDGETSIZE_MAX),
-        qMin(qMin(info.maxTrackSize.cy, info.maxSize.cy) + bars.height(), QWIDGETSIZE_MAX));
-}
-
-void CDialogWindow::Place(const QRect& whole)
-{
-    if (whole.topLeft() != pos()) {
-        m_ownPlace = whole.topLeft();
-    }
-    ApplyMinMax(whole.size());
-    m_asked = whole.size();
-    setGeometry(QRect(whole.topLeft(), FitToScreen(whole.size())));
-    LayOut();
-}
-
-QSize CDialogWindow::FrameSize() const
-{
-    return {2 * Border(), CCaptionBar::Height() + Border()};
-}
-
-QSize CDialogWindow::WholeSize() const
-{
-    return m_client->size() + FrameSize();
-}
-
-QPoint CDialogWindow::KeptPlace() const
-{
-    return pos() == m_shownPlace ? m_ownPlace : pos();
-}
-
-QSize CDialogWindow::FitToScreen(QSize whole) const
-{
-    const QSize room = screen()->availableSize();
-    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, m_scroll);
-    return (whole + BarsFor(room, whole, bar)).boundedTo(room);
-}
-
 void CDialogWindow::FocusFirst()
 {
     for (QWidget* widget = nextInFocusChain(); widget != nullptr && widget != this;
@@ -390,26 +322,6 @@ void CDialogWindow::ShowSystemMenu(const QPoint& screen)
         const unsigned id = chosen->data().toUInt();
         m_dialog.Guard([&] { m_dialog.OnSysCommand(id); });
     }
-}
-
-void CDialogWindow::DefaultPlace()
-{
-    const QWidget* owner = parentWidget() != nullptr ? parentWidget()->window() : nullptr;
-    const QRect around = owner != nullptr && owner->isVisible()
-                             ? owner->frameGeometry()
-                             : QGuiApplication::primaryScreen()->availableGeometry();
-    const QRect room = screen()->availableGeometry();
-    const QPoint corner = around.center() - rect().center();
-    move(qBound(room.left(), corner.x(), qMax(room.left(), room.right() + 1 - width())),
-         qBound(room.top(), corner.y(), qMax(room.top(), room.bottom() + 1 - height())));
-    m_ownPlace = pos();
-}
-
-void CDialogWindow::SetClientSize(const QSize& size)
-{
-    m_least = size + FrameSize();
-    resize(FitToScreen(m_least));
-    LayOut();
 }
 
 void CDialogWindow::NextControl()
@@ -454,20 +366,6 @@ void CDialogWindow::Leave()
     if (m_loop != nullptr) {
         m_loop->quit();
     }
-}
-
-void CDialogWindow::LayOut()
-{
-    if (size() != FitToScreen(m_asked)) {
-        m_asked = {};
-    }
-    const int border = Border();
-    m_caption->setGeometry(0, 0, width(), CCaptionBar::Height());
-    const QSize area = size() - FrameSize();
-    m_scroll->setGeometry(QRect(QPoint(border, CCaptionBar::Height()), area));
-    const QSize least = m_least.expandedTo(m_asked) - FrameSize();
-    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, m_scroll);
-    m_client->resize((area - BarsFor(area, least, bar)).expandedTo(least));
 }
 
 void CDialogWindow::resizeEvent(QResizeEvent* event)
@@ -574,6 +472,11 @@ void CDialogWindow::keyPressEvent(QKeyEvent* event)
     } else {
         QWidget::keyPressEvent(event);
     }
+}
+
+int CDialogWindow::Border() const
+{
+    return m_dialog.IsResizable() ? kSizingBorder : 1;
 }
 
 Qt::Edges CDialogWindow::EdgesAt(const QPoint& place) const

@@ -1,92 +1,14 @@
 #include "dialogs/resizing_dialog.h"
-#include "module/radsel_app.h"
-#include "tests/dialog_support/dialog_driver.h"
-#include "tests/look/cut_texts.h"
-#include "tests/support/message_log.h"
-#include "tests/support/setting_override.h"
-#include "tests/support/temp_folder.h"
-#include "tools/dark_palette.h"
-#include "tools/dialog_gallery.h"
-#include "uikit/application.h"
-#include "uikit/dialog.h"
-#include "uikit/native/access.h"
-#include "uikit/native/caption_bar.h"
-#include "uikit/native/contrast.h"
-#include "uikit/native/dialog_window.h"
-
-#include <gtest/gtest.h>
+#include "tests/src/uikit/all_dialogs.h"
 
 #include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QFontDatabase>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 
-#include <algorithm>
 #include <map>
-#include <utility>
-
-using namespace reference_host;
 
 namespace {
-
-using Complaints = std::vector<std::string>;
-
-/// A control that shows, with what its template says of it.
-struct Part
-{
-    const ControlTemplate& control;
-    QWidget* widget;
-    QRect place;
-};
-
-std::string Name(const Part& part)
-{
-    return std::to_string(part.control.id) + " \"" + ToNative(part.control.caption).toStdString() +
-           '"';
-}
-
-bool IsGroup(const Part& part)
-{
-    return part.control.kind == ControlKind::groupBox;
-}
-
-/// Controls stand in the focus chain as they were made, those without an id too.
-std::vector<Part> PartsOf(const CDialog& dialog)
-{
-    std::vector<Part> parts;
-    QWidget& client = WindowOf(dialog)->Client();
-    QWidget* widget = &client;
-    for (const ControlTemplate& control : dialog.GetTemplate().controls) {
-        do {
-            widget = widget->nextInFocusChain();
-        } while (widget->parentWidget() != &client);
-        if (widget->isVisible()) {
-            parts.push_back({control, widget, widget->geometry()});
-        }
-    }
-    return parts;
-}
-
-/// Texts that the dialog put there are data, which may be shortened where the whole is told.
-void CheckTexts(const CDialog& dialog, const std::vector<Part>& parts, Complaints& complaints)
-{
-    const CDialogWindow& window = *WindowOf(dialog);
-    for (const CutText& cut : FindCutTexts(window.Client())) {
-        const auto part = std::ranges::find(parts, cut.widget, &Part::widget);
-        const bool isCaption = part != parts.end() && cut.text == ToNative(part->control.caption);
-        if (isCaption || !cut.isTold) {
-            complaints.push_back("does not fit: " + std::to_string(GetControlId(*cut.widget)) +
-                                 " \"" + cut.text.toStdString() + '"');
-        }
-    }
-    const CCaptionBar& caption = window.Caption();
-    if (caption.fontMetrics().horizontalAdvance(window.windowTitle()) >
-        caption.TitleArea().width()) {
-        complaints.push_back("the title does not fit");
-    }
-}
 
 /// A check box or label may stand on the top line of a frame without a title.
 bool Heads(const Part& part, const Part& group)
@@ -332,23 +254,6 @@ Complaints Check(CDialog& dialog, const SizingRules& rules)
     return complaints;
 }
 
-/// Gives all dialogs one font.
-class CGivenFont : public COccManager
-{
-public:
-    explicit CGivenFont(DialogFont font) : m_font(std::move(font)) {}
-
-    std::optional<DialogTemplate> PreCreateDialog(const DialogTemplate& dialogTemplate) override
-    {
-        DialogTemplate replaced = dialogTemplate;
-        replaced.font = m_font;
-        return replaced;
-    }
-
-private:
-    DialogFont m_font;
-};
-
 /// A dialog whose captions lose half of the room that it has made for them.
 class CNarrowed : public CDialog
 {
@@ -374,60 +279,12 @@ private:
 };
 
 /// Checks every dialog that opens, then cancels it.
-class AllDialogs : public ::testing::TestWithParam<DialogFont>
+class AllDialogs : public CAllDialogsTest
 {
 protected:
-    AllDialogs()
-        : m_before(SetDialogObserver([this](CDialog& dialog) {
-              ++m_opened;
-              for (const int id : m_presses) {
-                  CDialogUser(dialog).Click(id);
-              }
-              m_complaints = Check(dialog);
-              dialog.EndDialog(kIdCancel);
-          }))
-    {
-        SetDialogFontSize(0);
-        theApp.Start();
-        theApp.EnableControlContainer(std::make_unique<CGivenFont>(GetParam()));
-    }
-    ~AllDialogs() override
-    {
-        CWinApp::MakeCurrent(m_appBefore);
-        theApp.EnableControlContainer(nullptr);
-        SetDialogObserver(m_before);
-        SetDialogFontSize(8);
-    }
+    Complaints Check(CDialog& dialog) override { return ::Check(dialog, m_sizingRules); }
 
-    virtual Complaints Check(CDialog& dialog) { return ::Check(dialog, m_sizingRules); }
-
-    /// Opens every dialog with sample data, and expects no complaint of any.
-    void LookAtAll()
-    {
-        const CTempFolder workplace;
-        const CSettingOverride valves(kSettingVEDir, L"");
-        const CSettingOverride catalogues(kSettingHKDir, L"");
-        const CSettingOverride root(kSettingServerPath, L"");
-        const CSettingOverride local(kSettingLocalPath, L"");
-        const std::vector<GalleryEntry> gallery = DialogGallery(RADSEL_DATA_DIR);
-        // Opening and cancelling is not to touch the sample data.
-        OverrideHostSetting(kSettingLocalPath, workplace.Path());
-        for (const GalleryEntry& entry : gallery) {
-            const int opened = m_opened;
-            m_presses = entry.presses;
-            entry.open();
-            EXPECT_EQ(m_opened, opened + 1) << entry.name;
-            EXPECT_EQ(m_complaints, Complaints{}) << entry.name;
-        }
-    }
-
-    CMessageLog m_messages;
-    Complaints m_complaints;
     SizingRules m_sizingRules = kSizingRules;
-    int m_opened = 0;
-    std::vector<int> m_presses;
-    DialogObserver m_before;
-    CWinApp* m_appBefore = CWinApp::MakeCurrent(&theApp);
 };
 
 TEST_P(AllDialogs, FitTheirCaptionsWorkByKeyboardAndFollowTheirSize)
@@ -541,132 +398,5 @@ TEST_P(AllDialogs, LostAnchorsAreFound)
 INSTANTIATE_TEST_SUITE_P(Fonts, AllDialogs,
                          ::testing::Values(DialogFont{L"Tahoma", 8}, DialogFont{L"Tahoma", 12},
                                            DialogFont{L"DejaVu Sans Mono", 9}));
-
-/// Looks at nothing but texts, in many fonts.
-class DialogTexts : public AllDialogs
-{
-protected:
-    Complaints Check(CDialog& dialog) override
-    {
-        Complaints complaints;
-        CheckTexts(dialog, PartsOf(dialog), complaints);
-        for (const CutText& cut : FindCutListItems(WindowOf(dialog)->Client())) {
-            complaints.push_back("cut in its list: " + cut.text.toStdString());
-        }
-        return complaints;
-    }
-};
-
-TEST_P(DialogTexts, AreNowhereCut)
-{
-    ASSERT_TRUE(QFontDatabase::families().contains(ToNative(GetParam().face)));
-    LookAtAll();
-}
-
-/// From narrow to wide. More dots to the inch come from the environment, for other runs.
-const DialogFont kFontsOfManyWidths[] = {
-    {L"DejaVu Serif Condensed", 8},
-    {L"DejaVu Serif Condensed", 11},
-    {L"DejaVu Sans Condensed", 9},
-    {L"DejaVu Sans Condensed", 13},
-    {L"DejaVu Serif", 9},
-    {L"DejaVu Serif", 13},
-    {L"DejaVu Sans", 8},
-    {L"DejaVu Sans", 11},
-    {L"DejaVu Sans Mono", 9},
-    {L"DejaVu Sans Mono", 13},
-};
-
-INSTANTIATE_TEST_SUITE_P(Fonts, DialogTexts, ::testing::ValuesIn(kFontsOfManyWidths));
-
-/// Colours that meet in a picture: the one that is there most, and the one that stands out most
-/// from it.
-std::pair<QColor, double> ContrastIn(const QImage& picture)
-{
-    std::map<QRgb, int> counts;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            ++counts[picture.pixel(x, y)];
-        }
-    }
-    const QColor back =
-        std::ranges::max_element(counts, {}, [](const auto& c) { return c.second; })->first;
-    double contrast = 1.0;
-    for (const auto& [color, count] : counts) {
-        contrast = std::max(contrast, ContrastOf(QColor(color), back));
-    }
-    return {back, contrast};
-}
-
-/// Looks at the texts of what can be used as they are painted.
-class DialogColors : public AllDialogs
-{
-protected:
-    Complaints Check(CDialog& dialog) override
-    {
-        QWidget* const window = CNativeAccess::Widget(dialog);
-        const QImage picture = window->grab().toImage();
-        Complaints complaints;
-        const auto colorsOf = [&](const QWidget& widget) {
-            return ContrastIn(picture.copy(QRect(widget.mapTo(window, QPoint()), widget.size())));
-        };
-        const auto check = [&](const QWidget& widget, const std::string& name) {
-            // The letters of common sizes are smoothed, which takes some of their contrast.
-            constexpr double kLeast = 3.0;
-            if (widget.isEnabled() && !widget.size().isEmpty() &&
-                colorsOf(widget).second < kLeast) {
-                complaints.push_back("cannot be read: " + name);
-            }
-        };
-        check(WindowOf(dialog)->Caption(), "title");
-        for (const Part& part : PartsOf(dialog)) {
-            CWnd handle;
-            CNativeAccess::Attach(handle, part.widget);
-            // A check box as small as its sign has its words in the controls around it.
-            const int sign = 2 * part.place.height();
-            const bool isSign = part.control.kind == ControlKind::checkBox;
-            if (!handle.GetWindowText().empty() && !IsGroup(part) &&
-                (!isSign || part.place.width() > sign)) {
-                check(*part.widget, Name(part));
-            }
-        }
-        for (const Part& part : PartsOf(dialog)) {
-            constexpr int kSketch = 16022;
-            const bool isSketch =
-                part.control.id == kSketch && part.control.kind == ControlKind::canvas;
-            if (isSketch && !IsReadable(Qt::black, colorsOf(*part.widget).first)) {
-                complaints.push_back("dark below dark lines: " + Name(part));
-            }
-        }
-        for (const auto* view : window->findChildren<QAbstractItemView*>()) {
-            if (view->isVisible() && view->model()->rowCount() > 0) {
-                check(*view->viewport(), view->metaObject()->className());
-            }
-        }
-        return complaints;
-    }
-};
-
-/// A dark palette as desktops have it, and one in which somebody set no more than the roles that
-/// come to mind; each with and without the host's colours, which are light.
-TEST_P(DialogColors, CanBeReadInDarkPalettes)
-{
-    QPalette byHand = QApplication::palette();
-    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button}) {
-        byHand.setColor(role, QColor(40, 40, 40));
-    }
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-        byHand.setColor(role, Qt::white);
-    }
-    for (const QPalette& palette : {DarkPalette(), byHand}) {
-        const CColors colors(palette);
-        for (const wchar_t* const skin : {L"0", L"1"}) {
-            const CSettingOverride allowed(kSettingAllowSkin, skin);
-            LookAtAll();
-        }
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Template, DialogColors, ::testing::Values(DialogFont{L"Tahoma", 8}));
 
 } // namespace
