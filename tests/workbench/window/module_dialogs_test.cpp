@@ -5,6 +5,7 @@
 #include "tools/make_building_samples.h"
 #include "workbench/building/qt_text.h"
 
+#include <QMessageBox>
 #include <QProgressDialog>
 #include <QTableView>
 #include <QTreeWidget>
@@ -18,6 +19,7 @@ enum SelectionControl
 {
     idLeistungSoll = 18005,
     idLeistungIst = 18011,
+    idNachLeistung = 18017,
     idSystemName = 7007,
     idVorlauf = 7008,
     idRuecklauf = 7009,
@@ -131,6 +133,35 @@ TEST_F(ModuleDialogs, AnUntouchedSelectionLeavesTheRadiatorAsItIs)
             Do("undo");
         }
     }
+}
+
+TEST_F(ModuleDialogs, TypingAnOutputIsNotInterrupted)
+{
+    Mark({{0, 1}});
+    int warnings = 0;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            ++warnings;
+            box->accept();
+        }
+    });
+    QString typed;
+    InSelection([&](const CModuleUser& user) {
+        auto& filter = user.Control<QAbstractButton>(idNachLeistung);
+        if (!filter.isChecked()) {
+            filter.click();
+        }
+        watch.start(1);
+        auto& output = user.Control<QLineEdit>(idLeistungSoll);
+        output.selectAll();
+        QTest::keyClicks(&output, "900");
+        typed = output.text();
+        user.Cancel();
+    });
+    Do("choose");
+    EXPECT_EQ(warnings, 0);
+    EXPECT_EQ(typed, "900");
 }
 
 TEST_F(ModuleDialogs, OnlyTheFirstOfSeveralRadiatorsStartsWithHalfTheDemand)
