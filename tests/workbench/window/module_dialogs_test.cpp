@@ -33,11 +33,13 @@ enum SelectionControl
 /// Controls of the dialog of connections.
 enum ConnectionControl
 {
+    idTypen = 362,
     idVentileAktiv = 18077,
     idWand = 18105,
     idLeereAN = 18095,
     idGrafikenAN = 18097,
     idGrafikenRI = 18098,
+    idInverti = 18040,
     idPresetLinksUnten = 18080,
 };
 
@@ -162,6 +164,31 @@ TEST_F(ModuleDialogs, TypingAnOutputIsNotInterrupted)
     Do("choose");
     EXPECT_EQ(warnings, 0);
     EXPECT_EQ(typed, "900");
+}
+
+TEST_F(ModuleDialogs, ExchangedPointsHaveTheNameOfTheirOwnType)
+{
+    Do("sizeAll");
+    Mark({{0, 1}});
+    const auto connect = [this](const Script& work) {
+        InModule([&](const CModuleUser& user) {
+            work(user);
+            user.Ok();
+        });
+        Do("connect");
+        return Radiator(0, 1).anschluss.Name;
+    };
+    const auto choose = [](const char* type) {
+        return [=](const CModuleUser& user) { user.Choose(idTypen, type); };
+    };
+    EXPECT_EQ(connect(choose("Opposti in basso, mandata a sinistra")),
+              L"Opposti in basso, mandata a sinistra");
+    EXPECT_EQ(connect([](const CModuleUser& user) { user.Click(idInverti); }),
+              L"Opposti in basso, mandata a destra");
+    EXPECT_EQ(connect([](const CModuleUser&) {}), L"Opposti in basso, mandata a destra");
+    connect(choose("Stesso lato, a sinistra"));
+    EXPECT_EQ(connect([](const CModuleUser& user) { user.Click(idInverti); }), L"")
+        << "the list has no type with its flow below";
 }
 
 TEST_F(ModuleDialogs, OnlyTheFirstOfSeveralRadiatorsStartsWithHalfTheDemand)
