@@ -1,5 +1,7 @@
 // What the window makes of the module's dialogs.
 
+#include "frame/vdi6030_start.h"
+#include "host/host_prefs.h"
 #include "tests/workbench/window/module_user.h"
 #include "tests/workbench/window/workbench_fixture.h"
 #include "tools/make_building_samples.h"
@@ -409,6 +411,30 @@ TEST_F(ModuleDialogs, RadiatorsTakeDistancesAndConnectionConfirmedInTheSelection
     EXPECT_EQ(fresh.abstandWand, 0.08);
     EXPECT_EQ(fresh.anschluss.PosAN, left);
     EXPECT_TRUE(fresh.ventile.vorlauf) << "the building tells which valves";
+}
+
+TEST_F(ModuleDialogs, ACrashInTheSelectionLeavesTheStartValuesThatAreKept)
+{
+    Do("sizeAll");
+    const fs::path store = fs::path(m_folder.Path()) / "Vdi6030Start.def";
+    VDI6030START kept;
+    kept.AbstandWand = 0.07;
+    kept.Anschluss.Name = L"Proprio";
+    ASSERT_TRUE(WriteDefFile_VDI6030START(&kept, false));
+    const std::string before = BytesOf(store);
+    Mark({{0, 1}});
+    std::string open;
+    InSelection([&](const CModuleUser& user) {
+        open = BytesOf(store);
+        user.Ok();
+    });
+    Do("choose");
+    EXPECT_TRUE(open == before);
+    const VDI6030START* const after = ReadDefFile_VDI6030START(false);
+    ASSERT_NE(after, nullptr);
+    EXPECT_EQ(after->AbstandWand, 0.07);
+    EXPECT_EQ(after->Anschluss.Name, L"Proprio");
+    EXPECT_EQ(after->SystemVorlauf, 70) << "OK stores the system";
 }
 
 TEST_F(ModuleDialogs, CancellingTheSizingLeavesTheProductAsWell)
