@@ -20,8 +20,8 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME radsel)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-# Help pages open in the viewer that the user has for them.
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS xdg-utils)
+# Help pages open in the viewer that the user has for them; file dialogs speak Italian.
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "qt6-translations-l10n, xdg-utils")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "selection of radiators and valves for CAD programs
 The module that a CAD program loads to choose radiators and radiator valves from
 makers' catalogues, the libraries of a reference host, and the workbench, which

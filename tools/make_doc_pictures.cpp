@@ -31,7 +31,7 @@ namespace {
 
 using Pictures = std::map<QString, CWindowPicture>;
 
-constexpr QSize kWindow(1180, 720);
+constexpr QSize kWindow(1180, 760);
 
 /// The dialogs by their names in the gallery.
 constexpr std::pair<const char*, const char*> kDialogs[] = {

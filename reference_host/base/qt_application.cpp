@@ -1,18 +1,55 @@
 #include "reference_host/base/qt_application.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 
 namespace reference_host {
+
+namespace {
+
+QtMessageHandler g_handlerBefore = nullptr;
+
+/// Without a desktop there is no folder for its sessions, which the toolkit asks for and does well
+/// without.
+void PassOn(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (!message.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set")) {
+        g_handlerBefore(type, context, message);
+    }
+}
+
+/// Outlives main(): the toolkit keeps referring to it, and tearing its window system down among the
+/// destructors of a foreign program is a known source of crashes.
+QApplication& MakeApplication()
+{
+    static int count = 1;
+    static char name[] = "radsel";
+    static char* arguments[] = {name, nullptr};
+    g_handlerBefore = qInstallMessageHandler(PassOn);
+    auto* const application = new QApplication(count, arguments);
+    qInstallMessageHandler(g_handlerBefore);
+    return *application;
+}
+
+/// What the toolkit says itself, in file dialogs and menus of fields, is in the language of all
+/// other texts, as far as its translations are installed.
+void SpeakItalian(QApplication& application)
+{
+    QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
+    auto* const translator = new QTranslator(&application);
+    if (translator->load("qtbase_it", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(translator);
+    }
+}
+
+} // namespace
 
 bool EnsureWindows()
 {
     if (QCoreApplication::instance() == nullptr) {
-        // Both outlive main(): the toolkit keeps referring to them, and tearing its window system
-        // down among the destructors of a foreign program is a known source of crashes.
-        static int count = 1;
-        static char name[] = "radsel";
-        static char* arguments[] = {name, nullptr};
-        new QApplication(count, arguments);
+        SpeakItalian(MakeApplication());
     }
     return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
 }

@@ -2,6 +2,7 @@
 
 #include "host/host_catalog.h"
 #include "platform/encoding.h"
+#include "platform/message.h"
 #include "platform/path.h"
 #include "reference_host/catalog/detached_program.h"
 #include "reference_host/prefs/host_settings.h"
@@ -10,6 +11,7 @@
 
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace reference_host {
@@ -46,6 +48,21 @@ std::vector<fs::path> HelpFolders()
     return folders;
 }
 
+HelpTeller& Teller()
+{
+    static HelpTeller teller;
+    return teller;
+}
+
+void Tell(const CString& text)
+{
+    if (const HelpTeller teller = Teller()) {
+        teller(text);
+    } else {
+        WriteMessage({L"Guida", text, MessageIcon::warning});
+    }
+}
+
 } // namespace
 
 std::optional<fs::path> FindHelpPage(unsigned dialogId)
@@ -62,6 +79,11 @@ std::optional<fs::path> FindHelpPage(unsigned dialogId)
     return std::nullopt;
 }
 
+HelpTeller SetHelpTeller(HelpTeller teller)
+{
+    return std::exchange(Teller(), std::move(teller));
+}
+
 } // namespace reference_host
 
 using namespace reference_host;
@@ -69,8 +91,10 @@ using namespace reference_host;
 void ShowPDF(unsigned dialogId, int /*art*/)
 {
     const std::optional<fs::path> page = FindHelpPage(dialogId);
-    if (page) {
-        StartDetached(Utf8FromWide(GetHostSetting(kSettingHelpProgram, L"xdg-open")),
-                      page->string());
+    const CString program = GetHostSetting(kSettingHelpProgram, L"xdg-open");
+    if (page && !StartDetached(Utf8FromWide(program), page->string())) {
+        const CString kind = page->extension() == ".pdf" ? L"PDF" : L"HTML";
+        Tell(L"La pagina della guida non si apre: manca un programma per i file " + kind +
+             L".\nSi trova in " + page->wstring());
     }
 }

@@ -7,6 +7,7 @@
 #include "platform/file_lock.h"
 #include "platform/path.h"
 #include "reference_host/prefs/host_settings.h"
+#include "reference_host/prefs/lent_start.h"
 #include "reference_host/prefs/start_merge.h"
 
 #include <cerrno>
@@ -16,6 +17,7 @@
 #include <optional>
 #include <set>
 #include <system_error>
+#include <utility>
 
 using namespace reference_host;
 
@@ -129,6 +131,13 @@ std::optional<VDI6030START>& KnownStart()
     return known;
 }
 
+/// The start values that this process shows in place of the stored ones, if it was lent any.
+std::optional<VDI6030START>& LentStart()
+{
+    static std::optional<VDI6030START> lent;
+    return lent;
+}
+
 /// Puts into `start` what another process has stored since and the user of this one has left alone.
 /// False if that cannot be told.
 bool TakeOver(VDI6030START& start)
@@ -136,7 +145,8 @@ bool TakeOver(VDI6030START& start)
     VDI6030START stored;
     const Reading reading =
         ReadFile(kStartName, [&](CArchive& archive) { stored.Serialize(archive); });
-    if (reading == Reading::done && KnownStart()) {
+    const bool isKnown = reading == Reading::done || LentStart();
+    if (isKnown && KnownStart()) {
         start = MergeStart(*KnownStart(), start, stored);
     }
     return reading != Reading::failed;
@@ -166,6 +176,10 @@ bool WriteDefFile(CObject* object, const CRuntimeClass* klasse, const CString& n
 VDI6030START* ReadDefFile_VDI6030START(bool /*projectCopy*/)
 {
     static VDI6030START start;
+    if (LentStart()) {
+        KnownStart() = start = *LentStart();
+        return &start;
+    }
     const Reading reading =
         ReadForModule(kStartName, [](CArchive& archive) { start.Serialize(archive); });
     KnownStart() = reading == Reading::done ? start : VDI6030START();
@@ -176,6 +190,9 @@ bool WriteDefFile_VDI6030START(VDI6030START* start, bool /*projectCopy*/)
 {
     if (start == nullptr) {
         return false;
+    }
+    if (LentStart()) {
+        KnownStart() = std::exchange(*LentStart(), *start);
     }
     const CString path = WritablePath(kStartName);
     if (path.empty()) {
@@ -190,3 +207,22 @@ bool WriteDefFile_VDI6030START(VDI6030START* start, bool /*projectCopy*/)
     KnownStart() = *start;
     return true;
 }
+
+namespace reference_host {
+
+void LendStart(const VDI6030START& start)
+{
+    LentStart() = start;
+}
+
+std::optional<VDI6030START> GetLentStart()
+{
+    return LentStart();
+}
+
+void EndLentStart()
+{
+    LentStart().reset();
+}
+
+} // namespace reference_host

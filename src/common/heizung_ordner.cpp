@@ -9,14 +9,8 @@ namespace {
 
 CString DatenWurzel()
 {
-    CString server;
-    if (configGetWorkPathServer(server)) {
-        return server;
-    }
-    for (const wchar_t* variable : {L"TGA_DATA_SINGLE_S", L"TGA_DATA_SINGLE"}) {
-        if (const auto value = GetEnvironment(variable)) {
-            return *value;
-        }
+    if (const auto wurzel = FindeDatenWurzel()) {
+        return *wurzel;
     }
     static bool gemeldet = false;
     MeldeFehlendeWurzel(gemeldet);
@@ -24,6 +18,20 @@ CString DatenWurzel()
 }
 
 } // namespace
+
+std::optional<CString> FindeDatenWurzel()
+{
+    CString server;
+    if (configGetWorkPathServer(server)) {
+        return server;
+    }
+    for (const wchar_t* variable : {L"TGA_DATA_SINGLE_S", L"TGA_DATA_SINGLE"}) {
+        if (const auto value = GetEnvironment(variable)) {
+            return value;
+        }
+    }
+    return std::nullopt;
+}
 
 CString HeizungPfad(const CString& dateiName)
 {

@@ -2,8 +2,12 @@
 
 #include "platform/text.h"
 
-/// Path of a file in the heating folder of the data root. The root is the host's work path on the
-/// server, else the environment variable "TGA_DATA_SINGLE_S", else "TGA_DATA_SINGLE", whichever
-/// exists first. If none does, a message says so once per process and the path starts with the
-/// heating folder.
+#include <optional>
+
+/// The data root: the host's work path on the server, else the environment variable
+/// "TGA_DATA_SINGLE_S", else "TGA_DATA_SINGLE", whichever exists first.
+std::optional<CString> FindeDatenWurzel();
+
+/// Path of a file in the heating folder of the data root. If there is no root, a message says so
+/// once per process and the path starts with the heating folder.
 CString HeizungPfad(const CString& dateiName);

@@ -35,6 +35,22 @@ done
 searches "$prefix/bin/radsel_workbench" '$ORIGIN/../lib:$ORIGIN/../lib/radsel/reference_host'
 "$prefix/bin/radsel_workbench" --help >/dev/null
 
+# The program has a working place in its user's folder and writes nothing beside itself.
+state_of() { (cd "$1" && find . -type f -exec cksum {} + | sort); }
+own=$work/home/.config/radsel
+list_connections() {
+    env -u TGA_DATA_SINGLE -u TGA_DATA_SINGLE_S -u XDG_CONFIG_HOME HOME="$work/home" \
+        "$prefix/bin/radsel_workbench" --list-connections
+}
+installed=$(state_of "$prefix")
+chmod -R a-w "$prefix"
+list_connections | grep -q '^Tipi di attacco: ' || fail "the installed program has no connection types"
+cmp "$own/winsett.txt" "$prefix/share/radsel/workplace/winsett.txt" || fail "F1 is not switched on"
+printf '[Proprio]\r\nV0;0;0;0;0;0;0;0\r\nR0;0;0;0;0;0;0;0\r\n' >"$own/HEIZUNG/Vent.txt"
+list_connections | grep -q '^Proprio$' || fail "the user's own list is not read, or was replaced"
+chmod -R u+w "$prefix"
+[[ $(state_of "$prefix") == "$installed" ]] || fail "the program writes where it is installed"
+
 kinds=()
 [[ $scan == binary ]] || kinds=(-I)
 if grep -rlF "${kinds[@]}" -e "$source" -e "$build" -e "$work/made" "$prefix"; then

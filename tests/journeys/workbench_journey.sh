@@ -153,6 +153,7 @@ export_and_compare() {
     keys ctrl+p
     await_window 'Esporta il progetto'
     expect_state fileNameEdit focused
+    expect_text fileNameLabel '&Nome del file:'
     xdotool type --delay 20 "$scratch/kept/progetto.pdf"
     keys Return
     await "the exported file" test -s "$scratch/kept/progetto.pdf"

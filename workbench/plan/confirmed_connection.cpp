@@ -1,5 +1,7 @@
 #include "workbench/plan/confirmed_connection.h"
 
+#include "workbench/plan/connection_name.h"
+
 #include <cmath>
 
 namespace workbench {
@@ -19,6 +21,10 @@ void TakeType(CPlacedRadiator& radiator, const CConfirmedConnection& chosen)
 {
     const ConnValues before = radiator.anschluss;
     radiator.anschluss = chosen.anschluss;
+    if (!HasSamePoints(chosen.anschluss, chosen.eingang)) {
+        // The dialog leaves the name as it was when points are exchanged or moved.
+        radiator.anschluss.Name = NameOfPoints(chosen.anschluss);
+    }
     radiator.anschluss.GrafikAN = before.GrafikAN;
     radiator.anschluss.GrafikRI = before.GrafikRI;
     radiator.anschluss.WandAbstand = before.WandAbstand;

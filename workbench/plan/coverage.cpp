@@ -122,7 +122,7 @@ CString GetCoverageText(Coverage coverage)
     case Coverage::covered:
         return L"coperto";
     case Coverage::lacking:
-        return L"insufficiente";
+        return L"scarso";
     case Coverage::empty:
         return L"manca il corpo scaldante";
     case Coverage::tooLarge:

@@ -1,12 +1,23 @@
 #include "workbench/plan/plan_history.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace workbench {
 
+namespace {
+
+StateId NextId()
+{
+    static StateId last = 0;
+    return ++last;
+}
+
+} // namespace
+
 CPlanHistory::CPlanHistory(CBuilding building)
 {
-    m_states.push_back({{}, std::move(building)});
+    m_states.push_back({{}, std::move(building), NextId()});
 }
 
 void CPlanHistory::Do(const CString& what, CBuilding next)
@@ -15,8 +26,18 @@ void CPlanHistory::Do(const CString& what, CBuilding next)
         m_nSaved = kNever;
     }
     m_states.erase(m_states.begin() + static_cast<std::ptrdiff_t>(m_nCurrent) + 1, m_states.end());
-    m_states.push_back({what, std::move(next)});
+    m_states.push_back({what, std::move(next), NextId()});
     ++m_nCurrent;
+}
+
+bool CPlanHistory::Has(StateId id) const
+{
+    return std::ranges::find(m_states, id, &CState::nId) != m_states.end();
+}
+
+bool CPlanHistory::IsReached(StateId id) const
+{
+    return Has(id) && id <= GetCurrentId();
 }
 
 CString CPlanHistory::GetUndoText() const

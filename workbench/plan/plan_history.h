@@ -3,9 +3,13 @@
 #include "workbench/building/building.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace workbench {
+
+/// One state of a building in a history, never to be met again.
+using StateId = std::uint64_t;
 
 /// The states of a building from opening on: what was done can be undone and done again, without
 /// limit. States share their rooms, so that one costs little more than what it changed.
@@ -22,6 +26,12 @@ public:
 
     bool CanUndo() const { return m_nCurrent > 0; }
     bool CanRedo() const { return m_nCurrent + 1 < m_states.size(); }
+
+    StateId GetCurrentId() const { return m_states[m_nCurrent].nId; }
+    /// True for a state that can be reached by undoing and doing again.
+    bool Has(StateId id) const;
+    /// True for the current state and those that undoing leads back to.
+    bool IsReached(StateId id) const;
 
     /// Name of the change that the next Undo() or Redo() concerns; empty if there is none.
     CString GetUndoText() const;
@@ -44,6 +54,7 @@ private:
     {
         CString strWhat;
         CBuilding building;
+        StateId nId = 0;
     };
 
     std::vector<CState> m_states;

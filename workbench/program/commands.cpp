@@ -106,7 +106,7 @@ std::span<const CCommand> GetCommands()
          CommandId::valveDialog},
         {L"--list-connections",
          {&CArguments::strConnectionList},
-         {},
+         {&kWorkplace},
          RunConnectionList,
          CommandId::listConnections},
         {L"--help", {}, {}, ShowHelp, CommandId::help, true},

@@ -1,9 +1,12 @@
 #include "workbench/program/dialog_run.h"
 
+#include "reference_host/base/dialog_parts.h"
 #include "reference_host/base/qt_application.h"
+#include "reference_host/catalog/help_pages.h"
+#include "workbench/building/qt_text.h"
 #include "workbench/program/exit_code.h"
 
-#include <QtGlobal>
+#include <QMessageBox>
 
 #include <cstdlib>
 #include <iostream>
@@ -26,6 +29,15 @@ void OnStartMessage(QtMsgType type, const QMessageLogContext& context, const QSt
     std::_Exit(static_cast<int>(ExitCode::noScreen));
 }
 
+void TellAboutHelp(const CString& text)
+{
+    QMessageBox box(QMessageBox::Warning, "Guida", {}, QMessageBox::Ok,
+                    reference_host::ParentForDialog());
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToQt(text));
+    box.exec();
+}
+
 } // namespace
 
 void StartWindows()
@@ -33,6 +45,7 @@ void StartWindows()
     g_messageHandlerBefore = qInstallMessageHandler(OnStartMessage);
     reference_host::EnsureWindows();
     qInstallMessageHandler(g_messageHandlerBefore);
+    reference_host::SetHelpTeller(TellAboutHelp);
 }
 
 } // namespace workbench

@@ -2,6 +2,8 @@
 
 #include "host/host_prefs.h"
 #include "platform/encoding.h"
+#include "platform/environment.h"
+#include "platform/message.h"
 #include "platform/path.h"
 #include "reference_host/prefs/host_settings.h"
 #include "workbench/program/arguments.h"
@@ -31,6 +33,57 @@ void RequireFolder(const CString& what, const CString& path)
     }
 }
 
+void SetUnlessSet(const char* variable, const fs::path& value)
+{
+    if (!GetEnvironment(WideFromUtf8(variable))) {
+        setenv(variable, value.c_str(), 1);
+    }
+}
+
+/// Where the installed program keeps what its user changes: beside his settings. Empty for a user
+/// without a home.
+fs::path OwnWorkplace()
+{
+    const std::optional<CString> folder = reference_host::ConfigurationFolder();
+    return folder ? ResolvePath(*folder) : fs::path();
+}
+
+/// Copies the files that `to` does not have yet.
+void CopyMissing(const fs::path& from, const fs::path& to)
+{
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(from)) {
+        if (entry.is_regular_file()) {
+            const fs::path target = to / fs::relative(entry.path(), from);
+            fs::create_directories(target.parent_path());
+            fs::copy_file(entry.path(), target, fs::copy_options::skip_existing);
+        }
+    }
+}
+
+/// Gives the installed program's working place the help switches and lists that it is to begin
+/// with. Where that fails the installed ones are read, and nothing can be kept.
+void FillOwnWorkplace()
+{
+    const std::optional<fs::path> data = InstalledDataFolder();
+    const fs::path own = OwnWorkplace();
+    if (!data || own.empty() ||
+        GetEnvironment(L"TGA_DATA_SINGLE") != std::optional(own.wstring())) {
+        return;
+    }
+    try {
+        CopyMissing(*data / "root", own);
+        CopyMissing(*data / "workplace", own);
+    } catch (const fs::filesystem_error& error) {
+        setenv("TGA_DATA_SINGLE", (*data / "root").c_str(), 1);
+        WriteMessage({L"radsel",
+                      L"La cartella " + own.wstring() +
+                          L" non è scrivibile: elenchi e posizioni delle finestre non si "
+                          L"conservano. " +
+                          WideFromUtf8(error.code().message()),
+                      MessageIcon::warning});
+    }
+}
+
 } // namespace
 
 void UseCatalogueFolder(const CArguments& arguments)
@@ -50,6 +103,7 @@ void UseValveFolder(const CArguments& arguments)
 
 void UseWorkplace(const CArguments& arguments)
 {
+    FillOwnWorkplace();
     if (arguments.strWorkplace.empty()) {
         return;
     }
@@ -86,11 +140,12 @@ void UseInstalledData()
         {"RADSEL_VEDIR", "valves"},
         {"RADSEL_HKBLOCKDIR", "drawing/heizkoerper.dxf"},
         {"RADSEL_VEBLOCKDIR", "drawing/ventile.dxf"},
-        {"TGA_DATA_SINGLE", "root"},
     };
     for (const auto& [variable, place] : places) {
-        setenv(variable, (*data / place).c_str(), 0);
+        SetUnlessSet(variable, *data / place);
     }
+    const fs::path own = OwnWorkplace();
+    SetUnlessSet("TGA_DATA_SINGLE", own.empty() ? *data / "root" : own);
 }
 
 } // namespace workbench

@@ -9,6 +9,7 @@
 #include "workbench/program/arguments.h"
 #include "workbench/program/dialog_run.h"
 #include "workbench/program/host_folders.h"
+#include "workbench/window/command_icons.h"
 #include "workbench/window/workbench_window.h"
 
 #include <QApplication>
@@ -45,6 +46,8 @@ CDrawingBlocks ReadBlocks(QStringList& messages)
 
 ExitCode Run(const CArguments& arguments)
 {
+    QCoreApplication::setApplicationVersion(RADSEL_VERSION);
+    QApplication::setWindowIcon(ProgramIcon());
     QStringList messages;
     const auto recovery = OpenRecovery(messages);
     CPlanDocument document(recovery.get());

@@ -315,7 +315,7 @@ void AddSize(Columns& columns)
             return CMeasures{radiator.daten.Hoehe, radiator.daten.Tiefe, radiator.daten.Laenge};
         }))
             .Unit(L"mm")
-            .Looks({Console(L"A x P x L"), Text(Output::paper, L"A × P × L", 26.0)}),
+            .Looks({Console(L"H x P x L"), Text(Output::paper, L"H × P × L", 26.0)}),
         // The report names the sections beside the size, the other outputs further to the right.
         CScheduleColumn(sections).Form(kCount).Looks({Number(Output::paper, L"El.", 7.0)}),
     };

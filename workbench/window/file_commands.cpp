@@ -21,10 +21,12 @@
 #include "workbench/window/kept_window.h"
 #include "workbench/window/plan_document.h"
 #include "workbench/window/prompts.h"
+#include "workbench/window/recent_files.h"
 #include "workbench/window/recovery_offer.h"
+#include "workbench/window/room_dialog.h"
+#include "workbench/window/waiting.h"
 
-#include <QCursor>
-#include <QGuiApplication>
+#include <QDir>
 
 #include <filesystem>
 #include <system_error>
@@ -61,15 +63,18 @@ CString Proposal(const CPlanDocument& document, const CString& suffix)
     return (folder.empty() ? CString() : folder + L"/") + document.Building().strName + suffix;
 }
 
-/// Shows the wait cursor as long as it lives.
-class CWaiting
+/// Folders of a valve catalogue that have a file of valves.
+QStringList ValveMakersIn(const CString& folder)
 {
-public:
-    CWaiting() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~CWaiting() { QGuiApplication::restoreOverrideCursor(); }
-    CWaiting(const CWaiting&) = delete;
-    CWaiting& operator=(const CWaiting&) = delete;
-};
+    QStringList makers;
+    const QDir root(ToQt(folder));
+    for (const QString& name : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name)) {
+        if (!QDir(root.filePath(name)).entryList({"ha.tga"}, QDir::Files).isEmpty()) {
+            makers += name;
+        }
+    }
+    return makers;
+}
 
 } // namespace
 
@@ -91,10 +96,37 @@ void CFileCommands::Open()
         return;
     }
     KeepFolderOf(*path);
+    TryOpen(*path);
+}
+
+void CFileCommands::OpenRecent(const CString& path)
+{
+    if (!MayLeave()) {
+        return;
+    }
+    if (!MayExist(path)) {
+        ForgetRecentFile(path);
+    }
+    TryOpen(path);
+}
+
+void CFileCommands::TryOpen(const CString& path)
+{
     try {
-        OpenOrRecover(*path);
+        OpenOrRecover(path);
     } catch (const CException& error) {
-        m_prompts.tell(&m_window, ToQt(error.GetErrorMessage()));
+        TellError(ToQt(error.GetErrorMessage()));
+    }
+}
+
+void CFileCommands::New()
+{
+    if (!MayLeave()) {
+        return;
+    }
+    CRoomDialog dialog(CBuilding(), 0, &m_window);
+    if (dialog.exec() == QDialog::Accepted) {
+        m_document.BeginNew(dialog.GetBuilding());
     }
 }
 
@@ -128,6 +160,7 @@ bool CFileCommands::RecoverWork(const CString& path)
     const bool recovered = OfferLeftWork(m_document, m_prompts, m_window, path, faults);
     Tell(faults);
     if (recovered) {
+        KeepRecentFile(m_document.Path());
         TellUse();
         TellValveFaults();
     }
@@ -137,9 +170,10 @@ bool CFileCommands::RecoverWork(const CString& path)
 void CFileCommands::Load(const CString& path)
 {
     {
-        const CWaiting waiting;
+        const CWaiting waiting(m_window, "Apertura di " + ToQt(path) + "…");
         m_document.Open(path);
     }
+    KeepRecentFile(m_document.Path());
     TellUse();
     TellValveFaults();
 }
@@ -149,6 +183,11 @@ void CFileCommands::Tell(const QStringList& lines)
     if (!lines.isEmpty()) {
         emit Told(lines.join('\n'));
     }
+}
+
+void CFileCommands::TellError(const QString& text)
+{
+    m_prompts.tell(&m_window, text, CPrompts::Tone::error);
 }
 
 bool CFileCommands::Save()
@@ -211,13 +250,12 @@ bool CFileCommands::SaveTo(const CString& path)
         return target == Target::elsewhere && SaveAs();
     }
     try {
-        const CWaiting waiting;
+        const CWaiting waiting(m_window, "Salvataggio di " + ToQt(path) + "…");
         m_document.SaveAs(path);
+        KeepRecentFile(m_document.Path());
         return true;
     } catch (const CException& error) {
-        m_prompts.tell(
-            &m_window,
-            QString("L'edificio non è stato salvato.\n%1").arg(ToQt(error.GetErrorMessage())));
+        TellError("L'edificio non è stato salvato.\n" + ToQt(error.GetErrorMessage()));
         return false;
     }
 }
@@ -266,19 +304,15 @@ void CFileCommands::Export(const QString& title, const QString& filter, const CS
         return;
     }
     if (IsSameFile(*path, m_document.Path())) {
-        m_prompts.tell(&m_window, QString("L'esportazione non può prendere il posto dell'edificio "
-                                          "aperto.\n%1")
-                                      .arg(ToQt(*path)));
+        TellError("L'esportazione non può prendere il posto dell'edificio aperto.\n" + ToQt(*path));
         return;
     }
     try {
-        const CWaiting waiting;
+        const CWaiting waiting(m_window, "Scrittura di " + ToQt(*path) + "…");
         write(*path);
         emit Told(QString("Scritto %1").arg(ToQt(*path)));
     } catch (const CFileException& error) {
-        m_prompts.tell(
-            &m_window,
-            QString("Il file non è stato scritto.\n%1").arg(ToQt(error.GetErrorMessage())));
+        TellError("Il file non è stato scritto.\n" + ToQt(error.GetErrorMessage()));
     }
 }
 
@@ -320,22 +354,45 @@ void CFileCommands::ExportDxf()
     });
 }
 
+std::optional<CString> CFileCommands::AskFolder(const QString& title, const wchar_t* setting,
+                                                const CString& now)
+{
+    auto folder = m_prompts.openFolder(&m_window, title, {}, now);
+    if (folder) {
+        reference_host::OverrideHostSetting(setting, *folder);
+        if (!reference_host::StoreHostSetting(setting, *folder)) {
+            TellError("La cartella vale solo per questa volta: le impostazioni non sono "
+                      "scrivibili.");
+        }
+    }
+    return folder;
+}
+
 void CFileCommands::ChooseCatalogues()
 {
     const auto folder =
-        m_prompts.openFolder(&m_window, "Cartella dei cataloghi", {}, GetHKDir(false));
+        AskFolder("Cartella dei cataloghi", reference_host::kSettingHKDir, GetHKDir(false));
     if (!folder) {
         return;
     }
-    reference_host::OverrideHostSetting(reference_host::kSettingHKDir, *folder);
-    if (!reference_host::StoreHostSetting(reference_host::kSettingHKDir, *folder)) {
-        m_prompts.tell(&m_window, "La cartella vale solo per questa volta: le impostazioni non "
-                                  "sono scrivibili.");
-    }
-    const CWaiting waiting;
+    const CWaiting waiting(m_window, "Lettura dei cataloghi…");
     const QString errors = DescribeCatalogueErrors();
     emit Told(QString("Cataloghi: %1").arg(ToQt(*folder)) +
               (errors.isEmpty() ? QString() : "\n" + errors));
+}
+
+void CFileCommands::ChooseValveCatalogues()
+{
+    const auto folder =
+        AskFolder("Cartella delle valvole", reference_host::kSettingVEDir, GetVEDir(false));
+    if (!folder) {
+        return;
+    }
+    const QStringList makers = ValveMakersIn(*folder);
+    emit Told(QString("Valvole: %1\n%2")
+                  .arg(ToQt(*folder), makers.isEmpty()
+                                          ? QString("Nessun produttore con un file ha.tga.")
+                                          : "Produttori: " + makers.join(", ")));
 }
 
 QString DescribeCatalogueErrors()

@@ -30,8 +30,14 @@ public:
     /// no building then.
     void Start(const CString& asked, const CString& sample);
 
+    /// Asks for the first room of a building that is in no file yet, and goes on with that.
+    void New();
+
     /// Asks for a building and goes on with that, or with what a crash left of it.
     void Open();
+
+    /// The same with a file that the user worked on before.
+    void OpenRecent(const CString& path);
 
     /// False if the user cancelled or the file could not be written.
     bool Save();
@@ -50,6 +56,9 @@ public:
     /// which of its files cannot be read.
     void ChooseCatalogues();
 
+    /// The same for the valves; tells the makers that were found.
+    void ChooseValveCatalogues();
+
 signals:
     /// Something for the list of messages; may have several lines.
     void Told(const QString& message);
@@ -67,11 +76,16 @@ private:
     void OpenOrRecover(const CString& path);
     bool RecoverWork(const CString& path);
     void Load(const CString& path);
+    void TryOpen(const CString& path);
+    /// Asks for a folder, which becomes that of a setting; nothing if the user cancelled.
+    std::optional<CString> AskFolder(const QString& title, const wchar_t* setting,
+                                     const CString& now);
     /// Tells who else works on the building's file, if anybody does.
     void TellUse();
     /// Tells which valve files that the building needs are damaged.
     void TellValveFaults();
     void Tell(const QStringList& lines);
+    void TellError(const QString& text);
     /// Asks for a file to write; nothing if the user cancelled, or keeps what it would replace.
     std::optional<CString> AskTarget(const QString& title, const QString& filter,
                                      const CString& suffix);

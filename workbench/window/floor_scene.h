@@ -24,7 +24,8 @@ class CWallsItem;
 ///    and the one before;
 ///  - Space marks the next radiator of the room; with Shift it adds it;
 ///  - Ctrl+A marks all rooms, or all radiators where radiators are marked; Escape marks nothing.
-/// A double click, or Return with one room or radiator marked, activates it.
+/// A double click, or Return with one room or radiator marked, activates it. The right button marks
+/// what lies under the pointer, unless it is marked already.
 class CFloorScene : public QGraphicsScene
 {
     Q_OBJECT
@@ -54,6 +55,9 @@ public:
     void MarkRadiators(const std::vector<CRadiatorRef>& radiators);
     void MarkRooms(const std::vector<CRoomRef>& rooms);
 
+    /// Moves every view so that it shows a room of the floor.
+    void ShowInViews(const CRoomRef& room);
+
     /// Place of a room between its walls; null for one that the floor does not have.
     QRectF BoundsOf(const CRoomRef& room) const;
 
@@ -62,6 +66,9 @@ signals:
     void MarkChanged();
     void RoomActivated(const CRoomRef& room);
     void RadiatorActivated(const CRadiatorRef& radiator);
+    /// The user asks, by right button or key, what can be done with what is marked, at a place of
+    /// the screen.
+    void MenuAsked(const QPoint& place);
 
 protected:
     bool event(QEvent* event) override;
@@ -69,6 +76,7 @@ protected:
     void mouseMoveEvent(QGraphicsSceneMouseEvent* event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
     void mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event) override;
+    void contextMenuEvent(QGraphicsSceneContextMenuEvent* event) override;
     void helpEvent(QGraphicsSceneHelpEvent* event) override;
     void drawForeground(QPainter* painter, const QRectF& rect) override;
 
@@ -87,10 +95,10 @@ private:
 
     void UpdateItems();
     void Mark(CPlanMarks marks);
+    void MarkHit(const CHit& hit, bool extend);
     void SetCurrent(std::optional<CRoomRef> room);
     void Activate(const CHit& hit);
     bool ActivateMarked();
-    void ShowInViews(const CRoomRef& room);
 
     bool HandleKey(const QKeyEvent& key);
     bool MarkNextRoom(int step, bool extend);

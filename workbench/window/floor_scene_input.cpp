@@ -5,6 +5,7 @@
 #include "workbench/window/plan_texts.h"
 
 #include <QApplication>
+#include <QGraphicsSceneContextMenuEvent>
 #include <QGraphicsSceneHelpEvent>
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
@@ -104,9 +105,14 @@ void CFloorScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
         Mark(extend ? m_marks : CPlanMarks());
         return;
     }
-    m_current = hit->room;
-    Mark(hit->radiator ? MarksAfter(m_marks, CRadiatorRef{hit->room, *hit->radiator}, extend)
-                       : MarksAfter(m_marks, hit->room, extend));
+    MarkHit(*hit, extend);
+}
+
+void CFloorScene::MarkHit(const CHit& hit, bool extend)
+{
+    m_current = hit.room;
+    Mark(hit.radiator ? MarksAfter(m_marks, CRadiatorRef{hit.room, *hit.radiator}, extend)
+                      : MarksAfter(m_marks, hit.room, extend));
 }
 
 void CFloorScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
@@ -118,6 +124,21 @@ void CFloorScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent* event)
         event->accept();
         Activate(*hit);
     }
+}
+
+void CFloorScene::contextMenuEvent(QGraphicsSceneContextMenuEvent* event)
+{
+    const auto hit = event->reason() == QGraphicsSceneContextMenuEvent::Mouse
+                         ? HitAt(event->scenePos(), event->widget())
+                         : std::nullopt;
+    const bool isMarked =
+        hit && (hit->radiator ? m_marks.radiators.contains({hit->room, *hit->radiator})
+                              : m_marks.rooms.contains(hit->room));
+    if (hit && !isMarked) {
+        MarkHit(*hit, false);
+    }
+    event->accept();
+    emit MenuAsked(event->screenPos());
 }
 
 void CFloorScene::helpEvent(QGraphicsSceneHelpEvent* event)

@@ -2,6 +2,7 @@
 
 #include "host/host_prefs.h"
 #include "reference_host/prefs/host_settings.h"
+#include "reference_host/prefs/lent_start.h"
 #include "workbench/plan/new_radiator.h"
 #include "workbench/plan/radiator_list.h"
 
@@ -29,46 +30,33 @@ ConnValues ConnectionToShow(const CPlacedRadiator& radiator)
     return anschluss;
 }
 
-CLentStart::CLentStart(const CPlacedRadiator& radiator) : m_before(ReadStart()), m_lent(m_before)
+CLentStart::CLentStart(const CPlacedRadiator& radiator) : m_lent(ReadStart())
 {
     m_lent.AbstandWand = radiator.abstandWand;
     m_lent.AbstandBoden = radiator.abstandBoden;
     m_lent.Anschluss = ConnectionToShow(radiator);
     m_lent.VentilVorlauf = RecordOf(radiator.ventile.vorlauf);
     m_lent.VentilRuecklauf = RecordOf(radiator.ventile.ruecklauf);
-    VDI6030START lent = m_lent;
-    m_bLent = WriteDefFile_VDI6030START(&lent, false);
+    reference_host::LendStart(m_lent);
 }
 
 CLentStart::~CLentStart()
 {
-    if (!m_bLent) {
-        return;
-    }
-    const CConfirmedStart confirmed = GetConfirmed();
-    VDI6030START kept = ReadStart();
-    if (!confirmed.abstaende) {
-        kept.AbstandWand = m_before.AbstandWand;
-        kept.AbstandBoden = m_before.AbstandBoden;
-    }
-    if (confirmed.anschluss) {
+    const bool connected = GetConfirmed().anschluss.has_value();
+    reference_host::EndLentStart();
+    if (connected) {
+        // The lists have a name for "no graphic", which must not become that of one.
+        VDI6030START kept = ReadStart();
         kept.Anschluss.GrafikAN = GraphicOfEntry(kept.Anschluss.GrafikAN);
         kept.Anschluss.GrafikRI = GraphicOfEntry(kept.Anschluss.GrafikRI);
-    } else {
-        kept.Anschluss = m_before.Anschluss;
-        kept.VentilVorlauf = m_before.VentilVorlauf;
-        kept.VentilRuecklauf = m_before.VentilRuecklauf;
+        WriteDefFile_VDI6030START(&kept, false);
     }
-    WriteDefFile_VDI6030START(&kept, false);
 }
 
 CConfirmedStart CLentStart::GetConfirmed() const
 {
     CConfirmedStart confirmed;
-    if (!m_bLent) {
-        return confirmed;
-    }
-    const VDI6030START now = ReadStart();
+    const VDI6030START now = reference_host::GetLentStart().value_or(m_lent);
     if (!IsSameDistance(now.AbstandWand, m_lent.AbstandWand) ||
         !IsSameDistance(now.AbstandBoden, m_lent.AbstandBoden)) {
         confirmed.abstaende = {now.AbstandWand, now.AbstandBoden};

@@ -8,9 +8,9 @@ namespace workbench {
 /// What the dialog of connections shows of a radiator.
 ConnValues ConnectionToShow(const CPlacedRadiator& radiator);
 
-/// The start values that the host keeps, lent to a radiator while its selection dialog is open:
-/// "Valvole..." and "Distanza..." open on them and store there what the user confirms. Afterwards
-/// the host keeps what was confirmed, and otherwise what it kept before.
+/// A radiator's own values, lent to this process in place of the start values that the host keeps,
+/// while the selection dialog is open: "Valvole..." and "Distanza..." open on them. The host stores
+/// what the user confirms there, and nothing else.
 class CLentStart
 {
 public:
@@ -22,10 +22,7 @@ public:
     CConfirmedStart GetConfirmed() const;
 
 private:
-    VDI6030START m_before;
     VDI6030START m_lent;
-    /// False where the values cannot be written, so that nothing was lent.
-    bool m_bLent;
 };
 
 /// The block that the host keeps for radiators, lent to this process only, so that the dialog opens

@@ -92,9 +92,12 @@ std::optional<CRadiatorChoice> AskForRadiator(const CRadiatorWish& wish, CDrawer
     HK_DATEN_VDI3805_UEBERGABE handover = FillHandover(wish);
     CRadiatorLayer layer = wish.layer ? *wish.layer : KeptLayer();
     const CLentBlock block(wish.block ? *wish.block : KeptBlock());
+    // Somebody types in the dialog: a warning at a half-typed output would take away the rest of
+    // it.
+    constexpr bool warnAndWiden = false;
     const int answer = CallModule(L"Scelta del corpo scaldante", [&] {
         return HeizkoerperauswahlVDI3805(&drawer, &handover, layer.strName, layer.nFarbe, true,
-                                         true);
+                                         warnAndWiden);
     });
     if (answer != 0) {
         return std::nullopt;

@@ -1,6 +1,5 @@
 #include "workbench/window/plan_commands.h"
 
-#include "platform/format.h"
 #include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/module_call.h"
@@ -8,24 +7,18 @@
 #include "workbench/plan/sizing.h"
 #include "workbench/window/module_calls.h"
 #include "workbench/window/plan_document.h"
+#include "workbench/window/plan_texts.h"
 #include "workbench/window/project_dialog.h"
 #include "workbench/window/prompts.h"
+#include "workbench/window/room_dialog.h"
 #include "workbench/window/sizing_progress.h"
 #include "workbench/window/system_dialog.h"
+#include "workbench/window/waiting.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace workbench {
-
-namespace {
-
-QString SystemText(const CHeatingSystem& system)
-{
-    return ToQt(FormatExact(system.vorlauf) + L"/" + FormatExact(system.ruecklauf));
-}
-
-} // namespace
 
 CPlanCommands::CPlanCommands(CPlanDocument& document, const CPrompts& prompts, QWidget& window)
     : m_document(document), m_prompts(prompts), m_window(window)
@@ -38,9 +31,10 @@ void CPlanCommands::ChooseRadiator(const CRoomRef& ref, std::optional<std::size_
     const CBuilding& building = m_document.Building();
     const CRoom& room = RoomOf(building, ref);
     if (!radiator && FreePlaces(room).empty()) {
-        m_prompts.tell(&m_window, QString("Nel locale \"%1\" non c'è più posto per un altro corpo "
-                                          "scaldante.")
-                                      .arg(ToQt(room.strName)));
+        m_prompts.tell(&m_window,
+                       QString("Nel locale \"%1\" non c'è più posto per un altro corpo scaldante.")
+                           .arg(ToQt(room.strName)),
+                       CPrompts::Tone::information);
         return;
     }
     const CString what = L"Corpo scaldante di " + room.strName;
@@ -107,7 +101,7 @@ std::optional<CBuilding> CPlanCommands::Ask(const Question& question)
     try {
         return question();
     } catch (const CModuleFault& fault) {
-        emit Told(ToQt(fault.GetMessage()));
+        Tell(ToQt(fault.GetMessage()));
         return std::nullopt;
     }
 }
@@ -143,8 +137,9 @@ void CPlanCommands::ChooseProduct(const std::vector<CRoomRef>& rooms)
             TellCancelled();
             return;
         }
-        TellFaults(*changed, result);
-        changed = std::move(result.building);
+        m_document.Do(L"Prodotto", result.building);
+        TellSized(result);
+        return;
     }
     m_document.Do(L"Prodotto", std::move(*changed));
 }
@@ -180,10 +175,15 @@ void CPlanCommands::Size(const std::vector<CRoomRef>& rooms, const CString& what
         TellCancelled();
         return;
     }
-    TellFaults(m_document.Building(), result);
     if (result.nSized > 0) {
-        m_document.Do(what, std::move(result.building));
+        m_document.Do(what, result.building);
     }
+    TellSized(result);
+}
+
+void CPlanCommands::Tell(const QString& text)
+{
+    emit Told({{text}});
 }
 
 void CPlanCommands::Repair(const std::vector<CRoomRef>& rooms, const CString& what)
@@ -192,13 +192,14 @@ void CPlanCommands::Repair(const std::vector<CRoomRef>& rooms, const CString& wh
     if (!picked) {
         return;
     }
-    CRepairResult result = RepairWithProgress(&m_window, m_document.Building(), rooms, *picked);
+    const CRepairResult result =
+        RepairWithProgress(&m_window, m_document.Building(), rooms, *picked);
     if (result.bCancelled) {
         TellCancelled();
         return;
     }
+    m_document.Do(what, result.building);
     TellRepair(result);
-    m_document.Do(what, std::move(result.building));
 }
 
 void CPlanCommands::TellRepair(const CRepairResult& result)
@@ -206,23 +207,23 @@ void CPlanCommands::TellRepair(const CRepairResult& result)
     const auto open = std::ranges::count_if(result.rooms, [&](const CRepairedRoom& repaired) {
         return IsOpen(CoverageOf(result.building, RoomOf(result.building, repaired.room)));
     });
-    QString message = QString("Riparazione: locali esaminati %1, ancora da sistemare %2.")
-                          .arg(result.rooms.size())
-                          .arg(open);
+    std::vector<CNotice> notices = {
+        {QString("Riparazione: locali esaminati %1, ancora da sistemare %2.")
+             .arg(result.rooms.size())
+             .arg(open)}};
     for (const CRepairedRoom& repaired : result.rooms) {
-        message += QString("\n%1: %2")
-                       .arg(ToQt(RoomOf(result.building, repaired.room).strName),
-                            ToQt(repaired.strReport));
+        notices.push_back({ToQt(repaired.strReport), repaired.room,
+                           ToQt(RoomOf(result.building, repaired.room).strName)});
     }
-    emit Told(message);
+    emit Told(notices);
 }
 
 void CPlanCommands::TellCancelled()
 {
-    emit Told("Dimensionamento annullato: nulla è cambiato.");
+    Tell("Dimensionamento annullato: nulla è cambiato.");
 }
 
-void CPlanCommands::TellFaults(const CBuilding& building, const CSizingResult& result)
+void CPlanCommands::TellSized(const CSizingResult& result)
 {
     QString message = QString("Corpi scaldanti scelti: %1.").arg(result.nSized);
     const auto open = std::ranges::count_if(result.faults, [&](const CSizingFault& fault) {
@@ -231,12 +232,12 @@ void CPlanCommands::TellFaults(const CBuilding& building, const CSizingResult& r
     if (open > 0) {
         message += QString(" Locali da sistemare: %1.").arg(open);
     }
+    std::vector<CNotice> notices = {{message}};
     for (const CSizingFault& fault : result.faults) {
-        message +=
-            QString("\n%1: %2")
-                .arg(ToQt(RoomOf(building, fault.room).strName), ToQt(fault.outcome.strNote));
+        notices.push_back({ToQt(fault.outcome.strNote), fault.room,
+                           ToQt(RoomOf(result.building, fault.room).strName)});
     }
-    emit Told(message);
+    emit Told(notices);
 }
 
 void CPlanCommands::Connect(const std::vector<CRadiatorRef>& radiators, CDrawer& drawer)
@@ -282,13 +283,21 @@ bool CPlanCommands::ChangeSystem()
         m_document.Do(L"Limite di sovradimensionamento", std::move(changed));
         return false;
     }
+    const CWaiting waiting(m_window, "Calcolo con il nuovo sistema…");
     workbench::ChangeSystem(changed, system);
     const QString name = SystemText(system);
     const std::size_t open = OpenRooms(changed).size();
     m_document.Do(L"Sistema " + FromQt(name), std::move(changed));
-    emit Told(
-        QString("Sistema di riscaldamento %1 °C: locali da sistemare: %2.").arg(name).arg(open));
+    Tell(QString("Sistema di riscaldamento %1 °C: locali da sistemare: %2.").arg(name).arg(open));
     return true;
+}
+
+void CPlanCommands::AddRoom(std::size_t floor)
+{
+    CRoomDialog dialog(m_document.Building(), floor, &m_window);
+    if (dialog.exec() == QDialog::Accepted) {
+        m_document.Do(L"Aggiungi locale", dialog.GetBuilding());
+    }
 }
 
 std::vector<CRoomRef> OpenRooms(const CBuilding& building)

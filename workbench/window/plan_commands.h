@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/plan/repair.h"
+#include "workbench/window/message_pane.h"
 
 #include <QObject>
 
@@ -44,13 +45,17 @@ public:
     /// Asks for what papers say of the project.
     void DescribeProject();
 
+    /// Asks for a further room, which stands east of the others of its floor: that one, unless the
+    /// user says another.
+    void AddRoom(std::size_t floor);
+
     /// Asks for another heating system of the building, and from what excess on radiators count as
     /// oversized. False if it keeps its system.
     bool ChangeSystem();
 
 signals:
-    /// Something for the list of messages; may have several lines.
-    void Told(const QString& message);
+    /// Something for the list of messages, which holds for the building as it is now.
+    void Told(const std::vector<CNotice>& notices);
 
 private:
     using Question = std::function<std::optional<CBuilding>()>;
@@ -78,9 +83,11 @@ private:
     /// What is to become of a radiator that was chosen at other temperatures.
     OtherSystem AskWhatSystem(const CBuilding& changed, const CHeatingSystem& chosen);
 
+    void Tell(const QString& text);
     void TellCancelled();
     void TellRepair(const CRepairResult& result);
-    void TellFaults(const CBuilding& building, const CSizingResult& result);
+    /// Tells what came of sizing, after that has become the building.
+    void TellSized(const CSizingResult& result);
 
     CPlanDocument& m_document;
     const CPrompts& m_prompts;

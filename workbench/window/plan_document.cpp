@@ -65,6 +65,17 @@ void CPlanDocument::Open(const CString& path)
     emit Opened();
 }
 
+void CPlanDocument::BeginNew(CBuilding building)
+{
+    m_lock.reset();
+    ForgetKept();
+    Begin(std::move(building), {});
+    m_strFingerprint.clear();
+    m_history.MarkUnsaved();
+    Announce();
+    emit Opened();
+}
+
 bool CPlanDocument::Recover(const CRecovery& recovery)
 {
     if (recovery.strPath.empty()) {

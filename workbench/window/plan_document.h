@@ -46,6 +46,9 @@ public:
     /// CFileException, and the document stays as it was.
     void Open(const CString& path);
 
+    /// Goes on with a building that is in no file yet.
+    void BeginNew(CBuilding building);
+
     /// Goes on with work that a crash left behind, as work that is not saved. False if it could not
     /// be kept for another crash (KeepNow).
     bool Recover(const CRecovery& recovery);

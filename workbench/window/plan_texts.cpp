@@ -16,19 +16,9 @@ namespace {
 
 using Row = std::pair<QString, QString>;
 
-/// A number with a comma, as Italians write it, and without zeros that say nothing.
-QString Number(double value, int decimals)
-{
-    QString text = QString::number(value, 'f', decimals);
-    while (text.contains('.') && (text.endsWith('0') || text.endsWith('.'))) {
-        text.chop(1);
-    }
-    return text.replace('.', ',');
-}
-
 QString Millimetres(double value)
 {
-    return Number(value, 0) + " mm";
+    return DecimalText(value, 0) + " mm";
 }
 
 QString Joined(const QStringList& parts, const QString& separator)
@@ -53,7 +43,7 @@ QString Table(const QString& title, const std::vector<Row>& rows)
 QString Area(const CFloorRect& rect)
 {
     constexpr double kSquareMetre = 1e6;
-    return Number(rect.breite * rect.tiefe / kSquareMetre, 1) + QStringLiteral(" m²");
+    return DecimalText(rect.breite * rect.tiefe / kSquareMetre, 1) + QStringLiteral(" m²");
 }
 
 QString Valve(const std::optional<CValveKey>& key)
@@ -89,6 +79,20 @@ QString SizeFault(const CBuilding& building, const CRoom& room, const CPlacedRad
 
 } // namespace
 
+QString DecimalText(double value, int decimals)
+{
+    QString text = QString::number(value, 'f', decimals);
+    while (text.contains('.') && (text.endsWith('0') || text.endsWith('.'))) {
+        text.chop(1);
+    }
+    return text.replace('.', ',');
+}
+
+QString SystemText(const CHeatingSystem& system)
+{
+    return DecimalText(system.vorlauf, 2) + "/" + DecimalText(system.ruecklauf, 2);
+}
+
 QString WattText(double value)
 {
     const double rounded = std::round(value);
@@ -100,11 +104,11 @@ QString ShortLabelOf(const CPlacedRadiator& radiator)
 {
     const HK_DATEN_VDI3805& daten = radiator.daten;
     const QString type = ToQt(radiator.strTyp);
-    const QString length = Number(daten.Laenge, 0);
+    const QString length = DecimalText(daten.Laenge, 0);
     // Most makers have the size in the type.
     return type.contains(length)
                ? type
-               : Joined({type, Number(daten.Hoehe, 0) + QStringLiteral("×") + length}, " ");
+               : Joined({type, DecimalText(daten.Hoehe, 0) + QStringLiteral("×") + length}, " ");
 }
 
 QString StateOf(const CBuilding& building, const CRoom& room)
@@ -118,7 +122,7 @@ QString ToolTipOf(const CBuilding& building, const CRoom& room)
 {
     return Table(
         ToQt(room.strName),
-        {{"Temperatura", Number(room.raumtemperatur, 1) + QStringLiteral(" °C")},
+        {{"Temperatura", DecimalText(room.raumtemperatur, 1) + QStringLiteral(" °C")},
          {"Superficie", Area(room.grundriss)},
          {"Fabbisogno", WattText(room.bedarf)},
          {"Altro riscaldamento", room.gedeckt != 0.0 ? WattText(room.gedeckt) : QString()},
@@ -135,27 +139,26 @@ QString ToolTipOf(const CBuilding& building, const CRoom& room, const CPlacedRad
 {
     const HK_DATEN_VDI3805& daten = radiator.daten;
     const QString times = QStringLiteral(" × ");
-    return Table(
-        Joined({ToQt(radiator.strProdukt), ToQt(radiator.strTyp)}, ", "),
-        {{"Produttore", ToQt(radiator.strHersteller)},
-         {"Tipo di corpo", ToQt(radiator.strArt)},
-         {"Locale", ToQt(room.strName)},
-         {"Posto", Place(room, radiator)},
-         {"Stato", SizeFault(building, room, radiator)},
-         {"Lunghezza × altezza × profondità", Number(daten.Laenge, 0) + times +
-                                                  Number(daten.Hoehe, 0) + times +
-                                                  Millimetres(daten.Tiefe)},
-         {"Elementi", daten.Elemente > 0.0 ? Number(daten.Elemente, 0) : QString()},
-         {"Potenza", WattText(daten.Leistung)},
-         {"Potenza EN 442", WattText(daten.LeistungEN442)},
-         {"Esponente", daten.Exponent > 0.0 ? Number(daten.Exponent, 4) : QString()},
-         {"Contenuto d'acqua", daten.Inhalt > 0.0 ? Number(daten.Inhalt, 2) + " l" : QString()},
-         {"Dalla parete", Number(radiator.abstandWand * 1000.0, 0) + " mm"},
-         {"Dal pavimento", Number(radiator.abstandBoden * 1000.0, 0) + " mm"},
-         {"Layer", ToQt(radiator.strLayer)},
-         {"Attacco", Connection(radiator.anschluss)},
-         {"Valvola di mandata", Valve(radiator.ventile.vorlauf)},
-         {"Valvola di ritorno", Valve(radiator.ventile.ruecklauf)}});
+    return Table(Joined({ToQt(radiator.strProdukt), ToQt(radiator.strTyp)}, ", "),
+                 {{"Produttore", ToQt(radiator.strHersteller)},
+                  {"Tipo di corpo", ToQt(radiator.strArt)},
+                  {"Locale", ToQt(room.strName)},
+                  {"Posto", Place(room, radiator)},
+                  {"Altezza × profondità × lunghezza", DecimalText(daten.Hoehe, 0) + times +
+                                                           DecimalText(daten.Tiefe, 0) + times +
+                                                           Millimetres(daten.Laenge)},
+                  {"Elementi", daten.Elemente > 0.0 ? DecimalText(daten.Elemente, 0) : QString()},
+                  {"Resa", WattText(daten.Leistung)},
+                  {"Resa EN 442", WattText(daten.LeistungEN442)},
+                  {"Esponente", daten.Exponent > 0.0 ? DecimalText(daten.Exponent, 4) : QString()},
+                  {"Contenuto d'acqua",
+                   daten.Inhalt > 0.0 ? DecimalText(daten.Inhalt, 2) + " l" : QString()},
+                  {"Dalla parete", DecimalText(radiator.abstandWand * 1000.0, 0) + " mm"},
+                  {"Dal pavimento", DecimalText(radiator.abstandBoden * 1000.0, 0) + " mm"},
+                  {"Layer", ToQt(radiator.strLayer)},
+                  {"Attacco", Connection(radiator.anschluss)},
+                  {"Valvola di mandata", Valve(radiator.ventile.vorlauf)},
+                  {"Valvola di ritorno", Valve(radiator.ventile.ruecklauf)}});
 }
 
 } // namespace workbench

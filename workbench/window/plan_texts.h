@@ -8,6 +8,12 @@ namespace workbench {
 
 /// What the plan tells about rooms and radiators in words.
 
+/// A number with a comma, and without zeros at its end that say nothing.
+QString DecimalText(double value, int decimals);
+
+/// Supply and return: "52,5/45".
+QString SystemText(const CHeatingSystem& system);
+
 /// Whole watts, with a true minus sign.
 QString WattText(double value);
 

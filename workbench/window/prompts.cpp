@@ -53,8 +53,10 @@ CPrompts MakePrompts()
         return Chosen(QFileDialog::getExistingDirectory(parent, title, ToQt(proposal)));
     };
     prompts.ask = Ask;
-    prompts.tell = [](QWidget* parent, const QString& text) {
-        QMessageBox box(QMessageBox::Information, "radsel", {}, QMessageBox::Ok, parent);
+    prompts.tell = [](QWidget* parent, const QString& text, CPrompts::Tone tone) {
+        const auto icon =
+            tone == CPrompts::Tone::error ? QMessageBox::Critical : QMessageBox::Information;
+        QMessageBox box(icon, "radsel", {}, QMessageBox::Ok, parent);
         box.setTextFormat(Qt::PlainText);
         box.setText(text);
         box.exec();

@@ -34,8 +34,14 @@ struct CPrompts
                          const QString& no, bool cancellable)>
         ask;
 
+    enum class Tone
+    {
+        information,
+        error,
+    };
+
     /// Something that the user has to know before he goes on.
-    std::function<void(QWidget* parent, const QString& text)> tell;
+    std::function<void(QWidget* parent, const QString& text, Tone tone)> tell;
 };
 
 /// The toolkit's own dialogs.

@@ -4,7 +4,10 @@
 
 #include <QCheckBox>
 #include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStackedWidget>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -13,8 +16,9 @@
 namespace workbench {
 
 CRoomList::CRoomList(QWidget* parent)
-    : QWidget(parent), m_pOpenOnly(new QCheckBox("Solo i locali &da sistemare")),
-      m_pView(new QTableView), m_pTable(new CRoomTable(this))
+    : QWidget(parent), m_pFind(new QLineEdit),
+      m_pOpenOnly(new QCheckBox("Solo i locali &da sistemare")), m_pPages(new QStackedWidget),
+      m_pHint(new QLabel), m_pView(new QTableView), m_pTable(new CRoomTable(this))
 {
     m_pView->setModel(m_pTable);
     m_pView->setSelectionBehavior(QTableView::SelectRows);
@@ -37,12 +41,22 @@ CRoomList::CRoomList(QWidget* parent)
             m_pTable->headerData(CRoomRows::room, Qt::Horizontal).toString()) +
         kGap);
     m_pView->setObjectName("rooms");
+    m_pView->setContextMenuPolicy(Qt::CustomContextMenu);
     m_pOpenOnly->setObjectName("openOnly");
+    m_pFind->setObjectName("find");
+    m_pFind->setPlaceholderText("Trova locale");
+    m_pFind->setClearButtonEnabled(true);
+    m_pHint->setObjectName("hint");
+    m_pHint->setAlignment(Qt::AlignCenter);
+    m_pHint->setWordWrap(true);
+    m_pPages->addWidget(m_pView);
+    m_pPages->addWidget(m_pHint);
 
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
+    layout->addWidget(m_pFind);
     layout->addWidget(m_pOpenOnly);
-    layout->addWidget(m_pView);
+    layout->addWidget(m_pPages);
 
     connect(m_pOpenOnly, &QCheckBox::toggled, this, &CRoomList::Refilter);
     connect(m_pView->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
@@ -53,6 +67,11 @@ CRoomList::CRoomList(QWidget* parent)
     connect(m_pView, &QTableView::activated, this, [this](const QModelIndex& index) {
         emit RoomActivated(m_pTable->Rows().RefOf(m_pTable->mapToSource(index).row()));
     });
+    connect(m_pView, &QWidget::customContextMenuRequested, this, [this](const QPoint& place) {
+        emit MenuAsked(m_pView->viewport()->mapToGlobal(place));
+    });
+    connect(m_pFind, &QLineEdit::textEdited, this, [this] { FindRoom(false); });
+    connect(m_pFind, &QLineEdit::returnPressed, this, [this] { FindRoom(true); });
 }
 
 void CRoomList::ShowBuilding(const CBuilding& building)
@@ -60,6 +79,7 @@ void CRoomList::ShowBuilding(const CBuilding& building)
     m_bMarking = true;
     m_pTable->Show(building);
     m_bMarking = false;
+    ShowHint();
 }
 
 void CRoomList::MarkRooms(const std::vector<CRoomRef>& rooms)
@@ -106,7 +126,40 @@ void CRoomList::Refilter()
     m_pView->clearSelection();
     m_pTable->ShowOpenOnly(m_pOpenOnly->isChecked());
     m_bMarking = false;
+    ShowHint();
     emit FilterChanged();
+}
+
+void CRoomList::StartFinding()
+{
+    m_pFind->setFocus();
+    m_pFind->selectAll();
+}
+
+void CRoomList::FindRoom(bool behind)
+{
+    const CRoomRows& rows = m_pTable->Rows();
+    const QString wanted = m_pFind->text().trimmed();
+    const int count = rows.rowCount();
+    bool found = wanted.isEmpty();
+    for (int i = behind ? 1 : 0; i <= count && !found; ++i) {
+        const int row = (m_nFound + i) % std::max(count, 1);
+        const QString name = rows.index(row, CRoomRows::room).data().toString();
+        if (row < count && name.contains(wanted, Qt::CaseInsensitive)) {
+            found = true;
+            m_nFound = row;
+            emit RoomFound(rows.RefOf(row));
+        }
+    }
+    m_pFind->setToolTip(found ? QString() : "Nessun locale con questo nome.");
+    m_pFind->setForegroundRole(found ? QPalette::Text : QPalette::PlaceholderText);
+}
+
+void CRoomList::ShowHint()
+{
+    m_pHint->setText(m_pTable->Rows().rowCount() == 0 ? "Qui compaiono i locali dell'edificio."
+                                                      : "Nessun locale da sistemare.");
+    m_pPages->setCurrentIndex(m_pTable->rowCount() == 0 ? 1 : 0);
 }
 
 } // namespace workbench

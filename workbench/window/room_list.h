@@ -5,6 +5,9 @@
 #include <QWidget>
 
 class QCheckBox;
+class QLabel;
+class QLineEdit;
+class QStackedWidget;
 class QTableView;
 
 namespace workbench {
@@ -33,6 +36,9 @@ public:
     /// Lists again what passes the filter now.
     void Refilter();
 
+    /// Goes to the field in which the user types what a room is called.
+    void StartFinding();
+
 signals:
     /// The user has marked other rows.
     void MarkChanged();
@@ -40,12 +46,26 @@ signals:
     void FilterChanged();
     /// Double click, or Return.
     void RoomActivated(const CRoomRef& room);
+    /// A room, listed or not, whose name has what the user typed.
+    void RoomFound(const CRoomRef& room);
+    /// The user asks what can be done with the marked rooms, at a place of the screen.
+    void MenuAsked(const QPoint& place);
 
 private:
+    /// Looks through the rooms of the building, from the one found last on or behind it.
+    void FindRoom(bool behind);
+    void ShowHint();
+
+    QLineEdit* m_pFind;
     QCheckBox* m_pOpenOnly;
+    /// The list, or why it is empty.
+    QStackedWidget* m_pPages;
+    QLabel* m_pHint;
     QTableView* m_pView;
     CRoomTable* m_pTable;
     bool m_bMarking = false;
+    /// Row of the room found last.
+    int m_nFound = 0;
 };
 
 } // namespace workbench

@@ -7,26 +7,26 @@
 
 namespace workbench {
 
-QStringList CStateNotices::TakeNew(const CBuilding& building)
+std::vector<CNotice> CStateNotices::TakeNew(const CBuilding& building)
 {
-    QStringList lines;
-    std::set<QString> present;
-    for (const CFloor& floor : building.floors) {
-        for (const auto& room : floor.rooms) {
-            const Coverage coverage = CoverageOf(building, *room);
-            if (!IsMissized(coverage)) {
-                continue;
-            }
-            const QString line = ToQt(room->strName + L": " + GetCoverageText(coverage) + L", " +
-                                      DescribeCoverage(building, *room));
-            present.insert(line);
-            if (!m_known.contains(line)) {
-                lines += line;
-            }
+    std::vector<CNotice> notices;
+    std::set<std::pair<QString, QString>> present;
+    for (const CRoomRef& ref : AllRooms(building)) {
+        const CRoom& room = RoomOf(building, ref);
+        const Coverage coverage = CoverageOf(building, room);
+        if (!IsMissized(coverage)) {
+            continue;
+        }
+        const QString name = ToQt(room.strName);
+        const QString text =
+            ToQt(GetCoverageText(coverage) + L", " + DescribeCoverage(building, room));
+        present.insert({name, text});
+        if (!m_known.contains({name, text})) {
+            notices.push_back({text, ref, name});
         }
     }
     m_known = std::move(present);
-    return lines;
+    return notices;
 }
 
 } // namespace workbench

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "workbench/building/building.h"
-
-#include <QStringList>
+#include "workbench/window/message_pane.h"
 
 #include <set>
+#include <utility>
+#include <vector>
 
 namespace workbench {
 
@@ -13,11 +13,12 @@ namespace workbench {
 class CStateNotices
 {
 public:
-    /// A line for every such room that was not so in the building of the last call, or differently.
-    QStringList TakeNew(const CBuilding& building);
+    /// One for every such room that was not so in the building of the last call, or differently.
+    std::vector<CNotice> TakeNew(const CBuilding& building);
 
 private:
-    std::set<QString> m_known;
+    /// Room and text.
+    std::set<std::pair<QString, QString>> m_known;
 };
 
 } // namespace workbench

@@ -1,12 +1,14 @@
 #include "workbench/window/system_dialog.h"
 
+#include "reference_host/files/system_list_file.h"
 #include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
+#include "workbench/window/decimal_box.h"
 #include "workbench/window/plan_commands.h"
+#include "workbench/window/plan_texts.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -20,25 +22,20 @@ namespace {
 
 /// Supply and return of systems that are built most, from the boiler of old to the heat pump.
 constexpr CHeatingSystem kCommon[] = {
-    {80.0, 60.0}, {75.0, 65.0}, {70.0, 55.0}, {65.0, 50.0}, {55.0, 45.0}, {45.0, 38.0},
+    {80.0, 60.0}, {75.0, 65.0}, {70.0, 55.0}, {65.0, 50.0}, {55.0, 45.0},
+    {50.0, 40.0}, {45.0, 38.0}, {45.0, 35.0}, {35.0, 28.0},
 };
 
-QDoubleSpinBox* MakeTemperature(double value)
+CDecimalBox* MakeTemperature(double value)
 {
-    auto* const box = new QDoubleSpinBox;
-    box->setRange(1.0, 110.0);
-    box->setDecimals(1);
-    box->setSuffix(" °C");
+    auto* const box = new CDecimalBox(1.0, 110.0, "°C");
     box->setValue(value);
     return box;
 }
 
-QDoubleSpinBox* MakePercentage(double value)
+CDecimalBox* MakePercentage(double value)
 {
-    auto* const box = new QDoubleSpinBox;
-    box->setRange(0.0, 1000.0);
-    box->setDecimals(1);
-    box->setSuffix(" %");
+    auto* const box = new CDecimalBox(0.0, 1000.0, "%");
     box->setValue(value);
     return box;
 }
@@ -56,10 +53,34 @@ std::size_t CountOversized(const CBuilding& building)
     }));
 }
 
+bool Has(const std::vector<COfferedSystem>& offers, const CHeatingSystem& system)
+{
+    return std::ranges::find(offers, system, &COfferedSystem::system) != offers.end();
+}
+
+/// What the user has stored in the selection dialog, under his names, and what is usual besides.
+std::vector<COfferedSystem> OfferedSystems()
+{
+    std::vector<COfferedSystem> offers;
+    for (const reference_host::CStoredSystem& stored : reference_host::ReadStoredSystems()) {
+        const CHeatingSystem system{stored.vorlauf, stored.ruecklauf};
+        if (system.IsPlausible()) {
+            offers.push_back(
+                {QString("%1 (%2)").arg(ToQt(stored.strName), SystemText(system)), system});
+        }
+    }
+    for (const CHeatingSystem& system : kCommon) {
+        if (!Has(offers, system)) {
+            offers.push_back({SystemText(system) + " °C", system});
+        }
+    }
+    return offers;
+}
+
 } // namespace
 
 CSystemDialog::CSystemDialog(const CBuilding& building, QWidget* parent)
-    : QDialog(parent), m_building(building), m_pCommon(new QComboBox),
+    : QDialog(parent), m_building(building), m_offers(OfferedSystems()), m_pOffers(new QComboBox),
       m_pVorlauf(MakeTemperature(building.system.vorlauf)),
       m_pRuecklauf(MakeTemperature(building.system.ruecklauf)),
       m_pExcessMax(MakePercentage(building.ueberschussMax)), m_dExcessShown(m_pExcessMax->value()),
@@ -76,12 +97,13 @@ CSystemDialog::CSystemDialog(const CBuilding& building, QWidget* parent)
     m_pConsequence->setMinimumHeight(fontMetrics().height() * 3);
     m_pButtons->button(QDialogButtonBox::Cancel)->setText("Annulla");
 
-    m_pCommon->addItem("Scegliere…");
-    for (const CHeatingSystem& system : kCommon) {
-        m_pCommon->addItem(QString("%1/%2 °C").arg(system.vorlauf).arg(system.ruecklauf));
+    m_pOffers->setObjectName("systems");
+    for (const COfferedSystem& offer : m_offers) {
+        m_pOffers->addItem(offer.strText);
     }
+    m_pOffers->setPlaceholderText("altre temperature");
     auto* const form = new QFormLayout;
-    form->addRow("&Sistemi usuali:", m_pCommon);
+    form->addRow("&Sistema:", m_pOffers);
     form->addRow("&Mandata:", m_pVorlauf);
     form->addRow("&Ritorno:", m_pRuecklauf);
     form->addRow("Sovradimensionato &oltre:", m_pExcessMax);
@@ -92,13 +114,14 @@ CSystemDialog::CSystemDialog(const CBuilding& building, QWidget* parent)
     layout->addWidget(m_pButtons);
     setMinimumWidth(fontMetrics().averageCharWidth() * 56);
 
-    connect(m_pCommon, &QComboBox::activated, this, &CSystemDialog::TakeCommon);
-    connect(m_pVorlauf, &QDoubleSpinBox::valueChanged, this, &CSystemDialog::ShowConsequence);
-    connect(m_pRuecklauf, &QDoubleSpinBox::valueChanged, this, &CSystemDialog::ShowConsequence);
+    connect(m_pOffers, &QComboBox::activated, this, &CSystemDialog::TakeOffer);
+    for (const CDecimalBox* const box : {m_pVorlauf, m_pRuecklauf}) {
+        connect(box, &QDoubleSpinBox::valueChanged, this, &CSystemDialog::ShowSystem);
+    }
     connect(m_pExcessMax, &QDoubleSpinBox::valueChanged, this, &CSystemDialog::ShowConsequence);
     connect(m_pButtons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(m_pButtons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    ShowConsequence();
+    ShowSystem();
 }
 
 CHeatingSystem CSystemDialog::GetSystem() const
@@ -112,12 +135,19 @@ double CSystemDialog::GetExcessMax() const
     return shown == m_dExcessShown ? m_building.ueberschussMax : shown;
 }
 
-void CSystemDialog::TakeCommon(int index)
+void CSystemDialog::TakeOffer(int index)
 {
-    if (index > 0) {
-        m_pVorlauf->setValue(kCommon[index - 1].vorlauf);
-        m_pRuecklauf->setValue(kCommon[index - 1].ruecklauf);
-    }
+    const CHeatingSystem& system = m_offers[static_cast<std::size_t>(index)].system;
+    m_pVorlauf->setValue(system.vorlauf);
+    m_pRuecklauf->setValue(system.ruecklauf);
+}
+
+void CSystemDialog::ShowSystem()
+{
+    const auto shown = std::ranges::find(m_offers, GetSystem(), &COfferedSystem::system);
+    m_pOffers->setCurrentIndex(shown != m_offers.end() ? static_cast<int>(shown - m_offers.begin())
+                                                       : -1);
+    ShowConsequence();
 }
 
 void CSystemDialog::ShowConsequence()

@@ -4,12 +4,22 @@
 
 #include <QDialog>
 
+#include <vector>
+
 class QComboBox;
 class QDialogButtonBox;
-class QDoubleSpinBox;
 class QLabel;
 
 namespace workbench {
+
+class CDecimalBox;
+
+/// A heating system that can be had with one choice.
+struct COfferedSystem
+{
+    QString strText;
+    CHeatingSystem system;
+};
 
 /// Asks for the heating system of a building, and by how much its radiators may exceed what is
 /// asked, and tells beforehand what that would mean for the rooms.
@@ -26,14 +36,17 @@ public:
     double GetExcessMax() const;
 
 private:
-    void TakeCommon(int index);
+    void TakeOffer(int index);
+    void ShowSystem();
     void ShowConsequence();
 
     CBuilding m_building;
-    QComboBox* m_pCommon;
-    QDoubleSpinBox* m_pVorlauf;
-    QDoubleSpinBox* m_pRuecklauf;
-    QDoubleSpinBox* m_pExcessMax;
+    std::vector<COfferedSystem> m_offers;
+    /// Shows none where the temperatures are those of none.
+    QComboBox* m_pOffers;
+    CDecimalBox* m_pVorlauf;
+    CDecimalBox* m_pRuecklauf;
+    CDecimalBox* m_pExcessMax;
     /// What it showed first, which may be rounded.
     double m_dExcessShown;
     QLabel* m_pConsequence;

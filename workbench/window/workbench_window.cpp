@@ -7,6 +7,7 @@
 #include "workbench/plan/placement.h"
 #include "workbench/window/floor_scene.h"
 #include "workbench/window/kept_window.h"
+#include "workbench/window/message_pane.h"
 #include "workbench/window/plan_drawer.h"
 #include "workbench/window/plan_texts.h"
 #include "workbench/window/room_list.h"
@@ -14,11 +15,12 @@
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QLabel>
-#include <QPlainTextEdit>
+#include <QMenu>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -43,33 +45,20 @@ constexpr int kMessagesHeight = 120;
 CWorkbenchWindow::CWorkbenchWindow(CPlanDocument& document, CDrawingBlocks blocks, CPrompts prompts)
     : m_document(document), m_blocks(std::move(blocks)), m_prompts(std::move(prompts)),
       m_commands(document, m_prompts, *this), m_files(document, m_blocks, m_prompts, *this),
-      m_pScene(new CFloorScene(this)), m_pView(new CPlanView(m_pScene)), m_pTabs(new QTabBar),
-      m_pRooms(new CRoomList), m_pMessages(new QPlainTextEdit), m_pTotals(new QLabel)
+      m_help(*this), m_pScene(new CFloorScene(this)), m_pView(new CPlanView(m_pScene)),
+      m_pTabs(new QTabBar), m_pRooms(new CRoomList), m_pEmpty(new QWidget),
+      m_pContext(new QMenu(this)), m_pMessages(new CMessagePane), m_pTotals(new QLabel)
 {
     m_pScene->SetBlocks(m_blocks.heizkoerper, m_blocks.Valves());
     m_pDrawer = std::make_unique<CPlanDrawer>(*m_pScene, m_blocks.heizkoerper.layers);
 
-    auto* const plan = new QWidget;
-    auto* const layout = new QVBoxLayout(plan);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(m_pTabs);
-    layout->addWidget(m_pView);
-    setCentralWidget(plan);
-    m_pTabs->setObjectName("floors");
-    m_pTabs->setDocumentMode(true);
-    m_pTabs->setExpanding(false);
-    m_pView->setObjectName("plan");
-    m_pView->setFrameShape(QFrame::NoFrame);
-
+    setCentralWidget(MakePlan());
+    m_pContext->setObjectName("context");
     statusBar()->addWidget(m_pTotals);
     m_pTotals->setObjectName("totals");
     MakeDocks();
-    MakeFileMenu();
-    MakeEditMenu();
-    MakeRadiatorMenu();
-    MakePlantMenu();
-    MakeViewMenu();
+    MakeMenus();
+    FillEmptyPlan();
     Connect();
     PlaceWindow();
     ShowBuilding();
@@ -78,12 +67,41 @@ CWorkbenchWindow::CWorkbenchWindow(CPlanDocument& document, CDrawingBlocks block
 
 CWorkbenchWindow::~CWorkbenchWindow() = default;
 
+QWidget* CWorkbenchWindow::MakePlan()
+{
+    auto* const plan = new QWidget;
+    auto* const layout = new QVBoxLayout(plan);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_pTabs);
+    layout->addWidget(m_pView);
+    layout->addWidget(m_pEmpty);
+    m_pTabs->setObjectName("floors");
+    m_pTabs->setDocumentMode(true);
+    m_pTabs->setExpanding(false);
+    m_pView->setObjectName("plan");
+    m_pView->setFrameShape(QFrame::NoFrame);
+    return plan;
+}
+
+void CWorkbenchWindow::FillEmptyPlan()
+{
+    m_pEmpty->setObjectName("empty");
+    auto* const layout = new QVBoxLayout(m_pEmpty);
+    layout->addStretch();
+    layout->addWidget(new QLabel("Nessun edificio aperto."), 0, Qt::AlignHCenter);
+    for (const char* const name : {"open", "new"}) {
+        auto* const button = new QToolButton;
+        button->setDefaultAction(findChild<QAction*>(name));
+        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+        layout->addWidget(button, 0, Qt::AlignHCenter);
+    }
+    layout->addStretch();
+}
+
 void CWorkbenchWindow::MakeDocks()
 {
     m_pMessages->setObjectName("messages");
-    m_pMessages->setReadOnly(true);
-    m_pMessages->setMaximumBlockCount(5000);
-    m_pMessages->setTabChangesFocus(true);
     const auto add = [this](const char* name, const QString& title, QWidget* content,
                             Qt::DockWidgetArea area) {
         auto* const dock = new QDockWidget(title, this);
@@ -118,11 +136,13 @@ void CWorkbenchWindow::Connect()
         m_pRooms->Refilter();
         m_pTabs->setCurrentIndex(0);
         m_pView->FitToContent();
+        m_pView->setFocus();
     });
     connect(&m_document, &CPlanDocument::KeepingFailed, this, [this](const QString& message) {
         Tell("Il lavoro non salvato non è al sicuro da un arresto improvviso: " + message);
     });
-    connect(&m_commands, &CPlanCommands::Told, this, &CWorkbenchWindow::Tell);
+    connect(&m_commands, &CPlanCommands::Told, this, &CWorkbenchWindow::TellNotices);
+    connect(m_pMessages, &CMessagePane::RoomAsked, this, &CWorkbenchWindow::ShowRoom);
     connect(&m_files, &CFileCommands::Told, this, &CWorkbenchWindow::Tell);
     connect(m_pTabs, &QTabBar::currentChanged, this, &CWorkbenchWindow::ShowFloor);
     connect(m_pScene, &CFloorScene::MarkChanged, this, &CWorkbenchWindow::MarkAsPlan);
@@ -131,10 +151,17 @@ void CWorkbenchWindow::Connect()
     connect(m_pRooms, &CRoomList::MarkChanged, this, &CWorkbenchWindow::MarkAsList);
     connect(m_pRooms, &CRoomList::FilterChanged, this, [this] { m_pRooms->MarkRooms(m_marked); });
     connect(m_pRooms, &CRoomList::RoomActivated, this, &CWorkbenchWindow::ChooseFor);
+    connect(m_pRooms, &CRoomList::RoomFound, this, &CWorkbenchWindow::ShowRoom);
+    connect(m_pRooms, &CRoomList::MenuAsked, this, &CWorkbenchWindow::ShowContextMenu);
+    connect(m_pScene, &CFloorScene::MenuAsked, this, &CWorkbenchWindow::ShowContextMenu);
 }
 
 void CWorkbenchWindow::ShowBuilding()
 {
+    const bool any = !m_document.Building().floors.empty();
+    m_pView->setVisible(any);
+    m_pEmpty->setVisible(!any);
+    m_pMessages->ShowFor(m_document.History());
     ShowTabs();
     ShowFloor(m_pTabs->currentIndex());
     m_pRooms->ShowBuilding(m_document.Building());
@@ -182,11 +209,9 @@ void CWorkbenchWindow::ShowTotals()
         bedarf += RoomOf(building, ref).bedarf;
         gedeckt += CoveredOf(RoomOf(building, ref));
     }
-    m_pTotals->setText(QString("Sistema %1/%2 °C     Fabbisogno %3     Coperto %4     "
-                               "Locali da sistemare: %5")
-                           .arg(building.system.vorlauf)
-                           .arg(building.system.ruecklauf)
-                           .arg(WattText(bedarf), WattText(gedeckt))
+    m_pTotals->setText(QString("Sistema %1 °C     Fabbisogno %2     Coperto %3     "
+                               "Locali da sistemare: %4")
+                           .arg(SystemText(building.system), WattText(bedarf), WattText(gedeckt))
                            .arg(OpenRooms(building).size()));
     m_pTotals->setToolTip(m_pTotals->text());
 }
@@ -204,8 +229,11 @@ void CWorkbenchWindow::ShowTitle()
 
 void CWorkbenchWindow::TellStates()
 {
-    if (const QStringList lines = m_states.TakeNew(m_document.Building()); !lines.isEmpty()) {
-        Tell(lines.join('\n'));
+    const std::vector<CNotice> notices = m_states.TakeNew(m_document.Building());
+    const StateId state = m_document.History().GetCurrentId();
+    // A state that comes back has its notices already.
+    if (std::exchange(m_nTold, std::max(m_nTold, state)) < state && !notices.empty()) {
+        TellNotices(notices);
     }
 }
 
@@ -292,9 +320,45 @@ void CWorkbenchWindow::RemoveMarked()
     m_commands.Remove(RadiatorsOfMark());
 }
 
+void CWorkbenchWindow::Find()
+{
+    m_pRoomDock->show();
+    m_pRooms->StartFinding();
+}
+
+void CWorkbenchWindow::ShowRoom(const CRoomRef& room)
+{
+    if (Exists(m_document.Building(), room)) {
+        m_pTabs->setCurrentIndex(static_cast<int>(room.nFloor));
+        m_pScene->MarkRooms({room});
+        m_pScene->ShowInViews(room);
+    }
+}
+
+std::size_t CWorkbenchWindow::ShownFloor() const
+{
+    return static_cast<std::size_t>(std::max(m_pTabs->currentIndex(), 0));
+}
+
+void CWorkbenchWindow::TurnFloors(int step)
+{
+    m_pTabs->setCurrentIndex(std::clamp(m_pTabs->currentIndex() + step, 0, m_pTabs->count() - 1));
+}
+
 void CWorkbenchWindow::Tell(const QString& message)
 {
-    m_pMessages->appendPlainText(message);
+    m_pMessages->Add({{message}}, std::nullopt);
+    ShowMessages();
+}
+
+void CWorkbenchWindow::TellNotices(const std::vector<CNotice>& notices)
+{
+    m_pMessages->Add(notices, m_document.History().GetCurrentId());
+    ShowMessages();
+}
+
+void CWorkbenchWindow::ShowMessages()
+{
     if (m_pMessageDock->isHidden()) {
         m_pMessageDock->show();
         resizeDocks({m_pMessageDock}, {kMessagesHeight}, Qt::Vertical);

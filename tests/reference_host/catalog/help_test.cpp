@@ -15,6 +15,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 using namespace reference_host;
 
@@ -87,14 +88,24 @@ TEST_F(Help, TheOpenerGetsThePageAsItsOneArgumentAndLeavesNoChild)
     EXPECT_EQ(errno, ECHILD);
 }
 
-TEST_F(Help, AProgramThatCannotBeStartedIsPassedOver)
+TEST_F(Help, APageThatNoProgramOpensIsToldWithItsPlace)
 {
     m_folder.WriteBytes("18003.pdf", "");
-    for (const std::string name : {"missing", "18003.pdf", "opener"}) {
+    m_folder.WriteBytes("desktop", "#!/bin/sh\nexit 3\n"); // has no program for the file
+    std::filesystem::permissions(m_folder.Root() / "desktop", std::filesystem::perms::owner_all);
+    std::vector<CString> told;
+    SetHelpTeller([&](const CString& text) { told.push_back(text); });
+    for (const std::string name : {"missing", "18003.pdf", "desktop", "opener"}) {
         OverrideHostSetting(kSettingHelpProgram, m_folder.Path(name));
         ShowPDF(18003, 100);
     }
     EXPECT_EQ(WaitForOpener(), "1|" + PagePath("18003.pdf") + "\n");
+    SetHelpTeller({});
+    EXPECT_EQ(told.size(), 3u) << "the last one could be started";
+    for (const CString& text : told) {
+        EXPECT_NE(text.find(L"PDF"), CString::npos);
+        EXPECT_NE(text.find(L"18003.pdf"), CString::npos);
+    }
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "frame/vdi6030_start.h"
 #include "host/host_prefs.h"
 #include "reference_host/prefs/host_settings.h"
+#include "reference_host/prefs/lent_start.h"
 #include "tests/src/platform/archived.h"
 #include "tests/support/colleague.h"
 #include "tests/support/setting_override.h"
@@ -184,6 +185,22 @@ TEST_F(DefFiles, StartValuesThatAnotherProcessChangedMeanwhileStay)
     EXPECT_EQ(stored.Anschluss.Name, L"Durchgang");
     EXPECT_EQ(stored.Hersteller, L"Altomonte");
     EXPECT_EQ(stored.Produkt, L"Tipo 22") << "a place in the catalogue is not mixed of two";
+}
+
+TEST_F(DefFiles, OfLentStartValuesThoseAreStoredThatChange)
+{
+    LendStart(SomeStart()); // nothing is stored yet
+    VDI6030START ours = *ReadDefFile_VDI6030START(false);
+    EXPECT_EQ(Payload(ours), Payload(SomeStart()));
+    ours.AbstandWand = 0.33;
+    ASSERT_TRUE(WriteDefFile_VDI6030START(&ours, false));
+    EXPECT_EQ(Payload(GetLentStart().value_or(VDI6030START())), Payload(ours));
+    EndLentStart();
+    ASSERT_NE(ReadDefFile_VDI6030START(false), nullptr);
+    const VDI6030START stored = *ReadDefFile_VDI6030START(false);
+    EXPECT_EQ(stored.AbstandWand, 0.33);
+    EXPECT_EQ(stored.Hersteller, L"");
+    EXPECT_EQ(stored.Anschluss.Name, L"");
 }
 
 } // namespace

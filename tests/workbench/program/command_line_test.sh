@@ -8,8 +8,8 @@ program=$(realpath "$1")
 data=$(realpath "$2")
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
-export XDG_CONFIG_HOME=$scratch XDG_RUNTIME_DIR=$scratch TGA_DATA_SINGLE=$data/root
+unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM XDG_RUNTIME_DIR
+export XDG_CONFIG_HOME=$scratch TGA_DATA_SINGLE=$data/root
 cd "$data"
 
 # What a starter puts in front of the user's arguments.
@@ -53,4 +53,5 @@ answers 0 'radsel_workbench ' --version
     failures=$((failures + 1))
 }
 answers 0 'corpi-scaldanti.csv' "${catalogues[@]}" --valve-catalogues valves
+! grep -F XDG_RUNTIME_DIR "$scratch/answer" || failures=$((failures + 1))
 exit $((failures > 0))

@@ -71,7 +71,7 @@ TEST_F(PlanScheduleTest, ColumnsOfTheCsvFileSumToItsTotals)
           L"Terra;Due;scelto;20;;;;Prova;Radiatori a piastra;Tipo 11;B;600;100;1000;390;390;"
           L";0;0.000;;;;;;;Nessuno;111111111111111111111111111111111111;;;;;\"ritorno: la "
           L"cartella delle valvole non ha il produttore \"\"Nessuno\"\"\"",
-          L"Terra;Debole;insufficiente;20;1000;0;1000;Prova;Radiatori a piastra;Tipo 22;;"
+          L"Terra;Debole;scarso;20;1000;0;1000;Prova;Radiatori a piastra;Tipo 22;;"
           L"600;100;1000;800;800;-20.0;0;0.000;;;;;;;;;;;;;mancano 200 W (20.0 %)",
           L"Terra;Coperto;già coperto;20;300;300;0;Prova;Radiatori a piastra;Tipo 22;;;"
           L";;;;;;;;;;;;;;;;;;;nessun corpo scaldante necessario",
@@ -184,7 +184,7 @@ TEST_F(PlanScheduleTest, TheTextNamesARoomOnceAndSaysWhatItLacks)
 {
     const CString text = FormatScheduleText(SchedulePlan(m_building), false);
     EXPECT_EQ(text.find(L"Due "), text.rfind(L"Due "));
-    EXPECT_NE(text.find(L"    insufficiente: mancano 200 W (20.0 %)\n"), CString::npos);
+    EXPECT_NE(text.find(L"    scarso: mancano 200 W (20.0 %)\n"), CString::npos);
     EXPECT_NE(text.find(L"    manca il corpo scaldante: mancano 1500 W (100.0 %)\n"),
               CString::npos);
     EXPECT_NE(text.find(L"Locali: 4; con corpo scaldante: 1; già coperti: 1; senza corpo scaldante "

@@ -243,8 +243,8 @@ TEST_F(FloorScene, ToolTipsHoldTheDataOfWhatLiesBelow)
     ReplaceRoom(rooms.building, kSud, room);
     scene.ShowFloor(rooms.building, 0);
     const std::pair<QPointF, std::vector<const char*>> cases[] = {
-        {kInSud, {"Bar &lt;A&amp;B&gt;", "1000 W", "500 W", "12 m²", "20 °C", "Insufficiente"}},
-        {kOnSudRadiator, {"22/600", "1000 × 600 × 100 mm", "500 W", "sotto la finestra"}},
+        {kInSud, {"Bar &lt;A&amp;B&gt;", "1000 W", "500 W", "12 m²", "20 °C", "Scarso"}},
+        {kOnSudRadiator, {"22/600", "600 × 100 × 1000 mm", "500 W", "sotto la finestra"}},
     };
     for (const auto& [place, texts] : cases) {
         const QString tip = TipAt(*view.viewport(), Pixel(place));

@@ -1,10 +1,13 @@
 // What the window makes of the module's dialogs.
 
+#include "frame/vdi6030_start.h"
+#include "host/host_prefs.h"
 #include "tests/workbench/window/module_user.h"
 #include "tests/workbench/window/workbench_fixture.h"
 #include "tools/make_building_samples.h"
 #include "workbench/building/qt_text.h"
 
+#include <QMessageBox>
 #include <QProgressDialog>
 #include <QTableView>
 #include <QTreeWidget>
@@ -18,6 +21,7 @@ enum SelectionControl
 {
     idLeistungSoll = 18005,
     idLeistungIst = 18011,
+    idNachLeistung = 18017,
     idSystemName = 7007,
     idVorlauf = 7008,
     idRuecklauf = 7009,
@@ -31,11 +35,13 @@ enum SelectionControl
 /// Controls of the dialog of connections.
 enum ConnectionControl
 {
+    idTypen = 362,
     idVentileAktiv = 18077,
     idWand = 18105,
     idLeereAN = 18095,
     idGrafikenAN = 18097,
     idGrafikenRI = 18098,
+    idInverti = 18040,
     idPresetLinksUnten = 18080,
 };
 
@@ -131,6 +137,60 @@ TEST_F(ModuleDialogs, AnUntouchedSelectionLeavesTheRadiatorAsItIs)
             Do("undo");
         }
     }
+}
+
+TEST_F(ModuleDialogs, TypingAnOutputIsNotInterrupted)
+{
+    Mark({{0, 1}});
+    int warnings = 0;
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&] {
+        if (auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            ++warnings;
+            box->accept();
+        }
+    });
+    QString typed;
+    InSelection([&](const CModuleUser& user) {
+        auto& filter = user.Control<QAbstractButton>(idNachLeistung);
+        if (!filter.isChecked()) {
+            filter.click();
+        }
+        watch.start(1);
+        auto& output = user.Control<QLineEdit>(idLeistungSoll);
+        output.selectAll();
+        QTest::keyClicks(&output, "900");
+        typed = output.text();
+        user.Cancel();
+    });
+    Do("choose");
+    EXPECT_EQ(warnings, 0);
+    EXPECT_EQ(typed, "900");
+}
+
+TEST_F(ModuleDialogs, ExchangedPointsHaveTheNameOfTheirOwnType)
+{
+    Do("sizeAll");
+    Mark({{0, 1}});
+    const auto connect = [this](const Script& work) {
+        InModule([&](const CModuleUser& user) {
+            work(user);
+            user.Ok();
+        });
+        Do("connect");
+        return Radiator(0, 1).anschluss.Name;
+    };
+    const auto choose = [](const char* type) {
+        return [=](const CModuleUser& user) { user.Choose(idTypen, type); };
+    };
+    EXPECT_EQ(connect(choose("Opposti in basso, mandata a sinistra")),
+              L"Opposti in basso, mandata a sinistra");
+    EXPECT_EQ(connect([](const CModuleUser& user) { user.Click(idInverti); }),
+              L"Opposti in basso, mandata a destra");
+    EXPECT_EQ(connect([](const CModuleUser&) {}), L"Opposti in basso, mandata a destra");
+    connect(choose("Stesso lato, a sinistra"));
+    EXPECT_EQ(connect([](const CModuleUser& user) { user.Click(idInverti); }), L"")
+        << "the list has no type with its flow below";
 }
 
 TEST_F(ModuleDialogs, OnlyTheFirstOfSeveralRadiatorsStartsWithHalfTheDemand)
@@ -351,6 +411,30 @@ TEST_F(ModuleDialogs, RadiatorsTakeDistancesAndConnectionConfirmedInTheSelection
     EXPECT_EQ(fresh.abstandWand, 0.08);
     EXPECT_EQ(fresh.anschluss.PosAN, left);
     EXPECT_TRUE(fresh.ventile.vorlauf) << "the building tells which valves";
+}
+
+TEST_F(ModuleDialogs, ACrashInTheSelectionLeavesTheStartValuesThatAreKept)
+{
+    Do("sizeAll");
+    const fs::path store = fs::path(m_folder.Path()) / "Vdi6030Start.def";
+    VDI6030START kept;
+    kept.AbstandWand = 0.07;
+    kept.Anschluss.Name = L"Proprio";
+    ASSERT_TRUE(WriteDefFile_VDI6030START(&kept, false));
+    const std::string before = BytesOf(store);
+    Mark({{0, 1}});
+    std::string open;
+    InSelection([&](const CModuleUser& user) {
+        open = BytesOf(store);
+        user.Ok();
+    });
+    Do("choose");
+    EXPECT_TRUE(open == before);
+    const VDI6030START* const after = ReadDefFile_VDI6030START(false);
+    ASSERT_NE(after, nullptr);
+    EXPECT_EQ(after->AbstandWand, 0.07);
+    EXPECT_EQ(after->Anschluss.Name, L"Proprio");
+    EXPECT_EQ(after->SystemVorlauf, 70) << "OK stores the system";
 }
 
 TEST_F(ModuleDialogs, CancellingTheSizingLeavesTheProductAsWell)

@@ -18,8 +18,8 @@
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QDoubleSpinBox>
-#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextEdit>
 #include <QTimer>
 
 #include <filesystem>
@@ -67,7 +67,10 @@ protected:
             m_answers.erase(m_answers.begin());
             return answer;
         };
-        prompts.tell = [this](QWidget*, const QString& text) { m_told = text; };
+        prompts.tell = [this](QWidget*, const QString& text, CPrompts::Tone tone) {
+            m_told = text;
+            m_tone = tone;
+        };
         return std::make_unique<CWorkbenchWindow>(document, ReadDrawingBlocks(), prompts);
     }
 
@@ -102,7 +105,7 @@ protected:
 
     std::size_t LeftWork() const { return m_recovery.TakeLeft().size(); }
 
-    QString Messages() { return m_window->findChild<QPlainTextEdit*>("messages")->toPlainText(); }
+    QString Messages() { return m_window->findChild<QTextEdit*>("messages")->toPlainText(); }
 
     /// Works on the modal window that the next action opens.
     static void InDialog(const std::function<void(QWidget&)>& work)
@@ -147,6 +150,7 @@ protected:
     int m_nQuestions = 0;
     QString m_question;
     QString m_told;
+    CPrompts::Tone m_tone = CPrompts::Tone::information;
     std::unique_ptr<CWorkbenchWindow> m_window;
 };
 

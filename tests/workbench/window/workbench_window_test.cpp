@@ -103,7 +103,7 @@ TEST_F(WorkbenchWindow, NamesInMessagesAreNoMarkup)
         dynamic_cast<QMessageBox&>(box).reject();
     };
     InDialog(look);
-    prompts.tell(m_window.get(), text);
+    prompts.tell(m_window.get(), text, CPrompts::Tone::error);
     InDialog(look);
     prompts.ask(m_window.get(), text, "&Sì", "&No", true);
     EXPECT_EQ(seen, 2);
@@ -289,6 +289,7 @@ TEST_F(WorkbenchWindow, AFailedSaveKeepsFileAndWork)
     m_answerPath = (m_path.parent_path() / "manca" / "casa.json").wstring();
     Do("saveAs");
     EXPECT_TRUE(m_told.contains("non è stato salvato")) << m_told.toStdString();
+    EXPECT_EQ(m_tone, CPrompts::Tone::error);
     EXPECT_TRUE(m_window->isWindowModified());
     EXPECT_EQ(m_document.Path(), m_path.wstring());
     m_answer = CPrompts::Answer::yes;
@@ -341,8 +342,7 @@ TEST_F(WorkbenchWindow, TheSecondWindowOnABuildingOnlyReadsIt)
         << second->windowTitle().toStdString();
     EXPECT_FALSE(action("save")->isEnabled());
     EXPECT_TRUE(action("save")->text().contains("sola lettura"));
-    EXPECT_TRUE(
-        second->findChild<QPlainTextEdit*>("messages")->toPlainText().contains("è aperto da"));
+    EXPECT_TRUE(second->findChild<QTextEdit*>("messages")->toPlainText().contains("è aperto da"));
 
     const std::string before = BytesOf(m_path);
     action("sizeAll")->trigger();

@@ -1,0 +1,89 @@
+#include "workbench/window/message_pane.h"
+
+#include <QScrollBar>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+/// Older ones go: nobody reads so many, and each keeps its lines.
+constexpr std::size_t kMost = 5000;
+
+QString PlainLines(const QString& text)
+{
+    return text.toHtmlEscaped().replace('\n', "<br>");
+}
+
+QString ParagraphOf(const CNotice& notice)
+{
+    QString html = "<p style=\"margin: 0\">";
+    if (notice.room) {
+        html += QString("<a href=\"%1/%2\">%3</a>: ")
+                    .arg(notice.room->nFloor)
+                    .arg(notice.room->nRoom)
+                    .arg(notice.strRoom.toHtmlEscaped());
+    }
+    return html + PlainLines(notice.strText) + "</p>";
+}
+
+} // namespace
+
+CMessagePane::CMessagePane(QWidget* parent) : QTextBrowser(parent)
+{
+    setPlaceholderText("Nessun avviso.");
+    setOpenLinks(false);
+    setUndoRedoEnabled(false);
+    setTabChangesFocus(true);
+    connect(this, &QTextBrowser::anchorClicked, this, &CMessagePane::Follow);
+}
+
+void CMessagePane::Add(const std::vector<CNotice>& notices, std::optional<StateId> state)
+{
+    for (const CNotice& notice : notices) {
+        m_entries.push_back({notice, state});
+    }
+    if (m_entries.size() > kMost) {
+        m_entries.erase(m_entries.begin(), m_entries.end() - std::ptrdiff_t(kMost));
+    }
+    Rebuild();
+}
+
+void CMessagePane::ShowFor(const CPlanHistory& history)
+{
+    bool changed = std::erase_if(m_entries, [&](const CEntry& entry) {
+                       return entry.state && !history.Has(*entry.state);
+                   }) > 0;
+    for (CEntry& entry : m_entries) {
+        const bool holds = !entry.state || history.IsReached(*entry.state);
+        changed = changed || holds != entry.bShown;
+        entry.bShown = holds;
+    }
+    if (changed) {
+        Rebuild();
+    }
+}
+
+void CMessagePane::Rebuild()
+{
+    QString html;
+    for (const CEntry& entry : m_entries) {
+        if (entry.bShown) {
+            html += ParagraphOf(entry.notice);
+        }
+    }
+    setHtml(html);
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+void CMessagePane::Follow(const QUrl& link)
+{
+    const QStringList numbers = link.toString().split('/');
+    if (numbers.size() == 2) {
+        emit RoomAsked({numbers[0].toUInt(), numbers[1].toUInt()});
+    }
+}
+
+} // namespace workbench

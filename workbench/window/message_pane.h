@@ -1,0 +1,54 @@
+#pragma once
+
+#include "workbench/plan/plan_edit.h"
+#include "workbench/plan/plan_history.h"
+
+#include <QTextBrowser>
+
+#include <optional>
+#include <vector>
+
+namespace workbench {
+
+/// Something that the designer is told, in one or several lines of plain text.
+struct CNotice
+{
+    QString strText;
+    /// The room that it is about. Its name goes ahead of the text and leads there.
+    std::optional<CRoomRef> room = std::nullopt;
+    QString strRoom = {};
+};
+
+/// What the designer was told, a paragraph each. What holds for a state of the building goes when
+/// the state is undone, and comes back with it.
+class CMessagePane : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit CMessagePane(QWidget* parent = nullptr);
+
+    /// With a state the notices hold for that; without one they stay.
+    void Add(const std::vector<CNotice>& notices, std::optional<StateId> state);
+
+    /// Shows what holds where the history stands now, and forgets what can hold no more.
+    void ShowFor(const CPlanHistory& history);
+
+signals:
+    void RoomAsked(const CRoomRef& room);
+
+private:
+    struct CEntry
+    {
+        CNotice notice;
+        std::optional<StateId> state;
+        bool bShown = true;
+    };
+
+    void Rebuild();
+    void Follow(const QUrl& link);
+
+    std::vector<CEntry> m_entries;
+};
+
+} // namespace workbench
