@@ -4,6 +4,8 @@
 
 #include <cmath>
 #include <tuple>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -46,6 +48,20 @@ TEST(BildGeometrie, ArrowsShowTheFlowInThePipe)
             << c.winkel1 << ';' << c.winkel2;
         EXPECT_EQ(Pfeilrichtung(c.winkel1, c.winkel2, false), c.ruecklauf)
             << c.winkel1 << ';' << c.winkel2;
+    }
+}
+
+TEST(BildGeometrie, AnArrowIsAShaftWithTwoBarbsAtItsHead)
+{
+    const std::pair<Pfeil, std::vector<CStrich>> arrows[] = {
+        {Pfeil::rechts, {{{41, 80}, {59, 80}, {54, 76}}, {{59, 80}, {54, 84}}}},
+        {Pfeil::links, {{{41, 80}, {59, 80}}, {{41, 80}, {46, 76}}, {{41, 80}, {46, 84}}}},
+        {Pfeil::unten, {{{50, 71}, {50, 89}, {46, 84}}, {{50, 89}, {54, 84}}}},
+        {Pfeil::oben, {{{50, 89}, {50, 71}, {46, 76}}, {{50, 71}, {54, 76}}}},
+        {static_cast<Pfeil>(4), {}},
+    };
+    for (const auto& [richtung, striche] : arrows) {
+        EXPECT_EQ(PfeilStriche(richtung, {50, 80}), striche);
     }
 }
 
