@@ -144,6 +144,7 @@ QString ToolTipOf(const CBuilding& building, const CRoom& room, const CPlacedRad
                   {"Tipo di corpo", ToQt(radiator.strArt)},
                   {"Locale", ToQt(room.strName)},
                   {"Posto", Place(room, radiator)},
+                  {"Stato", SizeFault(building, room, radiator)},
                   {"Altezza × profondità × lunghezza", DecimalText(daten.Hoehe, 0) + times +
                                                            DecimalText(daten.Tiefe, 0) + times +
                                                            Millimetres(daten.Laenge)},
