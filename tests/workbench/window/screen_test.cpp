@@ -9,6 +9,7 @@
 #include "workbench/drawing/plan_view.h"
 #include "workbench/window/coverage_look.h"
 #include "workbench/window/kept_window.h"
+#include "workbench/window/project_dialog.h"
 #include "workbench/window/system_dialog.h"
 
 #include <QDockWidget>
@@ -74,6 +75,8 @@ TEST_F(AnyScreen, TextsFitInEveryFont)
         Show();
         CSystemDialog system(m_document.Building(), m_window.get());
         system.show();
+        CProjectDialog project(m_document.Building().project, m_window.get());
+        project.show();
         QApplication::processEvents();
         std::vector<CutText> cut = FindCutTexts(*m_window);
         std::ranges::copy(FindCutListItems(system), std::back_inserter(cut));
