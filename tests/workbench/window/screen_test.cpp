@@ -10,6 +10,7 @@
 #include "workbench/window/coverage_look.h"
 #include "workbench/window/kept_window.h"
 #include "workbench/window/project_dialog.h"
+#include "workbench/window/room_dialog.h"
 #include "workbench/window/system_dialog.h"
 
 #include <QDockWidget>
@@ -77,6 +78,8 @@ TEST_F(AnyScreen, TextsFitInEveryFont)
         system.show();
         CProjectDialog project(m_document.Building().project, m_window.get());
         project.show();
+        CRoomDialog room(m_document.Building(), 0, m_window.get());
+        room.show();
         QApplication::processEvents();
         std::vector<CutText> cut = FindCutTexts(*m_window);
         std::ranges::copy(FindCutListItems(system), std::back_inserter(cut));
