@@ -9,6 +9,7 @@
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
 #include "host/host_catalog.h"
+#include "host/host_identity.h"
 #include "host/host_prefs.h"
 
 #include <QApplication>
@@ -266,6 +267,9 @@ void RunOnScreen(int& argc, char** argv)
 }
 
 } // namespace
+
+// All but the cache is the reference host's.
+RADSEL_HOST_IDENTITY("radsel reference host")
 
 CSettingsCache* lmGetCacheObject()
 {

@@ -216,7 +216,7 @@ TEST(PlanLegend, TheScaleBarHasRoundNumbers)
     }
 }
 
-TEST(ReportTable, ColumnsOfLongTextsTakeOfWhatOthersHaveToSpare)
+TEST_F(PlanPdfTest, ColumnsOfLongTextsTakeOfWhatOthersHaveToSpare)
 {
     CTextNotes notes;
     QPainter painter(&notes);
