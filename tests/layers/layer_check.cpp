@@ -1,11 +1,13 @@
 #include "tests/layers/layer_check.h"
 
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <map>
-#include <regex>
+#include <optional>
 #include <set>
 #include <sstream>
+#include <string_view>
 
 namespace {
 
@@ -14,15 +16,41 @@ namespace fs = std::filesystem;
 struct CRoom
 {
     std::string strToolkit;
-    /// The rooms it uses, and all that these use.
+    std::vector<std::string> uses;
+    /// All that it may include, by way of the rooms it uses as well.
     std::set<std::string> reach;
 };
 
-/// An include of a file of the project or of a header of the toolkit.
-const std::regex kOwnInclude("\\s*#\\s*include\\s*\"([^\"]+)\".*");
-const std::regex kToolkitInclude("\\s*#\\s*include\\s*[<\"]Q[A-Za-z].*");
-/// A name of the toolkit ahead of any comment or text: "Q", a capital, a small letter.
-const std::regex kToolkitName("([^/\"]*[^/\"A-Za-z0-9_])?Q[A-Z][a-z].*");
+/// What an include names, with its opening mark in front; empty for every other line.
+std::string_view IncludedBy(std::string_view line)
+{
+    const auto skipBlanks = [&line] {
+        line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+    };
+    for (const std::string_view word : {"#", "include"}) {
+        skipBlanks();
+        if (!line.starts_with(word)) {
+            return {};
+        }
+        line.remove_prefix(word.size());
+    }
+    skipBlanks();
+    return line.substr(0, line.find_last_of("\">"));
+}
+
+/// True for a name of the toolkit ahead of any comment or text: "Q", a capital, a small letter.
+bool NamesToolkit(std::string_view line)
+{
+    line = line.substr(0, line.find_first_of("/\""));
+    for (std::size_t i = 0; i + 2 < line.size(); ++i) {
+        const bool begins = i == 0 || (std::isalnum(line[i - 1]) == 0 && line[i - 1] != '_');
+        if (begins && line[i] == 'Q' && std::isupper(line[i + 1]) != 0 &&
+            std::islower(line[i + 2]) != 0) {
+            return true;
+        }
+    }
+    return false;
+}
 
 class CLayerCheck
 {
@@ -33,34 +61,26 @@ public:
         for (std::string line; std::getline(lines, line);) {
             std::istringstream words(line);
             std::string folder;
-            words >> folder;
-            CRoom& room = m_rooms[folder];
-            words >> room.strToolkit;
+            CRoom room;
+            words >> folder >> room.strToolkit;
             for (std::string used; words >> used;) {
-                room.reach.insert(used);
+                room.uses.push_back(used);
             }
-        }
-        for (bool grown = true; grown;) {
-            grown = false;
-            for (auto& [folder, room] : m_rooms) {
-                const std::set<std::string> known = room.reach;
-                for (const std::string& used : known) {
-                    const std::set<std::string>& further = m_rooms.at(used).reach;
-                    room.reach.insert(further.begin(), further.end());
-                }
-                grown = grown || room.reach.size() > known.size();
-            }
+            m_rooms[folder] = std::move(room);
         }
     }
 
     std::vector<std::string> Run()
     {
-        std::set<std::string> houses;
-        for (const auto& [folder, room] : m_rooms) {
-            houses.insert(folder.substr(0, folder.find('/')));
+        for (auto& [folder, room] : m_rooms) {
+            Follow(folder, room.reach);
             if (room.reach.contains(folder)) {
                 m_faults.push_back("table: " + folder + " uses itself by way of what it uses");
             }
+        }
+        std::set<std::string> houses;
+        for (const auto& [folder, room] : m_rooms) {
+            houses.insert(folder.substr(0, folder.find('/')));
         }
         for (const std::string& house : houses) {
             for (const auto& entry : fs::recursive_directory_iterator(m_root / house)) {
@@ -75,55 +95,89 @@ public:
     }
 
 private:
-    /// The folder of a file's room; empty if it lies in none.
-    std::string RoomOf(const fs::path& file) const
+    void Follow(const std::string& folder, std::set<std::string>& reach) const
     {
-        fs::path folder = file.parent_path();
-        while (!folder.empty() && !m_rooms.contains(folder.generic_string())) {
-            folder = folder.parent_path();
+        const auto room = m_rooms.find(folder);
+        if (room == m_rooms.end()) {
+            return;
         }
-        return folder.generic_string();
+        for (const std::string& used : room->second.uses) {
+            if (reach.insert(used).second) {
+                Follow(used, reach);
+            }
+        }
+    }
+
+    std::optional<std::string> RoomOf(const fs::path& file) const
+    {
+        for (fs::path folder = file.parent_path(); !folder.empty(); folder = folder.parent_path()) {
+            if (m_rooms.contains(folder.generic_string())) {
+                return folder.generic_string();
+            }
+        }
+        return std::nullopt;
     }
 
     /// Files of the module are named from its own folder, all others from the root.
-    std::string RoomOfIncluded(const std::string& included) const
+    std::optional<fs::path> Resolve(const std::string& included) const
     {
         for (const fs::path& candidate : {fs::path("src") / included, fs::path(included)}) {
             if (fs::is_regular_file(m_root / candidate)) {
-                return RoomOf(candidate);
+                return candidate;
             }
         }
-        return {};
+        return std::nullopt;
     }
 
     void CheckFile(const fs::path& file)
     {
-        const std::string folder = RoomOf(file);
-        if (folder.empty()) {
+        const auto folder = RoomOf(file);
+        if (!folder) {
             m_faults.push_back(file.generic_string() + ": its folder is no room");
             return;
         }
-        const CRoom& room = m_rooms.at(folder);
-        const bool inside = room.strToolkit == "toolkit=inside";
+        const CRoom& room = m_rooms.at(*folder);
         const bool open = room.strToolkit == "toolkit=open" ||
-                          (inside && (file.extension() == ".cpp" || file.parent_path() != folder));
+                          (room.strToolkit == "toolkit=inside" &&
+                           (file.extension() == ".cpp" || file.parent_path() != *folder));
         std::ifstream stream(m_root / file);
         int number = 0;
         for (std::string line; std::getline(stream, line);) {
-            const std::string place = file.generic_string() + ':' + std::to_string(++number) + ": ";
-            if (std::smatch named; std::regex_match(line, named, kOwnInclude)) {
-                const std::string target = RoomOfIncluded(named[1]);
-                if (target.empty()) {
-                    m_faults.push_back(place + named[1].str() + " is in no room");
-                } else if (target != folder && !room.reach.contains(target)) {
-                    m_faults.push_back(place + folder + " may not include " + target);
-                }
-            }
-            if (!open && std::regex_match(line, kToolkitInclude)) {
-                m_faults.push_back(place + folder + " is free of the toolkit");
-            } else if (!open && inside && std::regex_match(line, kToolkitName)) {
-                m_faults.push_back(place + "a header of " + folder + " shows the toolkit");
-            }
+            ++number;
+            const std::string place = file.generic_string() + ':' + std::to_string(number) + ": ";
+            CheckInclude(place, line, *folder, room);
+            CheckToolkit(place, line, *folder, room, open);
+        }
+    }
+
+    void CheckInclude(const std::string& place, const std::string& line, const std::string& folder,
+                      const CRoom& room)
+    {
+        const std::string_view named = IncludedBy(line);
+        if (!named.starts_with('"')) {
+            return;
+        }
+        const std::string included(named.substr(1));
+        const auto target = Resolve(included);
+        const auto targetRoom = target ? RoomOf(*target) : std::nullopt;
+        if (!targetRoom) {
+            m_faults.push_back(place + included + " is in no room");
+        } else if (*targetRoom != folder && !room.reach.contains(*targetRoom)) {
+            m_faults.push_back(place + folder + " may not include " + *targetRoom);
+        }
+    }
+
+    void CheckToolkit(const std::string& place, const std::string& line, const std::string& folder,
+                      const CRoom& room, bool open)
+    {
+        const std::string_view named = IncludedBy(line);
+        if (open) {
+            return;
+        }
+        if (named.size() > 2 && named[1] == 'Q' && std::isalpha(named[2]) != 0) {
+            m_faults.push_back(place + folder + " is free of the toolkit");
+        } else if (room.strToolkit == "toolkit=inside" && NamesToolkit(line)) {
+            m_faults.push_back(place + "a header of " + folder + " shows the toolkit");
         }
     }
 
