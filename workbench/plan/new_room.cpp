@@ -43,7 +43,7 @@ CFloorRect EastOf(const CFloor& floor, const CNewRoom& room)
     return rect;
 }
 
-/// The room added last, of whatever floor; null if there is none.
+/// The last room of the floor, or of the first floor that has rooms; null if there is none.
 const CRoom* LastRoom(const CBuilding& building, const CFloor& floor)
 {
     if (!floor.rooms.empty()) {

@@ -3,8 +3,10 @@
 #include "host/host_prefs.h"
 #include "platform/encoding.h"
 #include "platform/environment.h"
+#include "platform/exception.h"
 #include "platform/message.h"
 #include "platform/path.h"
+#include "platform/whole_file.h"
 #include "reference_host/prefs/host_settings.h"
 #include "workbench/program/arguments.h"
 
@@ -48,16 +50,28 @@ fs::path OwnWorkplace()
     return folder ? ResolvePath(*folder) : fs::path();
 }
 
-/// Copies the files that `to` does not have yet.
+/// Copies the files that `to` does not have yet, each in one piece: half a copy would stay.
 void CopyMissing(const fs::path& from, const fs::path& to)
 {
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(from)) {
-        if (entry.is_regular_file()) {
-            const fs::path target = to / fs::relative(entry.path(), from);
+        const fs::path target = to / fs::relative(entry.path(), from);
+        if (entry.is_regular_file() && !fs::exists(target)) {
             fs::create_directories(target.parent_path());
-            fs::copy_file(entry.path(), target, fs::copy_options::skip_existing);
+            WriteWholeFile(TextFromPath(target), ReadWholeFile(TextFromPath(entry.path())).value());
         }
     }
+}
+
+/// Where the working place cannot be filled the installed lists are read.
+void DoWithoutWorkplace(const fs::path& lists, const fs::path& own, const CString& reason)
+{
+    setenv("TGA_DATA_SINGLE", lists.c_str(), 1);
+    WriteMessage({L"radsel",
+                  L"La cartella " + own.wstring() +
+                      L" non è scrivibile: elenchi e posizioni delle finestre non si "
+                      L"conservano. " +
+                      reason,
+                  MessageIcon::warning});
 }
 
 /// Gives the installed program's working place the help switches and lists that it is to begin
@@ -74,13 +88,9 @@ void FillOwnWorkplace()
         CopyMissing(*data / "root", own);
         CopyMissing(*data / "workplace", own);
     } catch (const fs::filesystem_error& error) {
-        setenv("TGA_DATA_SINGLE", (*data / "root").c_str(), 1);
-        WriteMessage({L"radsel",
-                      L"La cartella " + own.wstring() +
-                          L" non è scrivibile: elenchi e posizioni delle finestre non si "
-                          L"conservano. " +
-                          WideFromUtf8(error.code().message()),
-                      MessageIcon::warning});
+        DoWithoutWorkplace(*data / "root", own, WideFromUtf8(error.code().message()));
+    } catch (const CFileException& error) {
+        DoWithoutWorkplace(*data / "root", own, error.GetErrorMessage());
     }
 }
 

@@ -62,8 +62,8 @@ void CHelpCommands::About()
     box.setInformativeText(
         QString("<p>Il programma è sotto la licenza GPL-2.0 o successiva, il modulo di scelta e le "
                 "librerie dell'host sotto la licenza MIT. I testi sono nella cartella LICENSES.</p>"
-                "<p>Usa Qt %1 (LGPL-3.0) e dxflib (GPL-2.0 o successiva).<br>Produttori, prodotti "
-                "ed edifici degli esempi sono inventati.</p>")
+                "<p>Usa Qt %1 (LGPL-3.0), dxflib (GPL-2.0 o successiva) e libxlsxwriter (BSD).<br>"
+                "Produttori, prodotti ed edifici degli esempi sono inventati.</p>")
             .arg(qVersion()));
     box.addButton("&Chiudi", QMessageBox::AcceptRole);
     box.exec();

@@ -29,9 +29,11 @@ void Store(const wchar_t* key, const QByteArray& bytes)
 
 } // namespace
 
-bool RestoreWindow(QMainWindow& window)
+void RestoreWindow(QMainWindow& window)
 {
-    return window.restoreGeometry(Stored(kPlace)) && window.restoreState(Stored(kDocks));
+    if (window.restoreGeometry(Stored(kPlace))) {
+        window.restoreState(Stored(kDocks));
+    }
 }
 
 void KeepWindow(const QMainWindow& window)

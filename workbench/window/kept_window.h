@@ -10,8 +10,8 @@ namespace workbench {
 /// where those cannot be written nothing is kept.
 
 /// Gives the window the place, the size and the docks that were kept last, as far as the screen has
-/// room for them. False if none were kept.
-bool RestoreWindow(QMainWindow& window);
+/// room for them. Without any it stays as it is.
+void RestoreWindow(QMainWindow& window);
 void KeepWindow(const QMainWindow& window);
 
 /// The folder in which the user chose a file last; empty if he never did or if it has gone.

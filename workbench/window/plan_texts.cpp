@@ -5,6 +5,7 @@
 #include "workbench/window/coverage_look.h"
 
 #include <QStringList>
+#include <QTextDocument>
 
 #include <cmath>
 #include <utility>
@@ -91,6 +92,11 @@ QString DecimalText(double value, int decimals)
 QString SystemText(const CHeatingSystem& system)
 {
     return DecimalText(system.vorlauf, 2) + "/" + DecimalText(system.ruecklauf, 2);
+}
+
+QString PlainToolTip(const QString& text)
+{
+    return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
 }
 
 QString WattText(double value)

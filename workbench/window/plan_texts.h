@@ -14,6 +14,10 @@ QString DecimalText(double value, int decimals);
 /// Supply and return: "52,5/45".
 QString SystemText(const CHeatingSystem& system);
 
+/// A text that is to be shown as a tooltip as it stands: one that looks like markup would be taken
+/// for it.
+QString PlainToolTip(const QString& text);
+
 /// Whole watts, with a true minus sign.
 QString WattText(double value);
 

@@ -8,7 +8,7 @@ namespace workbench {
 
 namespace {
 
-constexpr wchar_t kSetting[] = L"RecentiEdifici";
+constexpr wchar_t kSetting[] = L"WorkbenchRecent";
 constexpr std::size_t kMost = 8;
 /// No path that a dialog gives has it.
 constexpr wchar_t kSeparator = L'\t';

@@ -1,5 +1,6 @@
 #include "workbench/window/room_dialog.h"
 
+#include "workbench/building/printable.h"
 #include "workbench/building/qt_text.h"
 #include "workbench/window/decimal_box.h"
 
@@ -17,6 +18,12 @@ namespace {
 constexpr double kMetre = 1000.0;
 /// A building's file takes no longer names.
 constexpr int kLongestName = 200;
+
+/// As a building's file takes it: what is pasted may have tabs and line ends.
+CString NameIn(const QString& typed)
+{
+    return Printable(FromQt(typed.trimmed()));
+}
 
 CDecimalBox* MakeBox(const char* name, double least, double most, const QString& unit, double value)
 {
@@ -93,8 +100,8 @@ CRoomDialog::CRoomDialog(const CBuilding& building, std::size_t floor, QWidget* 
 CNewRoom CRoomDialog::GetRoom() const
 {
     CNewRoom room;
-    room.strFloor = FromQt(m_pFloor->currentText().trimmed());
-    room.strName = FromQt(m_pName->text().trimmed());
+    room.strFloor = NameIn(m_pFloor->currentText());
+    room.strName = NameIn(m_pName->text());
     room.bedarf = m_pDemand->value();
     room.raumtemperatur = m_pTemperature->value();
     room.breite = m_pWidth->value() * kMetre;
@@ -108,7 +115,7 @@ CBuilding CRoomDialog::GetBuilding() const
 {
     CBuilding building = m_building;
     if (m_pBuildingName != nullptr) {
-        building.strName = FromQt(m_pBuildingName->text().trimmed());
+        building.strName = NameIn(m_pBuildingName->text());
     }
     AddRoom(building, GetRoom());
     return building;

@@ -106,7 +106,7 @@ QVariant CRoomRows::data(const QModelIndex& index, int role) const
     const CRow& row = m_rooms[static_cast<std::size_t>(index.row())];
     // The column of the names gives way to the others.
     if (role == Qt::ToolTipRole && index.column() == room) {
-        return row.strRoom;
+        return PlainToolTip(row.strRoom);
     }
     switch (role) {
     case Qt::DisplayRole:
@@ -117,7 +117,7 @@ QVariant CRoomRows::data(const QModelIndex& index, int role) const
         return index.column() == state && IsMissized(row.coverage) ? QVariant(SizeOfLongState())
                                                                    : QVariant();
     case Qt::ToolTipRole:
-        return index.column() == state ? QVariant(row.strState) : QVariant();
+        return index.column() == state ? QVariant(PlainToolTip(row.strState)) : QVariant();
     case Qt::TextAlignmentRole:
         return index.column() >= demand && index.column() <= remainder
                    ? QVariant(Qt::AlignRight | Qt::AlignVCenter)

@@ -7,6 +7,7 @@
 #include "workbench/window/command_icons.h"
 #include "workbench/window/floor_scene.h"
 #include "workbench/window/message_pane.h"
+#include "workbench/window/plan_texts.h"
 #include "workbench/window/recent_files.h"
 #include "workbench/window/room_list.h"
 #include "workbench/window/workbench_window.h"
@@ -303,15 +304,17 @@ void CWorkbenchWindow::EnableActions()
         findChild<QAction*>(command.name)->setEnabled(Has(command));
     }
     const CPlanHistory& history = m_document.History();
-    const auto setText = [this](const char* name, const QString& text) {
-        findChild<QAction*>(name)->setText(text);
+    const auto tell = [this](const char* name, const QString& verb, const CString& what) {
+        QAction& action = *findChild<QAction*>(name);
+        const QString text = what.empty() ? verb : verb + ": " + ToQt(what);
+        // An ampersand in a room's name would underline what follows.
+        action.setText("&" + QString(text).replace('&', "&&"));
+        action.setToolTip(PlainToolTip(text));
     };
-    const auto name = [](const QString& verb, const CString& what) {
-        return what.empty() ? verb : verb + ": " + ToQt(what);
-    };
-    setText("undo", name("&Annulla", history.GetUndoText()));
-    setText("redo", name("&Ripeti", history.GetRedoText()));
-    setText("save", m_document.IsReadOnly() ? "&Salva (sola lettura)" : "&Salva");
+    tell("undo", "Annulla", history.GetUndoText());
+    tell("redo", "Ripeti", history.GetRedoText());
+    findChild<QAction*>("save")->setText(m_document.IsReadOnly() ? "&Salva (sola lettura)"
+                                                                 : "&Salva");
 }
 
 } // namespace workbench

@@ -229,10 +229,16 @@ void CWorkbenchWindow::ShowTitle()
 
 void CWorkbenchWindow::TellStates()
 {
-    const std::vector<CNotice> notices = m_states.TakeNew(m_document.Building());
-    const StateId state = m_document.History().GetCurrentId();
+    const CPlanHistory& history = m_document.History();
+    const StateId state = history.GetCurrentId();
     // A state that comes back has its notices already.
-    if (std::exchange(m_nTold, std::max(m_nTold, state)) < state && !notices.empty()) {
+    const bool isNew = std::exchange(m_nTold, std::max(m_nTold, state)) < state;
+    if (isNew && !history.CanUndo()) {
+        // The notices of the building before went with it, even if this one has the same to tell.
+        m_states = {};
+    }
+    const std::vector<CNotice> notices = m_states.TakeNew(m_document.Building());
+    if (isNew && !notices.empty()) {
         TellNotices(notices);
     }
 }

@@ -263,7 +263,7 @@ TEST_F(Commands, TheProgramTellsItsVersionAndLicences)
         dialog.close();
     });
     Do("about");
-    for (const char* const word : {"1.2.3", "GPL-2.0", "MIT", "Qt", "dxflib"}) {
+    for (const char* const word : {"1.2.3", "GPL-2.0", "MIT", "Qt", "dxflib", "libxlsxwriter"}) {
         EXPECT_TRUE(text.contains(word)) << word;
     }
 }
