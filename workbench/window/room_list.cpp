@@ -26,6 +26,8 @@ CRoomList::CRoomList(QWidget* parent)
     m_pView->setSortingEnabled(true);
     m_pView->sortByColumn(-1, Qt::AscendingOrder);
     m_pView->setTabKeyNavigation(false);
+    // A name that is too long loses its end, and not the word that does not fit.
+    m_pView->setWordWrap(false);
     m_pView->setShowGrid(false);
     m_pView->setAlternatingRowColors(true);
     m_pView->verticalHeader()->hide();
@@ -152,7 +154,12 @@ void CRoomList::FindRoom(bool behind)
         }
     }
     m_pFind->setToolTip(found ? QString() : "Nessun locale con questo nome.");
-    m_pFind->setForegroundRole(found ? QPalette::Text : QPalette::PlaceholderText);
+    // Colours of its own only as long as nothing is found, so that those of the desktop hold.
+    QPalette colors;
+    if (!found) {
+        colors.setColor(QPalette::Text, palette().color(QPalette::PlaceholderText));
+    }
+    m_pFind->setPalette(colors);
 }
 
 void CRoomList::ShowHint()

@@ -210,6 +210,11 @@ TEST_F(Commands, ARoomIsFoundByPartOfItsName)
     EXPECT_NE(Marked(), first) << "the next one";
     QTest::keyClicks(&field, "xyz");
     EXPECT_FALSE(field.toolTip().isEmpty());
+    const auto ink = [&] { return field.palette().color(QPalette::Text); };
+    EXPECT_EQ(ink(), field.palette().color(QPalette::PlaceholderText));
+    field.clear();
+    QTest::keyClicks(&field, "bagno");
+    EXPECT_NE(ink(), field.palette().color(QPalette::PlaceholderText));
 }
 
 TEST_F(Commands, WhatIsEmptySaysWhy)
