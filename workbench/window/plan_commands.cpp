@@ -292,12 +292,18 @@ bool CPlanCommands::ChangeSystem()
     return true;
 }
 
-void CPlanCommands::AddRoom(std::size_t floor)
+std::optional<CRoomRef> CPlanCommands::AddRoom(std::size_t floor)
 {
     CRoomDialog dialog(m_document.Building(), floor, &m_window);
-    if (dialog.exec() == QDialog::Accepted) {
-        m_document.Do(L"Aggiungi locale", dialog.GetBuilding());
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
     }
+    m_document.Do(L"Aggiungi locale", dialog.GetBuilding());
+    const std::vector<CRoomRef> rooms = AllRooms(m_document.Building());
+    const CString name = dialog.GetRoom().strName;
+    return *std::ranges::find_if(rooms, [&](const CRoomRef& ref) {
+        return RoomOf(m_document.Building(), ref).strName == name;
+    });
 }
 
 std::vector<CRoomRef> OpenRooms(const CBuilding& building)

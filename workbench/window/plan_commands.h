@@ -46,8 +46,8 @@ public:
     void DescribeProject();
 
     /// Asks for a further room, which stands east of the others of its floor: that one, unless the
-    /// user says another.
-    void AddRoom(std::size_t floor);
+    /// user says another. Nothing if he cancels.
+    std::optional<CRoomRef> AddRoom(std::size_t floor);
 
     /// Asks for another heating system of the building, and from what excess on radiators count as
     /// oversized. False if it keeps its system.

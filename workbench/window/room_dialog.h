@@ -23,11 +23,11 @@ public:
     /// `floor` is proposed.
     CRoomDialog(const CBuilding& building, std::size_t floor, QWidget* parent = nullptr);
 
+    CNewRoom GetRoom() const;
     /// With the room.
     CBuilding GetBuilding() const;
 
 private:
-    CNewRoom GetRoom() const;
     void ShowFault();
 
     CBuilding m_building;

@@ -139,7 +139,11 @@ std::span<const CWorkbenchWindow::CCommand> CWorkbenchWindow::Commands()
         {"redo", Menu::edit, Gap::none, "&Ripeti", "Ctrl+Y", Needs::redo,
          [](Window& window) { window.m_document.Redo(); }, false, CommandIcon::redo, "Ripeti"},
         {"addRoom", Menu::edit, Gap::line, "Aggiungi &locale…", "Ctrl+L", Needs::building,
-         [](Window& window) { window.m_commands.AddRoom(window.ShownFloor()); }},
+         [](Window& window) {
+             if (const auto added = window.m_commands.AddRoom(window.ShownFloor())) {
+                 window.ShowRoom(*added);
+             }
+         }},
         {"find", Menu::edit, Gap::none, "&Trova locale", "Ctrl+F", Needs::building,
          [](Window& window) { window.Find(); }},
 

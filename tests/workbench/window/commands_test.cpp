@@ -152,6 +152,7 @@ TEST_F(Commands, ANewBuildingTakesRoomsAndGoesToAFileOfItsOwn)
     const CBuilding& building = m_document.Building();
     ASSERT_EQ(building.floors.size(), 2u);
     EXPECT_EQ(building.floors[0].rooms.size(), 2u);
+    EXPECT_EQ(Marked(), (std::vector<CRoomRef>{{1, 0}})) << "of the floor that is shown";
     EXPECT_EQ(Action("undo").text(), "&Annulla: Aggiungi locale");
 
     m_answerPath = Beside("nuova").wstring();
