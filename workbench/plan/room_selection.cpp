@@ -115,6 +115,9 @@ CRoomOutcome ExplainEmptySearch(const CRadiatorProduct& produkt)
     const auto unknown = [](const CString& note) {
         return CRoomOutcome{RoomStatus::unknownProduct, {}, note};
     };
+    if (produkt == CRadiatorProduct()) {
+        return unknown(L"il locale non ha ancora un prodotto");
+    }
     HK_VDI3805_HERSTELLER* maker = FindHersteller(produkt.strHersteller);
     if (!maker) {
         return unknown(L"i cataloghi non hanno il produttore \"" + produkt.strHersteller + L"\"");

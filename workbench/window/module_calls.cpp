@@ -186,8 +186,12 @@ std::optional<CBuilding> ChooseProduct(const CBuilding& building,
                    [&] { return HeizkoerperauswahlVDI3805Tree(&handover); }) != 0) {
         return std::nullopt;
     }
+    const CRadiatorProduct product = ReadHandover(handover).produkt;
+    if (product == CRadiatorProduct()) {
+        return std::nullopt;
+    }
     CBuilding changed = building;
-    SetProduct(changed, rooms, ReadHandover(handover).produkt);
+    SetProduct(changed, rooms, product);
     return changed;
 }
 

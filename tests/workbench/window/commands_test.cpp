@@ -145,6 +145,9 @@ TEST_F(Commands, ANewBuildingTakesRoomsAndGoesToAFileOfItsOwn)
     Do("new");
     EXPECT_TRUE(m_document.Path().empty());
     EXPECT_FALSE(m_document.IsSaved());
+    Do("sizeAll");
+    EXPECT_TRUE(Messages().contains("Cucina: il locale non ha ancora un prodotto"))
+        << Messages().toStdString();
     InRoomDialog("Bagno", "Piano terra");
     Do("addRoom");
     InRoomDialog("Camera", "Mansarda");

@@ -6,6 +6,7 @@
 #include "tests/workbench/window/workbench_fixture.h"
 #include "tools/make_building_samples.h"
 #include "workbench/building/qt_text.h"
+#include "workbench/plan/plan_edit.h"
 
 #include <QMessageBox>
 #include <QProgressDialog>
@@ -435,6 +436,18 @@ TEST_F(ModuleDialogs, ACrashInTheSelectionLeavesTheStartValuesThatAreKept)
     EXPECT_EQ(after->AbstandWand, 0.07);
     EXPECT_EQ(after->Anschluss.Name, L"Proprio");
     EXPECT_EQ(after->SystemVorlauf, 70) << "OK stores the system";
+}
+
+TEST_F(ModuleDialogs, ARoomWithoutAProductKeepsNoneIfNoneIsPicked)
+{
+    CBuilding building = m_document.Building();
+    SetProduct(building, {CRoomRef{0, 0}}, {});
+    m_document.Do(L"Nessun prodotto", building);
+    m_window->findChild<QTableView*>("rooms")->selectRow(0);
+    InModule([](const CModuleUser& user) { user.Ok(); });
+    Do("product");
+    EXPECT_EQ(m_nQuestions, 0);
+    EXPECT_EQ(m_document.History().GetUndoText(), L"Nessun prodotto");
 }
 
 TEST_F(ModuleDialogs, CancellingTheSizingLeavesTheProductAsWell)
