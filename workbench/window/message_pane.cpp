@@ -1,9 +1,11 @@
 #include "workbench/window/message_pane.h"
 
+#include <QGuiApplication>
 #include <QScrollBar>
 #include <QUrl>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace workbench {
 
@@ -17,14 +19,25 @@ QString PlainLines(const QString& text)
     return text.toHtmlEscaped().replace('\n', "<br>");
 }
 
-QString ParagraphOf(const CNotice& notice)
+/// The link's own colour where it stands out from the ground: dark desktops may leave it a dark
+/// blue.
+QColor LinkColor(const QPalette& palette)
+{
+    constexpr int kLeastContrast = 60;
+    const QColor link = palette.color(QPalette::Link);
+    const int ground = qGray(palette.color(QPalette::Base).rgb());
+    return std::abs(qGray(link.rgb()) - ground) < kLeastContrast ? palette.color(QPalette::Text)
+                                                                 : link;
+}
+
+QString ParagraphOf(const CNotice& notice, const QColor& link)
 {
     QString html = "<p style=\"margin: 0\">";
     if (notice.room) {
-        html += QString("<a href=\"%1/%2\">%3</a>: ")
+        html += QString("<a href=\"%1/%2\" style=\"color: %3\">%4</a>: ")
                     .arg(notice.room->nFloor)
                     .arg(notice.room->nRoom)
-                    .arg(notice.strRoom.toHtmlEscaped());
+                    .arg(link.name(), notice.strRoom.toHtmlEscaped());
     }
     return html + PlainLines(notice.strText) + "</p>";
 }
@@ -68,10 +81,11 @@ void CMessagePane::ShowFor(const CPlanHistory& history)
 
 void CMessagePane::Rebuild()
 {
+    const QColor link = LinkColor(QGuiApplication::palette());
     QString html;
     for (const CEntry& entry : m_entries) {
         if (entry.bShown) {
-            html += ParagraphOf(entry.notice);
+            html += ParagraphOf(entry.notice, link);
         }
     }
     setHtml(html);

@@ -9,6 +9,7 @@
 #include "workbench/drawing/plan_view.h"
 #include "workbench/window/coverage_look.h"
 #include "workbench/window/kept_window.h"
+#include "workbench/window/message_pane.h"
 #include "workbench/window/project_dialog.h"
 #include "workbench/window/room_dialog.h"
 #include "workbench/window/system_dialog.h"
@@ -16,6 +17,7 @@
 #include <QDockWidget>
 #include <QScreen>
 #include <QTableView>
+#include <QTextBlock>
 
 #include <algorithm>
 #include <iterator>
@@ -150,8 +152,9 @@ TEST_F(AnyScreen, TheDialogOfConnectionsStandsBesideThePlanThatItChanges)
     }
 }
 
-TEST_F(AnyScreen, StatesCanBeReadInTheListWhateverItsColours)
+TEST_F(AnyScreen, StatesAndLinksCanBeReadWhateverTheColours)
 {
+    auto& messages = *m_window->findChild<CMessagePane*>("messages");
     for (const QPalette& palette : {QApplication::palette(), DarkPalette()}) {
         const CColors colors(palette);
         const QAbstractItemModel& rooms = *m_window->findChild<QTableView*>("rooms")->model();
@@ -162,6 +165,13 @@ TEST_F(AnyScreen, StatesCanBeReadInTheListWhateverItsColours)
                 EXPECT_GT(std::abs(ink.value<QColor>().lightness() - ground), 100);
             }
         }
+        messages.Add({{"scarso", CRoomRef{0, 0}, "Cucina"}}, std::nullopt);
+        const QTextBlock line = messages.document()->lastBlock();
+        const QTextCharFormat link = line.begin().fragment().charFormat();
+        ASSERT_TRUE(link.isAnchor());
+        EXPECT_GT(std::abs(qGray(link.foreground().color().rgb()) -
+                           qGray(palette.color(QPalette::Base).rgb())),
+                  60);
     }
 }
 
