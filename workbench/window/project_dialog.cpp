@@ -6,6 +6,7 @@
 #include <QDate>
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -42,7 +43,7 @@ CString TextOf(const QLineEdit& field)
 } // namespace
 
 CProjectDialog::CProjectDialog(const CProject& project, QWidget* parent)
-    : QDialog(parent),
+    : QDialog(parent), m_pFault(new QLabel),
       m_pButtons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
 {
     setWindowTitle("Dati del progetto");
@@ -61,10 +62,12 @@ CProjectDialog::CProjectDialog(const CProject& project, QWidget* parent)
         add("date",
             "&Data:", QDate::fromString(ToQt(project.strDate), Qt::ISODate).toString(kShownDate));
     m_pDate->setPlaceholderText("gg/mm/aaaa; vuota: il giorno della stampa");
+    m_pFault->setObjectName("fault");
     m_pButtons->button(QDialogButtonBox::Cancel)->setText("Annulla");
 
     auto* const column = new QVBoxLayout(this);
     column->addLayout(form);
+    column->addWidget(m_pFault);
     column->addStretch();
     column->addWidget(m_pButtons);
     setMinimumWidth(fontMetrics().averageCharWidth() * 72);
@@ -82,7 +85,9 @@ CProject CProjectDialog::GetProject() const
 
 void CProjectDialog::CheckDate()
 {
-    m_pButtons->button(QDialogButtonBox::Ok)->setEnabled(DayOf(m_pDate->text()).has_value());
+    const bool isDay = DayOf(m_pDate->text()).has_value();
+    m_pFault->setText(isDay ? QString() : "La data non è un giorno come 31/12/2026.");
+    m_pButtons->button(QDialogButtonBox::Ok)->setEnabled(isDay);
 }
 
 } // namespace workbench

@@ -5,12 +5,13 @@
 #include <QDialog>
 
 class QDialogButtonBox;
+class QLabel;
 class QLineEdit;
 
 namespace workbench {
 
 /// Asks for what the papers of a building say of its project. Every field may stay empty; a date
-/// that is none keeps the dialog from being confirmed.
+/// that is none keeps the dialog from being confirmed, which it tells.
 class CProjectDialog : public QDialog
 {
     Q_OBJECT
@@ -27,6 +28,7 @@ private:
     QLineEdit* m_pDesigner;
     QLineEdit* m_pNumber;
     QLineEdit* m_pDate;
+    QLabel* m_pFault;
     QDialogButtonBox* m_pButtons;
 };
 

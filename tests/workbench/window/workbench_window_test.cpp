@@ -508,7 +508,9 @@ TEST_F(WorkbenchWindow, WhatPapersSayOfTheProjectIsTypedAndUndone)
         type(dialog, "number", "2026/014");
         type(dialog, "date", "31/2/2026");
         EXPECT_FALSE(button(dialog, QDialogButtonBox::Ok)->isEnabled());
+        EXPECT_TRUE(dialog.findChild<QLabel*>("fault")->text().contains("La data"));
         type(dialog, "date", "1/3/2026");
+        EXPECT_TRUE(dialog.findChild<QLabel*>("fault")->text().isEmpty());
         button(dialog, QDialogButtonBox::Ok)->click();
     });
     Do("project");
