@@ -326,9 +326,10 @@ void CFileCommands::ExportCsv()
 
 void CFileCommands::ExportXlsx()
 {
-    Export("Esporta la distinta", "Excel (*.xlsx)", L".xlsx", [this](const CString& path) {
-        WriteWholeFile(path, FormatScheduleXlsx(SchedulePlan(m_document.Building())));
-    });
+    Export("Esporta la distinta", "Foglio di calcolo (*.xlsx)", L".xlsx",
+           [this](const CString& path) {
+               WriteWholeFile(path, FormatScheduleXlsx(SchedulePlan(m_document.Building())));
+           });
 }
 
 void CFileCommands::ExportJson()

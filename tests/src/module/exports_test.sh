@@ -20,7 +20,7 @@ VDI3805GetVentil(CString const&, CString const&, CString const&, CString const&,
 VDI3805GetVentilDaten(VDI3805_VENTIL_KV&, VDI3805_VENTIL_KV&)
 END
 )
-found=$(nm -D --defined-only -C "$1" | sed -E 's/^[0-9a-f]+ [A-Za-z] //' | sort)
+found=$(nm -D --defined-only --extern-only -C "$1" | sed -E 's/^[0-9a-f]+ [A-Za-z] //' | sort)
 
 # The sanitizers' own marks of instrumented code are no export of ours.
 found=$(grep -vE '^(__asan_|__odr_asan|__ubsan_)' <<<"$found" || true)
