@@ -26,7 +26,7 @@ std::optional<CString> FindeDatenWurzel()
         return server;
     }
     for (const wchar_t* variable : {L"TGA_DATA_SINGLE_S", L"TGA_DATA_SINGLE"}) {
-        if (const auto value = GetEnvironment(variable)) {
+        if (auto value = GetEnvironment(variable)) {
             return value;
         }
     }

@@ -79,7 +79,7 @@ CString HostFault(const std::vector<CHostFunction>& functions)
 // from being loaded beside that host, and nobody would be told why.
 std::vector<CHostFunction> LoadedHostFunctions()
 {
-#define LOADED(function) Loaded(#function, &function)
+#define LOADED(function) Loaded(#function, &(function))
     return {
         LOADED(GetHKDir),
         LOADED(GetVEDir),
