@@ -1,0 +1,26 @@
+#include "host/image_loader.h"
+
+#include "host_defaults/catalog/icon_shapes.h"
+
+using namespace host_defaults;
+
+namespace {
+
+constexpr int kLeastSide = 8;
+constexpr int kLargestSide = 64;
+
+bool IsSide(int side)
+{
+    return side >= kLeastSide && side <= kLargestSide;
+}
+
+} // namespace
+
+CBitmap CImageLoader::LoadLumoIcon(int index, int width, int height) const
+{
+    const std::vector<CIconShape>& shapes = IconShapes(index);
+    if (shapes.empty() || !IsSide(width) || !IsSide(height)) {
+        return {};
+    }
+    return DrawIcon(shapes, width, height);
+}
