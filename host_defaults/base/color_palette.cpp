@@ -1,14 +1,13 @@
-#include "host/host_base.h"
-
+#include "host_defaults/answers.h"
 #include "host_defaults/color_series.h"
 
 #include <array>
 #include <cstddef>
 
-using namespace host_defaults;
-
 // The palette that drawings of all CAD programs share: nine fixed colours, then ten shades each of
 // 24 hues, then greys. Divisions cut, as the published table does.
+
+namespace host_defaults {
 
 namespace {
 
@@ -75,4 +74,11 @@ COLORREF GetRGBFromColor(int index)
     }
     const std::uint8_t grey = kGreys[static_cast<std::size_t>(index - kFirstGrey)];
     return RGB(grey, grey, grey);
+}
+
+} // namespace host_defaults
+
+COLORREF GetRGBFromColor(int index)
+{
+    return host_defaults::GetRGBFromColor(index);
 }

@@ -1,6 +1,7 @@
-#include "host/host_base.h"
-
+#include "host_defaults/answers.h"
 #include "platform/color.h"
+
+namespace host_defaults {
 
 int lmGetGewerkColor(TgaGewerk gewerk)
 {
@@ -12,4 +13,11 @@ int lmGetGewerkColor(TgaGewerk gewerk)
     default:
         return static_cast<int>(RGB(64, 64, 64));
     }
+}
+
+} // namespace host_defaults
+
+int lmGetGewerkColor(TgaGewerk gewerk)
+{
+    return host_defaults::lmGetGewerkColor(gewerk);
 }

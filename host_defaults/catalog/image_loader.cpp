@@ -1,8 +1,9 @@
 #include "host/image_loader.h"
 
+#include "host_defaults/answers.h"
 #include "host_defaults/catalog/icon_shapes.h"
 
-using namespace host_defaults;
+namespace host_defaults {
 
 namespace {
 
@@ -16,11 +17,18 @@ bool IsSide(int side)
 
 } // namespace
 
-CBitmap CImageLoader::LoadLumoIcon(int index, int width, int height) const
+CBitmap LoadLumoIcon(int index, int width, int height)
 {
     const std::vector<CIconShape>& shapes = IconShapes(index);
     if (shapes.empty() || !IsSide(width) || !IsSide(height)) {
         return {};
     }
     return DrawIcon(shapes, width, height);
+}
+
+} // namespace host_defaults
+
+CBitmap CImageLoader::LoadLumoIcon(int index, int width, int height) const
+{
+    return host_defaults::LoadLumoIcon(index, width, height);
 }

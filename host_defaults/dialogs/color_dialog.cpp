@@ -4,6 +4,7 @@
 #include "host_defaults/dialogs/color_grid.h"
 #include "host_defaults/dialogs/dialog_parts.h"
 #include "host_defaults/dialogs/qt_application.h"
+#include "host_defaults/window_dialogs.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -103,11 +104,7 @@ void CColorDialog::ShowSelected(int index)
     m_values->setText(ValuesText(index));
 }
 
-} // namespace host_defaults
-
-using namespace host_defaults;
-
-bool GetColorDlg(int& index)
+bool ShowColorDialog(int& index)
 {
     if (!EnsureWindows()) {
         return false;
@@ -119,3 +116,5 @@ bool GetColorDlg(int& index)
     index = dialog.GetIndex();
     return true;
 }
+
+} // namespace host_defaults

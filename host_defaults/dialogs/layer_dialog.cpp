@@ -4,6 +4,7 @@
 #include "host/host_prompts.h"
 #include "host_defaults/dialogs/dialog_parts.h"
 #include "host_defaults/dialogs/qt_application.h"
+#include "host_defaults/window_dialogs.h"
 
 #include <QCoreApplication>
 #include <QDialogButtonBox>
@@ -147,7 +148,7 @@ void CLayerDialog::SelectInList(const QTreeWidgetItem* item)
 
 void CLayerDialog::ChooseColor()
 {
-    if (GetColorDlg(m_newColor)) {
+    if (::GetColorDlg(m_newColor)) {
         ShowChoice();
     }
 }
@@ -183,11 +184,7 @@ bool CLayerDialog::eventFilter(QObject* watched, QEvent* event)
     return QDialog::eventFilter(watched, event);
 }
 
-} // namespace host_defaults
-
-using namespace host_defaults;
-
-bool ShowBigLayerDlg(CDrawer* drawer, CString& layer, int& farbe)
+bool ShowLayerDialog(CDrawer* drawer, CString& layer, int& farbe)
 {
     if (!EnsureWindows()) {
         return false;
@@ -203,3 +200,5 @@ bool ShowBigLayerDlg(CDrawer* drawer, CString& layer, int& farbe)
     farbe = choice.color;
     return true;
 }
+
+} // namespace host_defaults

@@ -3,6 +3,7 @@
 #include "host/host_prompts.h"
 #include "host_defaults/dialogs/dialog_parts.h"
 #include "host_defaults/dialogs/qt_application.h"
+#include "host_defaults/window_dialogs.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -102,11 +103,7 @@ void CTransparencyDialog::Preview()
     }
 }
 
-} // namespace host_defaults
-
-using namespace host_defaults;
-
-bool ShowTransDlg(int& alpha)
+bool ShowTransparencyDialog(int& alpha)
 {
     if (!EnsureWindows()) {
         return false;
@@ -119,3 +116,5 @@ bool ShowTransDlg(int& alpha)
     alpha = dialog.GetAlpha();
     return true;
 }
+
+} // namespace host_defaults

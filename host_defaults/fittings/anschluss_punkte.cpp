@@ -1,4 +1,4 @@
-#include "host/host_fittings.h"
+#include "host_defaults/answers.h"
 #include "platform/number_scan.h"
 
 #include <algorithm>
@@ -7,6 +7,8 @@
 #include <cstddef>
 #include <numbers>
 #include <vector>
+
+namespace host_defaults {
 
 namespace {
 
@@ -95,8 +97,8 @@ bool ReadConnection(const CString& text, const Vector& size, CConnection& connec
     double kreuzAbstand = 0.0;
     int kreuzTyp = 0;
     double wandAbstand = 0.0;
-    if (lmGet_K_APUNKT_X(text, position.data(), offset.data(), winkel.data(),
-                         connection.dSeitAbstand, kreuzAbstand, kreuzTyp, wandAbstand) == 0) {
+    if (::lmGet_K_APUNKT_X(text, position.data(), offset.data(), winkel.data(),
+                           connection.dSeitAbstand, kreuzAbstand, kreuzTyp, wandAbstand) == 0) {
         return false;
     }
     for (std::size_t axis = 0; axis < 3; ++axis) {
@@ -155,4 +157,12 @@ int lmGet_K_APUNKT_BLOCK_Wc(ALIST* attribute, LM_APUNKT* punkte, LM_TRAFO* trafo
     std::copy(pipeEnds.begin(), pipeEnds.end(),
               std::copy(connections.begin(), connections.end(), punkte));
     return static_cast<int>(2 * connections.size());
+}
+
+} // namespace host_defaults
+
+int lmGet_K_APUNKT_BLOCK_Wc(ALIST* attribute, LM_APUNKT* punkte, LM_TRAFO* trafo, TgaGewerk gewerk,
+                            const CString& name)
+{
+    return host_defaults::lmGet_K_APUNKT_BLOCK_Wc(attribute, punkte, trafo, gewerk, name);
 }

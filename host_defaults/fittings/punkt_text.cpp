@@ -1,4 +1,4 @@
-#include "host/host_fittings.h"
+#include "host_defaults/answers.h"
 #include "platform/format.h"
 #include "platform/number_scan.h"
 
@@ -8,6 +8,8 @@
 #include <cstddef>
 #include <limits>
 #include <string_view>
+
+namespace host_defaults {
 
 namespace {
 
@@ -104,4 +106,21 @@ void lmSet_K_APUNKT_X(CString& text, const double position[3], const double offs
         text += NumberText(value) + L";";
     }
     text += FormatInt(kreuzTyp) + L";" + NumberText(wandAbstand);
+}
+
+} // namespace host_defaults
+
+int lmGet_K_APUNKT_X(const CString& text, double position[3], double offset[3], double winkel[3],
+                     double& seitAbstand, double& kreuzAbstand, int& kreuzTyp, double& wandAbstand)
+{
+    return host_defaults::lmGet_K_APUNKT_X(text, position, offset, winkel, seitAbstand,
+                                           kreuzAbstand, kreuzTyp, wandAbstand);
+}
+
+void lmSet_K_APUNKT_X(CString& text, const double position[3], const double offset[3],
+                      const double winkel[3], double seitAbstand, double kreuzAbstand, int kreuzTyp,
+                      double wandAbstand)
+{
+    host_defaults::lmSet_K_APUNKT_X(text, position, offset, winkel, seitAbstand, kreuzAbstand,
+                                    kreuzTyp, wandAbstand);
 }

@@ -1,4 +1,4 @@
-#include "host/host_prefs.h"
+#include "host_defaults/answers.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -7,6 +7,8 @@
 #include <unordered_map>
 #include <variant>
 #include <vector>
+
+namespace host_defaults {
 
 namespace {
 
@@ -108,10 +110,17 @@ private:
 
 } // namespace
 
-CSettingsCache::~CSettingsCache() = default;
-
 CSettingsCache* lmGetCacheObject()
 {
     static CLinesByPath cache;
     return &cache;
+}
+
+} // namespace host_defaults
+
+CSettingsCache::~CSettingsCache() = default;
+
+CSettingsCache* lmGetCacheObject()
+{
+    return host_defaults::lmGetCacheObject();
 }
