@@ -76,7 +76,8 @@ quietly "$cmake" --build "$work/consumer" --parallel 2
 "$work/consumer/keep_records" || fail "records are not kept"
 
 # Every way to bring a host of one's own: it is the one that is asked.
-for way in silent_library named_library own_functions plugin; do
+for way in silent_library named_library own_functions plugin \
+    default_library default_functions default_plugin; do
     answer=$("$work/consumer/with_$way") || fail "with_$way: $answer"
     [[ $answer == "0 T1" ]] || fail "with_$way: $answer"
 done
