@@ -5,9 +5,9 @@
 #include <fstream>
 #include <map>
 #include <optional>
+#include <regex>
 #include <set>
 #include <sstream>
-#include <string_view>
 
 namespace {
 
@@ -22,34 +22,20 @@ struct CRoom
 };
 
 /// What an include names, with its opening mark in front; empty for every other line.
-std::string_view IncludedBy(std::string_view line)
+std::string IncludedBy(const std::string& line)
 {
-    const auto skipBlanks = [&line] {
-        line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
-    };
-    for (const std::string_view word : {"#", "include"}) {
-        skipBlanks();
-        if (!line.starts_with(word)) {
-            return {};
-        }
-        line.remove_prefix(word.size());
-    }
-    skipBlanks();
-    return line.substr(0, line.find_last_of("\">"));
+    static const std::regex include("^\\s*#\\s*include\\s*([\"<][^\">]+)");
+    std::smatch found;
+    const bool includes =
+        line.find("include") != std::string::npos && std::regex_search(line, found, include);
+    return includes ? found[1].str() : std::string();
 }
 
 /// True for a name of the toolkit ahead of any comment or text: "Q", a capital, a small letter.
-bool NamesToolkit(std::string_view line)
+bool NamesToolkit(const std::string& line)
 {
-    line = line.substr(0, line.find_first_of("/\""));
-    for (std::size_t i = 0; i + 2 < line.size(); ++i) {
-        const bool begins = i == 0 || (std::isalnum(line[i - 1]) == 0 && line[i - 1] != '_');
-        if (begins && line[i] == 'Q' && std::isupper(line[i + 1]) != 0 &&
-            std::islower(line[i + 2]) != 0) {
-            return true;
-        }
-    }
-    return false;
+    static const std::regex name("^[^/\"]*\\bQ[A-Z][a-z]");
+    return line.find('Q') != std::string::npos && std::regex_search(line, name);
 }
 
 class CLayerCheck
@@ -153,11 +139,11 @@ private:
     void CheckInclude(const std::string& place, const std::string& line, const std::string& folder,
                       const CRoom& room)
     {
-        const std::string_view named = IncludedBy(line);
+        const std::string named = IncludedBy(line);
         if (!named.starts_with('"')) {
             return;
         }
-        const std::string included(named.substr(1));
+        const std::string included = named.substr(1);
         const auto target = Resolve(included);
         const auto targetRoom = target ? RoomOf(*target) : std::nullopt;
         if (!targetRoom) {
@@ -170,7 +156,7 @@ private:
     void CheckToolkit(const std::string& place, const std::string& line, const std::string& folder,
                       const CRoom& room, bool open)
     {
-        const std::string_view named = IncludedBy(line);
+        const std::string named = IncludedBy(line);
         if (open) {
             return;
         }
