@@ -1,4 +1,5 @@
 #include "platform/exception.h"
+#include "platform/path.h"
 #include "tests/src/valve/ventil_fixture.h"
 #include "tests/support/message_log.h"
 #include "valve/ventil_abruf.h"
@@ -144,17 +145,32 @@ TEST_F(CVentilAbrufTest, AFailedSearchIsKeptToo)
 
 TEST_F(CVentilAbrufTest, ABadLineRaisesAndKeepsNothing)
 {
-    const std::string files[] = {
-        Datei("1") + "110\r\n",
-        Saetze("100;1;A|110;1;B|700;1|800;" + TgaNr("02", "0001") + ";B"),
+    const std::string head = "100;1;A|110;1;B|";
+    const std::string article = "800;" + TgaNr("02", "0001") + ";B";
+    const struct
+    {
+        std::string file;
+        const wchar_t* told;
+    } files[] = {
+        {Datei("1") + "110\r\n", L"riga 5: al record 110 manca il campo 1"},
+        {Saetze(head + "700;1|" + article), L"riga 3: al record 700 manca il campo 2"},
+        {Saetze(head + kRows + "710.01;2;2|" + article),
+         L"riga 5: al record 710.01 mancano i campi da 3 a 4"},
+        {Saetze(head + "700;1|720.01;1;2"), L"riga 4: al record 720.01 mancano i campi da 3 a 8"},
     };
-    for (const std::string& file : files) {
+    for (const auto& [file, told] : files) {
         SCOPED_TRACE(file);
         const CString bad = NeuerHersteller(file);
         VDI3805_VENTIL_KV first = MitSchluessel(bad, kNr);
         VDI3805_VENTIL_KV second;
         EXPECT_THROW(HoleVentilDaten(first, second), CInvalidArgException);
-        EXPECT_THROW(HoleVentilDaten(first, second), CInvalidArgException);
+        try {
+            HoleVentilDaten(first, second);
+            ADD_FAILURE() << "no exception";
+        } catch (const CInvalidArgException& fault) {
+            EXPECT_EQ(fault.GetErrorMessage(),
+                      TextFromPath(m_folder.Root() / Utf8FromWide(bad) / "ha.tga") + L": " + told);
+        }
 
         VDI3805_VENTIL_KV good = MitSchluessel(m_a, kNr);
         EXPECT_THROW(HoleVentilDaten(good, first), CInvalidArgException);
