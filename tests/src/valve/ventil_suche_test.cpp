@@ -1,6 +1,7 @@
 #include "platform/exception.h"
 #include "platform/path.h"
 #include "tests/src/valve/ventil_fixture.h"
+#include "tests/support/diagnosis_log.h"
 #include "tests/support/message_log.h"
 #include "valve/ventil_abruf.h"
 #include "valve/ventil_bewertung.h"
@@ -176,4 +177,44 @@ TEST_F(CVentilAbrufTest, ABadLineRaisesAndKeepsNothing)
         EXPECT_THROW(HoleVentilDaten(good, first), CInvalidArgException);
         EXPECT_EQ(good.Kvs, 1.0F);
     }
+}
+
+TEST_F(CVentilAbrufTest, WhyAValveIsMissingIsTold)
+{
+    const std::string nr = TgaNr("02", "0001");
+    const struct
+    {
+        const char* what;
+        CString maker;
+        HostDiagnosis reason;
+        const wchar_t* text;
+    } cases[] = {
+        {"no file", L"Nessuno", HostDiagnosis::unreadValveFile, L"No such file"},
+        {"no folder name", L"..", HostDiagnosis::unreadValveFile, L"\"..\" non può essere"},
+        {"the newer head", NeuerHersteller(Saetze("000;x")), HostDiagnosis::unreadValveFile,
+         L"ha.tga: la testata 000"},
+        {"a record without parent", NeuerHersteller(Saetze("110;1;B")),
+         HostDiagnosis::unreadValveFile, L"ha.tga: un record sta prima"},
+        {"no article", NeuerHersteller(Saetze("100;1;A")), HostDiagnosis::unknownValve,
+         L"ha.tga: non c'è la valvola"},
+        {"no data set", NeuerHersteller(Saetze("100;1;A|110;1;B|800;" + nr + ";1")),
+         HostDiagnosis::noValveData, L"ha.tga: riga 3: alla valvola"},
+    };
+    const CDiagnosisLog log;
+    for (const auto& c : cases) {
+        // The second time the failed search is kept.
+        for (int i = 0; i < 2; ++i) {
+            VDI3805_VENTIL_KV first = MitSchluessel(c.maker, kNr);
+            VDI3805_VENTIL_KV second;
+            EXPECT_TRUE(HoleVentilDaten(first, second));
+            const std::vector<CDiagnosis> told = CDiagnosisLog::Take();
+            ASSERT_EQ(told.size(), 1U) << c.what;
+            EXPECT_EQ(told[0].reason, c.reason) << c.what;
+            EXPECT_NE(told[0].text.find(c.text), CString::npos) << Utf8FromWide(told[0].text);
+        }
+    }
+    VDI3805_VENTIL_KV good = MitSchluessel(m_a, kNr);
+    VDI3805_VENTIL_KV same = good;
+    EXPECT_TRUE(HoleVentilDaten(good, same));
+    EXPECT_TRUE(CDiagnosisLog::Take().empty());
 }
