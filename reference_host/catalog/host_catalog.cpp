@@ -34,16 +34,6 @@ CLibrary& Library()
     return library;
 }
 
-template <class NODE>
-NODE* FindByName(NODE* first, const CString& name)
-{
-    NODE* node = first;
-    while (node && node->Name != name) {
-        node = node->pNext;
-    }
-    return node;
-}
-
 /// Keeps the error and gives the result of a reading that failed.
 int Fail(const CString& hersteller, CFileFault error)
 {
@@ -66,17 +56,11 @@ HK_VDI3805_HERSTELLER* ReadHKDaten()
 
 HK_VDI3805_HERSTELLER* FindHersteller(const CString& name)
 {
-    return FindByName(Library().tree.GetFirst(), name);
-}
-
-HK_VDI3805_ART* FindArt(HK_VDI3805_HERSTELLER* hersteller, const CString& name)
-{
-    return hersteller ? FindByName(hersteller->pArt, name) : nullptr;
-}
-
-HK_VDI3805_PRODUKT* FindProdukt(HK_VDI3805_ART* art, const CString& name)
-{
-    return art ? FindByName(art->pProdukt, name) : nullptr;
+    HK_VDI3805_HERSTELLER* hersteller = Library().tree.GetFirst();
+    while (hersteller && hersteller->Name != name) {
+        hersteller = hersteller->pNext;
+    }
+    return hersteller;
 }
 
 int ReadVdiFile(const CString& hersteller, HK_VDI3805_ART** art, double leistungEN442)

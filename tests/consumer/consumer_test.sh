@@ -76,7 +76,8 @@ quietly "$cmake" --build "$work/consumer" --parallel 2
 "$work/consumer/keep_records" || fail "records are not kept"
 
 # Every way to bring a host of one's own: it is the one that is asked.
-for way in silent_library named_library own_functions plugin; do
+for way in silent_library named_library own_functions plugin \
+    default_library default_functions default_plugin; do
     answer=$("$work/consumer/with_$way") || fail "with_$way: $answer"
     [[ $answer == "0 T1" ]] || fail "with_$way: $answer"
 done
@@ -101,3 +102,11 @@ refused with_old_host 'interfaccia 0 invece di' '"a CAD", .*libold_host.so'
 grep -q 'undefined.*HK_DATEN_VDI3805' "$work/log" || fail "$(<"$work/log")"
 
 "$here/example_test.sh" "$work/consumer/bind_radsel" "$prefix/share/radsel/catalogues"
+
+# The skeleton, as somebody copies it.
+cp -r "$prefix/share/doc/radsel/examples/host" "$work/copied"
+quietly "$cmake" -S "$work/copied" -B "$work/skeleton" -DCMAKE_PREFIX_PATH="$prefix" \
+    -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags -Wall -Wextra -Wpedantic -Wconversion -Werror"
+quietly "$cmake" --build "$work/skeleton"
+"$here/skeleton_test.sh" "$work/skeleton/cad" "$prefix/share/radsel" \
+    "$work/consumer/libconfirm_dialogs.so"
