@@ -605,10 +605,9 @@ RADSEL_C_API void radsel_valves_free(radsel_valves* valves);
  * Valves and connections
  */
 
-/* Fills two valves silently by the keys that they hold. `second` may be null, and a second key that
- * is empty or short is left out. RADSEL_OK says no more than that the first key was well-formed: a
- * record whose valve is not found stays as it came, so hand in fresh ones and look at `name`.
- * RADSEL_NOTHING: the first key has fewer than 30 characters of number or no maker.
+/* Fills two valves silently by the keys that they hold. `second` may be null, and a second key with
+ * fewer than 30 characters of number or no maker is left out. RADSEL_NOTHING: the first key is such
+ * a one, or a valve was not found; then its record stays as it came, while the other one is filled.
  * RADSEL_BAD_FILE: a line of the file lacks a field. */
 RADSEL_C_API int radsel_fetch_valves(radsel_valve* first, radsel_valve* second);
 
