@@ -3,6 +3,7 @@
 # it leads back to the place where it was built.
 set -euo pipefail
 cmake=$1 build=$2 source=$3 compiler=$4 flags=$5 scan=$6
+ccompiler=$7 instruments=$8
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
 work=$(mktemp -d)
@@ -109,4 +110,7 @@ quietly "$cmake" -S "$work/copied" -B "$work/skeleton" -DCMAKE_PREFIX_PATH="$pre
     -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags -Wall -Wextra -Wpedantic -Wconversion -Werror"
 quietly "$cmake" --build "$work/skeleton"
 "$here/skeleton_test.sh" "$work/skeleton/cad" "$prefix/share/radsel" \
+    "$work/consumer/libconfirm_dialogs.so"
+
+"$here/../c_interface/c_host_test.sh" "$prefix" "$ccompiler" "$instruments" \
     "$work/consumer/libconfirm_dialogs.so"

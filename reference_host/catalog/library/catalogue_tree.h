@@ -1,7 +1,7 @@
 #pragma once
 
 #include "frame/handover.h"
-#include "reference_host/catalog/reader/catalogue_file.h"
+#include "reference_host/catalog/library/built_catalogue.h"
 
 #include <map>
 #include <utility>
@@ -31,9 +31,9 @@ public:
 
     /// Puts the manufacturer's kinds, products and rows in the place of the former ones and returns
     /// the first kind. `rowCount` receives the count of rows. Kinds and products of the same name
-    /// are the same nodes as before; the former rows are freed.
+    /// are the same nodes as before; the former rows are freed. Names are unique on their level.
     HK_VDI3805_ART* Hang(const CString& folder, const CString& hersteller,
-                         const CCatalogue& katalog, double requiredOutput, int& rowCount);
+                         std::vector<CBuiltKind> arten, int& rowCount);
 
 private:
     // The nodes of a std::map stay where they are.
@@ -60,8 +60,8 @@ private:
     bool IsListed(const CString& folder, const std::vector<CString>& names) const;
     Manufacturers::iterator Find(const CString& folder, const CString& hersteller);
     static void Unhang(CManufacturer& hersteller);
-    static int Fill(CKind& art, const CCatalogueKind& model, double requiredOutput);
-    static void Fill(CProduct& produkt, const CCatalogueProduct& model, double requiredOutput);
+    static int Fill(CKind& art, CBuiltKind& built);
+    static void Fill(CProduct& produkt, CBuiltProduct& built);
 
     Manufacturers m_hersteller;
     HK_VDI3805_HERSTELLER* m_pFirst = nullptr;

@@ -1,9 +1,8 @@
-#include "reference_host/catalog/catalogue_tree.h"
-
-#include "reference_host/catalog/reader/row_builder.h"
+#include "reference_host/catalog/library/catalogue_tree.h"
 
 #include <cstddef>
 #include <set>
+#include <utility>
 
 namespace reference_host {
 
@@ -55,8 +54,7 @@ void CCatalogueTree::ListHersteller(const CString& folder, const std::vector<CSt
 }
 
 HK_VDI3805_ART* CCatalogueTree::Hang(const CString& folder, const CString& hersteller,
-                                     const CCatalogue& katalog, double requiredOutput,
-                                     int& rowCount)
+                                     std::vector<CBuiltKind> arten, int& rowCount)
 {
     CManufacturer& owner = Find(folder, hersteller)->second;
     Unhang(owner);
@@ -64,10 +62,10 @@ HK_VDI3805_ART* CCatalogueTree::Hang(const CString& folder, const CString& herst
     rowCount = 0;
     HK_VDI3805_ART* first = nullptr;
     HK_VDI3805_ART** link = &first;
-    for (const CCatalogueKind& model : katalog.arten) {
-        CKind& art = owner.arten[model.strName];
-        art.node.Name = model.strName;
-        rowCount += Fill(art, model, requiredOutput);
+    for (CBuiltKind& built : arten) {
+        CKind& art = owner.arten[built.strName];
+        art.node.Name = built.strName;
+        rowCount += Fill(art, built);
         *link = &art.node;
         link = &art.node.pNext;
     }
@@ -113,14 +111,14 @@ void CCatalogueTree::Unhang(CManufacturer& hersteller)
     }
 }
 
-int CCatalogueTree::Fill(CKind& art, const CCatalogueKind& model, double requiredOutput)
+int CCatalogueTree::Fill(CKind& art, CBuiltKind& built)
 {
     int rowCount = 0;
     HK_VDI3805_PRODUKT** link = &art.node.pProdukt;
-    for (const CCatalogueProduct& produktModel : model.produkte) {
-        CProduct& produkt = art.produkte[produktModel.strName];
-        produkt.node.Name = produktModel.strName;
-        Fill(produkt, produktModel, requiredOutput);
+    for (CBuiltProduct& builtProduct : built.produkte) {
+        CProduct& produkt = art.produkte[builtProduct.strName];
+        produkt.node.Name = builtProduct.strName;
+        Fill(produkt, builtProduct);
         rowCount += static_cast<int>(produkt.rows.size());
         *link = &produkt.node;
         link = &produkt.node.pNext;
@@ -128,20 +126,14 @@ int CCatalogueTree::Fill(CKind& art, const CCatalogueKind& model, double require
     return rowCount;
 }
 
-void CCatalogueTree::Fill(CProduct& produkt, const CCatalogueProduct& model, double requiredOutput)
+void CCatalogueTree::Fill(CProduct& produkt, CBuiltProduct& built)
 {
-    std::set<double> hoehen;
-    std::set<double> tiefen;
-    for (const CCatalogueSeries& serie : model.serien) {
-        hoehen.insert(serie.dHoehe);
-        tiefen.insert(serie.dTiefe);
-    }
-    AssignSizes(produkt.node.Hoehen, hoehen);
-    AssignSizes(produkt.node.Tiefen, tiefen);
+    AssignSizes(produkt.node.Hoehen, built.hoehen);
+    AssignSizes(produkt.node.Tiefen, built.tiefen);
 
-    produkt.rows = BuildRows(model, requiredOutput);
+    produkt.rows = std::move(built.rows);
     Chain(produkt.rows);
-    produkt.node.pTyp = produkt.rows.data();
+    produkt.node.pTyp = produkt.rows.empty() ? nullptr : produkt.rows.data();
 }
 
 } // namespace reference_host

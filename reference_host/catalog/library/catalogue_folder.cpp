@@ -1,9 +1,9 @@
-#include "reference_host/catalog/catalogue_folder.h"
+#include "reference_host/catalog/library/catalogue_folder.h"
 
 #include "platform/encoding.h"
 #include "platform/folder_name.h"
 #include "platform/path.h"
-#include "reference_host/catalog/file_state.h"
+#include "reference_host/catalog/library/file_state.h"
 
 #include <algorithm>
 #include <system_error>

@@ -1,10 +1,10 @@
-#include "reference_host/catalog/catalogue_cache.h"
+#include "reference_host/catalog/library/catalogue_cache.h"
 
 #include "platform/exception.h"
 #include "platform/file_limits.h"
 #include "platform/path.h"
 #include "platform/whole_file.h"
-#include "reference_host/catalog/file_state.h"
+#include "reference_host/catalog/library/file_state.h"
 
 namespace reference_host {
 
