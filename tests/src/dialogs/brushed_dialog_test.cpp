@@ -8,8 +8,6 @@
 #include "uikit/combo_box.h"
 #include "uikit/native/access.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 
 #include <cstdlib>
@@ -164,13 +162,12 @@ private:
 
 TEST_F(BrushedDialog, EveryKindOfAreaHasItsColoursOfTheSkin)
 {
-    struct Case
+    const struct
     {
         ColorKind kind;
         ControlColors colored;
         ControlColors uncolored;
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {ColorKind::edit, {kEdit, kBack}, {}},
         {ColorKind::listBox, {kList, kBack}, {}},
         {ColorKind::button, {kButton, kButton}, {}},
@@ -178,7 +175,7 @@ TEST_F(BrushedDialog, EveryKindOfAreaHasItsColoursOfTheSkin)
         {ColorKind::label, {kBack, kBack}, {kDefault, kDefault}},
         {ColorKind::other, {}, {}},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         // Whether skins are allowed when the dialog is made and when it asks, whether this one
         // shows them, and whether there are colours.
         const std::tuple<const wchar_t*, const wchar_t*, bool, bool, ControlColors> ways[] = {

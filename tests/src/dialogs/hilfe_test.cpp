@@ -6,8 +6,6 @@
 #include "uikit/native/access.h"
 #include "uikit/native/caption_bar.h"
 
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 #include <QPainter>
 #include <QTest>

@@ -151,7 +151,7 @@ TEST(FindTreeItem, AWordCountsOnlyAtTheStartOfWhatRemains)
         {L"tubo_2", false},     {L"tubol", false},      {L"un tubo", false},
         {L"un tubo x", false},  {L"xtubotubo", true},   {L"xtubo tubo", false},
         {L"tuboltubo", false},  {L"tubo\u4E2D", false}, {L"tubo\uFF41", false},
-        {L"tubo\u0663", true},
+        {L"tubo\u0663", true},  {L"uno, tubo", false},
     };
     CListenDialog dialog;
     dialog.Run([&] {

@@ -8,8 +8,6 @@
 #include "tests/src/common/lines.h"
 #include "tests/support/file_size_limit.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QEvent>
 #include <QWidget>

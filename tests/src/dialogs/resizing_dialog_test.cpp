@@ -7,8 +7,6 @@
 #include <QSizeGrip>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
 #include <cstddef>
 #include <functional>
 #include <tuple>

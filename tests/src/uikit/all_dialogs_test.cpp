@@ -258,29 +258,6 @@ TEST_P(AllDialogs, FitTheirCaptionsWorkByKeyboardAndFollowTheirSize)
     LookAtAll();
 }
 
-TEST_P(AllDialogs, FaultsAreFound)
-{
-    using enum ControlKind;
-    const std::vector<ControlTemplate> controls = {
-        {12, label, L"Bassa", 100, 4, 40, 5},
-        {20, groupBox, L"Cornice", 4, 34, 90, 40},
-        {21, edit, L"", 8, 36, 40, 13},
-        {22, edit, L"", 80, 52, 40, 13},
-        {23, groupBox, L"", 130, 34, 66, 40},
-        {24, checkBox, L"sì", 134, 30, 30, 10},
-        {25, edit, L"", 134, 56, 40, 13},
-        {26, edit, L"", 134, 42, 40, 13},
-        {kIdOk, defaultButton, L"OK", 4, 80, 44, 14},
-        {kIdCancel, button, L"No", 180, 90, 44, 14, styleNoTabStop},
-        {30, button, L"Ancora", 60, 80, 44, 14, styleDisabled},
-    };
-    CDialog({7002, L"Guasta", 200, 100, frameFixed, controls}).DoModal();
-    EXPECT_EQ(m_complaints,
-              (Complaints{"does not fit: 12 \"Bassa\"", "overlap: 20 \"Cornice\" and 21 \"\"",
-                          "overlap: 20 \"Cornice\" and 22 \"\"", "outside: 2 \"No\"",
-                          "no way in by keyboard: 2 \"No\"", "read before 25 \"\": 26 \"\""}));
-}
-
 TEST_P(AllDialogs, ALongTitleGetsItsRoom)
 {
     const wchar_t* const title = L"Un titolo più lungo di tutto quello che il dialogo contiene";
