@@ -1,7 +1,7 @@
 #include "host/host_prefs.h"
 #include "platform/exception.h"
-#include "tests/src/common/lines.h"
 #include "platform/path.h"
+#include "tests/src/common/lines.h"
 #include "tests/src/valve/ventil_fixture.h"
 #include "tests/support/diagnosis_log.h"
 #include "tests/support/message_log.h"
