@@ -15,3 +15,8 @@ function(radsel_way variable from to)
     cmake_path(RELATIVE_PATH to BASE_DIRECTORY ${from})
     set(${variable} ${to} PARENT_SCOPE)
 endfunction()
+
+# For pkg-config.
+radsel_way(radsel_pc_include ${radsel_pc_folder} ${radsel_header_folder})
+radsel_way(radsel_pc_lib ${radsel_pc_folder} ${CMAKE_INSTALL_LIBDIR})
+radsel_way(radsel_pc_host ${radsel_pc_folder} ${radsel_host_folder})

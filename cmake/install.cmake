@@ -1,6 +1,7 @@
 # What `cmake --install` lays out. Each component becomes a package of its own (package.cmake):
 #
 #   runtime         the module
+#   c_interface     the C interface, with module and host inside
 #   reference_host  the five libraries of the reference host, in a folder that no loader searches,
 #                   so that they serve those only who name them
 #   workbench       the program
@@ -65,7 +66,8 @@ install(FILES ${radsel_platform_headers} DESTINATION ${radsel_header_folder}/pla
 
 # The packages for CMake and for pkg-config.
 list(JOIN radsel_host_libraries ", " radsel_components)
-string(PREPEND radsel_components "module, reference_host, platform, ")
+string(PREPEND radsel_components
+    "module, reference_host, host_defaults, host_default_dialogs, platform, radsel_c, ")
 configure_file(${PROJECT_SOURCE_DIR}/cmake/radselConfig.cmake.in
     ${PROJECT_BINARY_DIR}/radselConfig.cmake @ONLY)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/radselConfigVersion.cmake
@@ -75,9 +77,6 @@ install(FILES ${PROJECT_BINARY_DIR}/radselConfig.cmake
     DESTINATION ${radsel_package_folder} COMPONENT development)
 install(EXPORT radselTargets NAMESPACE radsel:: DESTINATION ${radsel_package_folder}
     COMPONENT development)
-radsel_way(radsel_pc_include ${radsel_pc_folder} ${radsel_header_folder})
-radsel_way(radsel_pc_lib ${radsel_pc_folder} ${CMAKE_INSTALL_LIBDIR})
-radsel_way(radsel_pc_host ${radsel_pc_folder} ${radsel_host_folder})
 foreach(package radsel radsel-reference-host)
     configure_file(${PROJECT_SOURCE_DIR}/packaging/${package}.pc.in
         ${PROJECT_BINARY_DIR}/packaging/${package}.pc @ONLY)

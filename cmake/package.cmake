@@ -95,6 +95,15 @@ dialogs. What it needs to know of the program it asks the program's own
 libraries.
 .
 This package contains the shared library.")
+get_target_property(c_soversion radsel_c SOVERSION)
+set(c_library libradsel-c${c_soversion})
+radsel_package(c_interface ${c_library} SECTION libs
+    RECOMMENDS radsel-data
+    SUMMARY "selection of radiators and valves for CAD programs - C interface"
+    TEXT
+"The module radsel with a host inside, as plain C functions with plain records:
+for programs and scripts in any language that calls C. It needs none of the
+other packages.")
 radsel_package(reference_host radsel-reference-host SECTION libs
     RECOMMENDS radsel-data xdg-utils qt6-translations-l10n
     SUMMARY "selection of radiators and valves for CAD programs - reference host"
@@ -111,11 +120,13 @@ radsel_package(data radsel-data SECTION science ANY_ARCHITECTURE
 drawing blocks, a building, and the help pages of the dialogs of the module
 radsel.")
 radsel_package(development libradsel-dev SECTION libdevel
-    DEPENDS ${library} radsel-reference-host RECOMMENDS radsel-doc SUGGESTS radsel-data
+    DEPENDS ${library} ${c_library} radsel-reference-host
+    RECOMMENDS radsel-doc SUGGESTS radsel-data qt6-base-dev
     SUMMARY "selection of radiators and valves for CAD programs - development files"
     TEXT
-"Headers, link libraries, and the packages for CMake and pkg-config for
-programs that bind the module radsel, with examples.")
+"Headers, link libraries, the defaults that a host is written over, and the
+packages for CMake and pkg-config for programs that bind the module radsel or
+its C interface, with examples.")
 radsel_package(documentation radsel-doc SECTION doc ANY_ARCHITECTURE
     SUMMARY "selection of radiators and valves for CAD programs - documentation"
     TEXT
@@ -135,18 +146,9 @@ as well.")
 endif()
 
 get_cmake_property(components COMPONENTS)
-if(c_interface IN_LIST components)
-    get_target_property(c_soversion radsel_c SOVERSION)
-    radsel_package(c_interface libradsel-c${c_soversion} SECTION libs
-        RECOMMENDS radsel-data
-        SUMMARY "selection of radiators and valves for CAD programs - C interface"
-        TEXT
-"The functions of the module radsel as plain C functions with plain records,
-for hosts and scripts in other languages than C++.")
-endif()
 if(python IN_LIST components)
     radsel_package(python python3-radsel SECTION python ANY_ARCHITECTURE
-        DEPENDS python3 libradsel-c${c_soversion} RECOMMENDS radsel-data
+        DEPENDS python3 ${c_library} RECOMMENDS radsel-data
         SUMMARY "selection of radiators and valves from makers' catalogues - Python 3"
         TEXT
 "Finds radiators and valves in makers' catalogues in the record format VDI

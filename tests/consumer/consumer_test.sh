@@ -3,6 +3,7 @@
 # it leads back to the place where it was built.
 set -euo pipefail
 cmake=$1 cpack=$2 build=$3 source=$4 compiler=$5 flags=$6 scan=$7
+ccompiler=$8 instruments=$9
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
 work=$(mktemp -d)
@@ -97,7 +98,8 @@ quietly "$cmake" --build "$work/consumer" --parallel 2
 "$work/consumer/with_own_names" || fail "names of the program and of the module are mixed up"
 
 # Every way to bring a host of one's own: it is the one that is asked.
-for way in silent_library named_library own_functions plugin; do
+for way in silent_library named_library own_functions plugin \
+    default_library default_functions default_plugin; do
     answer=$("$work/consumer/with_$way") || fail "with_$way: $answer"
     [[ $answer == "0 T1" ]] || fail "with_$way: $answer"
 done
@@ -134,3 +136,14 @@ LD_LIBRARY_PATH=$libraries:$libraries/radsel/reference_host \
     "$here/example_test.sh" "$work/by_pkg_config" "$prefix/share/radsel/catalogues"
 
 "$here/example_test.sh" "$work/consumer/bind_radsel" "$prefix/share/radsel/catalogues"
+
+# The skeleton, as somebody copies it.
+cp -r "$prefix/share/doc/radsel/examples/host" "$work/copied"
+quietly "$cmake" -S "$work/copied" -B "$work/skeleton" -DCMAKE_PREFIX_PATH="$prefix" \
+    -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags -Wall -Wextra -Wpedantic -Wconversion -Werror"
+quietly "$cmake" --build "$work/skeleton"
+"$here/skeleton_test.sh" "$work/skeleton/cad" "$prefix/share/radsel" \
+    "$work/consumer/libconfirm_dialogs.so"
+
+"$here/../c_interface/c_host_test.sh" "$prefix" "$ccompiler" "$instruments" \
+    "$work/consumer/libconfirm_dialogs.so"

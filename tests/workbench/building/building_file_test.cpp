@@ -1,6 +1,6 @@
 #include "platform/encoding.h"
 #include "platform/exception.h"
-#include "tests/reference_host/prefs/filled_records.h"
+#include "tests/host_defaults/prefs/filled_records.h"
 #include "tests/src/platform/archived.h"
 #include "tests/src/platform/thrown.h"
 #include "tests/support/file_size_limit.h"

@@ -2,7 +2,7 @@
 
 #include "host/host_base.h"
 #include "host/host_prefs.h"
-#include "tests/reference_host/host_dialog_driver.h"
+#include "tests/host_defaults/host_dialog_driver.h"
 #include "tests/src/selection/dialog/auswahl_fixture.h"
 
 #include <QLineEdit>
