@@ -1,4 +1,4 @@
-# The Python package over the library and the workbench of this tree, and its types.
+# The Python package over the library and the workbench of this tree, its example, and its types.
 
 set(python_environment
     PYTHONPATH=${PROJECT_SOURCE_DIR}/python
@@ -23,10 +23,13 @@ if(RADSEL_SANITIZE)
     list(APPEND python_environment LD_PRELOAD=${ahead} ASAN_OPTIONS=detect_leaks=0)
 endif()
 
+# As a user's own checker reads the package: what it exports, and a script over it.
 add_test(NAME python_types COMMAND /usr/bin/mypy --strict --cache-dir=/dev/null
-    ${PROJECT_SOURCE_DIR}/python/radsel)
+    --ignore-missing-imports ${PROJECT_SOURCE_DIR}/python/radsel
+    ${PROJECT_SOURCE_DIR}/examples/python)
+set_tests_properties(python_types PROPERTIES ENVIRONMENT MYPYPATH=${PROJECT_SOURCE_DIR}/python)
 
-foreach(name catalogues buildings)
+foreach(name catalogues buildings example)
     add_test(NAME python_${name} COMMAND
         /usr/bin/python3 ${CMAKE_CURRENT_LIST_DIR}/${name}_test.py)
     set_tests_properties(python_${name} PROPERTIES ENVIRONMENT "${python_environment}")
