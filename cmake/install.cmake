@@ -5,6 +5,7 @@
 #   reference_host  the five libraries of the reference host, in a folder that no loader searches,
 #                   so that they serve those only who name them
 #   workbench       the program
+#   python          the Python package
 #   data            sample catalogues, building, blocks and lists; help pages
 #   development     what the programmer of another host needs
 #   documentation   the pages under docs/

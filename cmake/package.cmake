@@ -148,7 +148,7 @@ endif()
 get_cmake_property(components COMPONENTS)
 if(python IN_LIST components)
     radsel_package(python python3-radsel SECTION python ANY_ARCHITECTURE
-        DEPENDS python3 ${c_library} RECOMMENDS radsel-data
+        DEPENDS python3 ${c_library} RECOMMENDS radsel-data radsel-workbench
         SUMMARY "selection of radiators and valves from makers' catalogues - Python 3"
         TEXT
 "Finds radiators and valves in makers' catalogues in the record format VDI

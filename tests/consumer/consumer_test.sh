@@ -137,6 +137,15 @@ LD_LIBRARY_PATH=$libraries:$libraries/radsel/reference_host \
 
 "$here/example_test.sh" "$work/consumer/bind_radsel" "$prefix/share/radsel/catalogues"
 
+# The Python package; an interpreter that is not instrumented does not take a library that is.
+sized() {
+    env -u RADSEL_LIBRARY -u RADSEL_WORKBENCH PYTHONPATH="$prefix/lib/python3/dist-packages" \
+        PYTHONDONTWRITEBYTECODE=1 HOME="$work/home" python3 \
+        "$prefix/share/doc/radsel/examples/python/size_villa.py" "$prefix/share/radsel" "$work/villa.svg"
+}
+[[ -n $instruments ]] || sized >"$work/log" 2>&1 || fail "$(<"$work/log")"
+[[ -n $instruments ]] || grep -q '55/45 °C: C 22/600x1100 gives 925 W' "$work/log" || fail "$(<"$work/log")"
+
 # The skeleton, as somebody copies it.
 cp -r "$prefix/share/doc/radsel/examples/host" "$work/copied"
 quietly "$cmake" -S "$work/copied" -B "$work/skeleton" -DCMAKE_PREFIX_PATH="$prefix" \
