@@ -27,14 +27,16 @@ def link_is_good(page, target):
 
 
 def name_is_good(name):
-    """A header, a page or a program that is named in passing."""
+    """A header, a page, a program or a library that is named in passing."""
     if name.endswith(".h"):
         return any(include.rglob(name))
     if name.endswith(".md"):
         return (docs / name).is_file()
     if name.startswith("examples/"):
         return (docs / name).exists()
-    return (prefix / "bin" / name).is_file() or re.search(rf"\b{name}\b", headers)
+    if (prefix / "bin" / name).is_file() or any(prefix.rglob(f"{name}.pc")):
+        return True
+    return re.search(rf"\b{name}\b", headers)
 
 
 NAMES = re.compile(r"(?<![\w/.:])((?:[a-z_0-9-]+/)*[a-z_0-9-]+\.(?:h|md)|examples/[\w/.]+\w|"
