@@ -89,9 +89,10 @@ TEST_F(PlanScheduleTest, ASpreadsheetGetsCommasAndCodesAsTexts)
 {
     const CString csv = FormatScheduleCsv(SchedulePlan(m_building));
     EXPECT_TRUE(csv.starts_with(L"\ufeffPiano;Locale;"));
-    const CString line = L"Terra;Due;scelto;20;;;;Prova;Radiatori a piastra;Tipo 11;B;600;100;1000;"
-                         L"390;390;;0;0,000;;;;;;;Nessuno;\"=\"\"" +
-                         CString(36, L'1') + L"\"\"\";;;;;";
+    const CString line =
+        L"Terra;Due;scelto;20;;;;Prova;Radiatori a piastra;\"=\"\"Tipo 11\"\"\";B;600;100;1000;"
+        L"390;390;;0;0,000;;;;;;;Nessuno;\"=\"\"" +
+        CString(36, L'1') + L"\"\"\";;;;;";
     EXPECT_NE(csv.find(L"\n" + line), CString::npos) << Utf8FromWide(csv);
     EXPECT_NE(csv.find(L";1790;1790;-48,9;;2,500;"), CString::npos) << "the sums";
 }
@@ -250,7 +251,7 @@ TEST_F(PlanScheduleTest, EveryOutputTellsSizesThatOughtToBeOthers)
     EXPECT_EQ(schedule.floors[0].totals.nChosen, 1);
     EXPECT_EQ(schedule.floors[0].totals.nHeizkoerper, 3);
 
-    const CString csv = FormatScheduleCsv(schedule);
+    const CString csv = FormatScheduleCsv(schedule, CsvForm::plain);
     const CString text = FormatScheduleText(schedule, false);
     const QJsonArray json = JsonOf(schedule)["floors"][0]["rooms"].toArray();
     const CReportTable open = MakeOpenRoomsTable(schedule);
