@@ -129,10 +129,10 @@ TEST_F(ScheduleTest, UnfittingRoomsSayWhatTheNearestRadiatorLacks)
          L"80 mm"},
         {lowest, kStandard,
          L"il più vicino è P10/600, 600 x 60 x 1000 mm, 1000 W: altezza 600 mm, consentiti 500 mm; "
-         L"mancano 400 W (28.6 %)"},
+         L"mancano 400 W (28,6 %)"},
         {cold,
          {55.0, 45.0},
-         L"il più vicino è P10/600, 600 x 60 x 1000 mm, 495 W: mancano 305 W (38.1 %)"},
+         L"il più vicino è P10/600, 600 x 60 x 1000 mm, 495 W: mancano 305 W (38,1 %)"},
     };
     for (const auto& [room, system, note] : cases) {
         const CRoomOutcome outcome = Select(room, system);
