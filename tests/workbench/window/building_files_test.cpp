@@ -155,6 +155,20 @@ TEST_F(BuildingFiles, TheSecondWindowOnABuildingOnlyReadsIt)
     EXPECT_FALSE(document.IsReadOnly());
 }
 
+TEST_F(BuildingFiles, AFileThatMayOnlyBeReadSaysSoAndNothingElse)
+{
+    const auto all = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    fs::permissions(m_path, all, fs::perm_options::remove);
+    m_window->Start(m_path.wstring(), {});
+    EXPECT_TRUE(m_window->windowTitle().contains("sola lettura"));
+    EXPECT_FALSE(Action("save").isEnabled());
+    EXPECT_EQ(Messages(), "");
+    m_answerPath = (m_path.parent_path() / "copia.json").wstring();
+    Do("saveAs");
+    EXPECT_FALSE(m_window->windowTitle().contains("sola lettura"));
+    EXPECT_TRUE(Action("save").isEnabled());
+}
+
 TEST_F(BuildingFiles, ADamagedBuildingAtTheStartLeavesAWindow)
 {
     std::ofstream(m_path.parent_path() / "rotto.json") << "{\n\"version\": 2\n\"name\": 1 }";
