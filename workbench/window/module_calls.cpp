@@ -107,6 +107,9 @@ std::optional<CRadiatorChoice> AskForRadiator(const CRadiatorWish& wish, CDrawer
     if (const CHeatingSystem system{handover.Vorlauf, handover.Ruecklauf}; system != wish.system) {
         chosen.system = system;
     }
+    if (handover.Raumtemperatur != wish.raumtemperatur) {
+        chosen.raumtemperatur = handover.Raumtemperatur;
+    }
     chosen.block = block.GetShown();
     return chosen;
 }
