@@ -40,6 +40,8 @@ enum ConnectionControl
     idTypen = 362,
     idVentileAktiv = 18077,
     idWand = 18105,
+    idBezeichnungAN = 364,
+    idBezeichnungRI = 366,
     idLeereAN = 18095,
     idGrafikenAN = 18097,
     idGrafikenRI = 18098,
@@ -274,6 +276,15 @@ TEST_F(ModuleDialogs, TheConnectionDialogShowsTheValvesDrawnAndKeepsThem)
         EXPECT_EQ(shown.second, before.second) << what;
         EXPECT_EQ(GraphicsOf(ref), expected) << what;
     }
+    InModule([](const CModuleUser& user) {
+        const auto name = [&](int id) {
+            return user.Control<QWidget>(id).property("text").toString();
+        };
+        EXPECT_EQ(name(idBezeichnungAN), "");
+        EXPECT_NE(name(idBezeichnungRI), "") << "the other valve is still there";
+        user.Cancel();
+    });
+    Do("connect");
 }
 
 TEST_F(ModuleDialogs, WhatIsSwitchedOffStaysOnEachOfSeveralRadiators)
