@@ -165,7 +165,7 @@ endif()
 include(CPack)
 
 # Whatever is installed is in a package, but for what no package has.
-list(REMOVE_ITEM components ${CPACK_COMPONENTS_ALL} licences Unspecified)
+list(REMOVE_ITEM components ${CPACK_COMPONENTS_ALL} licences)
 if(components)
     message(FATAL_ERROR "No package has what is installed as: ${components}")
 endif()
