@@ -49,7 +49,7 @@ endfunction()
 radsel_install_headers(frame conn_values entry_points handover hkauswahl_uebergabe lumo_error
     vdi6030_start ventil_kv)
 radsel_install_headers(host api drawer drawing_records host_base host_catalog host_fittings
-    host_identity host_prefs host_prompts image_loader)
+    host_diagnosis host_identity host_prefs host_prompts image_loader)
 radsel_install_headers(platform archive array bitmap byte_stream color exception export object text)
 
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/radselConfigVersion.cmake

@@ -12,6 +12,7 @@
 #include "platform/folder.h"
 #include "platform/path.h"
 #include "radiator/hk_vdi3805.h"
+#include "radiator/leere_antwort.h"
 #include "valve/ventil_katalog.h"
 
 #include <filesystem>
@@ -203,7 +204,11 @@ int radsel_list_rows(radsel_request* request, int all, radsel_rows** rows)
         for (const auto* row = katalog.GetErgebnis(); row != nullptr; row = row->pNext) {
             list.rows.push_back(ToC(*row));
         }
-        return call.Finish(katalog.GetProdukt() == nullptr ? RADSEL_NOTHING : RADSEL_OK);
+        if (katalog.GetProdukt() != nullptr) {
+            return call.Finish(RADSEL_OK);
+        }
+        ErklaereFehlendeZeilen(katalog);
+        return call.Finish(RADSEL_NOTHING);
     });
 }
 

@@ -1,6 +1,7 @@
 #include "c_interface/calls/request.h"
 
 #include "c_interface/host/catalogue.h"
+#include "c_interface/host/diagnosis.h"
 #include "c_interface/records/call_fault.h"
 #include "c_interface/records/records.h"
 #include "c_interface/records/sized_record.h"
@@ -11,18 +12,14 @@ namespace c_interface {
 CRequest::CRequest(radsel_request* request) : m_request(request)
 {
     FromC(Load(request, DefaultRequest()), m_data);
+    ForgetDiagnosis();
 }
 
 int CRequest::Finish(int result, const std::function<void()>& give)
 {
     if (result == RADSEL_NOTHING) {
         RequireCatalogue(m_data.Hersteller);
-        KeepReason({"Nothing of \"" +
-                        Utf8FromWide(m_data.Hersteller + L"\", \"" + m_data.Art + L"\", \"" +
-                                     m_data.Produkt) +
-                        "\" fits.",
-                    {},
-                    0});
+        KeepReason({LastDiagnosis("No row was chosen."), {}, 0});
     }
     radsel_request record = DefaultRequest();
     ToC(m_data, record);

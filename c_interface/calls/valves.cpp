@@ -2,13 +2,13 @@
 
 #include "c_interface/calls/drawn_radiators.h"
 #include "c_interface/calls/guarded_call.h"
+#include "c_interface/host/diagnosis.h"
 #include "c_interface/host/drawer.h"
 #include "c_interface/records/records.h"
 #include "c_interface/records/sized_record.h"
 #include "c_interface/records/texts.h"
 #include "frame/entry_points.h"
 #include "host/host_fittings.h"
-#include "platform/encoding.h"
 #include "valve/ventil_katalog.h"
 
 #include <memory>
@@ -61,6 +61,7 @@ VDI3805_VENTIL_KV OnlyKey(const VDI3805_VENTIL_KV& ventil)
 /// but the keys, and what is empty then was not found.
 int Fetch(CValve& first, CValve& second)
 {
+    ForgetDiagnosis();
     VDI3805_VENTIL_KV one = OnlyKey(first.data);
     VDI3805_VENTIL_KV other = OnlyKey(second.data);
     VDI3805GetVentilDaten(one, other);
@@ -78,11 +79,7 @@ int Fetch(CValve& first, CValve& second)
     if (!one.Bezeichnung.empty() && !isMissing) {
         return RADSEL_OK;
     }
-    const VDI3805_VENTIL_KV& missing = one.Bezeichnung.empty() ? one : other;
-    KeepReason({"There is no valve \"" + Utf8FromWide(missing.VentilNr) + "\" of \"" +
-                    Utf8FromWide(missing.Hersteller) + "\".",
-                {},
-                0});
+    KeepReason({LastDiagnosis("The valve was not found."), {}, 0});
     return RADSEL_NOTHING;
 }
 

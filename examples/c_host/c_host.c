@@ -35,7 +35,7 @@ static const char* const layers[] = {"HEIZ_HK", "HEIZ_ROHR"};
 struct cad
 {
     const char* valves;
-    int points_shown;
+    const char* name;
 };
 
 /* ------------------------------------------------------------------ what the module asks of it */
@@ -52,7 +52,7 @@ static int get_text(void* user, int setting, char* buffer, size_t capacity)
         text = layers[0];
         break;
     case RADSEL_PROGRAM_NAME:
-        text = "C CAD";
+        text = cad->name;
         break;
     default:
         return RADSEL_NOTHING; /* the library's default */
@@ -140,13 +140,11 @@ static int get_layer_color(void* user, const char* layer, int* color)
 static int draw_point(void* user, const double place[3], const double direction[3],
                       double side_distance, int color, int is_return)
 {
-    struct cad* cad = user;
-    (void)place;
+    (void)user;
     (void)direction;
     (void)side_distance;
     (void)color;
-    (void)is_return;
-    cad->points_shown++;
+    printf("%s at %.0f %.0f %.0f\n", is_return ? "return" : "flow", place[0], place[1], place[2]);
     return RADSEL_OK;
 }
 
@@ -205,7 +203,7 @@ static int choose_radiator(radsel_request* room, const radsel_drawing* drawing)
 }
 
 static int edit_connection(const radsel_request* room, radsel_valve* flow_valve,
-                           const radsel_drawing* drawing, const struct cad* cad)
+                           const radsel_drawing* drawing)
 {
     radsel_connection connection;
     radsel_connection_checks checks;
@@ -230,15 +228,14 @@ static int edit_connection(const radsel_request* room, radsel_valve* flow_valve,
     result =
         radsel_edit_connection(&connection, flow_valve, &return_valve, &checks, &drawn, 1, drawing);
     if (result == RADSEL_OK) {
-        printf("connected, %d points shown: flow %s, return %s\n", cad->points_shown,
-               connection.flow_text, connection.return_text);
+        printf("connected: flow %s, return %s\n", connection.flow_text, connection.return_text);
     }
     return result;
 }
 
 int main(int argc, char** argv)
 {
-    struct cad cad = {NULL, 0};
+    struct cad cad = {NULL, "C CAD"};
     radsel_host host;
     radsel_drawing drawing;
     radsel_request room;
@@ -288,7 +285,7 @@ int main(int argc, char** argv)
         if (choose_radiator(&room, &drawing) < 0) {
             return fail("no choice");
         }
-        if (edit_connection(&room, &valve, &drawing, &cad) < 0) {
+        if (edit_connection(&room, &valve, &drawing) < 0) {
             return fail("no connection");
         }
     }

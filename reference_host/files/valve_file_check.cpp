@@ -1,9 +1,9 @@
 #include "reference_host/files/valve_file_check.h"
 
+#include "common/missing_fields.h"
 #include "common/text_file.h"
 #include "platform/file.h"
 #include "platform/file_limits.h"
-#include "platform/format.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -49,16 +49,6 @@ Fields Split(const CString& line)
     return fields;
 }
 
-/// Fields are told by their number from 0, as the format counts them.
-CString DescribeMissing(const RecordRule& rule, std::size_t count)
-{
-    const CString first = FormatInt(static_cast<long long>(count));
-    const CString last = FormatInt(static_cast<long long>(rule.nFields) - 1);
-    return L"al record " + CString(rule.type) +
-           (first == last ? L" manca il campo " + last
-                          : L" mancano i campi da " + first + L" a " + last);
-}
-
 std::optional<CFileFault> FindFault(const CString& file, const CStringArray& lines,
                                     std::span<const RecordRule> rules)
 {
@@ -84,7 +74,7 @@ std::optional<CFileFault> FindFault(const CString& file, const CStringArray& lin
                               file};
         }
         if (fields.size() < rule->nFields) {
-            return CFileFault{number, DescribeMissing(*rule, fields.size()), file};
+            return CFileFault{number, DescribeMissingFields(rule->type, fields.size(), rule->nFields), file};
         }
     }
     return std::nullopt;

@@ -3,6 +3,8 @@
 #include "common/heizung_ordner.h"
 #include "common/text_file.h"
 #include "platform/file.h"
+#include "platform/file_fault.h"
+#include "platform/path.h"
 
 namespace {
 
@@ -54,8 +56,9 @@ void SchreibeListe(const Anschlussliste& liste)
 
 bool LeseVentTxt(CAnschlussZustand& zustand, CAnschlussAnsicht& ansicht)
 {
+    const CString pfad = HeizungPfad(kDateiName);
     CStringArray zeilen;
-    if (ReadTextFile(HeizungPfad(kDateiName), zeilen, CFile::modeRead, -1) == 0) {
+    if (ReadTextFile(pfad, zeilen, CFile::modeRead, -1) == 0) {
         return false;
     }
     CString name;
@@ -66,7 +69,11 @@ bool LeseVentTxt(CAnschlussZustand& zustand, CAnschlussAnsicht& ansicht)
             continue;
         }
         const CString vorlauf = RestHinter(L'V', zeilen[i]);
-        const CString ruecklauf = RestHinter(L'R', zeilen[++i]);
+        if (++i == zeilen.GetSize()) {
+            throw CInvalidArgException(FormatFileFault(
+                {i, L"manca la riga del punto di ritorno", TextFromPath(ResolvePath(pfad))}));
+        }
+        const CString ruecklauf = RestHinter(L'R', zeilen[i]);
         NeuerEintrag(zustand.m_Anschlussliste, name, vorlauf, ruecklauf);
     }
     return true;

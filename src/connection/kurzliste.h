@@ -10,7 +10,7 @@
 /// Adds the names of the file to the list of names and its entries to the short list. True if the
 /// file could be opened and held at least one line. An entry with a text that cannot be read is
 /// left out, its name stays, so that later names and entries no longer line up. A pair that begins
-/// on the last line raises CInvalidArgException.
+/// on the last line raises CInvalidArgException, which tells the file and the line.
 bool LeseVentTxt(CAnschlussZustand& zustand, CAnschlussAnsicht& ansicht);
 
 /// Appends an entry to the short list; false, with nothing appended, if one of the texts gives

@@ -1,5 +1,6 @@
 #include "module/host_check.h"
 
+#include "common/diagnosis.h"
 #include "host/host_base.h"
 #include "host/host_catalog.h"
 #include "host/host_fittings.h"
@@ -126,14 +127,16 @@ std::vector<CHostFunction> LoadedHostFunctions()
 
 bool HostFits()
 {
-    static std::optional<bool> fits;
-    if (!fits) {
-        const CString fault = HostFault(LoadedHostFunctions());
+    static std::optional<CString> fault;
+    if (!fault) {
         // Known before the message shows: who answers it may call again.
-        fits = fault.empty();
-        if (!*fits) {
-            ShowMessage({CString(), fault, MessageIcon::stop});
+        fault = HostFault(LoadedHostFunctions());
+        if (!fault->empty()) {
+            ShowMessage({CString(), *fault, MessageIcon::stop});
         }
     }
-    return *fits;
+    if (!fault->empty()) {
+        TellDiagnosis(HostDiagnosis::noCall, *fault);
+    }
+    return fault->empty();
 }

@@ -22,5 +22,5 @@ CString HostFault(const std::vector<CHostFunction>& functions);
 std::vector<CHostFunction> LoadedHostFunctions();
 
 /// True if the host of this process fits the module. Where it does not, the first call says so in a
-/// message. Asked once a process; the answer stays.
+/// message, and each one to the host's listener. Asked once a process; the answer stays.
 bool HostFits();

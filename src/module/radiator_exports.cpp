@@ -1,8 +1,10 @@
 #include "frame/entry_points.h"
 
+#include "common/diagnosis.h"
 #include "module/host_check.h"
 #include "module/resource_context.h"
 #include "radiator/hk_vdi3805.h"
+#include "radiator/leere_antwort.h"
 #include "radiator/size_queries.h"
 #include "selection/dialog/hk_auswahl_dlg.h"
 #include "selection/dialog/hk_auswahl_tree_dlg.h"
@@ -12,6 +14,14 @@ namespace {
 constexpr int kNothingChosen = -1;
 constexpr int kCancelled = -2;
 constexpr int kTreeCancelled = -1;
+
+bool HasHandover(const HK_DATEN_VDI3805_UEBERGABE* uebergabe)
+{
+    if (uebergabe == nullptr) {
+        TellDiagnosis(HostDiagnosis::noCall, L"La chiamata non porta alcun record.");
+    }
+    return uebergabe != nullptr;
+}
 
 /// Layer and colour go back to the caller even on cancel, as the criteria do.
 int RunSelectionDialog(CHKVdi3805& katalog, CDrawer* drawer, CString& layer, int& layerColor,
@@ -35,7 +45,7 @@ int HeizkoerperauswahlVDI3805(CDrawer* drawer, HK_DATEN_VDI3805_UEBERGABE* ueber
                               CString& layer, int& layerColor, bool showDialog, bool warnAndWiden)
 {
     const CResourceContext context;
-    if (!HostFits() || uebergabe == nullptr) {
+    if (!HostFits() || !HasHandover(uebergabe)) {
         return kNothingChosen;
     }
     CHKVdi3805 katalog(uebergabe);
@@ -44,13 +54,17 @@ int HeizkoerperauswahlVDI3805(CDrawer* drawer, HK_DATEN_VDI3805_UEBERGABE* ueber
     if (showDialog) {
         return RunSelectionDialog(katalog, drawer, layer, layerColor, warnAndWiden);
     }
-    return katalog.BesteAuswahlMinLeistung(uebergabe);
+    const int chosen = katalog.BesteAuswahlMinLeistung(uebergabe);
+    if (chosen == kNothingChosen) {
+        ErklaereLeereAuswahl(katalog);
+    }
+    return chosen;
 }
 
 int HeizkoerperauswahlVDI3805Tree(HK_DATEN_VDI3805_UEBERGABE* uebergabe)
 {
     const CResourceContext context;
-    if (!HostFits() || uebergabe == nullptr) {
+    if (!HostFits() || !HasHandover(uebergabe)) {
         return kTreeCancelled;
     }
     CHKVdi3805 katalog(uebergabe);

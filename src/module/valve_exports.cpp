@@ -6,6 +6,7 @@
 #include "module/resource_context.h"
 #include "valve/dialog/ventil_dialog.h"
 #include "valve/ventil_abruf.h"
+#include "valve/ventil_erklaerung.h"
 
 bool ShowVentDlg(ConnValues& anschluss, VDI3805_VENTIL_KV& ventilVorlauf,
                  VDI3805_VENTIL_KV& ventilRuecklauf, bool& gruppenWaehlbar, bool& ventile,
@@ -27,7 +28,14 @@ bool ShowVentVDI3805Dlg(const CString& ventilNr, const CString& hersteller,
 bool VDI3805GetVentilDaten(VDI3805_VENTIL_KV& ventil1, VDI3805_VENTIL_KV& ventil2)
 {
     const CResourceContext context;
-    return HostFits() && HoleVentilDaten(ventil1, ventil2);
+    if (!HostFits()) {
+        return false;
+    }
+    const bool bSchluessel = HoleVentilDaten(ventil1, ventil2);
+    if (!bSchluessel) {
+        ErklaereSchluessel(ventil1.Hersteller, ventil1.VentilNr);
+    }
+    return bSchluessel;
 }
 
 void VDI3805GetVentil(const CString& hersteller1, const CString& ventilNr1,

@@ -66,6 +66,8 @@ CException::CException(CString message)
 
 CInvalidArgException::CInvalidArgException() : CException(L"Argomento non valido.") {}
 
+CInvalidArgException::CInvalidArgException(CString message) : CException(std::move(message)) {}
+
 CFileException::CFileException(Cause cause, int osError, const CString& fileName)
     : CException(FileMessage(osError, fileName)), m_cause(cause), m_osError(osError),
       m_fileName(fileName)

@@ -27,6 +27,10 @@ class CInvalidArgException : public CException
 {
 public:
     CInvalidArgException();
+
+    /// The same with a text of its own: where a file led to it, its name and line and what the line
+    /// lacks.
+    explicit CInvalidArgException(CString message);
 };
 
 /// A file operation that failed.

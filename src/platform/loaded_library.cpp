@@ -33,3 +33,8 @@ void* CLoadedLibrary::Find(const char* symbol) const
     const bool own = found != nullptr && dladdr(found, &info) != 0 && info.dli_fbase == m_base;
     return own ? found : nullptr;
 }
+
+void* CLoadedLibrary::FindAnywhere(const char* symbol)
+{
+    return dlsym(RTLD_DEFAULT, symbol);
+}

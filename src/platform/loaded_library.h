@@ -16,6 +16,10 @@ public:
     /// libraries does not count.
     void* Find(const char* symbol) const;
 
+    /// Where the first symbol of that name lies among those that the program and its libraries
+    /// offer to each other, null if there is none.
+    static void* FindAnywhere(const char* symbol);
+
 private:
     CString m_file;
     CString m_loadedAs;

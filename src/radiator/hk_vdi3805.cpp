@@ -1,17 +1,16 @@
 #include "radiator/hk_vdi3805.h"
 
+#include "common/katalog_pruefung.h"
 #include "host/host_catalog.h"
 #include "platform/rounding.h"
 #include "radiator/output_conversion.h"
 
 #include <cmath>
+#include <limits>
 #include <memory>
 #include <utility>
 
 namespace {
-
-/// Keeps the filling of the grid bounded; the list is cut in catalogue order.
-constexpr int kMaxRows = 2000;
 
 /// The band that follows the required output once the dialog has refreshed.
 constexpr double kDialogToleranz = 0.1;
@@ -41,6 +40,16 @@ bool IsPerSection(wchar_t bauart)
 bool Within(double low, double value, double high)
 {
     return low <= value && value <= high;
+}
+
+/// How far a value lies outside of a range.
+double Beyond(double low, double value, double high)
+{
+    if (Within(low, value, high)) {
+        return 0.0;
+    }
+    const double beyond = std::fmax(low - value, value - high);
+    return beyond > 0.0 ? beyond : std::numeric_limits<double>::infinity();
 }
 
 double BoundOrDerived(double bound, double derived)
@@ -195,7 +204,7 @@ void CHKVdi3805::CollectRows()
         if (m_bAlle == 0 && !PassesTests(*row, outputs.design)) {
             continue;
         }
-        if (++count > kMaxRows) {
+        if (++count > kMaxKatalogZeilen) {
             return;
         }
         HK_VDI3805_TYP* const result = NewRow();
@@ -231,6 +240,16 @@ bool CHKVdi3805::PassesTests(const HK_VDI3805_TYP& row, double designOutput) con
     return Within(m_pDaten->HoeheMin - m_Toleranz, size.Hoehe, m_pDaten->HoeheMax + m_Toleranz) &&
            Within(m_pDaten->TiefeMin, size.Tiefe, m_pDaten->TiefeMax) && PassesLength(row) &&
            PassesOutput(size, designOutput);
+}
+
+CHKVdi3805::CVerfehlung CHKVdi3805::Verfehlung(const HK_VDI3805_TYP& row) const
+{
+    const HK_DATEN_VDI3805& size = row.Daten;
+    const double leistung = ComputeOutputs(size).design;
+    return {Beyond(m_pDaten->HoeheMin - m_Toleranz, size.Hoehe, m_pDaten->HoeheMax + m_Toleranz),
+            Beyond(m_pDaten->TiefeMin, size.Tiefe, m_pDaten->TiefeMax),
+            PassesLength(row) ? 0.0 : Beyond(m_pDaten->LaengeMin, size.Laenge, m_pDaten->LaengeMax),
+            !PassesOutput(size, leistung), leistung};
 }
 
 bool CHKVdi3805::PassesLength(const HK_VDI3805_TYP& row) const

@@ -62,8 +62,27 @@ public:
     const CArray<double, double>& GetHoehen() const { return m_Hoehen; }
     const CArray<double, double>& GetTiefen() const { return m_Tiefen; }
 
-    /// The product of the last pass, null if it was not found. Owned by the host.
+    /// Maker, kind and product of the last pass, each null if it was not found. Owned by the host.
+    const HK_VDI3805_HERSTELLER* GetHersteller() const { return m_pHersteller; }
+    const HK_VDI3805_ART* GetArt() const { return m_pArt; }
     const HK_VDI3805_PRODUKT* GetProdukt() const { return m_pProdukt; }
+
+    /// By how many millimetres a row of the product misses the ranges of the hand-over, the
+    /// tolerance of the height taken off: 0.0 if it passes the test, infinite where one of the
+    /// numbers is none. `bAusgang` is true if it fails the test of the output.
+    struct CVerfehlung
+    {
+        double hoehe;
+        double tiefe;
+        double laenge;
+        bool bAusgang;
+        /// Output at design temperatures.
+        double leistung;
+    };
+    CVerfehlung Verfehlung(const HK_VDI3805_TYP& row) const;
+
+    /// What a row's height may lie beyond the range, in mm.
+    double GetHoehenToleranz() const { return m_Toleranz; }
 
     /// The hand-over record that this object is bound to.
     HK_DATEN_VDI3805_UEBERGABE& GetDaten() const { return *m_pDaten; }

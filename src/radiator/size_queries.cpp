@@ -1,6 +1,7 @@
 #include "radiator/size_queries.h"
 
 #include "radiator/hk_vdi3805.h"
+#include "radiator/leere_antwort.h"
 
 #include <cmath>
 #include <cstdint>
@@ -67,13 +68,26 @@ public:
     }
 };
 
+/// The depth that `select` takes out of the product's depths; -1.0 without rows or depths.
+template <class Select>
+double Tiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe, Select select)
+{
+    CAllRows katalog(uebergabe);
+    if (katalog.GetErgebnis() == nullptr || katalog.GetTiefen().IsEmpty()) {
+        ErklaereFehlendeTiefen(katalog);
+        return -1.0;
+    }
+    return select(katalog.GetTiefen());
+}
+
 } // namespace
 
 void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, OCArray<double>& hoehen,
                OCArray<double>& tiefen)
 {
-    const CAllRows katalog(uebergabe);
+    CAllRows katalog(uebergabe);
     if (katalog.GetErgebnis() == nullptr) {
+        ErklaereFehlendeZeilen(katalog);
         return;
     }
     hoehen.Append(katalog.GetProdukt()->Hoehen);
@@ -99,9 +113,11 @@ void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tief
         return;
     }
 
-    const CAllRows katalog(uebergabe);
+    CAllRows katalog(uebergabe);
     if (katalog.GetErgebnis() != nullptr) {
         uebergabe.Typ = *katalog.GetErgebnis();
+    } else {
+        ErklaereFehlendeZeilen(katalog);
     }
     int contents = 0;
     for (const HK_VDI3805_TYP* row = katalog.GetErgebnis(); row != nullptr; row = row->pNext) {
@@ -116,22 +132,17 @@ void LeseMasse(HK_DATEN_VDI3805_UEBERGABE& uebergabe, short* hoehen, short* tief
 
 double MinTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
 {
-    const CAllRows katalog(uebergabe);
-    const auto& tiefen = katalog.GetTiefen();
-    return katalog.GetErgebnis() != nullptr && !tiefen.IsEmpty() ? tiefen[0] : -1.0;
+    return Tiefe(uebergabe, [](const auto& tiefen) { return tiefen[0]; });
 }
 
 double MaxTiefe(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
 {
-    const CAllRows katalog(uebergabe);
-    const auto& tiefen = katalog.GetTiefen();
-    return katalog.GetErgebnis() != nullptr && !tiefen.IsEmpty() ? tiefen[tiefen.GetSize() - 1]
-                                                                 : -1.0;
+    return Tiefe(uebergabe, [](const auto& tiefen) { return tiefen[tiefen.GetSize() - 1]; });
 }
 
 double Inhalt(HK_DATEN_VDI3805_UEBERGABE& uebergabe, double hoehe, double tiefe, double laenge)
 {
-    const CAllRows katalog(uebergabe);
+    CAllRows katalog(uebergabe);
     const double height = ToWholeMillimetres(hoehe);
     const double depth = ToWholeMillimetres(tiefe);
     const double length = ToWholeMillimetres(laenge);
@@ -141,5 +152,6 @@ double Inhalt(HK_DATEN_VDI3805_UEBERGABE& uebergabe, double hoehe, double tiefe,
             return size.Inhalt;
         }
     }
+    ErklaereFehlendeMasse(katalog, height, depth, length);
     return 0.0;
 }

@@ -1,5 +1,6 @@
 #include "valve/ventil_bewertung.h"
 
+#include "common/missing_fields.h"
 #include "common/text_file.h"
 #include "platform/format.h"
 #include "platform/message.h"
@@ -26,21 +27,40 @@ constexpr int kFeldKvsZeile = 9;
 
 using Table = VDI3805_VENTIL_KV::Table;
 
-CStringArray Felder(const CString& zeile)
+std::size_t Platz(int index)
 {
-    CStringArray fields;
-    SplitString(fields, zeile, L';');
-    return fields;
+    return static_cast<std::size_t>(index);
 }
+
+/// The fields of a stored line. One that is not there raises the exception that tells the line.
+class CKnotenFelder
+{
+public:
+    explicit CKnotenFelder(const VENT_VDI3805_DATEN& knoten) : m_knoten(knoten)
+    {
+        SplitString(m_felder, knoten.Zeile, L';');
+    }
+
+    int Anzahl() const { return m_felder.GetSize(); }
+
+    const CString& operator[](int feld) const
+    {
+        if (feld >= Anzahl()) {
+            throw CInvalidArgException(
+                L"riga " + FormatInt(m_knoten.ZeilenNr) + L": " +
+                DescribeMissingFields(m_knoten.Satzart, Platz(Anzahl()), Platz(feld) + 1));
+        }
+        return m_felder[feld];
+    }
+
+private:
+    const VENT_VDI3805_DATEN& m_knoten;
+    CStringArray m_felder;
+};
 
 float Real(const CString& text)
 {
     return static_cast<float>(_wtof(text));
-}
-
-std::size_t Platz(int index)
-{
-    return static_cast<std::size_t>(index);
 }
 
 /// Share of the flow through the radiator in whole percent. A row without any flow has share 0.
@@ -58,7 +78,7 @@ std::array<Table*, 7> Tabellen(VDI3805_VENTIL_KV& ventil)
 
 void LeseNenndaten(const VENT_VDI3805_DATEN& daten, VDI3805_VENTIL_KV& ventil)
 {
-    const CStringArray fields = Felder(daten.Zeile);
+    const CKnotenFelder fields(daten);
     ventil.VentilArt = _wtoi(fields[2]);
     ventil.DN = _wtoi(fields[3]);
     ventil.Kvs = Real(fields[4]);
@@ -81,7 +101,7 @@ public:
     void LeseZeilen(const VENT_VDI3805_DATEN* knoten)
     {
         for (; knoten != nullptr && knoten->Satzart == kZeilenart; knoten = knoten->Next) {
-            LeseZeile(Felder(knoten->Zeile));
+            LeseZeile(CKnotenFelder(*knoten));
             if (WiederholtEinstellung()) {
                 continue;
             }
@@ -108,10 +128,10 @@ public:
 
 private:
     /// Rows stand in file order whatever index they carry; the field only has to be there.
-    void LeseZeile(const CStringArray& fields)
+    void LeseZeile(const CKnotenFelder& fields)
     {
         const std::size_t i = Platz(m_ventil.AnzahlKv);
-        fields.GetAt(1);
+        fields[1];
         m_ventil.Xp[i] = Real(fields[2]);
         if (m_bBypass) {
             m_ventil.Einstellung[i] = Real(fields[5]);
@@ -125,7 +145,7 @@ private:
             m_ventil.Kv[i] = Real(fields[8]);
         }
         m_ventil.KvsTab[i] =
-            fields.GetSize() > kFeldKvsZeile ? Real(fields[kFeldKvsZeile]) : m_ventil.Kv[i];
+            fields.Anzahl() > kFeldKvsZeile ? Real(fields[kFeldKvsZeile]) : m_ventil.Kv[i];
         if (!m_bBypass && m_ventil.Einstellung[i] > m_maxEinstellung) {
             m_maxEinstellung = m_ventil.Einstellung[i];
         }

@@ -13,7 +13,8 @@
 /// A data set that is the last node of its list leaves the tables and VentilTyp as they stand, with
 /// AnzahlKv 0; a kind code above 11 leaves the tables zero. When the table is full at 50 rows,
 /// repeated presettings not counted, the message "MAXKV" is shown. A line that lacks a required
-/// field raises CInvalidArgException, with `ventil` filled as far as it came.
+/// field raises CInvalidArgException, which tells the line and the field, with `ventil` filled as
+/// far as it came.
 void BewerteVentil(const VENT_VDI3805_ARTIKEL& artikel, const VENT_VDI3805_DATEN& daten,
                    VDI3805_VENTIL_KV& ventil);
 

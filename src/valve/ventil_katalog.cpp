@@ -1,10 +1,12 @@
 #include "valve/ventil_katalog.h"
 
 #include "common/cached_lines.h"
+#include "common/missing_fields.h"
 #include "common/text_file.h"
 #include "host/host_prefs.h"
 #include "platform/array.h"
 #include "platform/file.h"
+#include "platform/file_fault.h"
 #include "platform/file_limits.h"
 #include "platform/folder_name.h"
 #include "platform/format.h"
@@ -98,6 +100,7 @@ struct CVentVdiKatalog::Satz
 {
     CString& zeile;
     int zeilenNr;
+    const CString& dateiPfad;
     const std::vector<std::wstring_view>& felder;
 
     std::size_t Anzahl() const { return felder.size(); }
@@ -106,7 +109,9 @@ struct CVentVdiKatalog::Satz
     std::wstring_view Feld(std::size_t index) const
     {
         if (index >= felder.size()) {
-            throw CInvalidArgException();
+            throw CInvalidArgException(FormatFileFault(
+                {zeilenNr, DescribeMissingFields(felder[0], felder.size(), index + 1),
+                 TextFromPath(ResolvePath(dateiPfad))}));
         }
         return felder[index];
     }
@@ -207,7 +212,7 @@ bool CVentVdiKatalog::SucheVentil(const CString& hersteller, const CString& vent
             if (daten == nullptr) {
                 return false;
             }
-            BewerteVentil(*artikel, *daten, ventil);
+            Bewerte(*artikel, *daten, ventil);
             ventil.Hauptgruppe = haupt->Name;
             ventil.Gruppe = gruppe->Name;
             ventil.Bezeichnung = artikel->BestellNr;
@@ -217,6 +222,17 @@ bool CVentVdiKatalog::SucheVentil(const CString& hersteller, const CString& vent
         }
     }
     return false;
+}
+
+void CVentVdiKatalog::Bewerte(const VENT_VDI3805_ARTIKEL& artikel, const VENT_VDI3805_DATEN& daten,
+                              VDI3805_VENTIL_KV& ventil) const
+{
+    try {
+        BewerteVentil(artikel, daten, ventil);
+    } catch (const CInvalidArgException& fehler) {
+        throw CInvalidArgException(TextFromPath(ResolvePath(DateiPfad)) + L": " +
+                                   fehler.GetErrorMessage());
+    }
 }
 
 void CVentVdiKatalog::Leeren()
@@ -247,7 +263,7 @@ bool CVentVdiKatalog::NimmZeile(CString& zeile, int zeilenNr)
     if (m_felder.empty()) {
         return true;
     }
-    Satz satz{zeile, zeilenNr, m_felder};
+    Satz satz{zeile, zeilenNr, DateiPfad, m_felder};
     return NimmSatz(satz);
 }
 

@@ -22,8 +22,8 @@ CString VentilDateiPfad(const CString& verzeichnis, const CString& hersteller);
 /// The valve catalogue of one manufacturer: reads "ha.tga" into a tree of nodes and finds valves in
 /// it. Needs no window. Messages go through the message function of platform/.
 ///
-/// A line that lacks a field that it must have raises CInvalidArgException to the caller; the nodes
-/// built before it are then in the tree.
+/// A line that lacks a field that it must have raises CInvalidArgException to the caller, which
+/// tells the file, the line and the field; the nodes built before it are then in the tree.
 class CVentVdiKatalog
 {
 public:
@@ -76,6 +76,10 @@ public:
     int AnzahlHauptgruppen = 0;
 
 protected:
+    /// BewerteVentil() for nodes of this tree, whose exception tells the file as well.
+    void Bewerte(const VENT_VDI3805_ARTIKEL& artikel, const VENT_VDI3805_DATEN& daten,
+                 VDI3805_VENTIL_KV& ventil) const;
+
     /// While a file is read, the last node whose type is "700". Free for use afterwards, until the
     /// next load.
     VENT_VDI3805_DATEN* Akt700 = nullptr;

@@ -21,7 +21,7 @@ diff <(echo "$silent") <("$work/c_host" "$valves")
 # The toolkit's own leaks are not looked at, and the library comes ahead of the sanitizer's.
 dialogs="$silent
 chosen P 22/1200: 600 x 100 x 1200 mm, 1010 W, 7.2 l
-connected, 0 points shown: flow 0.5;0;0;0;0.5;0;0;0;0.02;0;0;0, return 0.5;0;0;0;-0.5;0;0;0;0.02;0;0;0"
+connected: flow 0.5;0;0;0;0.5;0;0;0;0.1;0;0;0, return 0.5;0;0;0;-0.5;0;0;0;0.05;0;0;0"
 diff <(echo "$dialogs") <(timeout 60 env QT_QPA_PLATFORM=offscreen LD_PRELOAD="$confirm" \
     TGA_DATA_SINGLE="$prefix/share/radsel/root" XDG_CONFIG_HOME="$work" \
     ASAN_OPTIONS="${ASAN_OPTIONS-}:verify_asan_link_order=0:detect_leaks=0" \

@@ -206,6 +206,7 @@ static void refuses_what_no_call_can_be(void)
 static void tells_file_and_line(const char* scratch)
 {
     radsel_request room = sample_request();
+    radsel_valve valve;
     char path[1024];
     FILE* file;
     snprintf(path, sizeof path, "%s/Valmorena/hk.tga", scratch);
@@ -220,6 +221,12 @@ static void tells_file_and_line(const char* scratch)
     CHECK(strstr(radsel_last_error_file(), "Valmorena/hk.tga") != NULL);
     CHECK(radsel_last_error_line() > 0 && tells("hk.tga"));
     CHECK(room.reread == 1);
+
+    CHECK(radsel_set_text(RADSEL_VALVE_FOLDER, scratch) == RADSEL_OK);
+    radsel_valve_init(&valve, sizeof valve);
+    CHECK(radsel_fetch_valves_by_key("Rotto", "000000000000000000000000000000000000", NULL, NULL,
+                                     &valve, NULL) == RADSEL_BAD_FILE);
+    CHECK(tells("Rotto/ha.tga") && is(valve.maker, ""));
 }
 
 /* ------------------------------------------------------------------ a host with callbacks */

@@ -21,4 +21,4 @@ add_test(NAME consumer COMMAND ${consumer_dir}/consumer_test.sh ${CMAKE_COMMAND}
     ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR} ${CMAKE_CXX_COMPILER}
     "${CMAKE_CXX_FLAGS} ${tree_options}" $<IF:$<CONFIG:Debug>,text,${scan}>
     ${CMAKE_C_COMPILER} "${tree_options}")
-set_tests_properties(consumer PROPERTIES TIMEOUT 180)
+set_tests_properties(consumer PROPERTIES TIMEOUT 400)

@@ -3,14 +3,17 @@
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
 #include "host/host_catalog.h"
+#include "host/host_diagnosis.h"
 
 #include <cmath>
 #include <cstdlib>
 #include <iostream>
+#include <utility>
 
 namespace {
 
 int g_failures = 0;
+int g_reason = 0;
 
 void Expect(bool holds, const char* what)
 {
@@ -18,6 +21,12 @@ void Expect(bool holds, const char* what)
         std::cerr << "does not hold: " << what << '\n';
         ++g_failures;
     }
+}
+
+/// The reason that the module has told since the last call, 0 for none.
+int TakeReason()
+{
+    return std::exchange(g_reason, 0);
 }
 
 /// The first product of the first maker whose file can be read.
@@ -43,11 +52,14 @@ void ChooseRadiator(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
     Expect(std::fabs(uebergabe.Umrechnungsfaktor - 0.495) < 1e-9, "the factor of 55/45/20");
     Expect(std::fabs(uebergabe.Daten.Leistung - 800.0) < 80.0, "its output is near to 800 W");
 
+    Expect(TakeReason() == 0, "nothing is told of a radiator that is found");
+
     auto nothing = uebergabe;
     nothing.Produkt = L"nessuno";
     nothing.Daten.Leistung = 4711.0;
     Expect(HeizkoerperauswahlVDI3805(nullptr, &nothing, layer, color, false, false) == -1,
            "an unknown product finds nothing");
+    Expect(TakeReason() == static_cast<int>(HostDiagnosis::unknownProduct), "and tells so");
     Expect(nothing.TypName == uebergabe.TypName && nothing.Daten.Leistung == 4711.0,
            "and leaves the hand-over untouched");
     Expect(HKGetMinTiefe(nothing) == -1.0, "nor has it a depth");
@@ -82,6 +94,12 @@ void AskSizes(HK_DATEN_VDI3805_UEBERGABE& uebergabe)
 }
 
 } // namespace
+
+void RadselDiagnosis(int reason, const char* text)
+{
+    std::cout << text << '\n';
+    g_reason = reason;
+}
 
 int main()
 {

@@ -279,7 +279,7 @@ void CVentVdiDlg::ZeigeVentil(const VENT_VDI3805_ARTIKEL& artikel)
         return;
     }
     VDI3805_VENTIL_KV bewertet;
-    BewerteVentil(artikel, *Akt700, bewertet);
+    Bewerte(artikel, *Akt700, bewertet);
     Ventil = bewertet;
     FuelleKvListe(artikel);
     ZeigeTexte(artikel);

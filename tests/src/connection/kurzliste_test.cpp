@@ -2,6 +2,7 @@
 
 #include "common/heizung_ordner.h"
 #include "common/text_file.h"
+#include "platform/encoding.h"
 #include "platform/environment.h"
 #include "platform/exception.h"
 #include "platform/message.h"
@@ -108,7 +109,14 @@ TEST_F(KurzlisteTest, AMissingOrEmptyFileIsNoListAndAHalfPairRaises)
     Schreibe({});
     EXPECT_FALSE(LeseVentTxt(m_zustand, m_ansicht));
     Schreibe({L"[a]", CString(L"V") + kPunkt});
-    EXPECT_THROW(LeseVentTxt(m_zustand, m_ansicht), CInvalidArgException);
+    try {
+        LeseVentTxt(m_zustand, m_ansicht);
+        ADD_FAILURE() << "no exception";
+    } catch (const CInvalidArgException& fault) {
+        EXPECT_EQ(fault.GetErrorMessage(),
+                  WideFromUtf8((m_folder.Root() / "HEIZUNG" / "Vent.txt").string()) +
+                      L": riga 2: manca la riga del punto di ritorno");
+    }
     EXPECT_EQ(m_ansicht.typen.texte, std::vector<CString>{L"a"});
 }
 

@@ -1,5 +1,7 @@
 #include "platform/exception.h"
+#include "platform/path.h"
 #include "tests/src/valve/ventil_fixture.h"
+#include "tests/support/diagnosis_log.h"
 #include "tests/support/message_log.h"
 #include "valve/ventil_abruf.h"
 #include "valve/ventil_bewertung.h"
@@ -144,20 +146,75 @@ TEST_F(CVentilAbrufTest, AFailedSearchIsKeptToo)
 
 TEST_F(CVentilAbrufTest, ABadLineRaisesAndKeepsNothing)
 {
-    const std::string files[] = {
-        Datei("1") + "110\r\n",
-        Saetze("100;1;A|110;1;B|700;1|800;" + TgaNr("02", "0001") + ";B"),
+    const std::string head = "100;1;A|110;1;B|";
+    const std::string article = "800;" + TgaNr("02", "0001") + ";B";
+    const struct
+    {
+        std::string file;
+        const wchar_t* told;
+    } files[] = {
+        {Datei("1") + "110\r\n", L"riga 5: al record 110 manca il campo 1"},
+        {Saetze(head + "700;1|" + article), L"riga 3: al record 700 manca il campo 2"},
+        {Saetze(head + kRows + "710.01;2;2|" + article),
+         L"riga 5: al record 710.01 mancano i campi da 3 a 4"},
+        {Saetze(head + "700;1|720.01;1;2"), L"riga 4: al record 720.01 mancano i campi da 3 a 8"},
     };
-    for (const std::string& file : files) {
+    for (const auto& [file, told] : files) {
         SCOPED_TRACE(file);
         const CString bad = NeuerHersteller(file);
         VDI3805_VENTIL_KV first = MitSchluessel(bad, kNr);
         VDI3805_VENTIL_KV second;
         EXPECT_THROW(HoleVentilDaten(first, second), CInvalidArgException);
-        EXPECT_THROW(HoleVentilDaten(first, second), CInvalidArgException);
+        try {
+            HoleVentilDaten(first, second);
+            ADD_FAILURE() << "no exception";
+        } catch (const CInvalidArgException& fault) {
+            EXPECT_EQ(fault.GetErrorMessage(),
+                      TextFromPath(m_folder.Root() / Utf8FromWide(bad) / "ha.tga") + L": " + told);
+        }
 
         VDI3805_VENTIL_KV good = MitSchluessel(m_a, kNr);
         EXPECT_THROW(HoleVentilDaten(good, first), CInvalidArgException);
         EXPECT_EQ(good.Kvs, 1.0F);
     }
+}
+
+TEST_F(CVentilAbrufTest, WhyAValveIsMissingIsTold)
+{
+    const std::string nr = TgaNr("02", "0001");
+    const struct
+    {
+        const char* what;
+        CString maker;
+        HostDiagnosis reason;
+        const wchar_t* text;
+    } cases[] = {
+        {"no file", L"Nessuno", HostDiagnosis::unreadValveFile, L"No such file"},
+        {"no folder name", L"..", HostDiagnosis::unreadValveFile, L"\"..\" non può essere"},
+        {"the newer head", NeuerHersteller(Saetze("000;x")), HostDiagnosis::unreadValveFile,
+         L"ha.tga: la testata 000"},
+        {"a record without parent", NeuerHersteller(Saetze("110;1;B")),
+         HostDiagnosis::unreadValveFile, L"ha.tga: un record sta prima"},
+        {"no article", NeuerHersteller(Saetze("100;1;A")), HostDiagnosis::unknownValve,
+         L"ha.tga: non c'è la valvola"},
+        {"no data set", NeuerHersteller(Saetze("100;1;A|110;1;B|800;" + nr + ";1")),
+         HostDiagnosis::noValveData, L"ha.tga: riga 3: alla valvola"},
+    };
+    const CDiagnosisLog log;
+    for (const auto& c : cases) {
+        // The second time the failed search is kept.
+        for (int i = 0; i < 2; ++i) {
+            VDI3805_VENTIL_KV first = MitSchluessel(c.maker, kNr);
+            VDI3805_VENTIL_KV second;
+            EXPECT_TRUE(HoleVentilDaten(first, second));
+            const std::vector<CDiagnosis> told = CDiagnosisLog::Take();
+            ASSERT_EQ(told.size(), 1U) << c.what;
+            EXPECT_EQ(told[0].reason, c.reason) << c.what;
+            EXPECT_NE(told[0].text.find(c.text), CString::npos) << Utf8FromWide(told[0].text);
+        }
+    }
+    VDI3805_VENTIL_KV good = MitSchluessel(m_a, kNr);
+    VDI3805_VENTIL_KV same = good;
+    EXPECT_TRUE(HoleVentilDaten(good, same));
+    EXPECT_TRUE(CDiagnosisLog::Take().empty());
 }
