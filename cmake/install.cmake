@@ -5,6 +5,7 @@
 #   reference_host  the five libraries of the reference host, in a folder that no loader searches,
 #                   so that they serve those only who name them
 #   workbench       the program
+#   tools           radsel_check
 #   python          the Python package
 #   data            sample catalogues, building, blocks and lists; help pages
 #   development     what the programmer of another host needs
@@ -106,17 +107,23 @@ install(FILES ${PROJECT_SOURCE_DIR}/LICENSE.md DESTINATION ${CMAKE_INSTALL_DOCDI
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/LICENSES DESTINATION ${CMAKE_INSTALL_DOCDIR}
     COMPONENT licences)
 
-if(RADSEL_WORKBENCH)
+# A program over the reference host, with its manual page.
+function(radsel_install_program target component)
     radsel_way(to_lib ${CMAKE_INSTALL_BINDIR} ${CMAKE_INSTALL_LIBDIR})
     radsel_way(to_host ${CMAKE_INSTALL_BINDIR} ${radsel_host_folder})
-    set_target_properties(radsel_workbench PROPERTIES
-        INSTALL_RPATH $ORIGIN/${to_lib}:$ORIGIN/${to_host})
-    install(TARGETS radsel_workbench RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-        COMPONENT workbench)
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH $ORIGIN/${to_lib}:$ORIGIN/${to_host})
+    install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${component})
+    install(FILES ${PROJECT_SOURCE_DIR}/packaging/man/${target}.1
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT ${component})
+endfunction()
+
+if(TARGET radsel_check)
+    radsel_install_program(radsel_check tools)
+endif()
+if(RADSEL_WORKBENCH)
+    radsel_install_program(radsel_workbench workbench)
     install(FILES ${PROJECT_SOURCE_DIR}/packaging/radsel_workbench.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT workbench)
     install(FILES ${PROJECT_SOURCE_DIR}/packaging/radsel_workbench.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT workbench)
-    install(FILES ${PROJECT_SOURCE_DIR}/packaging/man/radsel_workbench.1
-        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT workbench)
 endif()

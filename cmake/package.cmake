@@ -155,7 +155,7 @@ if(python IN_LIST components)
 3805, lists makers, rows and outputs, and sizes the radiators of a building.")
 endif()
 if(tools IN_LIST components)
-    radsel_package(tools radsel-tools SECTION science
+    radsel_package(tools radsel-tools SECTION science DEPENDS radsel-reference-host
         SUMMARY "selection of radiators and valves for CAD programs - tools"
         TEXT
 "radsel_check tells what is wrong in catalogues of radiators and valves and in
@@ -165,7 +165,7 @@ endif()
 include(CPack)
 
 # Whatever is installed is in a package, but for what no package has.
-list(REMOVE_ITEM components ${CPACK_COMPONENTS_ALL} licences Unspecified)
+list(REMOVE_ITEM components ${CPACK_COMPONENTS_ALL} licences)
 if(components)
     message(FATAL_ERROR "No package has what is installed as: ${components}")
 endif()

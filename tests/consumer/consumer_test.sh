@@ -41,10 +41,12 @@ for library in "$libraries"/radsel/reference_host/lib*.so; do
     searches "$library" '$ORIGIN'
 done
 to_lib='$ORIGIN/..'${libraries#"$prefix"}
-searches "$prefix/bin/radsel_workbench" "$to_lib:$to_lib/radsel/reference_host"
-manual=$(zcat "$prefix/share/man/man1/radsel_workbench.1.gz" | sed 's/\\-/-/g')
-for option in $("$prefix/bin/radsel_workbench" --help | grep -oE -- '--[a-z-]+' | sort -u); do
-    grep -q -e "$option\b" <<<"$manual" || fail "not in the manual: $option"
+for program in "$prefix"/bin/*; do
+    searches "$program" "$to_lib:$to_lib/radsel/reference_host"
+    manual=$(zcat "$prefix/share/man/man1/$(basename "$program").1.gz" | sed 's/\\-/-/g')
+    for option in $("$program" --help | grep -oE -- '--[a-z-]+' | sort -u); do
+        grep -q -e "$option\b" <<<"$manual" || fail "not in the manual of $program: $option"
+    done
 done
 
 # The program has a working place in its user's folder and writes nothing beside itself.
