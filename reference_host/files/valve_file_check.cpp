@@ -74,7 +74,8 @@ std::optional<CFileFault> FindFault(const CString& file, const CStringArray& lin
                               file};
         }
         if (fields.size() < rule->nFields) {
-            return CFileFault{number, DescribeMissingFields(rule->type, fields.size(), rule->nFields), file};
+            return CFileFault{
+                number, DescribeMissingFields(rule->type, fields.size(), rule->nFields), file};
         }
     }
     return std::nullopt;
