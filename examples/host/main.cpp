@@ -29,6 +29,8 @@ HK_DATEN_VDI3805_UEBERGABE Wishes()
     room.HoeheMax = 600.0;
     room.TiefeMax = 110.0;
     room.LaengeMax = 1400.0;
+    // Radiators that are built to measure are made for what is asked now.
+    room.NeuLesen = 1;
     return room;
 }
 

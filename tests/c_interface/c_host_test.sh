@@ -7,7 +7,8 @@ prefix=$1 compiler=$2 flags=$3 confirm=$4
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-export PKG_CONFIG_PATH=$prefix/lib/pkgconfig LD_LIBRARY_PATH=$prefix/lib
+libraries=$(dirname "$(find "$prefix" -name libradsel_c.so)")
+export PKG_CONFIG_PATH=$libraries/pkgconfig LD_LIBRARY_PATH=$libraries
 # shellcheck disable=SC2046,SC2086
 "$compiler" $flags -std=c99 -Wall -Wextra -Wpedantic -Wconversion -Werror -o "$work/c_host" \
     "$prefix/share/doc/radsel/examples/c_host/c_host.c" $(pkg-config --cflags --libs radsel_c)

@@ -3,7 +3,7 @@
 #include "host_defaults/dialogs/qt_application.h"
 
 #include <QApplication>
-#include <QKeyEvent>
+#include <QTest>
 #include <QTimer>
 
 #include <utility>
@@ -20,19 +20,13 @@ void OnNextDialog(std::function<void(QWidget&)> steps)
     });
 }
 
-void PressKey(QWidget& dialog, Qt::Key key, const QString& text)
+void PressKey(QWidget& dialog, Qt::Key key)
 {
     QWidget* const focus = dialog.focusWidget();
-    QWidget* const target = focus != nullptr ? focus : &dialog;
-    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, text);
-    QCoreApplication::sendEvent(target, &press);
-    QKeyEvent release(QEvent::KeyRelease, key, Qt::NoModifier, text);
-    QCoreApplication::sendEvent(target, &release);
+    QTest::keyClick(focus != nullptr ? focus : &dialog, key);
 }
 
 void TypeText(QWidget& dialog, const QString& text)
 {
-    for (const QChar letter : text) {
-        PressKey(dialog, Qt::Key_unknown, letter);
-    }
+    QTest::keyClicks(dialog.focusWidget(), text);
 }

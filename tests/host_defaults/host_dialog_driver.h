@@ -9,7 +9,7 @@
 void OnNextDialog(std::function<void(QWidget&)> steps);
 
 /// Presses and releases a key at what has the focus in the dialog.
-void PressKey(QWidget& dialog, Qt::Key key, const QString& text = {});
+void PressKey(QWidget& dialog, Qt::Key key);
 
 /// Types a text, key by key.
 void TypeText(QWidget& dialog, const QString& text);

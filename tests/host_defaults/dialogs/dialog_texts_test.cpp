@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDialog>
 #include <QTreeWidget>
 
 #include <functional>

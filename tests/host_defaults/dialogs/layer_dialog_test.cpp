@@ -42,7 +42,6 @@ protected:
     }
     bool Run(const std::function<void(QWidget&)>& steps) { return Run(steps, &m_drawing); }
 
-    static QLineEdit& Filter(QWidget& dialog) { return Child<QLineEdit>(dialog, 0); }
     static QLineEdit& Name(QWidget& dialog) { return Child<QLineEdit>(dialog, 1); }
 
     CLayerDrawing m_drawing;

@@ -81,9 +81,10 @@ TEST(OutputConversion, TheGuideForHostsTellsWhatIsComputed)
     for (std::string line; std::getline(guide, line);) {
         std::istringstream row(line);
         char mark = 0;
+        char slash = 0;
         double supply = 0.0;
         double back = 0.0;
-        if (!(row >> mark >> supply >> mark >> back) || mark != '/') {
+        if (!(row >> mark >> supply >> slash >> back) || mark != '|' || slash != '/') {
             continue;
         }
         ++systems;
