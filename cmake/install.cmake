@@ -14,7 +14,7 @@ set_target_properties(radsel ${radsel_host_libraries} PROPERTIES
     # Below 1.0 every minor version may change the records.
     SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 set_target_properties(${radsel_host_libraries} PROPERTIES INSTALL_RPATH $ORIGIN)
-set_target_properties(radsel_workbench PROPERTIES
+set_target_properties(radsel_workbench radsel_check PROPERTIES
     INSTALL_RPATH $ORIGIN/../lib:$ORIGIN/../${radsel_host_folder})
 set_target_properties(radsel PROPERTIES EXPORT_NAME module)
 
@@ -38,7 +38,7 @@ install(TARGETS reference_host EXPORT radselTargets)
 install(TARGETS radsel_platform EXPORT radselTargets
     ARCHIVE DESTINATION lib COMPONENT development
     INCLUDES DESTINATION include/radsel)
-install(TARGETS radsel_workbench RUNTIME DESTINATION bin COMPONENT runtime)
+install(TARGETS radsel_workbench radsel_check RUNTIME DESTINATION bin COMPONENT runtime)
 
 function(radsel_install_headers folder)
     list(TRANSFORM ARGN PREPEND ${PROJECT_SOURCE_DIR}/src/${folder}/)

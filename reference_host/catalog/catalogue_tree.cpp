@@ -8,14 +8,6 @@
 namespace reference_host {
 
 namespace {
-void AssignSizes(OCArray<double>& target, const std::set<double>& sizes)
-{
-    target.RemoveAll();
-    for (const double size : sizes) {
-        target.Add(size);
-    }
-}
-
 void Chain(std::vector<HK_VDI3805_TYP>& rows)
 {
     for (std::size_t i = 1; i < rows.size(); ++i) {
@@ -130,15 +122,7 @@ int CCatalogueTree::Fill(CKind& art, const CCatalogueKind& model, double require
 
 void CCatalogueTree::Fill(CProduct& produkt, const CCatalogueProduct& model, double requiredOutput)
 {
-    std::set<double> hoehen;
-    std::set<double> tiefen;
-    for (const CCatalogueSeries& serie : model.serien) {
-        hoehen.insert(serie.dHoehe);
-        tiefen.insert(serie.dTiefe);
-    }
-    AssignSizes(produkt.node.Hoehen, hoehen);
-    AssignSizes(produkt.node.Tiefen, tiefen);
-
+    AssignCrossSections(produkt.node, model);
     produkt.rows = BuildRows(model, requiredOutput);
     Chain(produkt.rows);
     produkt.node.pTyp = produkt.rows.data();

@@ -34,6 +34,7 @@ for library in "$prefix"/lib/radsel/reference_host/lib*.so; do
 done
 searches "$prefix/bin/radsel_workbench" '$ORIGIN/../lib:$ORIGIN/../lib/radsel/reference_host'
 "$prefix/bin/radsel_workbench" --help >/dev/null
+"$prefix/bin/radsel_check" "$prefix/share/radsel/catalogues/Altovico" | grep -q "nessun difetto$"
 
 # The program has a working place in its user's folder and writes nothing beside itself.
 state_of() { (cd "$1" && find . -type f -exec cksum {} + | sort); }
