@@ -33,9 +33,10 @@ install() {
             apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }
 
-say "Installing: ${missing[*]}"
+say "Installing ${#missing[@]} packages, which takes a minute or two: ${missing[*]}"
 if ! install >&2; then
     say "Could not install. Please run:"
     say "apt-get update && apt-get install -y --no-install-recommends ${missing[*]}"
     exit 1
 fi
+say "Installed in $SECONDS s."

@@ -87,11 +87,21 @@ CDrawingBlocks ReadBlocks(ExitCode& code, std::ostream& err)
     return blocks;
 }
 
+/// What could not be read stands in the schedule, and for who reads only faults here, too.
+ExitCode ReportUnread(const CSchedule& schedule, std::ostream& err)
+{
+    ExitCode code = ExitCode::ok;
+    for (const CString& reason : schedule.GetUnread()) {
+        code = Report(err, reason, ExitCode::badCatalogue);
+    }
+    return code;
+}
+
 /// The files come first: a reader of `out` that goes away ends the process.
 ExitCode Deliver(const CResult& result, const CArguments& arguments, std::ostream& out,
                  std::ostream& err)
 {
-    ExitCode code = result.schedule.HasBadCatalogue() ? ExitCode::badCatalogue : ExitCode::ok;
+    ExitCode code = ReportUnread(result.schedule, err);
     CString text = FormatScheduleText(result.schedule, arguments.bValves);
     try {
         WriteFiles(result, ReadBlocks(code, err), arguments);

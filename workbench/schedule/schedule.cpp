@@ -159,16 +159,25 @@ void CScheduleTotals::Add(const CScheduleTotals& other)
     inhalt += other.inhalt;
 }
 
-bool CSchedule::HasBadCatalogue() const
+std::vector<CString> CSchedule::GetUnread() const
 {
-    const auto isBad = [](const CScheduleRow& row) {
-        return row.outcome.status == RoomStatus::badCatalogue ||
-               row.ventile.vorlauf.status == ValveStatus::badFile ||
-               row.ventile.ruecklauf.status == ValveStatus::badFile;
+    std::vector<CString> unread;
+    const auto add = [&](const CString& reason) {
+        if (std::ranges::find(unread, reason) == unread.end()) {
+            unread.push_back(reason);
+        }
     };
-    return bUnread || std::any_of(floors.begin(), floors.end(), [&](const CScheduleFloor& floor) {
-               return std::any_of(floor.rows.begin(), floor.rows.end(), isBad);
-           });
+    std::ranges::for_each(unreadCatalogues, add);
+    for (const CScheduleFloor& floor : floors) {
+        for (const CScheduleRow& row : floor.rows) {
+            for (const CValveOutcome* ventil : {&row.ventile.vorlauf, &row.ventile.ruecklauf}) {
+                if (ventil->status == ValveStatus::badFile) {
+                    add(ventil->strNote);
+                }
+            }
+        }
+    }
+    return unread;
 }
 
 CSchedule SchedulePlan(const CBuilding& building, const std::vector<CSizingFault>& faults)
@@ -176,9 +185,11 @@ CSchedule SchedulePlan(const CBuilding& building, const std::vector<CSizingFault
     CSchedule schedule;
     schedule.strBuilding = building.strName;
     schedule.system = building.system;
-    schedule.bUnread = std::ranges::any_of(faults, [](const CSizingFault& fault) {
-        return fault.outcome.status == RoomStatus::badCatalogue;
-    });
+    for (const CSizingFault& fault : faults) {
+        if (fault.outcome.status == RoomStatus::badCatalogue) {
+            schedule.unreadCatalogues.push_back(fault.outcome.strNote);
+        }
+    }
     CRowMaker rows(building, faults);
     for (std::size_t floor = 0; floor < building.floors.size(); ++floor) {
         schedule.floors.push_back(MakeFloor(building.floors[floor], floor, rows));

@@ -60,11 +60,11 @@ struct CSchedule
     CHeatingSystem system;
     std::vector<CScheduleFloor> floors;
     CScheduleTotals totals;
-    /// True if a room could not be sized since its catalogue cannot be read.
-    bool bUnread = false;
+    /// Why rooms could not be sized whose catalogues cannot be read; a text for the user.
+    std::vector<CString> unreadCatalogues;
 
-    /// True if the file of any radiator or valve could not be read.
-    bool HasBadCatalogue() const;
+    /// Why files of radiators or valves could not be read, each reason once.
+    std::vector<CString> GetUnread() const;
 };
 
 /// Lists the radiators that stand in the building, with their valves, a row each, and a row for

@@ -1,5 +1,7 @@
 #!/usr/bin/env bash
-# The module offers exactly these functions with exactly these signatures, and nothing else.
+# The module offers exactly these functions with exactly these signatures, and nothing else, on every
+# system.
+#   exports_test.sh LIBRARY DEF-FILE
 set -euo pipefail
 export LC_ALL=C
 
@@ -25,3 +27,8 @@ found=$(nm -D --defined-only --extern-only -C "$1" | sed -E 's/^[0-9a-f]+ [A-Za-
 # The sanitizers' own marks of instrumented code are no export of ours.
 found=$(grep -vE '^(__asan_|__odr_asan|__ubsan_)' <<<"$found" || true)
 diff <(echo "$expected") <(echo "$found")
+
+# What another system's linker is told is the same.
+listed=$(sed '1,/^EXPORTS/d; s/^ *//' "$2" | sort)
+named=$(nm -D --defined-only --extern-only "$1" | sed -E 's/^[0-9a-f]+ [A-Za-z] //' | sort)
+diff <(echo "$listed") <(grep -vE '^(__asan_|__odr_asan|__ubsan_)' <<<"$named")

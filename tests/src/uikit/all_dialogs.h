@@ -18,9 +18,16 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <utility>
 #include <vector>
+
+/// The font that a test is named by.
+inline void PrintTo(const DialogFont& font, std::ostream* stream)
+{
+    *stream << ToNative(font.face).toStdString() << ' ' << font.points;
+}
 
 using Complaints = std::vector<std::string>;
 

@@ -151,15 +151,15 @@ TEST_F(ValveTest, AFolderThatCannotBeReadIsTold)
     EXPECT_TRUE(loop.strNote.starts_with(m_folder.Path("D4") + L": non si può leggere: "));
 }
 
-TEST(ValveSchedule, DamagedFileOfEitherValveCountsAndMissingOneDoesNot)
+TEST(ValveSchedule, DamagedFilesOfBothValvesAreToldOnceAndMissingValvesAreNot)
 {
-    CRoomValves supply, back, missing;
-    supply.vorlauf.status = ValveStatus::badFile;
-    back.ruecklauf.status = ValveStatus::badFile;
+    CRoomValves supply, both, missing;
+    supply.vorlauf = {ValveStatus::badFile, {}, L"ha.tga: riga 3"};
+    both.vorlauf = supply.vorlauf;
+    both.ruecklauf = {ValveStatus::badFile, {}, L"ha.tga: riga 7"};
     missing.vorlauf.status = missing.ruecklauf.status = ValveStatus::notFound;
-    EXPECT_TRUE(MakeValveSchedule({{}, supply}).HasBadCatalogue());
-    EXPECT_TRUE(MakeValveSchedule({back}).HasBadCatalogue());
-    EXPECT_FALSE(MakeValveSchedule({missing}).HasBadCatalogue());
+    EXPECT_EQ(MakeValveSchedule({supply, both, missing}).GetUnread(),
+              (std::vector<CString>{L"ha.tga: riga 3", L"ha.tga: riga 7"}));
 }
 
 TEST_F(ValveTest, ScheduleShowsNamesTablesAndTheBill)
