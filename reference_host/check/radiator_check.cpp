@@ -71,11 +71,14 @@ CPlace PlaceOf(KatalogFeld feld, const CCatalogueSeries& serie, const CCatalogue
 /// The most rows that the product has for any requirement.
 std::size_t MostRows(const CCatalogueProduct& produkt)
 {
-    constexpr double largestOutput = 1e9;
+    // From a watt to far more than any radiator gives.
+    constexpr int requirements = 80;
     constexpr double step = 1.3;
     std::size_t most = 0;
-    for (double output = 1.0; output < largestOutput; output *= step) {
+    double output = 1.0;
+    for (int i = 0; i < requirements; ++i) {
         most = std::max(most, BuildRows(produkt, output).size());
+        output *= step;
     }
     return most;
 }
