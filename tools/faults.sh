@@ -12,11 +12,9 @@ stores=$build/tests/radsel_store_faults
 workbench=$build/workbench/radsel_workbench
 failing_calls=$build/tests/radsel_failing_calls.so
 
-numbers=400
 kills=100
 runs_a_kind=100000
 if [[ ${2-} == --short ]]; then
-    numbers=50
     kills=5
     runs_a_kind=6
 fi
@@ -27,11 +25,6 @@ wrong=0
 
 # The stores, one after the other: every call that storing a number needs fails in turn.
 for store in settings places lists start layer building; do
-    case $store in
-    # What has one place for all numbers has no race.
-    layer | building) ;;
-    *) "$stores" "$store" --race "$numbers" || wrong=$((wrong + 1)) ;;
-    esac
     "$stores" "$store" --kill "$kills" || wrong=$((wrong + 1))
     LD_PRELOAD=$failing_calls "$stores" "$store" --fail || wrong=$((wrong + 1))
 done

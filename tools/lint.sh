@@ -5,7 +5,7 @@ build=$1
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 status=0
-run-clang-tidy -quiet -p "$build" "^$PWD/(src|reference_host|workbench|tests|tools|examples)/" \
+run-clang-tidy -quiet -p "$build" "^$PWD/(src|c_interface/[a-z]+|host_defaults|reference_host|workbench|tests|tools|examples)/" \
     2>/dev/null || status=$?
 [[ $status -ne 0 ]] || echo "clang-tidy: clean"
 exit "$status"

@@ -1,7 +1,10 @@
 #include <QAbstractTextDocumentLayout>
+#include <QBuffer>
+#include <QDateTime>
 #include <QFile>
 #include <QFont>
 #include <QGuiApplication>
+#include <QHashSeed>
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPainter>
@@ -35,10 +38,31 @@ QString ReadPage(const QString& path)
     return QString::fromUtf8(file.readAll());
 }
 
-/// A help page is one sheet: whoever presses F1 wants an answer, not a manual.
-void WritePdf(QTextDocument& document, const QString& path)
+/// The date in the page becomes that of the sources where the builder says it, so that every build
+/// of them gives the same page.
+void UseSourceDate(QByteArray& pdf)
 {
-    QPdfWriter writer(path);
+    bool bKnown = false;
+    const qint64 seconds = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&bKnown);
+    if (!bKnown) {
+        return;
+    }
+    const QByteArray before = "/CreationDate (D:";
+    const QByteArray date =
+        QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString("yyyyMMddHHmmss").toLatin1();
+    const auto place = pdf.indexOf(before);
+    if (place < 0) {
+        throw std::runtime_error("a page without a date");
+    }
+    pdf.replace(place + before.size(), date.size(), date);
+}
+
+/// A help page is one sheet: whoever presses F1 wants an answer, not a manual.
+QByteArray MakePdf(QTextDocument& document)
+{
+    QBuffer pdf;
+    pdf.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&pdf);
     writer.setResolution(kDotsPerInch);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins({kMargin, kMargin, kMargin, kMargin}, QPageLayout::Millimeter);
@@ -47,13 +71,12 @@ void WritePdf(QTextDocument& document, const QString& path)
     document.documentLayout()->setPaintDevice(&writer);
     document.setPageSize(QSizeF(writer.width(), writer.height()));
     if (document.pageCount() != 1) {
-        throw std::runtime_error("more than one page: " + path.toStdString());
+        throw std::runtime_error("more than one page");
     }
     QPainter painter(&writer);
-    if (!painter.isActive()) {
-        throw std::runtime_error("cannot write " + path.toStdString());
-    }
     document.drawContents(&painter);
+    painter.end();
+    return pdf.data();
 }
 
 void MakePage(const QString& source, const QString& target)
@@ -63,7 +86,12 @@ void MakePage(const QString& source, const QString& target)
     document.setDefaultStyleSheet(kStyle);
     document.setDocumentMargin(0);
     document.setHtml(ReadPage(source));
-    WritePdf(document, target);
+    QByteArray pdf = MakePdf(document);
+    UseSourceDate(pdf);
+    QFile file(target);
+    if (!file.open(QIODevice::WriteOnly) || file.write(pdf) != pdf.size() || !file.flush()) {
+        throw std::runtime_error("cannot write " + target.toStdString());
+    }
 }
 
 } // namespace
@@ -75,13 +103,16 @@ int main(int argc, char** argv)
         std::cerr << "usage: radsel_make_help <page.html> <page.pdf>\n";
         return EXIT_FAILURE;
     }
-    // A build has no screen.
+    // A build has no screen; its time zone and the order of tables in memory must not show in the
+    // page.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("TZ", "UTC");
+    QHashSeed::setDeterministicGlobalSeed();
     const QGuiApplication application(argc, argv);
     try {
         MakePage(QString::fromLocal8Bit(argv[1]), QString::fromLocal8Bit(argv[2]));
     } catch (const std::exception& error) {
-        std::cerr << "radsel_make_help: " << error.what() << '\n';
+        std::cerr << "radsel_make_help: " << argv[1] << ": " << error.what() << '\n';
         return EXIT_FAILURE;
     }
     return EXIT_SUCCESS;

@@ -38,10 +38,10 @@ std::vector<fs::path> HelpFolders()
     if (!chosen.empty()) {
         return {ResolvePath(chosen)};
     }
-    // Installed, the library lies one to three folders below the prefix; built, one below that.
+    // Installed, the library lies one to four folders below the prefix; built, one below that.
     fs::path prefix = LibraryFolder().parent_path();
     std::vector<fs::path> folders = {prefix / "help"};
-    for (int level = 0; level < 3; ++level) {
+    for (int level = 0; level < 4; ++level) {
         folders.push_back(prefix / "share" / "radsel" / "help");
         prefix = prefix.parent_path();
     }

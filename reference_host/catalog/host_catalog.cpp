@@ -1,145 +1,54 @@
 #include "host/host_catalog.h"
 
 #include "host/host_prefs.h"
-#include "platform/path.h"
-#include "reference_host/catalog/catalogue_cache.h"
 #include "reference_host/catalog/catalogue_errors.h"
-#include "reference_host/catalog/catalogue_folder.h"
-#include "reference_host/catalog/catalogue_tree.h"
+#include "reference_host/catalog/library/catalogue_library.h"
 #include "reference_host/catalog/order_number.h"
 #include "reference_host/catalog/reader/row_builder.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <map>
-#include <optional>
-#include <utility>
-#include <variant>
-#include <vector>
 
 using namespace reference_host;
 
 namespace {
-struct CLibrary
+CCatalogueLibrary& Library()
 {
-    CCatalogueTree tree;
-    CCatalogueCache cache;
-    CManufacturerCache makers;
-    std::map<CString, CFileFault> errors;
-};
-
-CLibrary& Library()
-{
-    static CLibrary library;
+    static CCatalogueLibrary library;
     return library;
-}
-
-template <class NODE>
-NODE* FindByName(NODE* first, const CString& name)
-{
-    NODE* node = first;
-    while (node && node->Name != name) {
-        node = node->pNext;
-    }
-    return node;
-}
-
-/// Keeps the error and gives the result of a reading that failed.
-int Fail(const CString& hersteller, CFileFault error)
-{
-    Library().errors.insert_or_assign(hersteller, std::move(error));
-    return -1;
 }
 } // namespace
 
 HK_VDI3805_HERSTELLER* ReadHKDaten()
 {
-    CLibrary& library = Library();
-    const CString folder = GetHKDir(false);
-    const std::vector<CString>& names = library.makers.Get(folder).names;
-    library.tree.ListHersteller(folder, names);
-    // Of a maker who is gone nothing is known any more.
-    std::erase_if(library.errors,
-                  [&](const auto& error) { return !std::ranges::count(names, error.first); });
-    return library.tree.GetFirst();
+    return Library().List(GetHKDir(false));
 }
 
 HK_VDI3805_HERSTELLER* FindHersteller(const CString& name)
 {
-    return FindByName(Library().tree.GetFirst(), name);
-}
-
-HK_VDI3805_ART* FindArt(HK_VDI3805_HERSTELLER* hersteller, const CString& name)
-{
-    return hersteller ? FindByName(hersteller->pArt, name) : nullptr;
-}
-
-HK_VDI3805_PRODUKT* FindProdukt(HK_VDI3805_ART* art, const CString& name)
-{
-    return art ? FindByName(art->pProdukt, name) : nullptr;
+    return Library().Find(name);
 }
 
 int ReadVdiFile(const CString& hersteller, HK_VDI3805_ART** art, double leistungEN442)
 {
-    if (!art) {
-        return -1;
-    }
-    *art = nullptr;
-
-    CLibrary& library = Library();
-    library.errors.erase(hersteller);
-    const CString folder = GetHKDir(false);
-    const std::optional<std::filesystem::path> file = FindCatalogueFile(folder, hersteller);
-    if (!file) {
-        return Fail(hersteller, {0, L"Nessun catalogo di \"" + hersteller + L"\".",
-                                 TextFromPath(ResolvePath(folder))});
-    }
-    const CCatalogueCache::CResult& result = library.cache.Get(*file);
-    if (const auto* fault = std::get_if<CFileFault>(&result)) {
-        return Fail(hersteller, {fault->nLine, fault->strMessage, TextFromPath(*file)});
-    }
-    int rowCount = 0;
-    *art = library.tree.Hang(folder, hersteller, std::get<CCatalogue>(result), leistungEN442,
-                             rowCount);
-    return rowCount;
+    return Library().Read(GetHKDir(false), hersteller, art, leistungEN442);
 }
 
 namespace reference_host {
 
 std::optional<CFileFault> GetCatalogueError(const CString& hersteller)
 {
-    const CLibrary& library = Library();
-    if (const auto found = library.errors.find(hersteller); found != library.errors.end()) {
-        return found->second;
-    }
-    if (FindHersteller(hersteller)) {
-        return std::nullopt;
-    }
-    const CManufacturerListing& listing = library.makers.Last();
-    const auto found = listing.unreadable.find(hersteller);
-    return found != listing.unreadable.end() ? found->second : listing.fault;
+    return Library().Error(hersteller);
 }
 
 std::vector<CFileFault> GetListingErrors()
 {
-    const CManufacturerListing& listing = Library().makers.Last();
-    std::vector<CFileFault> errors;
-    if (listing.fault) {
-        errors.push_back(*listing.fault);
-    }
-    for (const auto& [name, fault] : listing.unreadable) {
-        errors.push_back(fault);
-    }
-    return errors;
+    return Library().ListingErrors();
 }
 
 CString FindOrderNumber(const CString& hersteller, const CString& art, const CString& produkt,
                         const CString& typ, const HK_DATEN_VDI3805& daten)
 {
-    const std::optional<std::filesystem::path> file =
-        FindCatalogueFile(GetHKDir(false), hersteller);
-    const auto* const katalog =
-        file ? std::get_if<CCatalogue>(&Library().cache.Get(*file)) : nullptr;
+    const CCatalogue* const katalog = Library().Model(GetHKDir(false), hersteller);
     if (!katalog) {
         return {};
     }

@@ -83,6 +83,13 @@ std::size_t MostRows(const CCatalogueProduct& produkt)
     return most;
 }
 
+void Append(OCArray<double>& list, const std::set<double>& sizes)
+{
+    for (const double size : sizes) {
+        list.Add(size);
+    }
+}
+
 class CRadiatorCheck
 {
 public:
@@ -121,7 +128,9 @@ private:
         std::vector<CCatalogueRow> rows = BuildAllRows(produkt);
         m_report.nRows += static_cast<int>(rows.size());
         HK_VDI3805_PRODUKT node;
-        AssignCrossSections(node, produkt);
+        const CCrossSections sizes = CrossSectionsOf(produkt);
+        Append(node.Hoehen, sizes.hoehen);
+        Append(node.Tiefen, sizes.tiefen);
         node.pTyp = &rows.front().row;
         for (std::size_t i = 1; i < rows.size(); ++i) {
             rows[i - 1].row.pNext = &rows[i].row;

@@ -1,5 +1,6 @@
 #include "host/host_prefs.h"
 
+#include "host_defaults/answers.h"
 #include "platform/color.h"
 #include "reference_host/prefs/host_settings.h"
 
@@ -82,7 +83,8 @@ bool lmGetAllowEnterAsTab(bool& allow)
 
 bool lmGetCurrentWinposFile(CString& name)
 {
-    name = GetHostSetting(kSettingWinposFile, L"winpos.txt");
+    host_defaults::lmGetCurrentWinposFile(name);
+    name = GetHostSetting(kSettingWinposFile, name);
     return true;
 }
 

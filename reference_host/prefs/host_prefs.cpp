@@ -1,6 +1,8 @@
 #include "host/host_prefs.h"
 
+#include "host_defaults/answers.h"
 #include "platform/environment.h"
+#include "platform/format.h"
 #include "platform/number_scan.h"
 #include "reference_host/prefs/host_settings.h"
 
@@ -8,14 +10,15 @@ using namespace reference_host;
 
 namespace {
 
-constexpr wchar_t kMeter[] = L"1";
-constexpr wchar_t kHKLayer[] = L"HEIZ_HK_$d";
-constexpr wchar_t kRed[] = L"1";
-
 /// A choice of yes or no, kept as 1 or 0.
 bool GetFlag(const wchar_t* setting, bool fallback)
 {
     return _wtoi(GetHostSetting(setting, fallback ? L"1" : L"0")) != 0;
+}
+
+int GetNumber(const wchar_t* setting, int fallback)
+{
+    return _wtoi(GetHostSetting(setting, FormatInt(fallback)));
 }
 
 bool TakeUnlessEmpty(const CString& text, CString& target)
@@ -47,22 +50,25 @@ CString GetVEDir(bool /*projectCopy*/)
 
 void lmGetDimension2(int& code)
 {
-    code = _wtoi(GetHostSetting(kSettingDrawingUnit, kMeter));
+    host_defaults::lmGetDimension2(code);
+    code = GetNumber(kSettingDrawingUnit, code);
 }
 
 int lmGetDimensionUsr()
 {
-    return _wtoi(GetHostSetting(kSettingUserUnit, kMeter));
+    return GetNumber(kSettingUserUnit, host_defaults::lmGetDimensionUsr());
 }
 
 void lmGetHKLayer(CString& layer)
 {
-    layer = GetHostSetting(kSettingHKLayer, kHKLayer);
+    host_defaults::lmGetHKLayer(layer);
+    layer = GetHostSetting(kSettingHKLayer, layer);
 }
 
 void lmGetHKLayerColor(int& farbe)
 {
-    farbe = _wtoi(GetHostSetting(kSettingHKLayerColor, kRed));
+    host_defaults::lmGetHKLayerColor(farbe);
+    farbe = GetNumber(kSettingHKLayerColor, farbe);
 }
 
 void lmGetAutoLayerManagement(bool& automatisch, bool vorgabe)

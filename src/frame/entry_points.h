@@ -7,8 +7,8 @@
 /// What a host calls. One caller at a time, on the thread of the host's user interface. Unknown
 /// catalogue names are no error: they read as "nothing fits". Exceptions of the framework, and
 /// those of the host's own libraries, pass through. In a program whose application object has no
-/// windows a dialog counts as cancelled. A library that was built with RADSEL_CHECKS, as every
-/// Debug build is, refuses a call that comes from a second thread while one runs: std::logic_error.
+/// windows a dialog counts as cancelled. A module that was built with its checks refuses a
+/// call that comes from a second thread while one runs: std::logic_error.
 ///
 /// A host whose libraries do not fit together or not to this module (host/host_identity.h) is told
 /// so once, in a message, and gets the answer "nothing" from every function.
@@ -16,10 +16,10 @@
 /// Numbers are taken as they come. A required Leistung that is not-a-number or infinite lets no row
 /// be chosen, nor does a bound of length, height or depth that is not-a-number: -1. A LeistungMin
 /// that is not-a-number asks nothing. A negative Leistung is nearest to the weakest row. A
-/// Raumtemperatur that is not-a-number
-/// counts as one that the return does not exceed, which gives the factor 0.006, and a Vorlauf or
-/// Ruecklauf that is not-a-number, 0 or negative gives the factor 1.0; either way rows are found,
-/// whose outputs mean nothing. Hosts check what their users type.
+/// Raumtemperatur that is not-a-number counts as one that the return does not exceed, which gives
+/// the factor 0.006, and a Vorlauf or Ruecklauf that is not-a-number, 0 or negative gives the
+/// factor 1.0; either way rows are found, whose outputs mean nothing. Hosts check what their users
+/// type.
 
 class CDrawer;
 class ConnValues;

@@ -1,4 +1,4 @@
 #pragma once
 
-/// HOST_API, with which one of the host's libraries marks what it offers.
+/// HOST_API lies in platform/export.h.
 #include "platform/export.h"

@@ -7,7 +7,6 @@
 
 /// The drawing of the host as a dialog sees it. The host owns the object, which outlives every call
 /// that it is handed to; a dialog works without one and then leaves out what it would draw or list.
-/// The order of the operations is that of the slots and must stay.
 class HOST_API CDrawer
 {
 public:

@@ -22,11 +22,12 @@ inline constexpr int kLastColorIndex = 255;
 
 /// Lets the user choose one of the colours of a drawing. `index` is the one to begin with (one
 /// outside 1 to 255 selects none). True when confirmed, and then `index` is the choice; otherwise
-/// it stays. Modal; where the program has no application object of the toolkit yet, makes one.
+/// it stays. Modal.
 HOST_API bool GetColorDlg(int& index);
 
 /// RGB value of a colour index; black for one outside 1 to 255.
 HOST_API COLORREF GetRGBFromColor(int index);
-/// Colour in which the host draws a trade, as 0x00BBGGRR: red for the flow of heating, blue for its
-/// return, dark grey for every other.
+
+/// Colour in which the host draws a trade, as 0x00BBGGRR. The module asks for the two that
+/// drawing_records.h names.
 HOST_API int lmGetGewerkColor(TgaGewerk gewerk);

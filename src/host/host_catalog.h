@@ -28,10 +28,12 @@ HOST_API HK_VDI3805_PRODUKT* FindProdukt(HK_VDI3805_ART* art, const CString& nam
 /// Returns the count of rows, or -1 if the file cannot be read, and then `*art` is null.
 HOST_API int ReadVdiFile(const CString& hersteller, HK_VDI3805_ART** art, double leistungEN442);
 
-/// Opens the help page of a dialog in the user's viewer and returns at once. `dialogId` is the
-/// dialog's number. `art` is the kind of page; the module asks for 100, and this host has one page
-/// for every kind. A dialog without a page, or a viewer that cannot be started, changes nothing.
+/// Opens the help page of a dialog in the user's viewer and does not wait until that ends; for a
+/// moment, a second at most, to learn whether it starts. `dialogId` is the dialog's number. `art` is
+/// the kind of page; the module passes 100. A dialog without a page, or a viewer that cannot be
+/// started, changes nothing.
 HOST_API void ShowPDF(unsigned dialogId, int art);
+
 /// Identifiers of rooms, as hosts put them into a hand-over.
 class HOST_API CRoomTools
 {

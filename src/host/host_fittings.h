@@ -15,9 +15,9 @@
 /// always is.
 ///
 /// Values are read in their order. The first piece between separators that does not begin with a
-/// number (platform/numbers.h) ends the reading: an empty one, a word, or a number beyond the range
-/// of a double. What follows a number in its piece is ignored, and so is all behind the twelfth.
-/// The cross-over kind is cut to a whole number within the range of int.
+/// number, as _wtof() of platform/number_scan.h reads it, ends the reading: an empty one, a word,
+/// or a number beyond the range of a double. What follows a number in its piece is ignored, and so
+/// is all behind the twelfth. The cross-over kind is cut to a whole number within the range of int.
 HOST_API int lmGet_K_APUNKT_X(const CString& text, double position[3], double offset[3],
                               double winkel[3], double& seitAbstand, double& kreuzAbstand,
                               int& kreuzTyp, double& wandAbstand);

@@ -6,9 +6,9 @@
 /// together wrongly: libraries of two hosts mixed, or made for another interface. No library has to
 /// say it; five that are silent are taken as they are.
 
-/// The number of the interface that the headers of this folder declare. It is raised with every
-/// function, virtual function or field of a record that the module asks of its host anew or
-/// otherwise.
+/// The number of the interface that the headers of this folder declare. The module takes hosts of
+/// its own number only: another one asks other functions of its host, or has them or its records in
+/// another form.
 inline constexpr int kHostInterfaceVersion = 1;
 
 /// C++ text and classes stay out of it, so that any two builds can read each other's.

@@ -109,23 +109,23 @@ enum LumoSkinType
     skinEingabe = 4
 };
 
-/// The preferences below deliver the host's default where the user has chosen nothing. Those that
-/// return a bool return true, unless their own text says when not.
+/// The preferences below are always delivered, and those that return a bool return true, unless
+/// their own text says when not.
 
-/// Whether dialogs are coloured with the skin instead of the system's colours. Default: no.
+/// Whether dialogs are coloured with the skin instead of the system's colours.
 HOST_API bool lmGetAllowLumoSkin(bool& allow);
 
 /// A colour of the skin as 0x00BBGGRR. False, with `color` left alone, if none is set.
 HOST_API bool lmGetLumoSkinColor(LumoSkinType type, unsigned long& color);
 
-/// Whether Enter moves to the next control instead of confirming the dialog. Default: no.
+/// Whether Enter moves to the next control instead of confirming the dialog.
 HOST_API bool lmGetAllowEnterAsTab(bool& allow);
 
-/// Name, without folder, of the file that keeps the placement of windows. Default: "winpos.txt".
+/// Name, without folder, of the file that keeps the placement of windows.
 HOST_API bool lmGetCurrentWinposFile(CString& name);
 
-/// Whether dialogs show the themed banner. Default: no.
+/// Whether dialogs show the themed banner.
 HOST_API bool lmGetUseVistaBanner(bool& use);
 
-/// Name of the program, for the banner of its dialogs. Default: "Workbench Termotecnica".
+/// Name of the program, for the banner of its dialogs.
 HOST_API bool lmGetProductLongName(CString& name);

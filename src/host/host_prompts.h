@@ -6,8 +6,7 @@
 class CDrawer;
 
 /// HostPrompts: dialogs that the host lends to its modules. Each is modal and returns when the user
-/// has answered; each lies above the active modal dialog, if there is one. Where the program has
-/// no application object of the toolkit yet, the first dialog makes one.
+/// has answered; each lies above the active modal dialog, if there is one.
 
 /// Least alpha of a window that the user can choose, so that no window gets lost to the eye.
 inline constexpr int kLeastAlpha = 100;

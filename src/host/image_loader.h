@@ -16,12 +16,12 @@ enum LumoIcons : int
     iconGruppe = 42
 };
 
-/// The host's icons, drawn afresh for each size so that none is ever scaled.
+/// The host's icons.
 class HOST_API CImageLoader
 {
 public:
     /// The icon of that number (one of LumoIcons) in pixels, its outside transparent; colours are
-    /// not multiplied by alpha. It fills the largest square in the middle of the picture. Empty for
-    /// an unknown number or a side outside 8 to 64.
+    /// not multiplied by alpha. Empty for an icon that the host does not have: the dialog leaves it
+    /// out.
     CBitmap LoadLumoIcon(int index, int width, int height) const;
 };

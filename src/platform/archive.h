@@ -49,16 +49,16 @@ public:
     /// Bytes of a loading archive that are still unread.
     std::size_t GetRemaining() const { return m_limit - m_position; }
 
-    template <class T>
-    requires std::is_arithmetic_v<T> CArchive& operator<<(T value)
+    template <class T, std::enable_if_t<std::is_arithmetic_v<T>, int> = 0>
+    CArchive& operator<<(T value)
     {
         static_assert(sizeof(T) <= 8);
         Write(&value, sizeof value);
         return *this;
     }
 
-    template <class T>
-    requires std::is_arithmetic_v<T> CArchive& operator>>(T& value)
+    template <class T, std::enable_if_t<std::is_arithmetic_v<T>, int> = 0>
+    CArchive& operator>>(T& value)
     {
         Read(&value, sizeof value);
         return *this;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/color.h"
+#include "platform/export.h"
 
 #include <cstddef>
 #include <cstdint>

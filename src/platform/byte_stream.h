@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/export.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <utility>

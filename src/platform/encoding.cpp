@@ -107,11 +107,11 @@ wchar_t WideFromCp1252(std::uint8_t byte)
     return byte >= 0x80 && byte < 0xA0 ? kCp1252High[byte - 0x80U] : static_cast<wchar_t>(byte);
 }
 
-void AppendCp1252(CString& text, std::span<const std::uint8_t> bytes)
+void AppendCp1252(CString& text, const std::uint8_t* bytes, std::size_t count)
 {
     const std::size_t start = text.size();
-    text.resize(start + bytes.size());
-    std::transform(bytes.begin(), bytes.end(), text.begin() + static_cast<std::ptrdiff_t>(start),
+    text.resize(start + count);
+    std::transform(bytes, bytes + count, text.begin() + static_cast<std::ptrdiff_t>(start),
                    WideFromCp1252);
 }
 

@@ -4,16 +4,25 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
+#if __cplusplus >= 202002L
+#include <span>
+#endif
 
 /// The character of one byte in code page 1252. The five bytes that the code page leaves undefined
 /// become the control character of the same code, so that every byte survives a round trip.
 wchar_t WideFromCp1252(std::uint8_t byte);
 
-/// Appends the characters of code page 1252 bytes to `text`.
-void AppendCp1252(CString& text, std::span<const std::uint8_t> bytes);
+/// Appends the characters of `count` bytes of code page 1252 to `text`.
+void AppendCp1252(CString& text, const std::uint8_t* bytes, std::size_t count);
+
+#if __cplusplus >= 202002L
+inline void AppendCp1252(CString& text, std::span<const std::uint8_t> bytes)
+{
+    AppendCp1252(text, bytes.data(), bytes.size());
+}
+#endif
 
 /// The code page 1252 bytes of a text; a character outside the code page becomes "?".
 std::string Cp1252FromWide(const CString& text);

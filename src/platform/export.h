@@ -1,5 +1,18 @@
 #pragma once
 
+// Tells how the standard library is built.
+#include <cstddef>
+
+// Records hold containers and texts of the standard library, so that both sides of the boundary
+// must have them in the same form.
+#if __cplusplus < 201703L
+#error "radsel: its headers need C++17 or later (-std=c++17)"
+#elif defined(_GLIBCXX_DEBUG)
+#error "radsel: records hold plain containers; compile without _GLIBCXX_DEBUG"
+#elif defined(_GLIBCXX_USE_CXX11_ABI) && !_GLIBCXX_USE_CXX11_ABI
+#error "radsel: records hold texts of today; compile with _GLIBCXX_USE_CXX11_ABI=1"
+#endif
+
 /// Marks what the module exports: the thirteen functions of frame/entry_points.h and
 /// frame/lumo_error.h.
 #define RADSEL_API __attribute__((visibility("default")))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/export.h"
+
 #include <string>
 
 /// Wide text of the module: a value, one code point per wchar_t. Files convert at their border

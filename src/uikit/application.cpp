@@ -3,6 +3,7 @@
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
 #include "uikit/native/caption_bar.h"
+#include "uikit/native/owner.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -71,6 +72,7 @@ void ShowMessageBox(const MessageBoxText& message)
     box.setTextFormat(Qt::PlainText);
     box.setText(ToNative(message.text));
     box.addButton("OK", QMessageBox::AcceptRole);
+    PutAboveOwner(box);
     box.exec();
 }
 

@@ -7,6 +7,7 @@
 #include "uikit/native/caption_bar.h"
 #include "uikit/native/dialog_window.h"
 #include "uikit/native/observer.h"
+#include "uikit/native/owner.h"
 #include "uikit/win_app.h"
 
 #include <QApplication>
@@ -47,6 +48,7 @@ void CDialog::Create()
     CNativeAccess::Attach(*this, window);
     SetWindowText(GetTemplate().caption);
     window->Fill(GetTemplate());
+    PutAboveOwner(*window);
     window->DefaultPlace();
 }
 

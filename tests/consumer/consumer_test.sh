@@ -2,7 +2,8 @@
 # What is installed serves a program elsewhere: it is found, compiles, links and runs, and nothing in
 # it leads back to the place where it was built.
 set -euo pipefail
-cmake=$1 build=$2 source=$3 compiler=$4 flags=$5 scan=$6
+cmake=$1 cpack=$2 build=$3 source=$4 compiler=$5 flags=$6 scan=$7
+ccompiler=$8 instruments=$9
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
 work=$(mktemp -d)
@@ -18,22 +19,35 @@ quietly() {
     }
 }
 
-# Moved, since a package is unpacked elsewhere than it is made.
-quietly "$cmake" --install "$build" --prefix "$work/made" --strip
-mv "$work/made" "$work/there"
-prefix=$work/there
+# As everybody gets it: all packages unpacked, which is elsewhere than they are made.
+mkdir "$work/there"
+# What they depend on, and how small they are, does not matter here and takes time.
+(cd "$build" && quietly env LC_ALL=C.UTF-8 "$cpack" -G DEB -B "$work/packages" \
+    -D CPACK_DEBIAN_COMPRESSION_TYPE=none -D CPACK_DEBIAN_PACKAGE_SHLIBDEPS=OFF \
+    -D CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS=OFF)
+for package in "$work"/packages/*.deb; do
+    dpkg-deb --extract "$package" "$work/there"
+done
+prefix=$work/there/usr
+libraries=$(dirname "$(find "$prefix" -name libradsel.so)")
 
 searches() { # file, folder that it may look for libraries in
     local path
     path=$(readelf -d "$1" | sed -nE 's/.*\((RUNPATH|RPATH)\).*\[(.*)\]/\2/p')
     [[ $path == "$2" ]] || fail "$1 looks for libraries in '$path'"
 }
-searches "$prefix/lib/libradsel.so" ''
-for library in "$prefix"/lib/radsel/reference_host/lib*.so; do
+searches "$libraries/libradsel.so" ''
+for library in "$libraries"/radsel/reference_host/lib*.so; do
     searches "$library" '$ORIGIN'
 done
-searches "$prefix/bin/radsel_workbench" '$ORIGIN/../lib:$ORIGIN/../lib/radsel/reference_host'
-"$prefix/bin/radsel_workbench" --help >/dev/null
+to_lib='$ORIGIN/..'${libraries#"$prefix"}
+for program in "$prefix"/bin/*; do
+    searches "$program" "$to_lib:$to_lib/radsel/reference_host"
+    manual=$(zcat "$prefix/share/man/man1/$(basename "$program").1.gz" | sed 's/\\-/-/g')
+    for option in $("$program" --help | grep -oE -- '--[a-z-]+' | sort -u); do
+        grep -q -e "$option\b" <<<"$manual" || fail "not in the manual of $program: $option"
+    done
+done
 "$prefix/bin/radsel_check" "$prefix/share/radsel/catalogues/Altovico" | grep -q "nessun difetto$"
 
 # The program has a working place in its user's folder and writes nothing beside itself.
@@ -54,19 +68,27 @@ chmod -R u+w "$prefix"
 
 kinds=()
 [[ $scan == binary ]] || kinds=(-I)
-if grep -rlF "${kinds[@]}" -e "$source" -e "$build" -e "$work/made" "$prefix"; then
-    fail "these name the folder of the sources, of the build or of the first installation"
+if grep -rlF "${kinds[@]}" -e "$source" -e "$build" -e "$work/packages" "$prefix"; then
+    fail "these name the folder of the sources, of the build or of the packages"
 fi
 
 export CXX=$compiler include=$prefix/include/radsel
 compiles_alone() {
     echo "#include \"$1\"" |
-        "$CXX" -std=c++20 -Wall -Wextra -Wpedantic -Wconversion -Werror -fsyntax-only \
+        "$CXX" -std=c++17 -Wall -Wextra -Wpedantic -Wconversion -Werror -fsyntax-only \
             -I "$include" -x c++ - || { echo "$1 does not compile alone" && false; }
 }
 export -f compiles_alone
 (cd "$include" && find . -name '*.h' -printf '%P\0') |
     xargs -0 -n 1 -P 2 bash -c 'compiles_alone "$0"'
+
+if echo '#include "platform/array.h"' |
+    "$CXX" -std=c++17 -D_GLIBCXX_DEBUG -fsyntax-only -I "$include" -x c++ - 2>"$work/log" ||
+    ! grep -q 'compile without _GLIBCXX_DEBUG' "$work/log"; then
+    fail "a build with containers for debugging is not refused: $(<"$work/log")"
+fi
+
+"$here/docs_test.py" "$prefix"
 
 quietly "$cmake" -S "$here" -B "$work/consumer" -DCMAKE_PREFIX_PATH="$prefix" \
     -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags" \
@@ -76,8 +98,11 @@ grep -q "^radsel_DIR:PATH=$prefix/" "$work/consumer/CMakeCache.txt" ||
 quietly "$cmake" --build "$work/consumer" --parallel 2
 "$work/consumer/keep_records" || fail "records are not kept"
 
+"$work/consumer/with_own_names" || fail "names of the program and of the module are mixed up"
+
 # Every way to bring a host of one's own: it is the one that is asked.
-for way in silent_library named_library own_functions plugin; do
+for way in silent_library named_library own_functions plugin \
+    default_library default_functions default_plugin; do
     answer=$("$work/consumer/with_$way") || fail "with_$way: $answer"
     [[ $answer == "0 T1" ]] || fail "with_$way: $answer"
 done
@@ -101,4 +126,36 @@ refused with_old_host 'interfaccia 0 invece di' '"a CAD", .*libold_host.so'
     fail "a program without a host is linked"
 grep -q 'undefined.*HK_DATEN_VDI3805' "$work/log" || fail "$(<"$work/log")"
 
+! "$cmake" -DCOMPONENTS=nonsense "$work/consumer" >"$work/log" 2>&1 ||
+    fail "a component that nobody knows is found"
+grep -q 'radsel has no component "nonsense"' "$work/log" || fail "$(<"$work/log")"
+
+# Without CMake.
+example=$prefix/share/doc/radsel/examples/bind_radsel.cpp
+export PKG_CONFIG_PATH=$libraries/pkgconfig
+read -ra linked <<<"$flags $(pkg-config --cflags --libs radsel radsel-reference-host)"
+quietly "$CXX" -std=c++17 "$example" -o "$work/by_pkg_config" "${linked[@]}"
+LD_LIBRARY_PATH=$libraries:$libraries/radsel/reference_host \
+    "$here/example_test.sh" "$work/by_pkg_config" "$prefix/share/radsel/catalogues"
+
 "$here/example_test.sh" "$work/consumer/bind_radsel" "$prefix/share/radsel/catalogues"
+
+# The Python package; an interpreter that is not instrumented does not take a library that is.
+sized() {
+    env -u RADSEL_LIBRARY -u RADSEL_WORKBENCH PYTHONPATH="$prefix/lib/python3/dist-packages" \
+        PYTHONDONTWRITEBYTECODE=1 HOME="$work/home" python3 \
+        "$prefix/share/doc/radsel/examples/python/size_villa.py" "$prefix/share/radsel" "$work/villa.svg"
+}
+[[ -n $instruments ]] || sized >"$work/log" 2>&1 || fail "$(<"$work/log")"
+[[ -n $instruments ]] || grep -q '55/45 °C: C 22/600x1100 gives 925 W' "$work/log" || fail "$(<"$work/log")"
+
+# The skeleton, as somebody copies it.
+cp -r "$prefix/share/doc/radsel/examples/host" "$work/copied"
+quietly "$cmake" -S "$work/copied" -B "$work/skeleton" -DCMAKE_PREFIX_PATH="$prefix" \
+    -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags -Wall -Wextra -Wpedantic -Wconversion -Werror"
+quietly "$cmake" --build "$work/skeleton"
+"$here/skeleton_test.sh" "$work/skeleton/cad" "$prefix/share/radsel" \
+    "$work/consumer/libconfirm_dialogs.so"
+
+"$here/../c_interface/c_host_test.sh" "$prefix" "$ccompiler" "$instruments" \
+    "$work/consumer/libconfirm_dialogs.so"

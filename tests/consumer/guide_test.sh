@@ -17,4 +17,12 @@ missing=0
 for name in $names; do
     grep -qw "$name" "$guide" || { echo "not in the guide: $name" && missing=1; }
 done
+
+# What the skeleton of a host writes is what the guide says that a host has to write.
+written=$(sed -nE 's/^[A-Za-z_0-9:]+[ *]+([A-Za-z_0-9]+)\(.*/\1/p' "$source"/examples/host/{catalogue,settings,stores}.cpp |
+    grep -xF "$names" | sort)
+told=$(sed -n '/^Fourteen functions/,/^A host whose/p' "$guide" | grep '^| `' | cut -d '|' -f 2 |
+    grep -oE '[A-Za-z_0-9]{4,}' | sort)
+diff <(echo "$written") <(echo "$told") || missing=1
+[[ $(wc -w <<<"$written") -eq 14 ]] || missing=1
 exit $missing

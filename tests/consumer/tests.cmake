@@ -7,8 +7,10 @@ add_test(NAME example COMMAND ${consumer_dir}/example_test.sh
 add_test(NAME host_guide COMMAND ${consumer_dir}/guide_test.sh
     ${PROJECT_SOURCE_DIR})
 
-# Another tree's program needs what this one is instrumented with.
+# Another tree's program needs what this one is instrumented with. How folders are named in what is
+# built concerns this one alone.
 get_directory_property(tree_options DIRECTORY ${PROJECT_SOURCE_DIR} COMPILE_OPTIONS)
+list(FILTER tree_options EXCLUDE REGEX prefix-map)
 list(JOIN tree_options " " tree_options)
 
 # Instrumented code names its sources, and so do asserts: then texts alone are scanned for them.
@@ -18,6 +20,7 @@ if(tree_options)
 endif()
 
 add_test(NAME consumer COMMAND ${consumer_dir}/consumer_test.sh ${CMAKE_COMMAND}
-    ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR} ${CMAKE_CXX_COMPILER}
-    "${CMAKE_CXX_FLAGS} ${tree_options}" $<IF:$<CONFIG:Debug>,text,${scan}>)
-set_tests_properties(consumer PROPERTIES TIMEOUT 180)
+    ${CMAKE_CPACK_COMMAND} ${PROJECT_BINARY_DIR} ${PROJECT_SOURCE_DIR} ${CMAKE_CXX_COMPILER}
+    "${CMAKE_CXX_FLAGS} ${tree_options}" $<IF:$<CONFIG:Debug>,text,${scan}>
+    ${CMAKE_C_COMPILER} "${tree_options}")
+set_tests_properties(consumer PROPERTIES TIMEOUT 400)

@@ -16,6 +16,7 @@
 #include <iterator>
 #include <map>
 #include <random>
+#include <ranges>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -61,28 +62,16 @@ bool IsSo(const std::function<bool()>& question)
     return Await(Start([&] { return question() ? EXIT_SUCCESS : EXIT_FAILURE; })) == EXIT_SUCCESS;
 }
 
-/// Numbers that processes tell each other.
-class CSharedNumbers
-{
-public:
-    CSharedNumbers()
-        : m_numbers(static_cast<std::atomic<int>*>(
-              mmap(nullptr, kBytes, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0)))
-    {
-    }
-    ~CSharedNumbers() { munmap(m_numbers, kBytes); }
-    CSharedNumbers(const CSharedNumbers&) = delete;
-    CSharedNumbers& operator=(const CSharedNumbers&) = delete;
-
-    std::atomic<int>& operator[](std::size_t index) const { return m_numbers[index]; }
-
-private:
-    static constexpr std::size_t kBytes = 4096;
-    std::atomic<int>* m_numbers;
-};
-
 constexpr std::size_t kWriters = 2;
 const CString kNames[kWriters] = {L"a", L"b"};
+
+/// A number for each writer, which processes tell each other.
+std::atomic<int>* SharedNumbers()
+{
+    return static_cast<std::atomic<int>*>(mmap(nullptr, kWriters * sizeof(std::atomic<int>),
+                                               PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS,
+                                               -1, 0));
+}
 
 /// Lays out the store: the file of placements takes none before it is there.
 void Begin(const CStore& store)
@@ -117,36 +106,11 @@ void RestoreFiles(const fs::path& folder, const CFiles& files)
 
 std::set<fs::path> NamesOf(const CFiles& files)
 {
-    std::set<fs::path> names;
-    for (const auto& [path, bytes] : files) {
-        names.insert(path);
-    }
-    return names;
+    const auto names = std::views::keys(files);
+    return {names.begin(), names.end()};
 }
 
-/// Two processes store numbers side by side, and each looks whether its own is still there.
-bool RunRace(const CStore& store, int each)
-{
-    Begin(store);
-    const CSharedNumbers kept;
-    std::vector<pid_t> children;
-    for (std::size_t i = 0; i < kWriters; ++i) {
-        children.push_back(Start([&, i] {
-            for (int number = 1; number <= each; ++number) {
-                store.put(kNames[i], number);
-                usleep(1000);
-                kept[i] += store.get(kNames[i]) == number ? 1 : 0;
-            }
-            return EXIT_SUCCESS;
-        }));
-    }
-    const bool ended = Await(children[0]) == 0 && Await(children[1]) == 0;
-    std::cout << store.strName << ": of " << kWriters << " times " << each << " numbers kept "
-              << kept[0] + kept[1] << '\n';
-    return ended && kept[0] == each && kept[1] == each;
-}
-
-/// Kills processes that store numbers.
+/// Kills processes that store numbers; two of them also look whether each keeps its own.
 class CKillRun
 {
 public:
@@ -185,12 +149,14 @@ private:
             children.push_back(Start([&, i] {
                 const int first = m_store.get(kNames[i]) + 1;
                 m_begun[i] = 1;
-                for (int number = first;; ++number) {
-                    if (!m_store.put(kNames[i], number)) {
-                        return EXIT_FAILURE;
-                    }
+                for (int number = first; m_store.put(kNames[i], number); ++number) {
                     m_stored[i] = number;
+                    usleep(200);
+                    if (m_store.bNames && m_store.get(kNames[i]) != number) {
+                        break;
+                    }
                 }
+                return EXIT_FAILURE;
             }));
         }
         while (m_begun[0] + m_begun[m_writers - 1] < 2) {
@@ -201,7 +167,7 @@ private:
             kill(child, SIGKILL);
         }
         for (const pid_t child : children) {
-            Expect(Await(child) == -1, "a number was not stored");
+            Expect(Await(child) == -1, "a number was not stored, or the other writer took it away");
         }
     }
 
@@ -228,8 +194,8 @@ private:
     std::string m_folder;
     std::size_t m_writers;
     std::set<fs::path> m_names;
-    CSharedNumbers m_begun;
-    CSharedNumbers m_stored;
+    std::atomic<int>* const m_begun = SharedNumbers();
+    std::atomic<int>* const m_stored = SharedNumbers();
     int m_torn = 0;
     int m_wrong = 0;
 };
@@ -373,13 +339,10 @@ int Run(const std::vector<std::string>& words)
     bool right = false;
     if (mode == "--fail") {
         right = RunFaults(Open(words[0], folder), folder);
-    } else if (mode == "--race" && count > 0) {
-        right = RunRace(Open(words[0], folder), count);
     } else if (mode == "--kill" && count > 0) {
         right = RunKills(Open(words[0], folder), folder, count, seed);
     } else {
-        std::cerr << "usage: radsel_store_faults <store> --fail | --race <numbers> |\n"
-                     "           --kill <rounds> [<seed>]\n";
+        std::cerr << "usage: radsel_store_faults <store> --fail | --kill <rounds> [<seed>]\n";
     }
     return right ? EXIT_SUCCESS : EXIT_FAILURE;
 }

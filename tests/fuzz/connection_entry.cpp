@@ -3,7 +3,7 @@
 #include "platform/environment.h"
 #include "platform/exception.h"
 #include "tests/fuzz/entries.h"
-#include "tests/reference_host/fittings/punkt_werte.h"
+#include "tests/host_defaults/fittings/punkt_werte.h"
 #include "tests/src/connection/test_ansicht.h"
 #include "tests/support/temp_folder.h"
 

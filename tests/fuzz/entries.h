@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <stdexcept>
 
 /// What the fuzz targets and their replay in the tests run over arbitrary bytes. Exceptions of the
 /// framework are part of the bargain and stay inside; anything else that leaves is a fault.
@@ -47,4 +48,9 @@ void RunDefFile(std::span<const std::uint8_t> bytes);
 void RunBuilding(std::span<const std::uint8_t> bytes);
 
 /// Throws std::logic_error with this text unless `holds`.
-void Require(bool holds, const char* what);
+inline void Require(bool holds, const char* what)
+{
+    if (!holds) {
+        throw std::logic_error(what);
+    }
+}

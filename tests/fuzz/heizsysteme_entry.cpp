@@ -1,7 +1,7 @@
 #include "common/heizung_ordner.h"
-#include "common/text_file.h"
 #include "selection/heizsysteme.h"
 #include "tests/fuzz/entries.h"
+#include "tests/src/common/lines.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/test_liste.h"
@@ -42,8 +42,7 @@ void RunHeizsysteme(std::span<const std::uint8_t> bytes)
         CheckEntry(text);
     }
 
-    CStringArray zeilen;
-    ReadTextFile(HeizungPfad(L"CmbData.txt"), zeilen, CFile::modeRead, -1);
+    CStringArray zeilen = LinesIn(HeizungPfad(L"CmbData.txt"));
     const int vorher = zeilen.GetSize();
     ListeInZeilen(zeilen, kListeHeizsysteme, liste);
     Require(zeilen.GetSize() == vorher || zeilen.GetSize() == vorher + 2, "other lines stay");

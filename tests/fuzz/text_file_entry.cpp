@@ -1,17 +1,10 @@
-#include "common/text_file.h"
 #include "tests/fuzz/entries.h"
+#include "tests/src/common/lines.h"
 #include "tests/support/temp_folder.h"
 
 #include <string>
 
 namespace {
-
-CStringArray LinesOf(const CString& path)
-{
-    CStringArray lines;
-    ReadTextFile(path, lines, CFile::modeRead, -1);
-    return lines;
-}
 
 void CheckFields(const CString& line)
 {
@@ -35,7 +28,7 @@ void RunTextFile(std::span<const std::uint8_t> bytes)
     static const CTempFolder folder;
     folder.WriteBytes("in.txt", std::string(bytes.begin(), bytes.end()));
     const CString in = folder.Path("in.txt");
-    const CStringArray lines = LinesOf(in);
+    const CStringArray lines = LinesIn(in);
     CString first;
     const bool hasFirst = ReadFirstLine(in, first, bytes.size());
     Require(hasFirst == !lines.IsEmpty(), "a file of any lines has a first one");
@@ -50,6 +43,6 @@ void RunTextFile(std::span<const std::uint8_t> bytes)
         folder.WriteBytes("out.txt", "");
         const CString out = folder.Path("out.txt");
         Require(WriteTextFile(out, lines, true, false, CFile::modeReadWrite), "the file opens");
-        Require(LinesOf(out) == lines, "lines survive the file");
+        Require(LinesIn(out) == lines, "lines survive the file");
     }
 }

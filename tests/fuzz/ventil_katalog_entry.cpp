@@ -1,7 +1,7 @@
-#include "common/text_file.h"
 #include "host/host_prefs.h"
 #include "platform/exception.h"
 #include "tests/fuzz/entries.h"
+#include "tests/src/common/lines.h"
 #include "tests/support/message_log.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
@@ -67,9 +67,7 @@ void RunVentilKatalog(std::span<const std::uint8_t> bytes)
 
     // The cache holds the lines of the run before under the same path.
     const CString path = VentilDateiPfad(folder.Path(), kMaker);
-    CStringArray lines;
-    ReadTextFile(path, lines, CFile::modeRead, -1);
-    lmGetCacheObject()->AddFileToCache(path, lines, false);
+    lmGetCacheObject()->AddFileToCache(path, LinesIn(path), false);
 
     CVentVdiKatalog katalog;
     bool loaded = true;

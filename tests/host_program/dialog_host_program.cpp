@@ -24,7 +24,6 @@
 #include <fstream>
 #include <functional>
 #include <iostream>
-#include <memory>
 #include <set>
 #include <sstream>
 #include <string>
@@ -44,26 +43,15 @@ void Expect(bool holds, const std::string& what)
     }
 }
 
-/// What is written to standard error for the life of the object.
-class CErrorLines
+/// What is written to standard error meanwhile.
+std::string ErrorsOf(const std::function<void()>& work)
 {
-public:
-    CErrorLines() : m_before(std::cerr.rdbuf(m_lines.rdbuf())) {}
-    ~CErrorLines() { std::cerr.rdbuf(m_before); }
-    CErrorLines(const CErrorLines&) = delete;
-    CErrorLines& operator=(const CErrorLines&) = delete;
-
-    std::string Take()
-    {
-        std::string lines = m_lines.str();
-        m_lines.str("");
-        return lines;
-    }
-
-private:
-    std::ostringstream m_lines;
-    std::streambuf* m_before;
-};
+    std::ostringstream lines;
+    std::streambuf* const before = std::cerr.rdbuf(lines.rdbuf());
+    work();
+    std::cerr.rdbuf(before);
+    return lines.str();
+}
 
 /// A valve file whose one valve has more settings than a table holds.
 class CFullTable : public CSettingsCache
@@ -153,28 +141,28 @@ std::vector<CDialogCall> DialogCalls()
 }
 
 /// Every dialog counts as cancelled, and a line says why.
-void AskWithoutWindows(const char* kind)
+void AskWithoutWindows(const std::string& kind, const CString& maker)
 {
-    CErrorLines lines;
     for (const CDialogCall& call : DialogCalls()) {
-        Expect(call.isCancelled(), std::string(kind) + ": cancelled, " + call.name);
-        Expect(lines.Take().ends_with("il programma non può mostrare finestre, questa vale come "
-                                      "annullata\n"),
-               std::string(kind) + ": a line, " + call.name);
+        const std::string lines =
+            ErrorsOf([&] { Expect(call.isCancelled(), kind + ": cancelled, " + call.name); });
+        Expect(
+            lines.ends_with("il programma non può mostrare finestre, questa vale come annullata\n"),
+            kind + ": a line, " + call.name);
     }
-    FetchFullTable(kind[1] == 'C' ? L"Uno" : L"Due");
-    Expect(lines.Take() == "MAXKV\n", std::string(kind) + ": messages go to standard error");
+    Expect(ErrorsOf([&] { FetchFullTable(maker); }) == "MAXKV\n",
+           kind + ": messages go to standard error");
 }
 
 void RunWindowless(int& argc, char** argv)
 {
     {
         const QCoreApplication application(argc, argv);
-        AskWithoutWindows("QCoreApplication");
+        AskWithoutWindows("QCoreApplication", L"Uno");
     }
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     const QGuiApplication application(argc, argv);
-    AskWithoutWindows("QGuiApplication");
+    AskWithoutWindows("QGuiApplication", L"Due");
 }
 
 /// Calls `look` with the first window that waits for an answer, then closes it.
@@ -209,9 +197,8 @@ bool AllCanBeReached(QWidget& window)
 /// Where a message goes is decided when it comes, whatever was there when the library was loaded.
 void RunMessages(int& argc, char** argv)
 {
-    CErrorLines lines;
-    FetchFullTable(L"Uno");
-    Expect(lines.Take() == "MAXKV\n", "without an application object it is a line");
+    Expect(ErrorsOf([] { FetchFullTable(L"Uno"); }) == "MAXKV\n",
+           "without an application object it is a line");
     Expect(QCoreApplication::instance() == nullptr, "and none is made for it");
 
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
@@ -222,8 +209,8 @@ void RunMessages(int& argc, char** argv)
         Expect(box != nullptr && box->text() == "MAXKV", "the window is the message");
         ++boxes;
     });
-    FetchFullTable(L"Due");
-    Expect(boxes == 1 && lines.Take().empty(), "with windows it is a box before any dialog");
+    const std::string lines = ErrorsOf([] { FetchFullTable(L"Due"); });
+    Expect(boxes == 1 && lines.empty(), "with windows it is a box before any dialog");
 }
 
 void MakeScreen(const QTemporaryDir& folder, const char* width, const char* height)

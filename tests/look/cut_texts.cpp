@@ -19,7 +19,6 @@
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
 #include <QTabBar>
-#include <QTableView>
 #include <QTreeView>
 
 namespace {

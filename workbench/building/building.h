@@ -32,6 +32,9 @@ struct CSizeLimits
     double tiefeMax = 0.0;
 };
 
+/// Stands for "no limit" on a depth.
+inline constexpr double kAnyDepth = 20000.0;
+
 /// A valve in the catalogues: the folder name of its maker and its ident of 36 digits.
 struct CValveKey
 {

@@ -90,7 +90,15 @@ int OpenLock(const std::filesystem::path& path, bool& writable)
     constexpr int kFlags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
     const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | kFlags, 0666);
     writable = descriptor >= 0;
-    return writable || errno != EACCES ? descriptor : open(path.c_str(), O_RDONLY | kFlags);
+    if (writable || errno != EACCES) {
+        return descriptor;
+    }
+    const int readable = open(path.c_str(), O_RDONLY | kFlags);
+    if (readable < 0 && errno == ENOENT) {
+        // There is no lock to be read, and none may be made.
+        errno = EACCES;
+    }
+    return readable;
 }
 
 /// False if the file was taken away, or another one took its place, after it was opened.

@@ -9,6 +9,10 @@
 #include <cerrno>
 #include <system_error>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace workbench {
 
 namespace fs = std::filesystem;
@@ -54,6 +58,16 @@ bool HoldsOther(const CString& path, const CString& fingerprint)
     } catch (const CContentException&) {
         return true;
     }
+}
+
+bool IsWriteProtected(const CString& path)
+{
+    constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
+    const fs::path file = ResolvePath(path);
+    struct stat status = {};
+    return stat(file.c_str(), &status) == 0 &&
+           ((status.st_mode & kAnyWriteBit) == 0 ||
+            faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0);
 }
 
 } // namespace workbench

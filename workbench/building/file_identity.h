@@ -24,4 +24,7 @@ CString FingerprintOf(std::string_view bytes);
 /// of the fingerprint. A file that cannot be read counts as such.
 bool HoldsOther(const CString& path, const CString& fingerprint);
 
+/// Whether there is such a file and this user may not write to it, or nobody may.
+bool IsWriteProtected(const CString& path);
+
 } // namespace workbench

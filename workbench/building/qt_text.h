@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/text.h"
+#include "workbench/building/user_text.h"
 
 #include <QString>
 
@@ -15,6 +15,16 @@ inline QString ToQt(const CString& text)
 inline CString FromQt(const QString& text)
 {
     return text.toStdWString();
+}
+
+inline QString WattText(double watts)
+{
+    return ToQt(FormatWatts(watts));
+}
+
+inline QString SystemText(const CHeatingSystem& system)
+{
+    return ToQt(FormatSystem(system));
 }
 
 } // namespace workbench

@@ -18,13 +18,10 @@ namespace {
 constexpr auto kLine = CJsonWriter::Layout::line;
 
 /// No room of a building reaches these; beyond them a unit was mistaken.
-constexpr double kLargestLength = 20000.0;
+constexpr double kLargestLength = kAnyDepth;
 constexpr double kLargestDemand = 50000.0;
 constexpr double kLargestSide = 1e6;
 constexpr double kFarthest = 1e9;
-
-/// Stands for "no limit" on a depth.
-constexpr double kAnyDepth = kLargestLength;
 
 /// In mm; decimal fractions do not add up exactly.
 constexpr double kRounding = 1e-6;

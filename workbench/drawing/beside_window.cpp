@@ -27,7 +27,9 @@ CBesideWindow::CBesideWindow(CPlanView& view, const QRectF& inSight)
 
 CBesideWindow::~CBesideWindow()
 {
-    m_view.KeepFree(0, m_inSight);
+    if (m_bNarrowed) {
+        m_view.KeepFree(0, m_inSight);
+    }
 }
 
 /// Left edge of the dialog: right of the view or left of it, or else at the screen's right edge.
@@ -44,6 +46,7 @@ int CBesideWindow::PlaceFor(const QWidget& dialog)
     if (left >= room.left()) {
         return left;
     }
+    m_bNarrowed = true;
     m_view.KeepFree(std::clamp(right - furthest, 0, std::max(view.width() - kLeastView, 0)),
                     m_inSight);
     return std::max(furthest, room.left());

@@ -24,6 +24,8 @@ private:
 
     CPlanView& m_view;
     QRectF m_inSight;
+    /// The view has made room.
+    bool m_bNarrowed = false;
 };
 
 } // namespace workbench

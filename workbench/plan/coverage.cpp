@@ -1,6 +1,6 @@
 #include "workbench/plan/coverage.h"
 
-#include "platform/format.h"
+#include "workbench/building/user_text.h"
 #include "workbench/plan/placement.h"
 
 #include <algorithm>
@@ -24,29 +24,12 @@ bool ExceedsLimit(const CBuilding& building, const CRoom& room)
     return 100.0 * (OutputOf(room) - asked) > building.ueberschussMax * asked;
 }
 
-CString Percent(double part, double whole)
-{
-    return FormatFixed(100.0 * part / whole, 1) + L" %";
-}
-
-CString Joined(const CString& a, const CString& b)
-{
-    return a + (a.empty() || b.empty() ? L"" : L"; ") + b;
-}
-
-CString DescribeLack(const CRoom& room)
-{
-    const double missing = RemainderOf(room);
-    return L"mancano " + FormatFixed(missing, 0) + L" W (" + Percent(missing, room.GetLeistung()) +
-           L")";
-}
-
 CString DescribeSurplus(const CBuilding& building, const CRoom& room)
 {
     const double asked = room.GetLeistung();
-    return FormatFixed(-RemainderOf(room), 0) + L" W in più (" +
-           Percent(OutputOf(room) - asked, asked) + L", limite " +
-           FormatExact(building.ueberschussMax) + L" %)";
+    return FormatWatts(-RemainderOf(room)) + L" in più (" +
+           FormatPercent(100.0 * (OutputOf(room) - asked) / asked) + L", limite " +
+           FormatNumber(building.ueberschussMax) + L" %)";
 }
 
 /// What does not fit, and what that leaves of the demand.
@@ -59,7 +42,8 @@ CString DescribeTooLarge(const CBuilding& building, const CRoom& room)
         text = Joined(text, isNamed ? radiator.strTyp + L": " + excess : excess);
     }
     const bool isLacking = OutputOf(room) < WeakestOutput(room.GetLeistung());
-    return Joined(text, isLacking ? DescribeLack(room) : CString());
+    return Joined(text,
+                  isLacking ? DescribeLack(RemainderOf(room), room.GetLeistung()) : CString());
 }
 
 } // namespace
@@ -141,13 +125,19 @@ CString DescribeCoverage(const CBuilding& building, const CRoom& room)
         break;
     case Coverage::lacking:
     case Coverage::empty:
-        return DescribeLack(room);
+        return DescribeLack(RemainderOf(room), room.GetLeistung());
     case Coverage::tooLarge:
         return DescribeTooLarge(building, room);
     case Coverage::oversized:
         return DescribeSurplus(building, room);
     }
     return {};
+}
+
+CString DescribeLack(double missing, double asked)
+{
+    return L"mancano " + FormatWatts(missing) + L" (" + FormatPercent(100.0 * missing / asked) +
+           L")";
 }
 
 CString DescribeExcess(const CBuilding& building, const CRoom& room,

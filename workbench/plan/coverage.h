@@ -52,6 +52,9 @@ CString GetCoverageText(Coverage coverage);
 /// What a room lacks or has too much of, in figures; empty for one that is as it should be.
 CString DescribeCoverage(const CBuilding& building, const CRoom& room);
 
+/// What is missing of the output that is asked for, both in watts: "mancano 350 W (35,0 %)".
+CString DescribeLack(double missing, double asked);
+
 /// What of a radiator is beyond its place, for example "altezza 900 mm, consentiti 720 mm"; empty
 /// if it fits.
 CString DescribeExcess(const CBuilding& building, const CRoom& room,

@@ -1,6 +1,6 @@
 #include "workbench/plan/new_room.h"
-
-#include "platform/format.h"
+#include "workbench/building/user_text.h"
+#include "workbench/plan/plan_edit.h"
 
 #include <algorithm>
 
@@ -11,22 +11,21 @@ namespace {
 constexpr CHeatingSystem kUsualSystem{70.0, 55.0};
 constexpr CClearance kUsualClearance{100.0, 80.0};
 constexpr double kInnerWall = 100.0;
-/// Stands for "no limit" on a depth, as where a building's file names none.
-constexpr double kAnyDepth = 20000.0;
-
-bool HasRoom(const CBuilding& building, const CString& name)
-{
-    return std::ranges::any_of(building.floors, [&](const CFloor& floor) {
-        return std::ranges::any_of(floor.rooms,
-                                   [&](const auto& room) { return room->strName == name; });
-    });
-}
+/// Ground that a window keeps before it.
+constexpr double kFreeGround = 2000.0;
 
 CFloor& FloorOf(CBuilding& building, const CString& name)
 {
     const auto found = std::ranges::find(building.floors, name, &CFloor::strName);
     return found != building.floors.end() ? *found
                                           : building.floors.emplace_back(CFloor{name, {}, {}});
+}
+
+bool HasWindowTo(Wall wall, const CRoom& room)
+{
+    return std::ranges::any_of(room.plaetze, [wall](const CRadiatorPlace& place) {
+        return place.art == PlaceKind::window && place.wand == wall;
+    });
 }
 
 CFloorRect EastOf(const CFloor& floor, const CNewRoom& room)
@@ -37,7 +36,8 @@ CFloorRect EastOf(const CFloor& floor, const CNewRoom& room)
     }
     for (const auto& other : floor.rooms) {
         const CFloorRect& taken = other->grundriss;
-        rect.x = std::max(rect.x, taken.x + taken.breite + kInnerWall);
+        rect.x = std::max(rect.x, taken.x + taken.breite +
+                                      (HasWindowTo(Wall::ost, *other) ? kFreeGround : kInnerWall));
         rect.y = std::min(rect.y, taken.y);
     }
     return rect;
@@ -73,7 +73,7 @@ CString FindFault(const CBuilding& building, const CNewRoom& room)
     if (room.strName.empty()) {
         return L"Manca il nome del locale.";
     }
-    if (HasRoom(building, room.strName)) {
+    if (FindRoom(building, room.strName)) {
         return L"C'è già un locale con questo nome.";
     }
     if (room.strFloor.empty()) {
@@ -81,7 +81,7 @@ CString FindFault(const CBuilding& building, const CNewRoom& room)
     }
     if (room.raumtemperatur >= building.system.ruecklauf) {
         return L"La temperatura deve stare sotto il ritorno, " +
-               FormatExact(building.system.ruecklauf) + L" °C.";
+               FormatNumber(building.system.ruecklauf) + L" °C.";
     }
     if (room.fensterBreite > room.breite) {
         return L"La finestra è più larga del locale.";

@@ -26,8 +26,8 @@ CBuilding MakeBuilding(const CString& name);
 CString FindFault(const CBuilding& building, const CNewRoom& room);
 
 /// Adds the room, which must have no fault, to the floor of that name, a new one if there is none,
-/// east of its others. It wishes for the product of the last room there, or of the first floor that
-/// has rooms, and for the building's valves.
+/// east of its others and off their windows. It wishes for the product of the last room there, or
+/// of the first floor that has rooms, and for the building's valves.
 void AddRoom(CBuilding& building, const CNewRoom& room);
 
 } // namespace workbench

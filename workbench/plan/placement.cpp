@@ -1,4 +1,5 @@
 #include "workbench/plan/placement.h"
+#include "workbench/building/user_text.h"
 
 #include "platform/format.h"
 
@@ -54,7 +55,7 @@ CPlaceLine InMetres(const CPlaceLine& line)
 
 CString Millimetres(double value)
 {
-    return FormatExact(value) + L" mm";
+    return FormatNumber(value) + L" mm";
 }
 
 /// The narrowest free place of the kind that the row fits.

@@ -45,6 +45,21 @@ private:
     std::map<double, double> m_factors;
 };
 
+/// Each once, from the last one on, so that those to come keep their index when one is taken out.
+template <class Ref>
+std::vector<Ref> Falling(std::vector<Ref> refs)
+{
+    std::ranges::sort(refs, std::greater<>());
+    refs.erase(std::unique(refs.begin(), refs.end()), refs.end());
+    return refs;
+}
+
+template <class Items>
+void TakeOut(Items& items, std::size_t index)
+{
+    items.erase(items.begin() + static_cast<std::ptrdiff_t>(index));
+}
+
 CRoom RoomAt(const CRoom& room, double factor)
 {
     CRoom result = room;
@@ -76,6 +91,21 @@ const CRoom& RoomOf(const CBuilding& building, const CRoomRef& ref)
 const CPlacedRadiator& RadiatorOf(const CBuilding& building, const CRadiatorRef& ref)
 {
     return RoomOf(building, ref.room).heizkoerper.at(ref.nRadiator);
+}
+
+bool IsSameRoom(const CBuilding& a, const CBuilding& b, const CRoomRef& ref)
+{
+    return Exists(a, ref) && Exists(b, ref) &&
+           a.floors[ref.nFloor].strName == b.floors[ref.nFloor].strName &&
+           RoomOf(a, ref).strName == RoomOf(b, ref).strName;
+}
+
+std::optional<CRoomRef> FindRoom(const CBuilding& building, const CString& name)
+{
+    const std::vector<CRoomRef> rooms = AllRooms(building);
+    const auto found = std::ranges::find_if(
+        rooms, [&](const CRoomRef& ref) { return RoomOf(building, ref).strName == name; });
+    return found != rooms.end() ? std::optional(*found) : std::nullopt;
 }
 
 std::vector<CRoomRef> AllRooms(const CBuilding& building)
@@ -111,18 +141,23 @@ void ReplaceRadiator(CBuilding& building, const CRadiatorRef& ref, CPlacedRadiat
 
 void RemoveRadiators(CBuilding& building, const std::vector<CRadiatorRef>& refs)
 {
-    // From the last one on, so that those to come keep their index.
-    std::vector<CRadiatorRef> falling = refs;
-    std::ranges::sort(falling, std::greater<>());
-    falling.erase(std::unique(falling.begin(), falling.end()), falling.end());
-    for (const CRadiatorRef& ref : falling) {
+    for (const CRadiatorRef& ref : Falling(refs)) {
         if (Exists(building, ref)) {
             CRoom room = RoomOf(building, ref.room);
-            room.heizkoerper.erase(room.heizkoerper.begin() +
-                                   static_cast<std::ptrdiff_t>(ref.nRadiator));
+            TakeOut(room.heizkoerper, ref.nRadiator);
             ReplaceRoom(building, ref.room, std::move(room));
         }
     }
+}
+
+void RemoveRooms(CBuilding& building, const std::vector<CRoomRef>& refs)
+{
+    for (const CRoomRef& ref : Falling(refs)) {
+        if (Exists(building, ref)) {
+            TakeOut(building.floors[ref.nFloor].rooms, ref.nRoom);
+        }
+    }
+    std::erase_if(building.floors, [](const CFloor& floor) { return floor.rooms.empty(); });
 }
 
 void ChangeSystem(CBuilding& building, const CHeatingSystem& system)

@@ -4,6 +4,7 @@
 
 #include <compare>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace workbench {
@@ -33,6 +34,12 @@ bool Exists(const CBuilding& building, const CRadiatorRef& ref);
 const CRoom& RoomOf(const CBuilding& building, const CRoomRef& ref);
 const CPlacedRadiator& RadiatorOf(const CBuilding& building, const CRadiatorRef& ref);
 
+/// True if both buildings have a room of the same name on the same floor there.
+bool IsSameRoom(const CBuilding& a, const CBuilding& b, const CRoomRef& ref);
+
+/// The room of that name; nothing if there is none.
+std::optional<CRoomRef> FindRoom(const CBuilding& building, const CString& name);
+
 /// All rooms of the building, floor by floor.
 std::vector<CRoomRef> AllRooms(const CBuilding& building);
 
@@ -46,6 +53,10 @@ void ReplaceRadiator(CBuilding& building, const CRadiatorRef& ref, CPlacedRadiat
 
 /// Takes radiators out; those that do not exist are passed over.
 void RemoveRadiators(CBuilding& building, const std::vector<CRadiatorRef>& refs);
+
+/// Takes rooms out, and the floors that have none left; those that do not exist are passed over. A
+/// building's file needs one room at least.
+void RemoveRooms(CBuilding& building, const std::vector<CRoomRef>& refs);
 
 /// Gives the building another heating system: the output of every radiator, whatever its catalogue,
 /// becomes the one that the module computes for it at these temperatures. The return must be warmer

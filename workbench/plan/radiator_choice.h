@@ -21,9 +21,15 @@ struct CRadiatorChoice
     std::optional<CString> block;
     /// The temperatures that the user set in the dialog; nothing if he left those of the wish.
     std::optional<CHeatingSystem> system = std::nullopt;
+    /// The room temperature that he set there, in degrees Celsius; nothing if he left that of the
+    /// room.
+    std::optional<double> raumtemperatur = std::nullopt;
     /// What the user confirmed in the dialogs behind it.
     CConfirmedStart start = {};
 };
+
+/// A row in a few words: "C 22, 600 x 100 x 800 mm, 912 W".
+CString DescribeRow(const CString& typ, const HK_DATEN_VDI3805& daten);
 
 /// The choice that a radiator of the plan stands for.
 inline CRadiatorChoice ChoiceOf(const CPlacedRadiator& radiator)

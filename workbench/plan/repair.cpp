@@ -1,6 +1,7 @@
 #include "workbench/plan/repair.h"
 
 #include "platform/format.h"
+#include "workbench/building/user_text.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/placement.h"
 #include "workbench/plan/stronger_types.h"
@@ -194,16 +195,9 @@ private:
     std::optional<CRoomOutcome> m_failure;
 };
 
-CString Joined(const CString& a, const CString& b, const CString& separator)
-{
-    return a + (a.empty() || b.empty() ? CString() : separator) + b;
-}
-
 CString NameOf(const CPlacedRadiator& radiator)
 {
-    const HK_DATEN_VDI3805& daten = radiator.daten;
-    return radiator.strTyp + L", " + FormatExact(daten.Hoehe) + L" x " + FormatExact(daten.Tiefe) +
-           L" x " + FormatExact(daten.Laenge) + L" mm, " + FormatFixed(daten.Leistung, 0) + L" W";
+    return DescribeRow(radiator.strTyp, radiator.daten);
 }
 
 /// What is in the room now and was not before; empty if it is as it was.
@@ -216,16 +210,12 @@ CString DescribeChanges(const CRoom& before, const CRoom& after)
     for (std::size_t i = 0; i < after.heizkoerper.size(); ++i) {
         const CPlacedRadiator& radiator = after.heizkoerper[i];
         if (i >= before.heizkoerper.size()) {
-            text = Joined(text,
-                          L"aggiunto al posto " +
-                              FormatInt(static_cast<long long>(radiator.nPlatz) + 1) + L" " +
-                              NameOf(radiator),
-                          L"; ");
+            text = Joined(text, L"aggiunto al posto " +
+                                    FormatInt(static_cast<long long>(radiator.nPlatz) + 1) + L" " +
+                                    NameOf(radiator));
         } else if (!IsSameRow(before.heizkoerper[i], ChoiceOf(radiator))) {
-            text = Joined(text,
-                          NameOf(radiator) + L" invece di " + before.heizkoerper[i].strTyp + L", " +
-                              FormatFixed(before.heizkoerper[i].daten.Leistung, 0) + L" W",
-                          L"; ");
+            text = Joined(text, NameOf(radiator) + L" invece di " + before.heizkoerper[i].strTyp +
+                                    L", " + FormatWatts(before.heizkoerper[i].daten.Leistung));
         }
     }
     return text;
@@ -242,7 +232,7 @@ CString DescribeFailure(const CBuilding& building, const CRoom& room, const CStr
 {
     const bool isPicked = std::ranges::any_of(room.heizkoerper, &CPlacedRadiator::bVonHand);
     const CString reason = failure.empty() && isPicked ? L"scelto a mano" : failure;
-    return L"non cambia, " + Joined(DescribeState(building, room), reason, L"; ");
+    return L"non cambia, " + Joined(DescribeState(building, room), reason);
 }
 
 bool NeedsRepair(const CBuilding& building, const CRoomRef& ref)

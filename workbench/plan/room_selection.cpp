@@ -2,7 +2,6 @@
 
 #include "frame/entry_points.h"
 #include "host/host_catalog.h"
-#include "platform/format.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/module_call.h"
 #include "workbench/plan/placement.h"
@@ -87,21 +86,16 @@ std::vector<CString> FindLacks(const CRadiatorWish& wish, const HK_DATEN_VDI3805
 {
     std::vector<CString> lacks = FindExcess(wish.grenzen, daten);
     if (daten.Leistung < WeakestOutput(wish.leistung)) {
-        const double missing = wish.leistung - daten.Leistung;
-        lacks.push_back(L"mancano " + FormatFixed(missing, 0) + L" W (" +
-                        FormatFixed(100.0 * missing / wish.leistung, 1) + L" %)");
+        lacks.push_back(DescribeLack(wish.leistung - daten.Leistung, wish.leistung));
     }
     return lacks;
 }
 
 CString DescribeNearest(const CRadiatorWish& wish, const CRadiatorChoice& nearest)
 {
-    const HK_DATEN_VDI3805& daten = nearest.daten;
-    CString text = L"il più vicino è " + nearest.strTyp + L", " + FormatExact(daten.Hoehe) +
-                   L" x " + FormatExact(daten.Tiefe) + L" x " + FormatExact(daten.Laenge) +
-                   L" mm, " + FormatFixed(daten.Leistung, 0) + L" W";
+    CString text = L"il più vicino è " + DescribeRow(nearest.strTyp, nearest.daten);
     CString separator = L": ";
-    for (const CString& lack : FindLacks(wish, daten)) {
+    for (const CString& lack : FindLacks(wish, nearest.daten)) {
         text += separator + lack;
         separator = L"; ";
     }

@@ -55,12 +55,15 @@ void NarrowToProduct(HK_DATEN_VDI3805_UEBERGABE& handover)
     Narrow(depths, handover.TiefeMin, handover.TiefeMax);
 }
 
-/// What the room's other radiators give. Exactly 0 tells the dialog that it chooses the first of
-/// several and makes it start with half the demand; a radiator that is to give all that is left is
-/// asked for with the least that is not 0.
+/// What the room's other radiators give, as far as it is asked for: the dialog would open with less
+/// than 0 W. Exactly 0 tells it that it chooses the first of several and makes it start with half
+/// the demand; a radiator that is to give all that is left is asked for with the least that is not
+/// 0.
 double CoveredFor(const CRadiatorWish& wish)
 {
-    return wish.gedeckt == 0.0 && !wish.bErster ? std::numeric_limits<double>::min() : wish.gedeckt;
+    const double covered = std::min(wish.gedeckt, wish.bedarf);
+    const bool isWhole = covered == 0.0 && wish.bedarf > 0.0 && !wish.bErster;
+    return isWhole ? std::numeric_limits<double>::min() : covered;
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "platform/file_fault.h"
 #include "platform/format.h"
 #include "reference_host/files/short_list_check.h"
+#include "workbench/building/user_text.h"
 #include "workbench/program/arguments.h"
 
 #include <cmath>
@@ -99,7 +100,7 @@ CString DescribeDirection(const ConnVector& winkel)
     if (winkel[0] == 0.0 && winkel[1] == 270.0) {
         return L"tubo verso il basso";
     }
-    return L"tubo con angoli " + FormatExact(winkel[0]) + L"° e " + FormatExact(winkel[1]) + L"°";
+    return L"tubo con angoli " + FormatNumber(winkel[0]) + L"° e " + FormatNumber(winkel[1]) + L"°";
 }
 
 CString DescribePunkt(const CPunkt& punkt)

@@ -4,6 +4,7 @@
 #include "platform/encoding.h"
 #include "platform/file_fault.h"
 #include "platform/format.h"
+#include "workbench/building/user_text.h"
 #include "workbench/drawing/beside_window.h"
 #include "workbench/drawing/drawing_blocks.h"
 #include "workbench/drawing/plan_view.h"
@@ -59,7 +60,7 @@ bool Edit(CConnectionChoice& choice, std::ostream& err)
 
 CString Meters(double value)
 {
-    return FormatFixed(value, 3) + L" m";
+    return FormatDecimals(value, 3) + L" m";
 }
 
 CString YesNo(bool value)

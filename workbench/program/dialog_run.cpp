@@ -1,7 +1,7 @@
 #include "workbench/program/dialog_run.h"
 
-#include "reference_host/base/dialog_parts.h"
-#include "reference_host/base/qt_application.h"
+#include "host_defaults/dialogs/dialog_parts.h"
+#include "host_defaults/dialogs/qt_application.h"
 #include "reference_host/catalog/help_pages.h"
 #include "workbench/building/qt_text.h"
 #include "workbench/program/exit_code.h"
@@ -32,7 +32,7 @@ void OnStartMessage(QtMsgType type, const QMessageLogContext& context, const QSt
 void TellAboutHelp(const CString& text)
 {
     QMessageBox box(QMessageBox::Warning, "Guida", {}, QMessageBox::Ok,
-                    reference_host::ParentForDialog());
+                    host_defaults::ParentForDialog());
     box.setTextFormat(Qt::PlainText);
     box.setText(ToQt(text));
     box.exec();
@@ -43,7 +43,7 @@ void TellAboutHelp(const CString& text)
 void StartWindows()
 {
     g_messageHandlerBefore = qInstallMessageHandler(OnStartMessage);
-    reference_host::EnsureWindows();
+    host_defaults::EnsureWindows();
     qInstallMessageHandler(g_messageHandlerBefore);
     reference_host::SetHelpTeller(TellAboutHelp);
 }

@@ -135,7 +135,7 @@ std::optional<fs::path> InstalledDataFolder()
 {
     std::error_code error;
     const fs::path program = fs::read_symlink("/proc/self/exe", error);
-    const fs::path data = program.parent_path().parent_path() / "share" / "radsel";
+    const fs::path data = (program.parent_path() / RADSEL_WAY_TO_DATA).lexically_normal();
     return fs::is_directory(data / "catalogues", error) ? std::optional(data) : std::nullopt;
 }
 

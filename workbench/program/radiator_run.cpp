@@ -19,11 +19,9 @@ namespace {
 CString DescribeRadiator(const CString& room, const CRadiatorChoice& chosen)
 {
     const CRadiatorProduct& produkt = chosen.produkt;
-    const HK_DATEN_VDI3805& daten = chosen.daten;
     return room + L": " + produkt.strHersteller + L" / " + produkt.strArt + L" / " +
-           produkt.strProdukt + L" / " + chosen.strTyp + L", " + FormatExact(daten.Hoehe) + L" x " +
-           FormatExact(daten.Tiefe) + L" x " + FormatExact(daten.Laenge) + L" mm, " +
-           FormatFixed(daten.Leistung, 0) + L" W, layer " + chosen.layer->strName;
+           produkt.strProdukt + L" / " + DescribeRow(chosen.strTyp, chosen.daten) + L", layer " +
+           chosen.layer->strName;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "workbench/report/plan_drawing.h"
 
 #include "platform/format.h"
+#include "workbench/building/user_text.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/placement.h"
 #include "workbench/report/block_collection.h"
@@ -43,6 +44,7 @@ CDxfPoint At(double x, double y)
     return {Rounded(x), Rounded(y)};
 }
 
+/// With the plain minus sign: fonts of drawings often lack the true one.
 CString Watt(double value)
 {
     return FormatFixed(value, 0) + L" W";
@@ -83,10 +85,8 @@ public:
     void DrawTitle(const CFloor& floor, const QRectF& bounds)
     {
         const double left = bounds.left() + m_dx;
-        const CString system = FormatExact(m_building.system.vorlauf) + L"/" +
-                               FormatExact(m_building.system.ruecklauf) + L" °C";
         AddText(kLayerTexts, At(left, bounds.bottom() + 1.0), kSubtitleHeight, 0.0, DxfAlign::left,
-                m_building.strName + L", " + system);
+                m_building.strName + L", " + FormatSystem(m_building.system) + L" °C");
         AddText(kLayerTexts, At(left, bounds.bottom() + 1.0 + 2.0 * kSubtitleHeight), kTitleHeight,
                 0.0, DxfAlign::left, floor.strName);
     }

@@ -1,8 +1,8 @@
 #include "workbench/report/plan_files.h"
 
+#include "host_defaults/dialogs/qt_application.h"
 #include "platform/path.h"
 #include "platform/whole_file.h"
-#include "reference_host/base/qt_application.h"
 #include "workbench/drawing/drawing_blocks.h"
 #include "workbench/report/plan_dxf.h"
 #include "workbench/report/plan_pdf.h"
@@ -21,7 +21,7 @@ void EnsurePages()
 {
     if (QCoreApplication::instance() == nullptr) {
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
-        reference_host::EnsureWindows();
+        host_defaults::EnsureWindows();
     }
 }
 

@@ -6,7 +6,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 #include <vector>
 
@@ -25,13 +24,6 @@ constexpr double kPointHeight = 0.46;
 
 /// Between a room's walls and its texts.
 constexpr double kEdge = 0.6;
-
-QString Watt(double value)
-{
-    const double whole = std::round(value);
-    return (whole < 0.0 ? QStringLiteral("\u2212") : QString()) +
-           QString::number(std::fabs(whole), 'f', 0) + " W";
-}
 
 /// Each size of a text is this share of the one before.
 constexpr double kShrink = 0.92;
@@ -140,9 +132,9 @@ private:
     CLabel Figures(double points) const
     {
         const CTextLook look{points, false, kInk, Qt::AlignHCenter};
-        CLabel figures = {{"Fabbisogno " + Watt(m_room.bedarf), look},
-                          {"Coperto " + Watt(CoveredOf(m_room)), look},
-                          {"Resto " + Watt(RemainderOf(m_room)), look}};
+        CLabel figures = {{"Fabbisogno " + WattText(m_room.bedarf), look},
+                          {"Coperto " + WattText(CoveredOf(m_room)), look},
+                          {"Resto " + WattText(RemainderOf(m_room)), look}};
         figures.back().look.farbe = PrintInkOf(m_coverage);
         figures.back().look.bFett = true;
         return figures;
@@ -266,7 +258,7 @@ void PaintRadiatorNumber(CReportSheet& sheet, const QString& number, double outp
                          const CSpaceAlong& space, double away)
 {
     const CTextLook look{kNumberPoints, true, kInk, Qt::AlignHCenter};
-    for (const QString& text : {number + QStringLiteral(" · ") + Watt(output), number}) {
+    for (const QString& text : {number + QStringLiteral(" · ") + WattText(output), number}) {
         const double half = sheet.WidthOf(text, look) / 2;
         const double spare = (space.dBefore + space.dBehind) / 2 - half;
         if (spare >= 0.0) {

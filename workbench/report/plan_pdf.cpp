@@ -39,16 +39,6 @@ constexpr int kSmallPaperScale = 100;
 const QColor kGrey(98, 106, 116);
 const QColor kAccent(176, 58, 20);
 
-QString Degrees(double value)
-{
-    return QString::number(value).replace('.', ',');
-}
-
-QString Watt(double value)
-{
-    return QString::number(value, 'f', 0) + " W";
-}
-
 QString DayText(const QDate& date)
 {
     return date.toString("dd/MM/yyyy");
@@ -291,17 +281,16 @@ private:
     Facts PlantFacts() const
     {
         const CScheduleTotals& totals = m_schedule.totals;
-        const CHeatingSystem& system = m_building.system;
-        return {{"Impianto", Degrees(system.vorlauf) + "/" + Degrees(system.ruecklauf) +
-                                 QStringLiteral(" °C (mandata/ritorno)")},
-                {"Piani", QString::number(m_building.floors.size())},
-                {"Locali", QString::number(totals.nRooms)},
-                {"Corpi scaldanti", QString::number(totals.nHeizkoerper)},
-                {"Fabbisogno", Watt(totals.bedarf)},
-                {"Richiesto ai corpi scaldanti", Watt(totals.required)},
-                {"Resa di progetto", Watt(totals.leistung)},
-                {"Locali aperti",
-                 totals.nOpen == 0 ? QString("nessuno") : QString::number(totals.nOpen)}};
+        return {
+            {"Impianto", SystemText(m_building.system) + QStringLiteral(" °C (mandata/ritorno)")},
+            {"Piani", QString::number(m_building.floors.size())},
+            {"Locali", QString::number(totals.nRooms)},
+            {"Corpi scaldanti", QString::number(totals.nHeizkoerper)},
+            {"Fabbisogno", WattText(totals.bedarf)},
+            {"Richiesto ai corpi scaldanti", WattText(totals.required)},
+            {"Resa di progetto", WattText(totals.leistung)},
+            {"Locali da sistemare",
+             totals.nOpen == 0 ? QString("nessuno") : QString::number(totals.nOpen)}};
     }
 
     void PaintFloor(CReportSheet& sheet, std::size_t floor) const
@@ -310,10 +299,11 @@ private:
         const CScheduleTotals& totals = m_schedule.floors[floor].totals;
         sheet.Text({area.left(), area.top(), area.width() / 2, 8.0},
                    ToQt(m_building.floors[floor].strName), {16.0, true, kInk, Qt::AlignLeft});
-        sheet.Text({area.left(), area.top() + 7.5, area.width() - 20.0, 5.0},
-                   QString("Fabbisogno %1, richiesto %2, resa %3")
-                       .arg(Watt(totals.bedarf), Watt(totals.required), Watt(totals.leistung)),
-                   {8.0, false, kGrey, Qt::AlignLeft});
+        sheet.Text(
+            {area.left(), area.top() + 7.5, area.width() - 20.0, 5.0},
+            QString("Fabbisogno %1, richiesto %2, resa %3")
+                .arg(WattText(totals.bedarf), WattText(totals.required), WattText(totals.leistung)),
+            {8.0, false, kGrey, Qt::AlignLeft});
         const QRectF plan = PlanArea();
         m_pictures[floor].Paint(sheet, plan, m_pictures[floor].GetScale(plan.size()));
     }

@@ -1,6 +1,5 @@
 #include "workbench/report/plan_tables.h"
 
-#include "platform/format.h"
 #include "workbench/building/qt_text.h"
 #include "workbench/report/plan_picture.h"
 #include "workbench/schedule/schedule_columns.h"
@@ -10,26 +9,25 @@ namespace workbench {
 namespace {
 
 /// A number as Italians write it.
-QString FormatNumber(const CNumberForm& form, double value)
+QString NumberText(const CNumberForm& form, double value)
 {
     if (form.bHideZero && value <= 0.0) {
         return {};
     }
-    const QString number = form.nDecimals == kAllDecimals
-                               ? ToQt(FormatExact(value))
-                               : QString::number(value, 'f', form.nDecimals);
-    return QString(form.bSign && value > 0.0 ? "+" : "") + QString(number).replace('.', ',');
+    return (form.bSign && value > 0.0 ? "+" : "") +
+           ToQt(form.nDecimals == kAllDecimals ? FormatNumber(value)
+                                               : FormatDecimals(value, form.nDecimals));
 }
 
 QString FormatCell(const CNumberForm& form, const CCell& cell)
 {
     if (const auto* const number = std::get_if<double>(&cell)) {
-        return FormatNumber(form, *number);
+        return NumberText(form, *number);
     }
     if (const auto* const size = std::get_if<CMeasures>(&cell)) {
         return QStringLiteral("%1 × %2 × %3")
-            .arg(FormatNumber({}, size->hoehe), FormatNumber({}, size->tiefe),
-                 FormatNumber({}, size->laenge));
+            .arg(NumberText({}, size->hoehe), NumberText({}, size->tiefe),
+                 NumberText({}, size->laenge));
     }
     const auto* const text = std::get_if<CString>(&cell);
     return text ? ToQt(*text) : QString();
@@ -117,7 +115,7 @@ CReportTable MakeScheduleTable(const CSchedule& schedule)
 CReportTable MakeOpenRoomsTable(const CSchedule& schedule)
 {
     constexpr Output output = Output::paperOpen;
-    CReportTable table = MakeTable("Locali aperti", ScheduleColumns(), output);
+    CReportTable table = MakeTable("Locali da sistemare", ScheduleColumns(), output);
     for (const CScheduleFloor& floor : schedule.floors) {
         for (const CScheduleRow& row : floor.rows) {
             if (row.bErster && IsOpen(row.outcome.status)) {

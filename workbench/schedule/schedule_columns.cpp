@@ -1,6 +1,7 @@
 #include "workbench/schedule/schedule_columns.h"
 
 #include "platform/format.h"
+#include "workbench/building/user_text.h"
 #include "workbench/schedule/valve_text.h"
 
 namespace workbench {
@@ -59,11 +60,6 @@ CColumnLook Marked(CColumnLook look, const wchar_t* none)
 {
     look.lpszNone = none;
     return look;
-}
-
-CString Joined(const CString& a, const CString& b, const CString& separator)
-{
-    return a.empty() || b.empty() ? a + b : a + separator + b;
 }
 
 /// Machines get a code that does not change with the user's language.
@@ -162,7 +158,7 @@ CString NotesOf(const CScheduleRow& row)
     CString notes = row.outcome.strNote;
     const auto add = [&notes](const wchar_t* label, const CString& note) {
         if (!note.empty()) {
-            notes = Joined(notes, label + note, L"; ");
+            notes = Joined(notes, label + note);
         }
     };
     add(L"mandata: ", row.ventile.vorlauf.strNote);
@@ -213,7 +209,7 @@ void AddRoom(Columns& columns)
         CScheduleColumn(NoValue)
             .Total(SumOf(&CScheduleTotals::nOpen))
             .Json("open")
-            .Looks({Number(Output::paperSums, L"Locali aperti", 24.0)}),
+            .Looks({Number(Output::paperSums, L"Da sistemare", 24.0)}),
         CScheduleColumn(NoValue).Total(SumOf(&CScheduleTotals::nChosen)).Json("chosen"),
     };
     columns.insert(columns.end(), room.begin(), room.end());
@@ -284,7 +280,8 @@ void AddProduct(Columns& columns)
                                      : GetStatusText(row.outcome.status);
         })
             .Total([](const CScheduleSum& sum) -> CCell {
-                return FormatInt(sum.totals.nHeizkoerper) + L" corpi scaldanti";
+                const int count = sum.totals.nHeizkoerper;
+                return FormatInt(count) + (count == 1 ? L" corpo scaldante" : L" corpi scaldanti");
             })
             .Looks({Text(Output::paper, L"Produttore, prodotto", 40.0)}),
     };

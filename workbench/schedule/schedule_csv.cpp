@@ -5,9 +5,13 @@
 #include "workbench/building/printable.h"
 #include "workbench/schedule/schedule_columns.h"
 
+#include <algorithm>
 #include <charconv>
+#include <cwctype>
 #include <functional>
+#include <initializer_list>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -36,27 +40,50 @@ bool IsNumber(const CString& text)
     return error == std::errc() && end == last;
 }
 
+/// With these, formulas begin.
+constexpr wchar_t kSigns[] = L"=+-@";
+
 /// Spreadsheets calculate a text that begins like a formula, and a file from a stranger could so
 /// reach out to the network. The sign in front of it makes it a text again; numbers stay.
 CString Defused(const CString& text)
 {
-    const bool isFormula = !text.empty() && CString(L"=+-@").find(text[0]) != CString::npos;
+    const bool isFormula = !text.empty() && CString(kSigns).find(text[0]) != CString::npos;
     return (isFormula && !IsNumber(text) ? L"'" : L"") + Printable(text);
 }
 
-/// True for digits with no more between them than stands in numbers, dates and times, which a
-/// spreadsheet would write anew in its own way: "0200010115…", "1.01", "12/3", "2E5".
-bool IsLikeANumber(const CString& text)
+bool IsTruthValue(const CString& text)
 {
-    return text.find_first_of(L"0123456789") != CString::npos &&
-           CString(L"0123456789+-.,").find(text[0]) != CString::npos &&
-           text.find_first_not_of(L"0123456789+-.,:/ %Ee") == CString::npos;
+    const auto isSame = [&text](std::wstring_view word) {
+        return std::ranges::equal(text, word, {}, [](wchar_t c) {
+            return static_cast<wchar_t>(std::towupper(static_cast<wint_t>(c)));
+        });
+    };
+    return std::ranges::any_of(
+        std::initializer_list<std::wstring_view>{L"VERO", L"FALSO", L"TRUE", L"FALSE"}, isSame);
+}
+
+/// True for whatever a spreadsheet might take for something else than a text and write anew in its
+/// own way. Numbers, dates and times in all their forms have a digit: "0200010115…", "1.01",
+/// "1-set", "3 mar", "2E5"; "#N/D" is an error.
+bool IsAtRisk(const CString& text)
+{
+    /// No formula holds a longer text, and nothing as long is anything but a text.
+    constexpr std::size_t longest = 255;
+    const auto isBlank = [](wchar_t c) { return std::iswspace(static_cast<wint_t>(c)) != 0; };
+    return !text.empty() && text.size() <= longest &&
+           (text.find_first_of(L"0123456789") != CString::npos || IsTruthValue(text) ||
+            (CString(kSigns) + L"#").find(text.front()) != CString::npos || isBlank(text.front()) ||
+            isBlank(text.back()));
 }
 
 /// A formula whose value is the text.
 CString Kept(const CString& text)
 {
-    return L"=\"" + text + L"\"";
+    CString quoted;
+    for (const wchar_t c : Printable(text)) {
+        quoted += c == L'"' ? L"\"\"" : CString(1, c);
+    }
+    return L"=\"" + quoted + L"\"";
 }
 
 /// Writes the lines of one file.
@@ -122,7 +149,7 @@ private:
 
     CString FormatText(const CString& text) const
     {
-        return m_form == CsvForm::spreadsheet && IsLikeANumber(text) ? Kept(text) : Defused(text);
+        return m_form == CsvForm::spreadsheet && IsAtRisk(text) ? Kept(text) : Defused(text);
     }
 
     CsvForm m_form;

@@ -8,8 +8,9 @@ namespace workbench {
 enum class CsvForm
 {
     /// A spreadsheet in Italy: it tells UTF-8 by the byte order mark, numbers by the comma, and
-    /// leaves a text alone that it would take for a number or a date, such as a valve's code of 36
-    /// digits or a room "1.01", since the field is a formula of that text.
+    /// leaves a text alone that it might take for a number, a date or a truth value, such as a
+    /// valve's code of 36 digits, a room "1.01" or "3 mar", since the field of every text with a
+    /// digit, and some more, is a formula of that text.
     spreadsheet,
     /// Programs: no mark, numbers with a point, codes as they are.
     plain,

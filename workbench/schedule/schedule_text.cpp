@@ -1,6 +1,7 @@
 #include "workbench/schedule/schedule_text.h"
 
 #include "platform/format.h"
+#include "workbench/building/user_text.h"
 #include "workbench/schedule/schedule_columns.h"
 #include "workbench/schedule/text_columns.h"
 #include "workbench/schedule/valve_text.h"
@@ -52,7 +53,7 @@ CString FormatSummary(const CScheduleTotals& totals)
     const int covered = totals.nRooms - totals.nChosen - totals.nOpen;
     return L"Locali: " + FormatInt(totals.nRooms) + L"; con corpo scaldante: " +
            FormatInt(totals.nChosen) + L"; già coperti: " + FormatInt(covered) +
-           L"; senza corpo scaldante adatto: " + FormatInt(totals.nOpen) + L".\n";
+           L"; da sistemare: " + FormatInt(totals.nOpen) + L".\n";
 }
 
 } // namespace
@@ -66,7 +67,7 @@ CString FormatScheduleText(const CSchedule& schedule, bool kvTables)
     AddSum(table, L"Totale dell'edificio", schedule.totals);
     const CString bill = FormatValveBill(MakeValveBill(schedule));
     return L"Corpi scaldanti: " + schedule.strBuilding + L", sistema " +
-           FormatExact(schedule.system.vorlauf) + L"/" + FormatExact(schedule.system.ruecklauf) +
+           FormatSystem(schedule.system) +
            L" °C\nFabbisogno, richiesta e resa in W; altezza x profondità x lunghezza in mm\n\n" +
            table.Format() + L"\n" + (bill.empty() ? bill : bill + L"\n") +
            FormatSummary(schedule.totals);

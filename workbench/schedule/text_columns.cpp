@@ -2,6 +2,7 @@
 
 #include "platform/format.h"
 #include "workbench/building/printable.h"
+#include "workbench/building/user_text.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -88,13 +89,13 @@ int TotalOf(const std::vector<int>& widths)
                            [](int sum, int width) { return sum + width + kGapWidth; });
 }
 
-CString FormatNumber(const CNumberForm& form, double value)
+CString NumberText(const CNumberForm& form, double value)
 {
     if (form.bHideZero && value <= 0.0) {
         return {};
     }
-    const CString number =
-        form.nDecimals == kAllDecimals ? FormatExact(value) : FormatFixed(value, form.nDecimals);
+    const CString number = form.nDecimals == kAllDecimals ? FormatNumber(value)
+                                                          : FormatDecimals(value, form.nDecimals);
     return form.bSign && value > 0.0 ? L"+" + number : number;
 }
 
@@ -133,7 +134,7 @@ CString PadToWidth(const CString& text, int width, bool right)
 CString FormatTextCell(const CNumberForm& form, const CCell& cell)
 {
     if (const auto* const number = std::get_if<double>(&cell)) {
-        return FormatNumber(form, *number);
+        return NumberText(form, *number);
     }
     if (const auto* const size = std::get_if<CMeasures>(&cell)) {
         return FormatFixed(size->hoehe, 0) + L" x " + FormatFixed(size->tiefe, 0, 3) + L" x " +

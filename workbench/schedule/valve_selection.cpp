@@ -9,6 +9,7 @@
 #include "platform/path.h"
 #include "reference_host/files/valve_file_check.h"
 #include "workbench/plan/module_call.h"
+#include "workbench/plan/new_radiator.h"
 #include "workbench/schedule/valve_check.h"
 
 #include <filesystem>
@@ -157,6 +158,11 @@ CRoomValves FetchValves(const CValveKeys& keys)
         }
     }
     return {FetchOne(keys.vorlauf), FetchOne(keys.ruecklauf)};
+}
+
+VDI3805_VENTIL_KV ReturnRecordOf(const CValveKeys& keys)
+{
+    return keys.vorlauf ? RecordOf(keys.ruecklauf) : FetchOne(keys.ruecklauf).ventil;
 }
 
 } // namespace workbench

@@ -37,4 +37,8 @@ struct CRoomValves
 /// host's settings.
 CRoomValves FetchValves(const CValveKeys& keys);
 
+/// The return valve as the dialog of connections is asked with it. The dialog reads the valves by
+/// their keys, but none at all where there is no supply valve; then the record has been read here.
+VDI3805_VENTIL_KV ReturnRecordOf(const CValveKeys& keys);
+
 } // namespace workbench

@@ -1,6 +1,7 @@
 #include "workbench/schedule/valve_text.h"
 
 #include "platform/format.h"
+#include "workbench/building/user_text.h"
 #include "workbench/schedule/schedule_columns.h"
 #include "workbench/schedule/text_columns.h"
 
@@ -27,7 +28,7 @@ CString DescribeFound(const VDI3805_VENTIL_KV& ventil)
         ShortenToWidth(ventil.Hauptgruppe, kMainGroupWidth) + L"/" + ventil.Gruppe, kGroupWidth);
     return PadToWidth(ShortenToWidth(ventil.Bezeichnung, kNumberWidth), kNumberWidth) + L" " +
            PadToWidth(groups + L",", kGroupWidth + 1) + L" DN " + FormatExact(ventil.DN) +
-           L", kvs " + FormatFixed(ventil.Kvs, 3);
+           L", kvs " + FormatDecimals(ventil.Kvs, 3);
 }
 
 CString Describe(const CValveOutcome& valve)

@@ -2,6 +2,8 @@
 
 #include "workbench/window/plan_texts.h"
 
+#include <QSignalBlocker>
+
 namespace workbench {
 
 namespace {
@@ -20,6 +22,23 @@ CDecimalBox::CDecimalBox(double least, double most, const QString& unit)
     setRange(least, most);
     setDecimals(2);
     setSuffix(" " + unit);
+}
+
+void CDecimalBox::SetNumber(double number)
+{
+    {
+        // Who hears of it asks for the number.
+        const QSignalBlocker quiet(this);
+        setValue(number);
+        m_dNumber = number;
+        m_dShown = value();
+    }
+    emit valueChanged(value());
+}
+
+double CDecimalBox::GetNumber() const
+{
+    return value() == m_dShown ? m_dNumber : value();
 }
 
 QValidator::State CDecimalBox::validate(QString& text, int& position) const

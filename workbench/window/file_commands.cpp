@@ -263,7 +263,7 @@ bool CFileCommands::SaveTo(const CString& path)
 void CFileCommands::TellUse()
 {
     QString message = ToQt(m_document.DescribeUse());
-    if (m_document.IsReadOnly()) {
+    if (!message.isEmpty() && m_document.IsReadOnly()) {
         message += " Qui si apre in sola lettura; \"Salva con nome\" lo scrive altrove.";
     }
     Tell(message.isEmpty() ? QStringList() : QStringList(message));

@@ -63,8 +63,7 @@ void CFloorScene::SetBlocks(const CDxfDrawing& radiators, const CBlockLibrary* v
 void CFloorScene::ShowFloor(const CBuilding& building, std::size_t floor)
 {
     const auto stays = [&](const CRoomRef& room) {
-        return floor == m_nFloor && Has(room) && Exists(building, room) &&
-               RoomOf(building, room).strName == RoomOf(m_building, room).strName;
+        return floor == m_nFloor && Has(room) && IsSameRoom(building, m_building, room);
     };
     CPlanMarks marks = m_marks;
     std::erase_if(marks.rooms, [&](const CRoomRef& room) { return !stays(room); });

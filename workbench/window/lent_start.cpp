@@ -5,6 +5,7 @@
 #include "reference_host/prefs/lent_start.h"
 #include "workbench/plan/new_radiator.h"
 #include "workbench/plan/radiator_list.h"
+#include "workbench/schedule/valve_selection.h"
 
 namespace workbench {
 
@@ -36,7 +37,7 @@ CLentStart::CLentStart(const CPlacedRadiator& radiator) : m_lent(ReadStart())
     m_lent.AbstandBoden = radiator.abstandBoden;
     m_lent.Anschluss = ConnectionToShow(radiator);
     m_lent.VentilVorlauf = RecordOf(radiator.ventile.vorlauf);
-    m_lent.VentilRuecklauf = RecordOf(radiator.ventile.ruecklauf);
+    m_lent.VentilRuecklauf = ReturnRecordOf(radiator.ventile);
     reference_host::LendStart(m_lent);
 }
 

@@ -30,14 +30,13 @@ QColor LinkColor(const QPalette& palette)
                                                                  : link;
 }
 
-QString ParagraphOf(const CNotice& notice, const QColor& link)
+/// The name of its room is a link to `target`.
+QString ParagraphOf(const CNotice& notice, std::size_t target, const QColor& link)
 {
     QString html = "<p style=\"margin: 0\">";
-    if (notice.room) {
-        html += QString("<a href=\"%1/%2\" style=\"color: %3\">%4</a>: ")
-                    .arg(notice.room->nFloor)
-                    .arg(notice.room->nRoom)
-                    .arg(link.name(), notice.strRoom.toHtmlEscaped());
+    if (!notice.strRoom.isEmpty()) {
+        html += QString("<a href=\"%1\" style=\"color: %2\">%3</a>: ")
+                    .arg(QString::number(target), link.name(), notice.strRoom.toHtmlEscaped());
     }
     return html + PlainLines(notice.strText) + "</p>";
 }
@@ -83,9 +82,9 @@ void CMessagePane::Rebuild()
 {
     const QColor link = LinkColor(QGuiApplication::palette());
     QString html;
-    for (const CEntry& entry : m_entries) {
-        if (entry.bShown) {
-            html += ParagraphOf(entry.notice, link);
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        if (m_entries[i].bShown) {
+            html += ParagraphOf(m_entries[i].notice, i, link);
         }
     }
     setHtml(html);
@@ -94,9 +93,9 @@ void CMessagePane::Rebuild()
 
 void CMessagePane::Follow(const QUrl& link)
 {
-    const QStringList numbers = link.toString().split('/');
-    if (numbers.size() == 2) {
-        emit RoomAsked({numbers[0].toUInt(), numbers[1].toUInt()});
+    const std::size_t entry = link.toString().toUInt();
+    if (entry < m_entries.size()) {
+        emit RoomAsked(m_entries[entry].notice.strRoom);
     }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "workbench/plan/plan_edit.h"
 #include "workbench/plan/plan_history.h"
 
 #include <QTextBrowser>
@@ -14,8 +13,8 @@ namespace workbench {
 struct CNotice
 {
     QString strText;
-    /// The room that it is about. Its name goes ahead of the text and leads there.
-    std::optional<CRoomRef> room = std::nullopt;
+    /// Name of the room that it is about, which goes ahead of the text and leads there; empty for
+    /// none.
     QString strRoom = {};
 };
 
@@ -35,7 +34,7 @@ public:
     void ShowFor(const CPlanHistory& history);
 
 signals:
-    void RoomAsked(const CRoomRef& room);
+    void RoomAsked(const QString& name);
 
 private:
     struct CEntry

@@ -107,6 +107,9 @@ std::optional<CRadiatorChoice> AskForRadiator(const CRadiatorWish& wish, CDrawer
     if (const CHeatingSystem system{handover.Vorlauf, handover.Ruecklauf}; system != wish.system) {
         chosen.system = system;
     }
+    if (handover.Raumtemperatur != wish.raumtemperatur) {
+        chosen.raumtemperatur = handover.Raumtemperatur;
+    }
     chosen.block = block.GetShown();
     return chosen;
 }
@@ -153,7 +156,7 @@ std::optional<CBuilding> ConnectRadiators(const CBuilding& building,
     CConfirmedConnection result;
     result.eingang = result.anschluss = ConnectionToShow(first);
     VDI3805_VENTIL_KV vorlauf = RecordOf(first.ventile.vorlauf);
-    VDI3805_VENTIL_KV ruecklauf = RecordOf(first.ventile.ruecklauf);
+    VDI3805_VENTIL_KV ruecklauf = ReturnRecordOf(first.ventile);
     // For several radiators the user may leave the connections or the valves as they are.
     bool groupsSelectable = radiators.size() > 1;
     bool fanCoil = false;

@@ -20,6 +20,20 @@
 
 namespace workbench {
 
+namespace {
+
+/// The demand of a room belongs to its temperature, so that one set in the dialog stays there.
+CNotice TemperatureNotice(const CRoom& room, double shown)
+{
+    const QString own = DecimalText(room.raumtemperatur, 2);
+    return {QString("la temperatura di %1 °C vale solo nel dialogo; il locale resta a %2 °C, e la "
+                    "resa è quella a %2 °C.")
+                .arg(DecimalText(shown, 2), own),
+            ToQt(room.strName)};
+}
+
+} // namespace
+
 CPlanCommands::CPlanCommands(CPlanDocument& document, const CPrompts& prompts, QWidget& window)
     : m_document(document), m_prompts(prompts), m_window(window)
 {
@@ -38,17 +52,26 @@ void CPlanCommands::ChooseRadiator(const CRoomRef& ref, std::optional<std::size_
         return;
     }
     const CString what = L"Corpo scaldante di " + room.strName;
-    Take(what, [&] { return AskForRadiator(ref, radiator, drawer); });
+    std::vector<CNotice> notices;
+    const bool isTaken = Take(what, [&] { return AskForRadiator(ref, radiator, drawer, notices); });
+    if (isTaken && !notices.empty()) {
+        emit Told(notices);
+    }
 }
 
 std::optional<CBuilding> CPlanCommands::AskForRadiator(const CRoomRef& ref,
                                                        std::optional<std::size_t> radiator,
-                                                       CDrawer& drawer)
+                                                       CDrawer& drawer,
+                                                       std::vector<CNotice>& notices)
 {
     const CBuilding& building = m_document.Building();
     for (;;) {
         const auto chosen = workbench::AskForRadiator(building, ref, radiator, drawer);
         auto changed = chosen ? PutRadiator(building, ref, radiator, *chosen) : std::nullopt;
+        notices.clear();
+        if (chosen && chosen->raumtemperatur) {
+            notices = {TemperatureNotice(RoomOf(building, ref), *chosen->raumtemperatur)};
+        }
         if (!changed || !chosen->system) {
             return changed;
         }
@@ -106,11 +129,13 @@ std::optional<CBuilding> CPlanCommands::Ask(const Question& question)
     }
 }
 
-void CPlanCommands::Take(const CString& what, const Question& question)
+bool CPlanCommands::Take(const CString& what, const Question& question)
 {
-    if (std::optional<CBuilding> changed = Ask(question)) {
+    std::optional<CBuilding> changed = Ask(question);
+    if (changed) {
         m_document.Do(what, std::move(*changed));
     }
+    return changed.has_value();
 }
 
 void CPlanCommands::ChooseProduct(const std::vector<CRoomRef>& rooms)
@@ -204,16 +229,13 @@ void CPlanCommands::Repair(const std::vector<CRoomRef>& rooms, const CString& wh
 
 void CPlanCommands::TellRepair(const CRepairResult& result)
 {
-    const auto open = std::ranges::count_if(result.rooms, [&](const CRepairedRoom& repaired) {
-        return IsOpen(CoverageOf(result.building, RoomOf(result.building, repaired.room)));
-    });
     std::vector<CNotice> notices = {
-        {QString("Riparazione: locali esaminati %1, ancora da sistemare %2.")
+        {QString("Riparazione: locali esaminati %1. Locali da sistemare: %2.")
              .arg(result.rooms.size())
-             .arg(open)}};
+             .arg(OpenRooms(result.building).size())}};
     for (const CRepairedRoom& repaired : result.rooms) {
-        notices.push_back({ToQt(repaired.strReport), repaired.room,
-                           ToQt(RoomOf(result.building, repaired.room).strName)});
+        notices.push_back(
+            {ToQt(repaired.strReport), ToQt(RoomOf(result.building, repaired.room).strName)});
     }
     emit Told(notices);
 }
@@ -226,16 +248,13 @@ void CPlanCommands::TellCancelled()
 void CPlanCommands::TellSized(const CSizingResult& result)
 {
     QString message = QString("Corpi scaldanti scelti: %1.").arg(result.nSized);
-    const auto open = std::ranges::count_if(result.faults, [&](const CSizingFault& fault) {
-        return IsOpen(CoverageOf(result.building, RoomOf(result.building, fault.room)));
-    });
-    if (open > 0) {
+    if (const std::size_t open = OpenRooms(result.building).size(); open > 0) {
         message += QString(" Locali da sistemare: %1.").arg(open);
     }
     std::vector<CNotice> notices = {{message}};
     for (const CSizingFault& fault : result.faults) {
-        notices.push_back({ToQt(fault.outcome.strNote), fault.room,
-                           ToQt(RoomOf(result.building, fault.room).strName)});
+        notices.push_back(
+            {ToQt(fault.outcome.strNote), ToQt(RoomOf(result.building, fault.room).strName)});
     }
     emit Told(notices);
 }
@@ -258,6 +277,24 @@ void CPlanCommands::Remove(const std::vector<CRadiatorRef>& radiators)
     RemoveRadiators(changed, radiators);
     m_document.Do(radiators.size() == 1 ? L"Elimina corpo scaldante" : L"Elimina corpi scaldanti",
                   std::move(changed));
+}
+
+void CPlanCommands::RemoveRooms(const std::vector<CRoomRef>& rooms)
+{
+    CBuilding changed = m_document.Building();
+    const bool isOne = rooms.size() == 1;
+    const bool hasRadiators = std::ranges::any_of(
+        rooms, [&](const CRoomRef& ref) { return !RoomOf(changed, ref).heizkoerper.empty(); });
+    const QString question =
+        isOne ? QString("Eliminare il locale \"%1\" con i suoi corpi scaldanti?")
+                    .arg(ToQt(RoomOf(changed, rooms.front()).strName))
+              : QString("Eliminare %1 locali con i loro corpi scaldanti?").arg(rooms.size());
+    if (hasRadiators && m_prompts.ask(&m_window, question, "&Elimina", "&Annulla", false) !=
+                            CPrompts::Answer::yes) {
+        return;
+    }
+    workbench::RemoveRooms(changed, rooms);
+    m_document.Do(isOne ? L"Elimina locale" : L"Elimina locali", std::move(changed));
 }
 
 void CPlanCommands::DescribeProject()
@@ -299,11 +336,7 @@ std::optional<CRoomRef> CPlanCommands::AddRoom(std::size_t floor)
         return std::nullopt;
     }
     m_document.Do(L"Aggiungi locale", dialog.GetBuilding());
-    const std::vector<CRoomRef> rooms = AllRooms(m_document.Building());
-    const CString name = dialog.GetRoom().strName;
-    return *std::ranges::find_if(rooms, [&](const CRoomRef& ref) {
-        return RoomOf(m_document.Building(), ref).strName == name;
-    });
+    return FindRoom(m_document.Building(), dialog.GetRoom().strName);
 }
 
 std::vector<CRoomRef> OpenRooms(const CBuilding& building)

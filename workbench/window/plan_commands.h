@@ -42,6 +42,9 @@ public:
     void Connect(const std::vector<CRadiatorRef>& radiators, CDrawer& drawer);
     void Remove(const std::vector<CRadiatorRef>& radiators);
 
+    /// Takes rooms out of the building, which must keep one; asks where radiators go with them.
+    void RemoveRooms(const std::vector<CRoomRef>& rooms);
+
     /// Asks for what papers say of the project.
     void DescribeProject();
 
@@ -62,17 +65,19 @@ private:
 
     /// The answer of a dialog. A call of it that fails is told, and nothing changes.
     std::optional<CBuilding> Ask(const Question& question);
-    /// The same, and what was chosen becomes the building.
-    void Take(const CString& what, const Question& question);
+    /// The same, and what was chosen becomes the building. False if nothing was.
+    bool Take(const CString& what, const Question& question);
 
     /// What becomes of the radiators of rooms that were picked by hand; nothing if the user
     /// cancels.
     std::optional<Picked> AskForPicked(const CBuilding& building,
                                        const std::vector<CRoomRef>& rooms);
 
-    /// A radiator for a room, asked for until it fits the heating system of the building.
+    /// A radiator for a room, asked for until it fits the heating system of the building. The
+    /// notices become what the user has to know of it.
     std::optional<CBuilding> AskForRadiator(const CRoomRef& room,
-                                            std::optional<std::size_t> radiator, CDrawer& drawer);
+                                            std::optional<std::size_t> radiator, CDrawer& drawer,
+                                            std::vector<CNotice>& notices);
 
     enum class OtherSystem
     {

@@ -105,6 +105,7 @@ void CPlanDocument::SaveAs(const CString& path)
     const std::string bytes = FormatBuilding(Building());
     WriteJsonBytes(path, bytes);
     m_strPath = AbsolutePath(path);
+    m_bProtected = false;
     m_strFingerprint = FingerprintOf(bytes);
     Take(std::move(lock));
     m_history.MarkSaved();
@@ -148,6 +149,7 @@ void CPlanDocument::Begin(CBuilding building, const CString& path)
 {
     m_history = CPlanHistory(std::move(building));
     m_strPath = path.empty() ? path : AbsolutePath(path);
+    m_bProtected = !path.empty() && IsWriteProtected(path);
 }
 
 /// Null if the lock of that file is held already.

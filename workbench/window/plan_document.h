@@ -32,8 +32,9 @@ public:
     void Undo();
     void Redo();
 
-    /// Somebody else works on the file: the building can be saved to another one only.
-    bool IsReadOnly() const { return m_lock && m_lock->GetOther(); }
+    /// Somebody else works on the file, or it may not be written to: the building can be saved to
+    /// another one only.
+    bool IsReadOnly() const { return m_bProtected || (m_lock && m_lock->GetOther()); }
 
     /// What the user has to know of others who might work on the file; empty if it is his alone.
     CString DescribeUse() const { return m_lock ? m_lock->GetMessage() : CString(); }
@@ -89,6 +90,8 @@ private:
     CString m_strFingerprint;
     /// Of the file; null as long as there is none.
     std::unique_ptr<CBuildingLock> m_lock;
+    /// The file may only be read.
+    bool m_bProtected = false;
     const CRecoveryFile* m_pRecovery;
     QTimer m_keepTimer;
     /// What KeepingFailed() told last; empty since keeping succeeded.

@@ -1,5 +1,9 @@
 #include "workbench/window/plan_marks.h"
 
+#include "workbench/plan/placement.h"
+
+#include <unordered_map>
+
 namespace workbench {
 
 namespace {
@@ -9,6 +13,16 @@ void Toggle(std::set<Ref>& marked, const Ref& ref)
 {
     if (marked.erase(ref) == 0) {
         marked.insert(ref);
+    }
+}
+
+/// Radiators of a room at places that are free in another state of it.
+void AddMore(CPlanMarks& marks, const CRoomRef& ref, const CRoom& room, const CRoom& than)
+{
+    for (std::size_t i = 0; i < room.heizkoerper.size(); ++i) {
+        if (!IsTaken(than, room.heizkoerper[i].nPlatz)) {
+            marks.radiators.insert({ref, i});
+        }
     }
 }
 
@@ -31,6 +45,28 @@ CPlanMarks MarksAfter(CPlanMarks marks, const CRadiatorRef& radiator, bool exten
     }
     marks.rooms.clear();
     Toggle(marks.radiators, radiator);
+    return marks;
+}
+
+CPlanMarks MarksOfMore(const CBuilding& building, const CBuilding& than)
+{
+    std::unordered_map<CString, const CRoom*> others;
+    for (const CRoomRef& ref : AllRooms(than)) {
+        others.emplace(RoomOf(than, ref).strName, &RoomOf(than, ref));
+    }
+    CPlanMarks marks;
+    for (const CRoomRef& ref : AllRooms(building)) {
+        const CRoom& room = RoomOf(building, ref);
+        const auto other = others.find(room.strName);
+        if (other != others.end()) {
+            AddMore(marks, ref, room, *other->second);
+        } else {
+            marks.rooms.insert(ref);
+        }
+    }
+    if (!marks.rooms.empty()) {
+        marks.radiators.clear();
+    }
     return marks;
 }
 

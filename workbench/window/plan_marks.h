@@ -22,4 +22,8 @@ struct CPlanMarks
 CPlanMarks MarksAfter(CPlanMarks marks, const CRoomRef& room, bool extend);
 CPlanMarks MarksAfter(CPlanMarks marks, const CRadiatorRef& radiator, bool extend);
 
+/// What a building has that another one, an earlier or later state of it, lacks: rooms, or else
+/// radiators at places that are free there.
+CPlanMarks MarksOfMore(const CBuilding& building, const CBuilding& than);
+
 } // namespace workbench

@@ -7,7 +7,6 @@
 #include <QStringList>
 #include <QTextDocument>
 
-#include <cmath>
 #include <utility>
 #include <vector>
 
@@ -82,28 +81,16 @@ QString SizeFault(const CBuilding& building, const CRoom& room, const CPlacedRad
 
 QString DecimalText(double value, int decimals)
 {
-    QString text = QString::number(value, 'f', decimals);
-    while (text.contains('.') && (text.endsWith('0') || text.endsWith('.'))) {
+    QString text = ToQt(FormatDecimals(value, decimals));
+    while (text.contains(',') && (text.endsWith('0') || text.endsWith(','))) {
         text.chop(1);
     }
-    return text.replace('.', ',');
-}
-
-QString SystemText(const CHeatingSystem& system)
-{
-    return DecimalText(system.vorlauf, 2) + "/" + DecimalText(system.ruecklauf, 2);
+    return text;
 }
 
 QString PlainToolTip(const QString& text)
 {
     return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
-}
-
-QString WattText(double value)
-{
-    const double rounded = std::round(value);
-    const QString sign = rounded < 0.0 ? QStringLiteral("\u2212") : QString();
-    return sign + QString::number(std::fabs(rounded), 'f', 0) + " W";
 }
 
 QString ShortLabelOf(const CPlacedRadiator& radiator)

@@ -11,15 +11,9 @@ namespace workbench {
 /// A number with a comma, and without zeros at its end that say nothing.
 QString DecimalText(double value, int decimals);
 
-/// Supply and return: "52,5/45".
-QString SystemText(const CHeatingSystem& system);
-
 /// A text that is to be shown as a tooltip as it stands: one that looks like markup would be taken
 /// for it.
 QString PlainToolTip(const QString& text);
-
-/// Whole watts, with a true minus sign.
-QString WattText(double value);
 
 /// Type and size of a radiator in a few characters, for example "C 22/600x1200".
 QString ShortLabelOf(const CPlacedRadiator& radiator);

@@ -2,9 +2,13 @@
 
 #include "workbench/building/qt_text.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTreeView>
 
 namespace workbench {
 
@@ -14,6 +18,24 @@ std::optional<CString> Chosen(const QString& path)
 {
     return path.isEmpty() ? std::nullopt : std::optional(FromQt(path));
 }
+
+/// As long as it lives, the toolkit's own file dialogs, which it has where the desktop has none,
+/// open with columns as wide as their texts: otherwise they are made for one size of the font.
+class CWholeColumns : public QObject
+{
+public:
+    CWholeColumns() { QCoreApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show && qobject_cast<QFileDialog*>(object) != nullptr) {
+            for (const auto* const files : object->findChildren<QTreeView*>()) {
+                files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+            }
+        }
+        return false;
+    }
+};
 
 CPrompts::Answer Ask(QWidget* parent, const QString& text, const QString& yes, const QString& no,
                      bool cancellable)
@@ -42,14 +64,17 @@ CPrompts MakePrompts()
     CPrompts prompts;
     prompts.openFile = [](QWidget* parent, const QString& title, const QString& filter,
                           const CString& proposal) {
+        const CWholeColumns columns;
         return Chosen(QFileDialog::getOpenFileName(parent, title, ToQt(proposal), filter));
     };
     prompts.saveFile = [](QWidget* parent, const QString& title, const QString& filter,
                           const CString& proposal) {
+        const CWholeColumns columns;
         return Chosen(QFileDialog::getSaveFileName(parent, title, ToQt(proposal), filter));
     };
     prompts.openFolder = [](QWidget* parent, const QString& title, const QString& /*filter*/,
                             const CString& proposal) {
+        const CWholeColumns columns;
         return Chosen(QFileDialog::getExistingDirectory(parent, title, ToQt(proposal)));
     };
     prompts.ask = Ask;

@@ -19,6 +19,11 @@ constexpr double kMetre = 1000.0;
 /// A building's file takes no longer names.
 constexpr int kLongestName = 200;
 
+/// Of most names.
+constexpr int kNameCharacters = 40;
+/// Of the widest number, and of its unit and buttons.
+constexpr int kNumberCharacters = 18;
+
 /// As a building's file takes it: what is pasted may have tabs and line ends.
 CString NameIn(const QString& typed)
 {
@@ -29,7 +34,8 @@ CDecimalBox* MakeBox(const char* name, double least, double most, const QString&
 {
     auto* const box = new CDecimalBox(least, most, unit);
     box->setObjectName(name);
-    box->setValue(value);
+    box->SetNumber(value);
+    box->setMinimumWidth(box->fontMetrics().averageCharWidth() * kNumberCharacters);
     return box;
 }
 
@@ -50,9 +56,11 @@ CRoomDialog::CRoomDialog(const CBuilding& building, std::size_t floor, QWidget* 
     m_pFloor->setObjectName("floor");
     m_pFloor->setEditable(true);
     m_pFloor->setInsertPolicy(QComboBox::NoInsert);
+    m_pFloor->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_pFloor->lineEdit()->setMaxLength(kLongestName);
     m_pName->setObjectName("name");
     m_pName->setMaxLength(kLongestName);
+    m_pName->setMinimumWidth(fontMetrics().averageCharWidth() * kNameCharacters);
     m_pFault->setObjectName("fault");
     m_pFault->setWordWrap(true);
 
@@ -79,6 +87,7 @@ CRoomDialog::CRoomDialog(const CBuilding& building, std::size_t floor, QWidget* 
     form->addRow("Pro&fondità:", m_pDepth);
     form->addRow("Larghezza della &finestra:", m_pWindow);
     form->addRow("Altezza del &davanzale:", m_pSill);
+    form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->addRow(m_pFault);
     form->addRow(m_pButtons);
     m_pButtons->button(QDialogButtonBox::Cancel)->setText("Annulla");
@@ -94,7 +103,7 @@ CRoomDialog::CRoomDialog(const CBuilding& building, std::size_t floor, QWidget* 
     if (m_pBuildingName != nullptr) {
         connect(m_pBuildingName, &QLineEdit::textChanged, this, &CRoomDialog::ShowFault);
     }
-    ShowFault();
+    m_pButtons->button(QDialogButtonBox::Ok)->setEnabled(FindFault().empty());
 }
 
 CNewRoom CRoomDialog::GetRoom() const
@@ -121,12 +130,17 @@ CBuilding CRoomDialog::GetBuilding() const
     return building;
 }
 
+CString CRoomDialog::FindFault() const
+{
+    const bool hasNoName =
+        m_pBuildingName != nullptr && m_pBuildingName->text().trimmed().isEmpty();
+    return hasNoName ? L"Manca il nome dell'edificio."
+                     : workbench::FindFault(m_building, GetRoom());
+}
+
 void CRoomDialog::ShowFault()
 {
-    CString fault = FindFault(m_building, GetRoom());
-    if (m_pBuildingName != nullptr && m_pBuildingName->text().trimmed().isEmpty()) {
-        fault = L"Manca il nome dell'edificio.";
-    }
+    const CString fault = FindFault();
     m_pFault->setText(ToQt(fault));
     m_pButtons->button(QDialogButtonBox::Ok)->setEnabled(fault.empty());
 }

@@ -28,6 +28,8 @@ public:
     CBuilding GetBuilding() const;
 
 private:
+    /// What keeps the room from being added; empty if nothing does.
+    CString FindFault() const;
     void ShowFault();
 
     CBuilding m_building;

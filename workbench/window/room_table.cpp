@@ -148,7 +148,7 @@ CRoomTable::CRoomTable(QObject* parent) : QSortFilterProxyModel(parent)
 void CRoomTable::Show(const CBuilding& building)
 {
     for (int row = 0; row < rowCount(); ++row) {
-        m_listed.insert(m_rows.RefOf(mapToSource(index(row, 0)).row()));
+        m_listed.insert(m_rows.NameOf(mapToSource(index(row, 0)).row()));
     }
     m_rows.Show(building);
 }
@@ -162,7 +162,7 @@ void CRoomTable::ShowOpenOnly(bool openOnly)
 
 bool CRoomTable::filterAcceptsRow(int row, const QModelIndex& /*parent*/) const
 {
-    return !m_bOpenOnly || IsOpen(m_rows.CoverageOf(row)) || m_listed.contains(m_rows.RefOf(row));
+    return !m_bOpenOnly || IsOpen(m_rows.CoverageOf(row)) || m_listed.contains(m_rows.NameOf(row));
 }
 
 } // namespace workbench

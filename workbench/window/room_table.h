@@ -30,6 +30,7 @@ public:
     void Show(const CBuilding& building);
 
     const CRoomRef& RefOf(int row) const { return m_rooms[static_cast<std::size_t>(row)].ref; }
+    const QString& NameOf(int row) const { return m_rooms[static_cast<std::size_t>(row)].strRoom; }
     Coverage CoverageOf(int row) const { return m_rooms[static_cast<std::size_t>(row)].coverage; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -74,8 +75,8 @@ protected:
 private:
     CRoomRows m_rows;
     bool m_bOpenOnly = false;
-    /// Listed since the filter was set.
-    std::set<CRoomRef> m_listed;
+    /// Names of the rooms that were listed since the filter was set.
+    std::set<QString> m_listed;
 };
 
 } // namespace workbench

@@ -2,6 +2,7 @@
 
 #include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
+#include "workbench/plan/plan_edit.h"
 
 #include <utility>
 
@@ -22,7 +23,7 @@ std::vector<CNotice> CStateNotices::TakeNew(const CBuilding& building)
             ToQt(GetCoverageText(coverage) + L", " + DescribeCoverage(building, room));
         present.insert({name, text});
         if (!m_known.contains({name, text})) {
-            notices.push_back({text, ref, name});
+            notices.push_back({text, name});
         }
     }
     m_known = std::move(present);

@@ -29,14 +29,14 @@ constexpr CHeatingSystem kCommon[] = {
 CDecimalBox* MakeTemperature(double value)
 {
     auto* const box = new CDecimalBox(1.0, 110.0, "°C");
-    box->setValue(value);
+    box->SetNumber(value);
     return box;
 }
 
 CDecimalBox* MakePercentage(double value)
 {
     auto* const box = new CDecimalBox(0.0, 1000.0, "%");
-    box->setValue(value);
+    box->SetNumber(value);
     return box;
 }
 
@@ -83,8 +83,7 @@ CSystemDialog::CSystemDialog(const CBuilding& building, QWidget* parent)
     : QDialog(parent), m_building(building), m_offers(OfferedSystems()), m_pOffers(new QComboBox),
       m_pVorlauf(MakeTemperature(building.system.vorlauf)),
       m_pRuecklauf(MakeTemperature(building.system.ruecklauf)),
-      m_pExcessMax(MakePercentage(building.ueberschussMax)), m_dExcessShown(m_pExcessMax->value()),
-      m_pConsequence(new QLabel),
+      m_pExcessMax(MakePercentage(building.ueberschussMax)), m_pConsequence(new QLabel),
       m_pButtons(new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel))
 {
     setWindowTitle("Sistema di riscaldamento");
@@ -126,20 +125,19 @@ CSystemDialog::CSystemDialog(const CBuilding& building, QWidget* parent)
 
 CHeatingSystem CSystemDialog::GetSystem() const
 {
-    return {m_pVorlauf->value(), m_pRuecklauf->value()};
+    return {m_pVorlauf->GetNumber(), m_pRuecklauf->GetNumber()};
 }
 
 double CSystemDialog::GetExcessMax() const
 {
-    const double shown = m_pExcessMax->value();
-    return shown == m_dExcessShown ? m_building.ueberschussMax : shown;
+    return m_pExcessMax->GetNumber();
 }
 
 void CSystemDialog::TakeOffer(int index)
 {
     const CHeatingSystem& system = m_offers[static_cast<std::size_t>(index)].system;
-    m_pVorlauf->setValue(system.vorlauf);
-    m_pRuecklauf->setValue(system.ruecklauf);
+    m_pVorlauf->SetNumber(system.vorlauf);
+    m_pRuecklauf->SetNumber(system.ruecklauf);
 }
 
 void CSystemDialog::ShowSystem()

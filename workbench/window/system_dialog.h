@@ -47,8 +47,6 @@ private:
     CDecimalBox* m_pVorlauf;
     CDecimalBox* m_pRuecklauf;
     CDecimalBox* m_pExcessMax;
-    /// What it showed first, which may be rounded.
-    double m_dExcessShown;
     QLabel* m_pConsequence;
     QDialogButtonBox* m_pButtons;
 };

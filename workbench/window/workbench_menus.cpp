@@ -67,6 +67,8 @@ enum class Needs
     redo,
     /// Rooms that are marked, or of which radiators are.
     rooms,
+    /// The same without radiators being marked, and others besides them.
+    spareRooms,
     oneRoom,
     oneChoice,
     radiators,
@@ -134,8 +136,7 @@ std::span<const CWorkbenchWindow::CCommand> CWorkbenchWindow::Commands()
          [](Window& window) { window.close(); }},
 
         {"undo", Menu::edit, Gap::none, "&Annulla", "Ctrl+Z", Needs::undo,
-         [](Window& window) { window.m_document.Undo(); }, false, CommandIcon::undo, "Annulla",
-         Gap::line},
+         [](Window& window) { window.Undo(); }, false, CommandIcon::undo, "Annulla", Gap::line},
         {"redo", Menu::edit, Gap::none, "&Ripeti", "Ctrl+Y", Needs::redo,
          [](Window& window) { window.m_document.Redo(); }, false, CommandIcon::redo, "Ripeti"},
         {"addRoom", Menu::edit, Gap::line, "Aggiungi &locale…", "Ctrl+L", Needs::building,
@@ -144,8 +145,6 @@ std::span<const CWorkbenchWindow::CCommand> CWorkbenchWindow::Commands()
                  window.ShowRoom(*added);
              }
          }},
-        {"find", Menu::edit, Gap::none, "&Trova locale", "Ctrl+F", Needs::building,
-         [](Window& window) { window.Find(); }},
 
         {"choose", Menu::radiators, Gap::none, "&Scegli corpo scaldante…", "F4", Needs::oneChoice,
          [](Window& window) { window.ChooseForMarked(); }, true, CommandIcon::radiator, "Scegli",
@@ -179,6 +178,12 @@ std::span<const CWorkbenchWindow::CCommand> CWorkbenchWindow::Commands()
          [](Window& window) {
              window.m_commands.Repair(OpenRooms(window.m_document.Building()), L"Ripara tutti");
          }},
+
+        // In the context menus, which keep this order, behind all else that is done with a room.
+        {"removeRoom", Menu::edit, Gap::none, "Elimina l&ocale", "", Needs::spareRooms,
+         [](Window& window) { window.RemoveMarkedRooms(); }, true},
+        {"find", Menu::edit, Gap::none, "&Trova locale", "Ctrl+F", Needs::building,
+         [](Window& window) { window.Find(); }},
 
         {"fit", Menu::view, Gap::none, "&Tutta la pianta", "Ctrl+0", Needs::building,
          [](Window& window) { window.m_pView->FitToContent(); }},
@@ -290,6 +295,9 @@ bool CWorkbenchWindow::Has(const CCommand& command) const
         return history.CanRedo();
     case Needs::rooms:
         return !MarkedRooms().empty();
+    case Needs::spareRooms:
+        return !MarkedRooms().empty() && m_pScene->GetMarkedRadiators().empty() &&
+               MarkedRooms().size() < AllRooms(m_document.Building()).size();
     case Needs::oneRoom:
         return MarkedRooms().size() == 1;
     case Needs::oneChoice:

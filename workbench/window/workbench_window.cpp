@@ -16,11 +16,11 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QMenu>
+#include <QPushButton>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTabBar>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -88,14 +88,19 @@ void CWorkbenchWindow::FillEmptyPlan()
 {
     m_pEmpty->setObjectName("empty");
     auto* const layout = new QVBoxLayout(m_pEmpty);
-    layout->addStretch();
-    layout->addWidget(new QLabel("Nessun edificio aperto."), 0, Qt::AlignHCenter);
+    // As wide as the widest of what stands in it.
+    auto* const column = new QVBoxLayout;
+    column->addWidget(new QLabel("Nessun edificio aperto."), 0, Qt::AlignHCenter);
     for (const char* const name : {"open", "new"}) {
-        auto* const button = new QToolButton;
-        button->setDefaultAction(findChild<QAction*>(name));
-        button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-        layout->addWidget(button, 0, Qt::AlignHCenter);
+        auto* const action = findChild<QAction*>(name);
+        auto* const button = new QPushButton(action->text());
+        button->setAutoDefault(true);
+        connect(button, &QPushButton::clicked, action, &QAction::trigger);
+        column->addWidget(button);
     }
+    layout->addStretch();
+    layout->addLayout(column);
+    layout->setAlignment(column, Qt::AlignHCenter);
     layout->addStretch();
 }
 
@@ -142,7 +147,11 @@ void CWorkbenchWindow::Connect()
         Tell("Il lavoro non salvato non è al sicuro da un arresto improvviso: " + message);
     });
     connect(&m_commands, &CPlanCommands::Told, this, &CWorkbenchWindow::TellNotices);
-    connect(m_pMessages, &CMessagePane::RoomAsked, this, &CWorkbenchWindow::ShowRoom);
+    connect(m_pMessages, &CMessagePane::RoomAsked, this, [this](const QString& name) {
+        if (const auto room = FindRoom(m_document.Building(), FromQt(name))) {
+            ShowRoom(*room);
+        }
+    });
     connect(&m_files, &CFileCommands::Told, this, &CWorkbenchWindow::Tell);
     connect(m_pTabs, &QTabBar::currentChanged, this, &CWorkbenchWindow::ShowFloor);
     connect(m_pScene, &CFloorScene::MarkChanged, this, &CWorkbenchWindow::MarkAsPlan);
@@ -165,8 +174,10 @@ void CWorkbenchWindow::ShowBuilding()
     ShowTabs();
     ShowFloor(m_pTabs->currentIndex());
     m_pRooms->ShowBuilding(m_document.Building());
-    std::erase_if(m_marked,
-                  [this](const CRoomRef& ref) { return !Exists(m_document.Building(), ref); });
+    std::erase_if(m_marked, [this](const CRoomRef& ref) {
+        return !IsSameRoom(m_document.Building(), m_shown, ref);
+    });
+    m_shown = m_document.Building();
     m_pRooms->MarkRooms(m_marked);
     ShowTotals();
     ShowTitle();
@@ -324,6 +335,26 @@ void CWorkbenchWindow::ConnectMarked()
 void CWorkbenchWindow::RemoveMarked()
 {
     m_commands.Remove(RadiatorsOfMark());
+}
+
+void CWorkbenchWindow::RemoveMarkedRooms()
+{
+    m_commands.RemoveRooms(MarkedRooms());
+}
+
+/// What comes back is marked again, so that work goes on where it was.
+void CWorkbenchWindow::Undo()
+{
+    const CBuilding before = m_document.Building();
+    m_document.Undo();
+    const CPlanMarks back = MarksOfMore(m_document.Building(), before);
+    if (!back.rooms.empty()) {
+        m_pTabs->setCurrentIndex(static_cast<int>(back.rooms.begin()->nFloor));
+        m_pScene->MarkRooms({back.rooms.begin(), back.rooms.end()});
+    } else if (!back.radiators.empty()) {
+        m_pTabs->setCurrentIndex(static_cast<int>(back.radiators.begin()->room.nFloor));
+        m_pScene->MarkRadiators({back.radiators.begin(), back.radiators.end()});
+    }
 }
 
 void CWorkbenchWindow::Find()

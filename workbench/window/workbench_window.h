@@ -84,6 +84,8 @@ private:
     void AddToMarked();
     void ConnectMarked();
     void RemoveMarked();
+    void RemoveMarkedRooms();
+    void Undo();
     std::vector<CRadiatorRef> RadiatorsOfMark() const;
 
     CPlanDocument& m_document;
@@ -96,6 +98,8 @@ private:
     CPlanView* m_pView;
     QTabBar* m_pTabs;
     CRoomList* m_pRooms;
+    /// As shown; copies share their rooms.
+    CBuilding m_shown;
     /// In the order of the building. The plan shows those on its floor, the list those that it
     /// lists; where radiators are marked, the rooms in which they stand.
     std::vector<CRoomRef> m_marked;

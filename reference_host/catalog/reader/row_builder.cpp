@@ -6,7 +6,6 @@
 #include <iterator>
 #include <numeric>
 #include <optional>
-#include <set>
 
 namespace reference_host {
 
@@ -153,14 +152,6 @@ void FillRow(HK_VDI3805_TYP& row, const CCatalogueSeries& serie, const CSize& si
     row.Daten.Exponent = serie.dExponent;
     row.Daten.Inhalt = size.dInhalt;
 }
-
-void AssignSizes(OCArray<double>& target, const std::set<double>& sizes)
-{
-    target.RemoveAll();
-    for (const double size : sizes) {
-        target.Add(size);
-    }
-}
 } // namespace
 
 std::vector<HK_VDI3805_TYP> BuildRows(const CCatalogueProduct& produkt, double requiredOutput)
@@ -199,16 +190,14 @@ std::vector<CCatalogueRow> BuildAllRows(const CCatalogueProduct& produkt)
     return rows;
 }
 
-void AssignCrossSections(HK_VDI3805_PRODUKT& node, const CCatalogueProduct& produkt)
+CCrossSections CrossSectionsOf(const CCatalogueProduct& produkt)
 {
-    std::set<double> hoehen;
-    std::set<double> tiefen;
+    CCrossSections sizes;
     for (const CCatalogueSeries& serie : produkt.serien) {
-        hoehen.insert(serie.dHoehe);
-        tiefen.insert(serie.dTiefe);
+        sizes.hoehen.insert(serie.dHoehe);
+        sizes.tiefen.insert(serie.dTiefe);
     }
-    AssignSizes(node.Hoehen, hoehen);
-    AssignSizes(node.Tiefen, tiefen);
+    return sizes;
 }
 
 CString FindOrderNumber(const CCatalogueProduct& produkt, const CString& typ,

@@ -4,6 +4,7 @@
 #include "reference_host/catalog/reader/catalogue_file.h"
 
 #include <cstddef>
+#include <set>
 #include <vector>
 
 namespace reference_host {
@@ -29,8 +30,13 @@ struct CCatalogueRow
 /// All rows that the product has for any requirement, in the same order.
 std::vector<CCatalogueRow> BuildAllRows(const CCatalogueProduct& produkt);
 
-/// Heights and depths of all series, in rising order and each once, into the node of the product.
-void AssignCrossSections(HK_VDI3805_PRODUKT& node, const CCatalogueProduct& produkt);
+/// Heights and depths of all series.
+struct CCrossSections
+{
+    std::set<double> hoehen;
+    std::set<double> tiefen;
+};
+CCrossSections CrossSectionsOf(const CCatalogueProduct& produkt);
 
 /// The order number of a row of the product: of the first size with this type text and these
 /// measures that has one. Empty if there is none.

@@ -2,7 +2,7 @@
 // one radiator. What it is built as tells whether it names itself:
 //   OWN_HOST_NAME      its identity; without it the host is silent
 //   OWN_HOST_VERSION   the interface that it says it was made for, where that is not the headers'
-//   ONLY_CATALOGUE     leaves all but the catalogue to another host
+//   ONLY_CATALOGUE     leaves all but the catalogue and one record to the defaults or another host
 
 #include "frame/conn_values.h"
 #include "frame/handover.h"
@@ -82,6 +82,27 @@ int ReadVdiFile(const CString&, HK_VDI3805_ART**, double)
 {
     return 1;
 }
+
+#define RECORD(name)                                                                               \
+    name::name(const name&) = default;                                                             \
+    name& name::operator=(const name&) = default;                                                  \
+    void name::Serialize(CArchive&) {}
+#define OBJECT(name)                                                                               \
+    RECORD(name)                                                                                   \
+    name::~name() = default;                                                                       \
+    const CRuntimeClass& name::GetThisClass()                                                      \
+    {                                                                                              \
+        static const CRuntimeClass description{#name, 1, &CObject::GetThisClass(), nullptr};       \
+        return description;                                                                        \
+    }                                                                                              \
+    const CRuntimeClass& name::GetRuntimeClass() const                                             \
+    {                                                                                              \
+        return GetThisClass();                                                                     \
+    }
+
+// A record too, with the table of its virtual functions.
+OBJECT(HKAUSWAHL_UEBERGABE)
+HKAUSWAHL_UEBERGABE::HKAUSWAHL_UEBERGABE() = default;
 
 #ifndef ONLY_CATALOGUE
 
@@ -216,23 +237,6 @@ int lmGetGewerkColor(TgaGewerk)
     return 0;
 }
 
-#define RECORD(name)                                                                               \
-    name::name(const name&) = default;                                                             \
-    name& name::operator=(const name&) = default;                                                  \
-    void name::Serialize(CArchive&) {}
-#define OBJECT(name)                                                                               \
-    RECORD(name)                                                                                   \
-    name::~name() = default;                                                                       \
-    const CRuntimeClass& name::GetThisClass()                                                      \
-    {                                                                                              \
-        static const CRuntimeClass description{#name, 1, &CObject::GetThisClass(), nullptr};       \
-        return description;                                                                        \
-    }                                                                                              \
-    const CRuntimeClass& name::GetRuntimeClass() const                                             \
-    {                                                                                              \
-        return GetThisClass();                                                                     \
-    }
-
 RECORD(HK_DATEN_VDI3805)
 HK_DATEN_VDI3805::HK_DATEN_VDI3805()
     : Hoehe(0), Tiefe(0), Laenge(0), LeistungEN442(0), Leistung(0), Elemente(0), Bauart(L'M'),
@@ -259,8 +263,6 @@ OBJECT(HK_VDI3805_TYP)
 HK_VDI3805_TYP::HK_VDI3805_TYP() : pNext(nullptr), pPrev(nullptr) {}
 OBJECT(ConnValues)
 ConnValues::ConnValues() = default;
-OBJECT(HKAUSWAHL_UEBERGABE)
-HKAUSWAHL_UEBERGABE::HKAUSWAHL_UEBERGABE() = default;
 LM_TRAFO::LM_TRAFO() = default;
 LM_TRAFO::LM_TRAFO(const LM_TRAFO&) = default;
 LM_TRAFO& LM_TRAFO::operator=(const LM_TRAFO&) = default;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/array.h"
+#include "common/text_file.h"
+#include "platform/file.h"
 
 #include <vector>
 
@@ -11,4 +12,12 @@ inline CStringArray Lines(const std::vector<CString>& lines)
         array.Add(line);
     }
     return array;
+}
+
+/// The lines of a file; none if it cannot be read.
+inline CStringArray LinesIn(const CString& path)
+{
+    CStringArray lines;
+    ReadTextFile(path, lines, CFile::modeRead, -1);
+    return lines;
 }

@@ -5,8 +5,6 @@
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
 
-#include <gtest/gtest.h>
-
 #include <filesystem>
 #include <string>
 

@@ -4,16 +4,15 @@
 #include "dialogs/resizing_dialog.h"
 #include "tests/dialog_support/dialog_test.h"
 #include "tests/dialog_support/widget_look.h"
+#include "tests/src/uikit/kit_recorder.h"
 #include "uikit/combo_box.h"
-#include "uikit/data_exchange.h"
 #include "uikit/native/access.h"
-
-#include <gtest/gtest.h>
 
 #include <QApplication>
 
 #include <cstdlib>
 #include <functional>
+#include <tuple>
 #include <vector>
 
 using namespace reference_host;
@@ -30,17 +29,15 @@ enum Ids
 
 using enum ControlKind;
 
-const DialogTemplate kTemplate = {idDialog,
-                                  L"Prova",
-                                  160,
-                                  120,
-                                  frameResizable,
-                                  {{kBannerId, canvas, L"", 0, 0, 16, 120},
-                                   {idErstes, edit, L"", 24, 4, 60, 13},
-                                   {idZweites, edit, L"", 24, 24, 60, 13},
-                                   {idBild, canvas, L"", 24, 44, 20, 20},
-                                   {kIdOk, defaultButton, L"OK", 24, 100, 50, 14},
-                                   {kIdCancel, button, L"Annulla", 80, 100, 50, 14}}};
+const std::vector<ControlTemplate> kControls = {
+    {kBannerId, canvas, L"", 0, 0, 16, 120},
+    {idErstes, edit, L"", 24, 4, 60, 13},
+    {idZweites, edit, L"", 24, 24, 60, 13},
+    {idBild, canvas, L"", 24, 44, 20, 20},
+    {kIdOk, defaultButton, L"OK", 24, 100, 50, 14},
+    {kIdCancel, button, L"Annulla", 80, 100, 50, 14},
+};
+const DialogTemplate kTemplate = {idDialog, L"Prova", 160, 120, frameResizable, kControls};
 
 class CProbeDialog : public CResizingDialog
 {
@@ -102,76 +99,37 @@ TEST_F(BrushedDialog, EnterMovesOnWhereTheUserWantsThat)
               kIdOk);
 }
 
-const DialogTemplate kEveryKind = {idDialog,
-                                   L"Ogni tipo",
-                                   160,
-                                   120,
-                                   frameFixed,
-                                   {{30, checkBox, L"Casella", 4, 4, 60, 10},
-                                    {31, radioButton, L"Uno", 4, 18, 60, 10, styleGroup},
-                                    {32, radioButton, L"Due", 70, 18, 60, 10},
-                                    {33, comboList, L"", 4, 32, 60, 60},
-                                    {34, comboEdit, L"", 70, 32, 60, 60},
-                                    {35, edit, L"", 4, 48, 60, 12},
-                                    {36, tree, L"", 4, 64, 60, 30},
-                                    {kIdOk, defaultButton, L"OK", 24, 100, 50, 14}}};
-
-/// Counts how often Enter arrives as the command of OK.
-class CEveryKindDialog : public CBrushedDialog
-{
-public:
-    CEveryKindDialog() : CBrushedDialog(kEveryKind) {}
-
-    int m_nOk = 0;
-
-protected:
-    void DoDataExchange(CDataExchange* exchange) override
-    {
-        CBrushedDialog::DoDataExchange(exchange);
-        DDX_Control(exchange, 33, m_list);
-        DDX_Control(exchange, 34, m_editableList);
-    }
-    bool OnInitDialog() override
-    {
-        CBrushedDialog::OnInitDialog();
-        for (CComboBox* list : {&m_list, &m_editableList}) {
-            list->AddString(L"uno");
-            list->AddString(L"due");
-            list->SetCurSel(0);
-        }
-        return true;
-    }
-    void OnOK() override { ++m_nOk; }
-
-private:
-    CComboBox m_list;
-    CComboBox m_editableList;
-};
+using BrushedControls = CRecorderTestOf<CBrushedDialog>;
 
 /// On desktops whose toolkit takes Enter for a press, the journey of this key shows the same.
-TEST_F(BrushedDialog, EnterIsTheDialogsInControlsOfEveryKind)
+TEST_F(BrushedControls, EnterIsTheDialogsInControlsOfEveryKind)
 {
+    const CTempFolder folder;
+    const CSettingOverride local(kSettingLocalPath, folder.Path());
+    m_dialog.onInit = [this] {
+        for (const int id : {idSorted, idEditable}) {
+            CComboBox list;
+            CNativeAccess::CopyTo(list, Item(id));
+            list.AddString(L"uno");
+        }
+    };
     for (const bool asTab : {false, true}) {
-        CSettingOverride setting(kSettingEnterAsTab, asTab ? L"1" : L"0");
-        CEveryKindDialog dialog;
-        m_driver.WhenOpens(idDialog, [&](CDialogUser& user) {
-            for (const int id : {30, 32, 33, 34, 35, 36}) {
-                SCOPED_TRACE(testing::Message() << id << (asTab ? " as Tab" : ""));
+        const CSettingOverride setting(kSettingEnterAsTab, asTab ? L"1" : L"0");
+        for (const int id : {int(idCheck), idRadio + 1, int(idSorted), int(idEditable), int(idText),
+                             int(idTree)}) {
+            SCOPED_TRACE(testing::Message() << id << (asTab ? " as Tab" : ""));
+            const int result = Run([&](CDialogUser& user) {
                 user.Focus(id);
                 QCoreApplication::processEvents();
-                dialog.m_nOk = 0;
                 user.Press(Qt::Key_Return);
                 QCoreApplication::processEvents();
-                EXPECT_EQ(dialog.m_nOk, asTab ? 0 : 1);
-                EXPECT_EQ(user.Dialog().GetFocusId() != id, asTab);
+                EXPECT_EQ(m_dialog.GetFocusId() != id, asTab);
                 EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "an opened list";
-                EXPECT_FALSE(user.IsChecked(30));
-                EXPECT_FALSE(user.IsChecked(32));
-                EXPECT_EQ(user.Chosen(33), 0);
-            }
-            user.Dialog().EndDialog(kIdOk);
-        });
-        dialog.DoModal();
+                EXPECT_FALSE(user.IsChecked(idCheck) || user.IsChecked(idRadio + 1));
+                EXPECT_EQ(user.Chosen(idSorted), -1);
+            });
+            EXPECT_EQ(result, asTab ? 99 : kIdOk);
+        }
     }
 }
 
@@ -204,13 +162,12 @@ private:
 
 TEST_F(BrushedDialog, EveryKindOfAreaHasItsColoursOfTheSkin)
 {
-    struct Case
+    const struct
     {
         ColorKind kind;
         ControlColors colored;
         ControlColors uncolored;
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {ColorKind::edit, {kEdit, kBack}, {}},
         {ColorKind::listBox, {kList, kBack}, {}},
         {ColorKind::button, {kButton, kButton}, {}},
@@ -218,31 +175,25 @@ TEST_F(BrushedDialog, EveryKindOfAreaHasItsColoursOfTheSkin)
         {ColorKind::label, {kBack, kBack}, {kDefault, kDefault}},
         {ColorKind::other, {}, {}},
     };
-    const auto expect = [](CProbeDialog& dialog, ColorKind kind, const ControlColors& expected) {
-        const ControlColors colors = dialog.OnCtlColor(kind);
-        EXPECT_EQ(colors.textBackground, expected.textBackground) << static_cast<int>(kind);
-        EXPECT_EQ(colors.brush, expected.brush) << static_cast<int>(kind);
-    };
-    for (const Case& c : cases) {
-        {
-            const CSkin skin(L"1", true);
+    for (const auto& c : cases) {
+        // Whether skins are allowed when the dialog is made and when it asks, whether this one
+        // shows them, and whether there are colours.
+        const std::tuple<const wchar_t*, const wchar_t*, bool, bool, ControlColors> ways[] = {
+            {L"1", L"1", true, true, c.colored}, {L"1", L"1", true, false, c.uncolored},
+            {L"0", L"1", true, true, {}},        {L"1", L"0", true, true, {}},
+            {L"1", L"1", false, true, {}},
+        };
+        for (const auto& [made, asked, isShown, hasColors, expected] : ways) {
+            SCOPED_TRACE(testing::Message()
+                         << int(c.kind) << made << asked << isShown << hasColors);
+            const CSkin skin(made, hasColors);
             CProbeDialog dialog;
-            expect(dialog, c.kind, c.colored);
-            OverrideHostSetting(kSettingAllowSkin, L"0");
-            expect(dialog, c.kind, {});
-            OverrideHostSetting(kSettingAllowSkin, L"1");
-            dialog.SetSkin(false);
-            expect(dialog, c.kind, {});
+            dialog.SetSkin(isShown);
+            OverrideHostSetting(kSettingAllowSkin, asked);
+            const ControlColors colors = dialog.OnCtlColor(c.kind);
+            EXPECT_EQ(colors.textBackground, expected.textBackground);
+            EXPECT_EQ(colors.brush, expected.brush);
         }
-        {
-            const CSkin skin(L"1", false);
-            CProbeDialog dialog;
-            expect(dialog, c.kind, c.uncolored);
-        }
-        const CSkin skin(L"0", true);
-        CProbeDialog dialog;
-        OverrideHostSetting(kSettingAllowSkin, L"1");
-        expect(dialog, c.kind, {});
     }
 }
 

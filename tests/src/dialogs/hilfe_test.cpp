@@ -2,22 +2,14 @@
 
 #include "dialogs/brushed_dialog.h"
 #include "tests/dialog_support/dialog_test.h"
+#include "tests/support/page_opener.h"
 #include "uikit/native/access.h"
 #include "uikit/native/caption_bar.h"
-
-#include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QPainter>
 #include <QTest>
 
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cstddef>
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <utility>
@@ -27,41 +19,24 @@ using namespace reference_host;
 
 namespace {
 
-constexpr int kPatience = 30000; // ms, for a machine that is busy with other things
-
 const std::vector<ControlTemplate> kControls = {{10, ControlKind::edit, L"", 4, 4, 60, 13}};
 const DialogTemplate kPlain = {7301, L"Aiuto", 240, 60, frameFixed, kControls};
 const DialogTemplate kBoxes = {
     7302, L"Aiuto", 240, 60, frameResizable | frameMinimizeBox | frameMaximizeBox, kControls};
 
-/// A working place with pages for two dialogs, and an opener that tells through a pipe which page
-/// it was given.
+/// A working place with pages for two dialogs, and a program that opens them.
 class Hilfe : public CDialogTest
 {
 protected:
     Hilfe()
     {
-        const std::string pipe = (m_folder.Root() / "pipe").string();
-        m_folder.WriteBytes("opener", "#!/bin/sh\nbasename \"$1\" > '" + pipe + "'\n");
-        std::filesystem::permissions(m_folder.Root() / "opener", std::filesystem::perms::owner_all);
-        mkfifo(pipe.c_str(), 0600);
-        // Opened for both directions, so that the pipe never ends between two writers.
-        m_pipe = open(pipe.c_str(), O_RDWR | O_CLOEXEC);
         m_folder.WriteBytes("7301.pdf", "");
         m_folder.WriteBytes("7302.pdf", "");
     }
-    ~Hilfe() override { close(m_pipe); }
 
-    /// The next page that the opener was given, empty if it was not started.
-    std::string WaitForPage() const
+    void ExpectPage(const char* name, const char* when) const
     {
-        pollfd ready = {m_pipe, POLLIN, 0};
-        char bytes[256];
-        if (poll(&ready, 1, kPatience) != 1) {
-            return {};
-        }
-        const ssize_t count = read(m_pipe, bytes, sizeof bytes);
-        return std::string(bytes, count > 0 ? static_cast<std::size_t>(count) : 0);
+        EXPECT_EQ(m_opener.WaitForPage(), "1|" + (m_folder.Root() / name).string()) << when;
     }
 
     static CCaptionBar& Caption(const CDialogUser& user)
@@ -80,8 +55,7 @@ protected:
     }
 
     CSettingOverride m_pages{kSettingHelpFolder, m_folder.Path()};
-    CSettingOverride m_program{kSettingHelpProgram, m_folder.Path("opener")};
-    int m_pipe = -1;
+    CPageOpener m_opener{m_folder};
 };
 
 TEST_F(Hilfe, TheFirstLineOfADialogSwitchesItsHelp)
@@ -127,16 +101,16 @@ TEST_F(Hilfe, F1AndTheIconOpenThePageOfADialogThatHasAnEntry)
     m_driver.WhenOpens(7302, [&](CDialogUser& user) {
         user.Focus(10);
         user.Press(Qt::Key_F1);
-        EXPECT_EQ(WaitForPage(), "7302.pdf\n") << "of this dialog alone";
+        ExpectPage("7302.pdf", "of this dialog alone");
         Painted(user);
         const CRect icon = dialog.GetHilfeRect();
         PressCaption(user, {icon.left - 1, icon.top + 8});
         PressCaption(user, {icon.left, icon.top + 8});
-        EXPECT_EQ(WaitForPage(), "7302.pdf\n") << "once, for the press inside";
+        ExpectPage("7302.pdf", "once, for the press inside");
         dialog.MoveWindow(dialog.GetWindowRect().MovedBy(-60, 30));
         QCoreApplication::processEvents();
         PressCaption(user, {icon.right - 61, icon.top + 38});
-        EXPECT_EQ(WaitForPage(), "7302.pdf\n") << "wherever the dialog was moved";
+        ExpectPage("7302.pdf", "wherever the dialog was moved");
         user.Press(Qt::Key_Escape);
     });
     dialog.DoModal();

@@ -4,8 +4,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
+#include <algorithm>
 #include <functional>
+#include <map>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -21,6 +23,8 @@ using enum ControlKind;
 
 const DialogTemplate kTemplate = {idDialog, L"Prova",   120,
                                   80,       frameFixed, {{idBaum, tree, L"", 4, 4, 100, 40}}};
+
+using Path = std::vector<CString>;
 
 class CListenDialog : public CDialog
 {
@@ -38,48 +42,22 @@ public:
     }
 
     /// Adds the last text of a path below the others, which are there.
-    void Add(const std::vector<CString>& path)
+    void Add(Path path)
     {
-        HTREEITEM parent = nullptr;
-        for (std::size_t i = 0; i + 1 < path.size(); ++i) {
-            parent = Child(parent, path[i]);
-        }
-        m_baum.InsertItem(path.back(), -1, -1, parent);
+        const CString text = path.back();
+        HTREEITEM& item = m_items[path];
+        path.pop_back();
+        item = m_baum.InsertItem(text, -1, -1, m_items[path]);
     }
 
-    HTREEITEM Item(const std::vector<CString>& path) const
-    {
-        HTREEITEM item = nullptr;
-        for (const CString& text : path) {
-            item = Child(item, text);
-        }
-        return item;
-    }
-
-    std::vector<CString> Path(HTREEITEM item) const
-    {
-        std::vector<CString> path;
-        for (; item != nullptr; item = m_baum.GetParentItem(item)) {
-            path.insert(path.begin(), m_baum.GetItemText(item));
-        }
-        return path;
-    }
-
+    /// The items by their paths; of none, null.
+    std::map<Path, HTREEITEM> m_items;
     CTreeCtrl m_baum;
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, idBaum, m_baum); }
 
 private:
-    HTREEITEM Child(HTREEITEM parent, const CString& text) const
-    {
-        HTREEITEM item = parent != nullptr ? m_baum.GetChildItem(parent) : m_baum.GetRootItem();
-        while (item != nullptr && m_baum.GetItemText(item) != text) {
-            item = m_baum.GetNextSiblingItem(item);
-        }
-        return item;
-    }
-
     CDialogDriver m_driver;
 };
 
@@ -89,30 +67,21 @@ constexpr TreeSearch kBackward = {false, false};
 /// Two makers with a kind and products, one that has not been read.
 void Fill(CListenDialog& dialog)
 {
-    for (const std::vector<CString>& path :
-         std::vector<std::vector<CString>>{{L"Alfa Nord"},
-                                           {L"Alfa Nord", L"Piastre"},
-                                           {L"Alfa Nord", L"Piastre", L"Uno"},
-                                           {L"Alfa Nord", L"Piastre", L"Due"},
-                                           {L"Beta"},
-                                           {L"Beta", L"..."},
-                                           {L"Alfa"},
-                                           {L"Alfa", L"Piastre"},
-                                           {L"Alfa", L"Piastre", L"Uno"}}) {
-        dialog.Add(path);
-    }
+    const Path paths[] = {{L"Alfa Nord"},
+                          {L"Alfa Nord", L"Piastre"},
+                          {L"Alfa Nord", L"Piastre", L"Uno"},
+                          {L"Alfa Nord", L"Piastre", L"Due"},
+                          {L"Beta"},
+                          {L"Beta", L"..."},
+                          {L"Alfa"},
+                          {L"Alfa", L"Piastre"},
+                          {L"Alfa", L"Piastre", L"Uno"}};
+    std::ranges::for_each(paths, [&](const Path& path) { dialog.Add(path); });
 }
 
 TEST(FindTreeItem, WalksFromBehindTheStartAndAroundTheEnds)
 {
-    struct Case
-    {
-        std::vector<CString> start;
-        CString text;
-        TreeSearch search;
-        std::vector<CString> found;
-    };
-    const std::vector<Case> cases = {
+    const std::tuple<Path, CString, TreeSearch, Path> cases[] = {
         {{}, L"alfa nord", kForward, {L"Alfa Nord"}},
         {{L"Alfa Nord"}, L"alfa", kForward, {L"Alfa"}},
         {{L"Alfa Nord", L"Piastre", L"Due"}, L"e", kForward, {L"Beta"}},
@@ -133,10 +102,10 @@ TEST(FindTreeItem, WalksFromBehindTheStartAndAroundTheEnds)
     dialog.Run([&] {
         EXPECT_EQ(FindTreeItem(L"a", dialog.m_baum, kForward, nullptr), nullptr) << "empty tree";
         Fill(dialog);
-        for (const Case& c : cases) {
-            const HTREEITEM found =
-                FindTreeItem(c.text, dialog.m_baum, c.search, dialog.Item(c.start));
-            EXPECT_EQ(dialog.Path(found), c.found) << testing::PrintToString(c.text);
+        for (const auto& [start, text, search, found] : cases) {
+            EXPECT_EQ(FindTreeItem(text, dialog.m_baum, search, dialog.m_items[start]),
+                      dialog.m_items[found])
+                << testing::PrintToString(text);
         }
     });
 }
@@ -146,13 +115,14 @@ TEST(FindTreeItem, BeginsAtTheSelectionWhereNoStartIsGiven)
     CListenDialog dialog;
     dialog.Run([&] {
         dialog.Add({L"Alfa"});
-        EXPECT_EQ(FindTreeItem(L"alfa", dialog.m_baum, kForward, nullptr), dialog.Item({L"Alfa"}))
+        const HTREEITEM alfa = dialog.m_items[{L"Alfa"}];
+        EXPECT_EQ(FindTreeItem(L"alfa", dialog.m_baum, kForward, nullptr), alfa)
             << "nothing is selected, so that the first item is looked at";
-        dialog.m_baum.SelectItem(dialog.Item({L"Alfa"}));
+        dialog.m_baum.SelectItem(alfa);
         EXPECT_EQ(FindTreeItem(L"alfa", dialog.m_baum, kForward, nullptr), nullptr);
         dialog.Add({L"Alfa 2"});
         EXPECT_EQ(FindTreeItem(L"alfa", dialog.m_baum, kForward, nullptr),
-                  dialog.Item({L"Alfa 2"}));
+                  dialog.m_items[{L"Alfa 2"}]);
     });
 }
 
@@ -181,7 +151,7 @@ TEST(FindTreeItem, AWordCountsOnlyAtTheStartOfWhatRemains)
         {L"tubo_2", false},     {L"tubol", false},      {L"un tubo", false},
         {L"un tubo x", false},  {L"xtubotubo", true},   {L"xtubo tubo", false},
         {L"tuboltubo", false},  {L"tubo\u4E2D", false}, {L"tubo\uFF41", false},
-        {L"tubo\u0663", true},
+        {L"tubo\u0663", true},  {L"uno, tubo", false},
     };
     CListenDialog dialog;
     dialog.Run([&] {

@@ -2,13 +2,11 @@
 
 #include "common/arbeits_ordner.h"
 #include "common/platzierung_datei.h"
-#include "common/text_file.h"
 #include "dialogs/resizing_dialog.h"
 #include "platform/environment.h"
 #include "tests/dialog_support/dialog_test.h"
+#include "tests/src/common/lines.h"
 #include "tests/support/file_size_limit.h"
-
-#include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QEvent>
@@ -19,6 +17,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 using namespace reference_host;
@@ -89,8 +88,7 @@ protected:
 
     std::vector<CString> Lines() const
     {
-        CStringArray lines;
-        ReadTextFile(m_folder.Path(kDatei), lines, CFile::modeRead, -1);
+        const CStringArray lines = LinesIn(m_folder.Path(kDatei));
         return {lines.begin(), lines.end()};
     }
 
@@ -120,14 +118,9 @@ TEST_F(Platzierung, TheFirstSaveMakesTheFileTheSecondOneKeepsThePlace)
 
 TEST_F(Platzierung, OpacityIsTakenFromTheLineWithinItsLimits)
 {
-    struct Case
-    {
-        std::optional<std::string> file;
-        int before;
-        int after;
-    };
     const std::string place = "CHIAVE|10|400|20|300|";
-    const std::vector<Case> cases = {
+    // What the file holds, if there is one, and the opacity before and after.
+    const std::tuple<std::optional<std::string>, int, int> cases[] = {
         {{}, 120, 255},
         {"", 120, 120},
         {"", 99, 255},
@@ -140,15 +133,16 @@ TEST_F(Platzierung, OpacityIsTakenFromTheLineWithinItsLimits)
         {place + "-3|\n", 120, 255},
         {"CHIAVE|10|400|20|\n" + place + "150|\n" + place + "160|\n", 255, 150},
     };
-    for (const Case& c : cases) {
+    for (const auto& [file, before, after] : cases) {
+        SCOPED_TRACE(file.value_or("no file"));
         std::filesystem::remove(m_folder.Root() / kDatei);
-        if (c.file) {
-            m_folder.WriteBytes(kDatei, *c.file);
+        if (file) {
+            m_folder.WriteBytes(kDatei, *file);
         }
         CFesterDialog dialog(kFest);
-        dialog.m_alpha = c.before;
-        Open(dialog, [&] { EXPECT_EQ(dialog.GetAlpha(), c.after) << c.file.value_or("no file"); });
-        EXPECT_EQ(dialog.m_alpha, c.after) << c.file.value_or("no file");
+        dialog.m_alpha = before;
+        Open(dialog, [&, after = after] { EXPECT_EQ(dialog.GetAlpha(), after); });
+        EXPECT_EQ(dialog.m_alpha, after);
     }
 }
 

@@ -7,8 +7,6 @@
 #include <QSizeGrip>
 #include <QTest>
 
-#include <gtest/gtest.h>
-
 #include <cstddef>
 #include <functional>
 #include <tuple>
@@ -28,16 +26,12 @@ constexpr COLORREF kUnder = RGB(255, 0, 0);
 
 using enum ControlKind;
 
-const DialogTemplate kTemplate = {idDialog,
-                                  L"Prova",
-                                  161,
-                                  101,
-                                  frameResizable,
-                                  {{10, button, L"0", 4, 4, 30, 14},
-                                   {11, button, L"1", 40, 4, 31, 15},
-                                   {12, button, L"2", 4, 30, 32, 16},
-                                   {13, button, L"3", 40, 30, 33, 17},
-                                   {idUnten, button, L"", 131, 81, 30, 20}}};
+const std::vector<ControlTemplate> kControls = {
+    {10, button, L"0", 4, 4, 30, 14},        {11, button, L"1", 40, 4, 31, 15},
+    {12, button, L"2", 4, 30, 32, 16},       {13, button, L"3", 40, 30, 33, 17},
+    {idUnten, button, L"", 131, 81, 30, 20},
+};
+const DialogTemplate kTemplate = {idDialog, L"Prova", 161, 101, frameResizable, kControls};
 
 class CProbeDialog : public CResizingDialog
 {

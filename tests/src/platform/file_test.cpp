@@ -7,8 +7,6 @@
 #include "tests/support/file_size_limit.h"
 #include "tests/support/temp_folder.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <csignal>

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <fstream>
+#include <sstream>
+#include <string>
 
 namespace {
 
@@ -68,6 +71,30 @@ TEST(OutputConversion, DivisorAndExponentAreUsedOnBothDifferences)
     // 0.596386^1.5 = 0.460568; an exponent of 0.1 is used as it stands, 0.596386^0.1 = 0.949627.
     EXPECT_NEAR(GetLeistungsFaktorEx(55, 45, 20, 1.0, 1.5), 0.461, kTolerance);
     EXPECT_NEAR(GetLeistungsFaktorEx(55, 45, 20, 1.0, 0.1), 0.950, kTolerance);
+}
+
+TEST(OutputConversion, TheGuideForHostsTellsWhatIsComputed)
+{
+    std::ifstream guide(RADSEL_SOURCE_DIR "/docs/host-programmer.md");
+    const double rooms[] = {15, 18, 20, 22, 24};
+    int systems = 0;
+    for (std::string line; std::getline(guide, line);) {
+        std::istringstream row(line);
+        char mark = 0;
+        char slash = 0;
+        double supply = 0.0;
+        double back = 0.0;
+        if (!(row >> mark >> supply >> slash >> back) || mark != '|' || slash != '/') {
+            continue;
+        }
+        ++systems;
+        for (const double room : rooms) {
+            double told = 0.0;
+            row >> mark >> told;
+            EXPECT_NEAR(told, GetLeistungsFaktor(supply, back, room), kTolerance) << line;
+        }
+    }
+    EXPECT_EQ(systems, 12);
 }
 
 } // namespace

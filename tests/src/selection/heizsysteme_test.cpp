@@ -42,8 +42,7 @@ protected:
 
     static Texts Zeilen()
     {
-        CStringArray lines;
-        ReadTextFile(HeizungPfad(L"CmbData.txt"), lines, CFile::modeRead, -1);
+        const CStringArray lines = LinesIn(HeizungPfad(L"CmbData.txt"));
         return {lines.begin(), lines.end()};
     }
 

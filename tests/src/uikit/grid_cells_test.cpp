@@ -9,7 +9,6 @@
 #include <numeric>
 #include <random>
 #include <stdexcept>
-#include <string>
 #include <vector>
 
 namespace {

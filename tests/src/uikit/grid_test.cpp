@@ -36,6 +36,8 @@ public:
     Log log;
     int fixedColumn = -1;
     bool guarded = false;
+    wchar_t processed = L'\0';
+    std::vector<wchar_t> characters;
     COLORREF back = RGB(255, 255, 255);
 
 protected:
@@ -54,6 +56,11 @@ protected:
     void OnHeadingClick(int column, int row, bool down) override
     {
         log.push_back(Join(down ? "press" : "release", column, row));
+    }
+    void OnCharTyped(wchar_t* character, bool& isProcessed) override
+    {
+        characters.push_back(*character);
+        isProcessed = *character == processed;
     }
     bool OnToolTip(int column, int row, GridSection, CString& html) override
     {
@@ -177,6 +184,38 @@ TEST_F(GridTest, KeysMoveTheCurrentRow)
     }
     EXPECT_EQ(TakeLog(), Log{}) << "there is no row above the first";
     EXPECT_EQ(m_view->currentIndex().column(), 1);
+}
+
+TEST_F(GridTest, KeysThatItDoesNotProcessAreThoseOfTheWindowAround)
+{
+    m_grid->processed = 27;
+    for (const auto& [key, text] : {std::pair(Qt::Key_Return, "\r"), {Qt::Key_Escape, "\x1b"}}) {
+        QKeyEvent press(QEvent::KeyPress, key, {}, text);
+        QApplication::sendEvent(m_view, &press);
+        EXPECT_EQ(press.isAccepted(), key == Qt::Key_Escape);
+    }
+    EXPECT_EQ(m_grid->characters, (std::vector<wchar_t>{13, 27}));
+}
+
+TEST_F(GridTest, TheCellsStandForTheControlOfItsId)
+{
+    EXPECT_EQ(GetControlId(*m_view), 18001);
+    m_after->setFocus();
+    QTest::keyClick(m_after, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(m_view->hasFocus()) << "in its place in the order of Tab";
+    m_after->setFocus();
+    m_place->setFocus();
+    EXPECT_TRUE(m_view->hasFocus());
+
+    m_place->resize(100, 50);
+    QApplication::processEvents();
+    EXPECT_EQ(m_view->size(), QSize(100, 50));
+    m_grid->MoveWindow({3, 40, 63, 90});
+    QApplication::processEvents();
+    EXPECT_EQ(m_view->size(), QSize(60, 50));
+    EXPECT_EQ(m_grid->GetPlace(), m_handle.GetPlace());
+    m_grid->ShowWindow(false);
+    EXPECT_FALSE(m_view->isVisible());
 }
 
 TEST_F(GridTest, OnlyTheUserRaisesRowChanges)

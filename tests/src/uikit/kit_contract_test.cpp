@@ -10,7 +10,6 @@
 #include <QTest>
 #include <QTextDocument>
 #include <QTimer>
-#include <QToolButton>
 
 #include <stdexcept>
 #include <tuple>
@@ -246,7 +245,7 @@ TEST_F(KitContract, TimersTickUntilKilledAndDieWithTheWindow)
 
 TEST_F(KitContract, DialogsNestAndTheInnerOneEndsFirst)
 {
-    CRecordingDialog inner;
+    CRecordingDialogOf<CDialog> inner;
     m_driver.WhenOpens(kRecorder, [&](CDialogUser& user) {
         user.Click(idButton);
         EXPECT_TRUE(m_dialog.HasEnded());

@@ -6,6 +6,7 @@
 #include "tests/dialog_support/widget_look.h"
 
 #include <QLineEdit>
+#include <QTest>
 
 #include <cstdlib>
 

@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QTest>
-
 #include <functional>
 #include <string>
 #include <utility>
@@ -41,47 +39,42 @@ enum RecorderId
 inline const DialogTemplate& RecorderTemplate()
 {
     using enum ControlKind;
-    static const DialogTemplate dialog = {
-        kRecorder,
-        L"Prova",
-        240,
-        160,
-        frameResizable,
-        {
-            {idText, edit, L"", 4, 4, 60, 13},
-            {idOther, edit, L"", 4, 20, 60, 13},
-            {idNumber, edit, L"", 4, 36, 60, 13},
-            {idInteger, edit, L"", 4, 52, 60, 13},
-            {idBehind, edit, L"", 4, 68, 60, 13},
-            {idSorted, comboList, L"", 70, 20, 60, 14, styleSorted},
-            {idEditable, comboEdit, L"", 70, 36, 60, 14},
-            {idRadio, radioButton, L"a", 70, 52, 20, 11, styleGroup},
-            {idRadio + 1, radioButton, L"b", 90, 52, 20, 11},
-            {idRadio + 2, radioButton, L"c", 110, 52, 20, 11},
-            {idRadio + 3, radioButton, L"d", 70, 66, 20, 11, styleGroup},
-            {idTree, tree, L"", 140, 4, 96, 80},
-            {idSpin, spin, L"", 64, 4, 6, 13},
-            {idCanvas, canvas, L"", 4, 90, 80, 40, styleNotify},
-            {idLabel, label, L"Una", 90, 90, 40, 9},
-            {idCheck, checkBox, L"sì", 90, 104, 40, 11},
-            {idButton, button, L"Altro", 4, 140, 40, 14},
-            {idReadOnly, edit, L"", 50, 140, 40, 13, styleReadOnly},
-            {idPale, canvas, L"", 96, 140, 20, 14, stylePales},
-            {kIdOk, defaultButton, L"OK", 140, 140, 44, 14},
-            {kIdCancel, button, L"Annulla", 188, 140, 44, 14},
-            {idGrip, sizeGrip, L"", 232, 152, 8, 8},
-        },
+    static const std::vector<ControlTemplate> controls = {
+        {idText, edit, L"", 4, 4, 60, 13},
+        {idOther, edit, L"", 4, 20, 60, 13},
+        {idNumber, edit, L"", 4, 36, 60, 13},
+        {idInteger, edit, L"", 4, 52, 60, 13},
+        {idBehind, edit, L"", 4, 68, 60, 13},
+        {idSorted, comboList, L"", 70, 20, 60, 14, styleSorted},
+        {idEditable, comboEdit, L"", 70, 36, 60, 14},
+        {idRadio, radioButton, L"a", 70, 52, 20, 11, styleGroup},
+        {idRadio + 1, radioButton, L"b", 90, 52, 20, 11},
+        {idRadio + 2, radioButton, L"c", 110, 52, 20, 11},
+        {idRadio + 3, radioButton, L"d", 70, 66, 20, 11, styleGroup},
+        {idTree, tree, L"", 140, 4, 96, 80},
+        {idSpin, spin, L"", 64, 4, 6, 13},
+        {idCanvas, canvas, L"", 4, 90, 80, 40, styleNotify},
+        {idLabel, label, L"Una", 90, 90, 40, 9},
+        {idCheck, checkBox, L"sì", 90, 104, 40, 11},
+        {idButton, button, L"Altro", 4, 140, 40, 14},
+        {idReadOnly, edit, L"", 50, 140, 40, 13, styleReadOnly},
+        {idPale, canvas, L"", 96, 140, 20, 14, stylePales},
+        {kIdOk, defaultButton, L"OK", 140, 140, 44, 14},
+        {kIdCancel, button, L"Annulla", 188, 140, 44, 14},
+        {idGrip, sizeGrip, L"", 232, 152, 8, 8},
     };
+    static const DialogTemplate dialog = {kRecorder, L"Prova", 240, 160, frameResizable, controls};
     return dialog;
 }
 
 using Log = std::vector<std::string>;
 
 /// Records what reaches it; what a test adds runs in place of the hooks.
-class CRecordingDialog : public CDialog
+template <class Base>
+class CRecordingDialogOf : public Base
 {
 public:
-    CRecordingDialog() : CDialog(RecorderTemplate()) {}
+    CRecordingDialogOf() : Base(RecorderTemplate()) {}
 
     Log log;
     std::function<void()> onInit = [] {};
@@ -113,7 +106,7 @@ protected:
     }
     bool OnInitDialog() override
     {
-        CDialog::OnInitDialog();
+        Base::OnInitDialog();
         log.clear();
         onInit();
         return true;
@@ -121,19 +114,20 @@ protected:
     const CMessageMap& GetMessageMap() const override
     {
         static const CMessageMap map(
-            nullptr, {On(ControlEvent::step, idSpin, &CRecordingDialog::OnStep),
-                      On(ControlEvent::treeSelectionChanged, idTree, &CRecordingDialog::OnSelect),
-                      On(ControlEvent::treeItemExpanding, idTree, &CRecordingDialog::OnExpanding)});
+            nullptr,
+            {On(ControlEvent::step, idSpin, &CRecordingDialogOf::OnStep),
+             On(ControlEvent::treeSelectionChanged, idTree, &CRecordingDialogOf::OnSelect),
+             On(ControlEvent::treeItemExpanding, idTree, &CRecordingDialogOf::OnExpanding)});
         return map;
     }
     bool OnCommand(int id, ControlEvent event) override
     {
         static const char* const kNames[] = {"clicked", "text", "chosen", "typed", "left"};
         log.push_back(std::to_string(id) + ' ' + kNames[static_cast<int>(event)]);
-        if (IsWindowVisible()) {
+        if (this->IsWindowVisible()) {
             onCommand(id);
         }
-        return CDialog::OnCommand(id, event);
+        return Base::OnCommand(id, event);
     }
     void OnTimer(int id) override { onTimer(id); }
     void OnPaint() override { onPaint(); }
@@ -160,7 +154,8 @@ private:
 };
 
 /// A dialog with one of everything, and what a user and the code around it do to it.
-class CRecorderTest : public ::testing::Test
+template <class Base>
+class CRecorderTestOf : public ::testing::Test
 {
 protected:
     /// Opens the dialog, runs the script, closes what that leaves open; the result of DoModal().
@@ -182,5 +177,7 @@ protected:
     QWidget& Window() const { return *CNativeAccess::Widget(m_dialog); }
 
     CDialogDriver m_driver;
-    CRecordingDialog m_dialog;
+    CRecordingDialogOf<Base> m_dialog;
 };
+
+using CRecorderTest = CRecorderTestOf<CDialog>;

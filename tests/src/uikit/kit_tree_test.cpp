@@ -80,28 +80,6 @@ TEST_F(KitTree, EveryWayToOpenAnItemAsksFirst)
     });
 }
 
-TEST_F(KitTree, ChildrenMayComeWhenTheirParentOpens)
-{
-    Run([&](CDialogUser& user) {
-        Fill();
-        m_dialog.onExpanding = [&](HTREEITEM item) {
-            if (item == root) {
-                m_dialog.tree.DeleteItem(child);
-                m_dialog.tree.InsertItem(L"eins", -1, -1, root);
-                m_dialog.tree.InsertItem(L"zwei", -1, -1, root);
-            }
-            return 0;
-        };
-        user.ChooseInTree(idTree, {L"r", L"zwei"});
-        EXPECT_EQ(Take(), (Log{"open r", "select zwei"}));
-        EXPECT_EQ(m_dialog.tree.GetCount(), 4);
-        EXPECT_EQ(m_dialog.tree.GetPrevSiblingItem(last), root);
-        EXPECT_EQ(m_dialog.tree.GetNextSiblingItem(last), nullptr);
-        m_dialog.tree.SetItemData(last, -5);
-        EXPECT_EQ(m_dialog.tree.GetItemData(last), -5);
-    });
-}
-
 TEST_F(KitTree, ChoicesAreToldOnceAndNeverTakenBack)
 {
     Run([&](CDialogUser& user) {

@@ -1,12 +1,15 @@
+#include "host/host_prefs.h"
 #include "platform/exception.h"
 #include "platform/path.h"
+#include "tests/src/common/lines.h"
 #include "tests/src/valve/ventil_fixture.h"
 #include "tests/support/diagnosis_log.h"
 #include "tests/support/message_log.h"
 #include "valve/ventil_abruf.h"
 #include "valve/ventil_bewertung.h"
 
-#include <filesystem>
+#include <tuple>
+#include <utility>
 
 namespace {
 
@@ -46,8 +49,25 @@ protected:
         const std::string suffix = std::to_string(++count);
         m_a = WideFromUtf8("AbrufA" + suffix);
         m_b = WideFromUtf8("AbrufB" + suffix);
-        Schreibe(Utf8FromWide(m_a), Datei("1"));
-        Schreibe(Utf8FromWide(m_b), Datei("2"));
+        Halte(m_a, "1");
+        Halte(m_b, "2");
+    }
+
+    /// Writes a maker's file and puts it into the host's cache, where searches find it from now on.
+    void Halte(const CString& maker, const std::string& kvs)
+    {
+        Schreibe(Utf8FromWide(maker), Datei(kvs));
+        const CString path = VentilDateiPfad(m_folder.Path(), maker);
+        lmGetCacheObject()->AddFileToCache(path, LinesIn(path), false);
+    }
+
+    /// The valves that a call with these makers fetches, by their kvs; 77 stands for none.
+    static std::pair<float, float> Hole(const CString& maker1, const CString& maker2)
+    {
+        VDI3805_VENTIL_KV first = MitSchluessel(maker1, kNr);
+        VDI3805_VENTIL_KV second = MitSchluessel(maker2, kNr);
+        HoleVentilDaten(first, second);
+        return {first.Kvs, second.Kvs};
     }
 
     CString m_a;
@@ -122,6 +142,32 @@ TEST_F(CVentilSucheTest, WithoutAFileNothingIsFound)
     EXPECT_EQ(m_katalog.DateiPfad, m_folder.Path() + L"\\Nessuno\\ha.tga");
     EXPECT_FALSE(m_katalog.SucheVentil(L"Altro", kNr.substr(0, 29), m_ventil));
     EXPECT_EQ(m_katalog.DateiPfad, m_folder.Path() + L"\\Nessuno\\ha.tga") << "nothing was read";
+}
+
+TEST_F(CVentilAbrufTest, OnlyTheFirstValveIsKeptAndAnswersEitherRecord)
+{
+    EXPECT_EQ(Hole(m_a, m_b), std::pair(1.0F, 2.0F));
+    Halte(m_a, "3");
+    Halte(m_b, "4");
+    EXPECT_EQ(Hole(m_a, m_a), std::pair(1.0F, 1.0F)) << "kept, without a search";
+    EXPECT_EQ(Hole(m_a, m_b), std::pair(1.0F, 4.0F)) << "searched at each call anew";
+    EXPECT_EQ(Hole(m_b, m_a), std::pair(4.0F, 3.0F));
+    EXPECT_EQ(Hole(m_a, m_a), std::pair(3.0F, 3.0F));
+}
+
+TEST_F(CVentilAbrufTest, TheFirstKeyAloneDecidesOnTheResult)
+{
+    const std::tuple<CString, CString, bool> cases[] = {
+        {m_a, kNr, true}, {m_a, kNr.substr(0, 29), false}, {L"", kNr, false}};
+    for (const auto& [maker, number, fetched] : cases) {
+        for (const CString& other : {m_b, CString()}) {
+            VDI3805_VENTIL_KV first = MitSchluessel(maker, number);
+            VDI3805_VENTIL_KV second = MitSchluessel(other, kNr);
+            EXPECT_EQ(HoleVentilDaten(first, second), fetched);
+            EXPECT_EQ(first.Kvs, fetched ? 1.0F : 77.0F);
+            EXPECT_EQ(second.Kvs, fetched && other == m_b ? 2.0F : 77.0F) << "not looked at";
+        }
+    }
 }
 
 TEST_F(CVentilAbrufTest, AFailedSearchIsKeptToo)

@@ -27,29 +27,17 @@ bool HasOverlap(const Rects& rects)
     return false;
 }
 
-/// Floors of random rectangles that begin within these sides. Whole numbers make sides that meet,
-/// and overlaps of exactly what is allowed, common.
-class CFloorMaker
+/// Random rectangles that begin within these sides. Whole numbers make sides that meet, and
+/// overlaps of exactly what is allowed, common.
+Rects MakeFloor(std::mt19937& random, int count, int width, int depth)
 {
-public:
-    CFloorMaker(int width, int depth) : m_x(0, width), m_y(0, depth) {}
-
-    Rects Make(int count)
-    {
-        Rects rects;
-        for (int i = 0; i < count; ++i) {
-            rects.push_back({double(m_x(m_random)), double(m_y(m_random)), double(m_size(m_random)),
-                             double(m_size(m_random))});
-        }
-        return rects;
+    const auto below = [&](int end) { return double(random() % unsigned(end)); };
+    Rects rects;
+    for (int i = 0; i < count; ++i) {
+        rects.push_back({below(width + 1), below(depth + 1), 1 + below(12), 1 + below(12)});
     }
-
-private:
-    std::mt19937 m_random{20240301};
-    std::uniform_int_distribution<int> m_x;
-    std::uniform_int_distribution<int> m_y;
-    std::uniform_int_distribution<int> m_size{1, 12};
-};
+    return rects;
+}
 
 Rects Column(int count)
 {
@@ -65,12 +53,12 @@ Rects Column(int count)
 TEST(FloorOverlap, IsFoundWhereComparingAllFindsOne)
 {
     const std::pair<int, int> floors[] = {{60, 60}, {0, 300}, {300, 0}, {4, 200}, {1000, 1000}};
+    std::mt19937 random(20240302);
     for (const auto& [width, depth] : floors) {
-        CFloorMaker maker(width, depth);
         int found = 0;
         constexpr int kFloors = 3000;
         for (int i = 0; i < kFloors; ++i) {
-            const Rects rects = maker.Make(2 + i % 12);
+            const Rects rects = MakeFloor(random, 2 + i % 12, width, depth);
             const auto overlap = FindOverlap(rects, kAllowed);
             ASSERT_EQ(overlap.has_value(), HasOverlap(rects)) << testing::PrintToString(i);
             if (overlap) {

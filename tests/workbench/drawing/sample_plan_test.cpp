@@ -1,7 +1,6 @@
 #include "host/host_fittings.h"
 #include "platform/encoding.h"
 #include "platform/number_scan.h"
-#include "tools/make_drawings_samples.h"
 #include "workbench/drawing/block_library.h"
 #include "workbench/drawing/block_path.h"
 #include "workbench/drawing/hairline_item.h"
@@ -13,8 +12,6 @@
 #include <QApplication>
 #include <QGraphicsItem>
 
-#include <fstream>
-#include <iterator>
 #include <utility>
 
 namespace workbench {
@@ -37,16 +34,6 @@ const ALIST* Find(const ALIST* attribute, const wchar_t* name)
 }
 
 } // namespace
-
-TEST(DrawingSamples, TheFilesAreWhatTheGeneratorMakes)
-{
-    for (const CSampleDrawing& sample : MakeSampleDrawings()) {
-        std::ifstream file(std::string(RADSEL_DATA_DIR "/drawing/") + sample.lpszFile,
-                           std::ios::binary);
-        const std::string bytes{std::istreambuf_iterator<char>(file), {}};
-        EXPECT_TRUE(bytes == sample.strBytes) << sample.lpszFile;
-    }
-}
 
 TEST(DrawingSamples, EveryBlockIsASymbolOfBelievableSizeOnKnownLayers)
 {

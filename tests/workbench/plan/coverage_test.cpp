@@ -63,7 +63,7 @@ TEST_F(CoverageTest, WhatSizingWouldNotTakeForAPlaceIsTooLargeForIt)
         {{PlaceKind::wall, 700.0, 1000.0}, 0.0, 200.0, L""},
         {{PlaceKind::wall, 699.0, 1000.0}, 0.0, 200.0, L"altezza 600 mm, consentiti 599 mm"},
         {{PlaceKind::wall, 900.0, 999.0}, 0.0, 200.0, L"lunghezza 1000 mm, consentiti 999 mm"},
-        {{PlaceKind::wall, 900.0, 1000.0}, 0.0, 99.5, L"profondità 100 mm, consentiti 99.5 mm"},
+        {{PlaceKind::wall, 900.0, 1000.0}, 0.0, 99.5, L"profondità 100 mm, consentiti 99,5 mm"},
         {{PlaceKind::wall, 900.0, 1000.0},
          101.0,
          200.0,

@@ -30,12 +30,12 @@ protected:
         return "110;" + number + ";Tipo " + type + "\n700;1;" + type + ";" + data + ";1.3;5\n";
     }
 
-    static CRoom RoomOfType(const wchar_t* produkt, double bedarf,
+    static CRoom RoomOfType(const CString& produkt, double bedarf,
                             const std::vector<double>& widths)
     {
         CRoom room = Room(L"Prova", bedarf);
         room.strHersteller = L"Scala";
-        room.strArt = CString(produkt) == L"Tipo T" ? L"Tubolari" : L"Piastre";
+        room.strArt = produkt == L"Tipo T" ? L"Tubolari" : L"Piastre";
         room.strProdukt = produkt;
         room.plaetze.clear();
         for (const double width : widths) {
@@ -80,74 +80,51 @@ protected:
 
 TEST_F(RepairTest, TakesTheLargestSizeThenFurtherPlacesThenAStrongerType)
 {
+    using enum Coverage;
     const struct
     {
         const wchar_t* type;
-        double bedarf;
-        std::vector<double> widths;
-        std::vector<double> expected;
+        double demand;
+        std::vector<double> widths, outputs;
         const wchar_t* expectedType;
-        Coverage coverage;
         const wchar_t* told;
+        Coverage coverage = covered;
     } cases[] = {
         // An ordinary size is enough.
-        {L"Tipo 22", 1000, {2000, 2000}, {1000}, L"Tipo 22", Coverage::covered, L"ora coperto"},
+        {L"22", 1000, {2000, 2000}, {1000}, L"22", L"ora coperto"},
         // The largest that fits its place, which is not the largest that there is.
-        {L"Tipo 33", 9000, {1999}, {2000}, L"Tipo 33", Coverage::lacking, L"mancano 7000 W"},
+        {L"33", 9000, {1999}, {2000}, L"33", L"mancano 7000 W", lacking},
         // Of sections as well, though the catalogue begins with those near the need.
-        {L"Tipo T", 3000, {520}, {500}, L"Tipo T", Coverage::lacking, L"mancano 2500 W"},
+        {L"T", 3000, {520}, {500}, L"T", L"mancano 2500 W", lacking},
         // Further places before a stronger type.
-        {L"Tipo 11",
-         1500,
-         {2000, 1000},
-         {1000, 500},
-         L"Tipo 11",
-         Coverage::covered,
-         L"aggiunto al posto 2 11, 600 x 60 x 1000 mm, 500 W"},
+        {L"11", 1500, {2000, 1000}, {1000, 500}, L"11", L"posto 2 11, 600 x 60 x 1000 mm, 500 W"},
         // No more places than needed, the first that is enough.
-        {L"Tipo 22",
-         3000,
-         {2000, 600, 1000, 2000},
-         {2000, 1000},
-         L"Tipo 22",
-         Coverage::covered,
-         L"aggiunto al posto 3"},
+        {L"22", 3000, {2000, 600, 1000, 2000}, {2000, 1000}, L"22", L"aggiunto al posto 3"},
         // A stronger type last, the slimmest that is enough.
-        {L"Tipo 11",
-         2000,
-         {2000},
-         {2000},
-         L"Tipo 22",
-         Coverage::covered,
-         L"tipo più forte Tipo 22 invece di Tipo 11"},
-        {L"Tipo 11",
-         4000,
-         {2000, 500},
-         {4000},
-         L"Tipo 33",
-         Coverage::covered,
-         L"tipo più forte Tipo 33 invece di Tipo 11"},
+        {L"11", 2000, {2000}, {2000}, L"22", L"tipo più forte Tipo 22 invece di Tipo 11"},
+        {L"11", 4000, {2000, 500}, {4000}, L"33", L"tipo più forte Tipo 33 invece di Tipo 11"},
         // The strongest where none is enough.
-        {L"Tipo 11", 9000, {2000}, {4000}, L"Tipo 33", Coverage::lacking, L"mancano 5000 W"},
+        {L"11", 9000, {2000}, {4000}, L"33", L"mancano 5000 W", lacking},
         // Nothing fits.
-        {L"Tipo 11", 1000, {400}, {}, L"Tipo 11", Coverage::empty, L"non cambia, manca il corpo"},
+        {L"11", 1000, {400}, {}, L"11", L"non cambia, manca il corpo", empty},
     };
-    for (const auto& test : cases) {
+    for (const auto& c : cases) {
+        const CString product = CString(L"Tipo ") + c.expectedType;
         for (const bool isPresent : {false, true}) {
-            SCOPED_TRACE(testing::Message() << Utf8FromWide(test.type) << ", " << test.bedarf
-                                            << " W" << (isPresent ? ", with a radiator" : ""));
-            CRoom room = RoomOfType(test.type, test.bedarf, test.widths);
-            if (isPresent && !test.expected.empty()) {
+            SCOPED_TRACE(testing::Message() << Utf8FromWide(c.type) << ", " << c.demand << " W"
+                                            << (isPresent ? ", with a radiator" : ""));
+            CRoom room = RoomOfType(CString(L"Tipo ") + c.type, c.demand, c.widths);
+            if (isPresent && !c.outputs.empty()) {
                 room.heizkoerper = {Present(room, 100.0, 300.0)};
             }
             const CRoom repaired = Repaired(room);
-            EXPECT_EQ(OutputsOf(repaired), test.expected) << Utf8FromWide(m_report);
-            EXPECT_EQ(repaired.strProdukt, test.expectedType);
+            EXPECT_EQ(OutputsOf(repaired), c.outputs) << Utf8FromWide(m_report);
+            EXPECT_EQ(repaired.strProdukt, product);
             for (const CPlacedRadiator& radiator : repaired.heizkoerper) {
-                EXPECT_EQ(radiator.strProdukt, test.expectedType);
+                EXPECT_EQ(radiator.strProdukt, product);
             }
-            EXPECT_EQ(CoverageOf(m_building, repaired), test.coverage);
-            EXPECT_NE(m_report.find(test.told), CString::npos) << Utf8FromWide(m_report);
+            EXPECT_EQ(CoverageOf(m_building, repaired), c.coverage);
+            EXPECT_NE(m_report.find(c.told), CString::npos) << Utf8FromWide(m_report);
         }
     }
 }

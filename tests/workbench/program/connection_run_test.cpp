@@ -30,7 +30,7 @@ TEST(ConnectionRun, TheChoiceIsToldInWords)
     const CString full = FormatConnectionChoice(choice);
     EXPECT_TRUE(Holds(full, L"Tipo                        Squadra\n"));
     EXPECT_TRUE(Holds(full, L"Ritorno                     all'estremità destra, in basso 30 mm"));
-    EXPECT_TRUE(Holds(full, L"Incrocio                    ritorno sopra mandata, 0.250 m\n"));
+    EXPECT_TRUE(Holds(full, L"Incrocio                    ritorno sopra mandata, 0,250 m\n"));
     EXPECT_TRUE(Holds(full, L"Valvola di mandata          Alfa A-20, DN 20\n"));
     EXPECT_TRUE(Holds(full, L"Tipo attacco attivo         no\n"));
 }

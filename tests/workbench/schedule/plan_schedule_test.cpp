@@ -72,11 +72,11 @@ TEST_F(PlanScheduleTest, ColumnsOfTheCsvFileSumToItsTotals)
           L";0;0.000;;;;;;;Nessuno;111111111111111111111111111111111111;;;;;\"ritorno: la "
           L"cartella delle valvole non ha il produttore \"\"Nessuno\"\"\"",
           L"Terra;Debole;scarso;20;1000;0;1000;Prova;Radiatori a piastra;Tipo 22;;"
-          L"600;100;1000;800;800;-20.0;0;0.000;;;;;;;;;;;;;mancano 200 W (20.0 %)",
+          L"600;100;1000;800;800;-20.0;0;0.000;;;;;;;;;;;;;mancano 200 W (20,0 %)",
           L"Terra;Coperto;già coperto;20;300;300;0;Prova;Radiatori a piastra;Tipo 22;;;"
           L";;;;;;;;;;;;;;;;;;;nessun corpo scaldante necessario",
           L"Primo;Camera;manca il corpo scaldante;20;1500;0;1500;Prova;Radiatori a "
-          L"piastra;Tipo 22;;;;;;;;;;;;;;;;;;;;;;mancano 1500 W (100.0 %)",
+          L"piastra;Tipo 22;;;;;;;;;;;;;;;;;;;;;;mancano 1500 W (100,0 %)",
           L"Terra;;totale del piano;;2500;;2000;;;;;;;;1790;1790;-10.5;;2.500;;"
           L";;;;;;;;;;;",
           L";;totale dell'edificio;;4000;;3500;;;;;;;;1790;1790;-48.9;;2.500;;;;;;;;;;;;;"}) {
@@ -89,9 +89,10 @@ TEST_F(PlanScheduleTest, ASpreadsheetGetsCommasAndCodesAsTexts)
 {
     const CString csv = FormatScheduleCsv(SchedulePlan(m_building));
     EXPECT_TRUE(csv.starts_with(L"\ufeffPiano;Locale;"));
-    const CString line = L"Terra;Due;scelto;20;;;;Prova;Radiatori a piastra;Tipo 11;B;600;100;1000;"
-                         L"390;390;;0;0,000;;;;;;;Nessuno;\"=\"\"" +
-                         CString(36, L'1') + L"\"\"\";;;;;";
+    const CString line =
+        L"Terra;Due;scelto;20;;;;Prova;Radiatori a piastra;\"=\"\"Tipo 11\"\"\";B;600;100;1000;"
+        L"390;390;;0;0,000;;;;;;;Nessuno;\"=\"\"" +
+        CString(36, L'1') + L"\"\"\";;;;;";
     EXPECT_NE(csv.find(L"\n" + line), CString::npos) << Utf8FromWide(csv);
     EXPECT_NE(csv.find(L";1790;1790;-48,9;;2,500;"), CString::npos) << "the sums";
 }
@@ -104,7 +105,7 @@ TEST_F(PlanScheduleTest, EveryOutputHasEverySum)
     std::wistringstream line(text.substr(start, text.find(L'\n', start) - start));
     const std::vector<CString> words{std::istream_iterator<CString, wchar_t>(line), {}};
     EXPECT_EQ(words, (std::vector<CString>{L"Totale", L"dell'edificio", L"4000", L"3500", L"1790",
-                                           L"1790", L"-48.9", L"2.5"}));
+                                           L"1790", L"−48,9", L"2,5"}));
 
     const QJsonObject totals = JsonOf(schedule)["totals"].toObject();
     const std::pair<const char*, double> sums[] = {
@@ -121,9 +122,9 @@ TEST_F(PlanScheduleTest, EveryOutputHasEverySum)
         return RowOf(table, table.rows.size() - 1);
     };
     EXPECT_EQ(lastRow(MakeScheduleTable(schedule)),
-              "|Totale dell'edificio||4000|3500|3 corpi scaldanti||||1790|1790|-48,9|2,5||");
+              "|Totale dell'edificio||4000|3500|3 corpi scaldanti||||1790|1790|−48,9|2,5||");
     EXPECT_EQ(lastRow(MakeTotalsTable(schedule)),
-              "Totale dell'edificio|4|3|2|4000|3500|1790|1790|-48,9|2,5");
+              "Totale dell'edificio|4|3|2|4000|3500|1790|1790|−48,9|2,5");
 }
 
 TEST_F(PlanScheduleTest, EveryCsvLineHasAFieldForEveryHeading)
@@ -184,11 +185,10 @@ TEST_F(PlanScheduleTest, TheTextNamesARoomOnceAndSaysWhatItLacks)
 {
     const CString text = FormatScheduleText(SchedulePlan(m_building), false);
     EXPECT_EQ(text.find(L"Due "), text.rfind(L"Due "));
-    EXPECT_NE(text.find(L"    scarso: mancano 200 W (20.0 %)\n"), CString::npos);
-    EXPECT_NE(text.find(L"    manca il corpo scaldante: mancano 1500 W (100.0 %)\n"),
+    EXPECT_NE(text.find(L"    scarso: mancano 200 W (20,0 %)\n"), CString::npos);
+    EXPECT_NE(text.find(L"    manca il corpo scaldante: mancano 1500 W (100,0 %)\n"),
               CString::npos);
-    EXPECT_NE(text.find(L"Locali: 4; con corpo scaldante: 1; già coperti: 1; senza corpo scaldante "
-                        L"adatto: 2."),
+    EXPECT_NE(text.find(L"Locali: 4; con corpo scaldante: 1; già coperti: 1; da sistemare: 2."),
               CString::npos);
 }
 
@@ -250,7 +250,7 @@ TEST_F(PlanScheduleTest, EveryOutputTellsSizesThatOughtToBeOthers)
     EXPECT_EQ(schedule.floors[0].totals.nChosen, 1);
     EXPECT_EQ(schedule.floors[0].totals.nHeizkoerper, 3);
 
-    const CString csv = FormatScheduleCsv(schedule);
+    const CString csv = FormatScheduleCsv(schedule, CsvForm::plain);
     const CString text = FormatScheduleText(schedule, false);
     const QJsonArray json = JsonOf(schedule)["floors"][0]["rooms"].toArray();
     const CReportTable open = MakeOpenRoomsTable(schedule);
@@ -263,7 +263,7 @@ TEST_F(PlanScheduleTest, EveryOutputTellsSizesThatOughtToBeOthers)
         const char* code;
     } expected[] = {
         {L"Alto", L"troppo grande per il posto", L"altezza 900 mm, consentiti 720 mm", "tooLarge"},
-        {L"Forte", L"sovradimensionato", L"200 W in più (20.0 %, limite 15 %)", "oversized"},
+        {L"Forte", L"sovradimensionato", L"200 W in più (20,0 %, limite 15 %)", "oversized"},
     };
     ASSERT_EQ(sizes.rows.size(), std::size(expected));
     for (qsizetype i = 0; i < 2; ++i) {

@@ -129,10 +129,10 @@ TEST_F(ScheduleTest, UnfittingRoomsSayWhatTheNearestRadiatorLacks)
          L"80 mm"},
         {lowest, kStandard,
          L"il più vicino è P10/600, 600 x 60 x 1000 mm, 1000 W: altezza 600 mm, consentiti 500 mm; "
-         L"mancano 400 W (28.6 %)"},
+         L"mancano 400 W (28,6 %)"},
         {cold,
          {55.0, 45.0},
-         L"il più vicino è P10/600, 600 x 60 x 1000 mm, 495 W: mancano 305 W (38.1 %)"},
+         L"il più vicino è P10/600, 600 x 60 x 1000 mm, 495 W: mancano 305 W (38,1 %)"},
     };
     for (const auto& [room, system, note] : cases) {
         const CRoomOutcome outcome = Select(room, system);
@@ -211,15 +211,20 @@ TEST(ScheduleCsv, NoTextIsTakenForAFormulaOrForAControlCharacter)
 {
     // What a spreadsheet would write anew is kept by a formula of that text.
     const std::tuple<CString, CString, CString> cases[] = {
-        {L"=HYPERLINK(1)", L"'=HYPERLINK(1)", L"'=HYPERLINK(1)"},
+        {L"=HYPERLINK(1)", L"'=HYPERLINK(1)", L"\"=\"\"=HYPERLINK(1)\"\"\""},
         {L"+39 045", L"'+39 045", L"\"=\"\"+39 045\"\"\""},
-        {L"-T 22", L"'-T 22", L"'-T 22"},
-        {L"@A1", L"'@A1", L"'@A1"},
+        {L"-T", L"'-T", L"\"=\"\"-T\"\"\""},
         {L"-12.5", L"-12.5", L"\"=\"\"-12.5\"\"\""},
         {L"1.01", L"1.01", L"\"=\"\"1.01\"\"\""},
-        {L"T=22", L"T=22", L"T=22"},
-        {L"+1\"&A1", L"\"'+1\"\"&A1\"", L"\"'+1\"\"&A1\""},
-        {L"\t=1\x1b", L"?=1?", L"?=1?"},
+        {L"1-set", L"1-set", L"\"=\"\"1-set\"\"\""},
+        {L"mar 24", L"mar 24", L"\"=\"\"mar 24\"\"\""},
+        {L"Vero", L"Vero", L"\"=\"\"Vero\"\"\""},
+        {L" Sala", L" Sala", L"\"=\"\" Sala\"\"\""},
+        {L"#N/D", L"#N/D", L"\"=\"\"#N/D\"\"\""},
+        {L"T=a", L"T=a", L"T=a"},
+        {L"+1\"&A1", L"\"'+1\"\"&A1\"", L"\"=\"\"+1\"\"\"\"&A1\"\"\""},
+        {L"\t=1\x1b", L"?=1?", L"\"=\"\"?=1?\"\"\""},
+        {L"=1" + CString(300, L'a'), L"'=1" + CString(300, L'a'), L"'=1" + CString(300, L'a')},
     };
     for (const auto& [text, plain, spreadsheet] : cases) {
         CSchedule schedule;

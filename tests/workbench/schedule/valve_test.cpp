@@ -173,8 +173,8 @@ TEST_F(ValveTest, ScheduleShowsNamesTablesAndTheBill)
     const std::vector<CString> names = FormatValves(both);
     ASSERT_EQ(names.size(), 1u);
     EXPECT_EQ(names[0], L"    mandata: PT-15        Valvole/Serie PT,                   DN 15, kvs "
-                        L"0.880   ritorno: PB-15        Valvole/Serie PT,                   DN 15, "
-                        L"kvs 1.700");
+                        L"0,880   ritorno: PB-15        Valvole/Serie PT,                   DN 15, "
+                        L"kvs 1,700");
     const std::vector<CString> missing = FormatValves(lost);
     ASSERT_EQ(missing.size(), 2u);
     EXPECT_EQ(missing[0].find(L"    mandata: non trovata  "), 0u);
@@ -184,9 +184,9 @@ TEST_F(ValveTest, ScheduleShowsNamesTablesAndTheBill)
     ASSERT_EQ(kv.size(), 4u);
     const std::size_t right = names[0].find(L"PB-15");
     EXPECT_EQ(kv[0].substr(13, 39), L"Preregolazione  xp K  kv m³/h  kvs m³/h");
-    EXPECT_EQ(kv[3].substr(13, 39), L"          2.50   2.0    0.125     0.250");
+    EXPECT_EQ(kv[3].substr(13, 39), L"          2,50   2,0    0,125     0,250");
     EXPECT_EQ(kv[0].substr(right), L"Preregolazione  xp K  kv bypass m³/h  kv corpo m³/h  quota %");
-    EXPECT_EQ(kv[3].substr(right), L"          1.00   1.5           0.750          0.250       25");
+    EXPECT_EQ(kv[3].substr(right), L"          1,00   1,5           0,750          0,250       25");
 
     const CSchedule schedule = MakeValveSchedule({both, lost, {}});
     EXPECT_EQ(FormatValveBill(MakeValveBill(schedule)), L"Valvole  Articolo  DN  Pezzi\n"

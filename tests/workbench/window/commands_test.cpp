@@ -17,7 +17,6 @@
 #include <QTableView>
 #include <QTest>
 #include <QToolBar>
-#include <QToolButton>
 
 namespace workbench {
 
@@ -47,6 +46,7 @@ protected:
         InDialog([=](QWidget& dialog) {
             auto& ok = *dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
             EXPECT_FALSE(ok.isEnabled()) << "it has no name";
+            EXPECT_EQ(dialog.findChild<QLabel*>("fault")->text(), "") << "nobody typed anything";
             dialog.findChild<QLineEdit*>("name")->setText(room);
             dialog.findChild<QComboBox*>("floor")->setEditText(floor);
             ASSERT_TRUE(ok.isEnabled()) << dialog.findChild<QLabel*>("fault")->text().toStdString();
@@ -174,6 +174,49 @@ TEST_F(Commands, ANewBuildingTakesRoomsAndGoesToAFileOfItsOwn)
     EXPECT_FALSE(possible) << "there is one of that name";
 }
 
+TEST_F(Commands, WhatIsDeletedComesBackMarkedAndLinksLeadToTheRightRoom)
+{
+    using Rooms = std::vector<CRoomRef>;
+    Do("sizeAll");
+    const CBuilding sized = m_document.Building();
+    m_window->findChild<CFloorScene*>()->MarkRadiators({{{0, 1}, 0}});
+    EXPECT_FALSE(Action("removeRoom").isEnabled()) << "a radiator is marked, and not its room";
+    Do("remove");
+    m_window->findChild<QTabBar*>("floors")->setCurrentIndex(1);
+    Do("undo");
+    EXPECT_EQ(m_window->findChild<CFloorScene*>()->GetMarkedRadiators(),
+              (std::vector<CRadiatorRef>{{{0, 1}, 0}}));
+
+    const CRoomRef open = OpenRooms(sized).back();
+    const CString name = RoomOf(sized, open).strName;
+    ASSERT_GT(open.nRoom, 0u);
+    m_window->findChild<QTabBar*>("floors")->setCurrentIndex(int(open.nFloor));
+    Mark({{open.nFloor, 0}});
+    Do("removeRoom"); // the answer is not to
+    EXPECT_EQ(m_nQuestions, 1);
+    EXPECT_EQ(FormatBuilding(m_document.Building()), FormatBuilding(sized));
+    m_answer = CPrompts::Answer::yes;
+    Do("removeRoom");
+    EXPECT_EQ(Action("undo").text(), "&Annulla: Elimina locale");
+    EXPECT_FALSE(FindRoom(m_document.Building(), RoomOf(sized, {open.nFloor, 0}).strName));
+    EXPECT_EQ(Marked(), Rooms());
+    emit Pane().RoomAsked(ToQt(name));
+    EXPECT_EQ(Marked(), (Rooms{{open.nFloor, open.nRoom - 1}}));
+    Do("undo");
+    EXPECT_EQ(FormatBuilding(m_document.Building()), FormatBuilding(sized));
+    EXPECT_EQ(Marked(), (Rooms{{open.nFloor, 0}}));
+
+    Rooms floor = AllRooms(sized);
+    std::erase_if(floor, [](const CRoomRef& ref) { return ref.nFloor != 0; });
+    m_window->findChild<QTabBar*>("floors")->setCurrentIndex(0);
+    Mark(floor);
+    Do("removeRoom");
+    EXPECT_EQ(m_document.Building().floors.size(), sized.floors.size() - 1);
+    EXPECT_EQ(m_document.Building().floors[0].strName, sized.floors[1].strName);
+    Mark(AllRooms(m_document.Building()));
+    EXPECT_FALSE(Action("removeRoom").isEnabled()) << "a building needs one room";
+}
+
 TEST_F(Commands, RecentBuildingsOpenAgain)
 {
     const auto recent = [this] {
@@ -246,7 +289,7 @@ TEST_F(Commands, WhatIsEmptySaysWhy)
     auto& page = *m_window->findChild<QWidget*>("empty");
     EXPECT_TRUE(page.isVisible());
     InRoomDialog("Cucina", "Terra");
-    QTimer::singleShot(0, [&] { page.findChildren<QToolButton*>().back()->click(); });
+    QTimer::singleShot(0, [&] { page.findChildren<QPushButton*>().back()->click(); });
     EXPECT_TRUE(QTest::qWaitFor([&] { return !page.isVisible(); }));
 }
 

@@ -23,6 +23,7 @@ enum SelectionControl
     idLeistungSoll = 18005,
     idLeistungIst = 18011,
     idNachLeistung = 18017,
+    idRaumtemperatur = 18107,
     idSystemName = 7007,
     idVorlauf = 7008,
     idRuecklauf = 7009,
@@ -39,6 +40,8 @@ enum ConnectionControl
     idTypen = 362,
     idVentileAktiv = 18077,
     idWand = 18105,
+    idBezeichnungAN = 364,
+    idBezeichnungRI = 366,
     idLeereAN = 18095,
     idGrafikenAN = 18097,
     idGrafikenRI = 18098,
@@ -54,7 +57,6 @@ protected:
     ModuleDialogs()
     {
         fs::copy(fs::path(RADSEL_DATA_DIR) / "root", m_root, fs::copy_options::recursive);
-        qputenv("TGA_DATA_SINGLE", QByteArray::fromStdString(m_root.string()));
     }
 
     /// Works on the dialog of the module that the next action opens.
@@ -110,6 +112,7 @@ protected:
 
     CSettingOverride m_local{reference_host::kSettingLocalPath, m_folder.Path()};
     fs::path m_root = m_path.parent_path() / "radice";
+    CEnvironmentVariable m_rootSet{"TGA_DATA_SINGLE", m_root.c_str()};
 };
 
 } // namespace
@@ -216,6 +219,25 @@ TEST_F(ModuleDialogs, OnlyTheFirstOfSeveralRadiatorsStartsWithHalfTheDemand)
     EXPECT_EQ(asked(), room.bedarf);
     room.plaetze.push_back(room.plaetze.front());
     EXPECT_EQ(asked(), room.bedarf / 2.0);
+    room.gedeckt = room.bedarf + 1.0;
+    EXPECT_EQ(asked(), 0.0) << "what is covered already asks for nothing";
+}
+
+TEST_F(ModuleDialogs, ARoomTemperatureOfTheSelectionIsToldAndStaysThere)
+{
+    Do("sizeAll");
+    Mark({{0, 1}});
+    const CRoom before = Room(0, 1);
+    ASSERT_EQ(before.raumtemperatur, 20.0);
+    InSelection([](const CModuleUser& user) {
+        user.Type(idRaumtemperatur, "24");
+        user.Ok();
+    });
+    Do("choose");
+    EXPECT_EQ(Room(0, 1).raumtemperatur, 20.0);
+    EXPECT_EQ(Room(0, 1).heizkoerper[0].daten.Leistung, before.heizkoerper[0].daten.Leistung);
+    EXPECT_TRUE(Messages().contains("Soggiorno: la temperatura di 24 °C vale solo nel dialogo"))
+        << Messages().toStdString();
 }
 
 TEST_F(ModuleDialogs, TheConnectionDialogShowsTheValvesDrawnAndKeepsThem)
@@ -254,6 +276,15 @@ TEST_F(ModuleDialogs, TheConnectionDialogShowsTheValvesDrawnAndKeepsThem)
         EXPECT_EQ(shown.second, before.second) << what;
         EXPECT_EQ(GraphicsOf(ref), expected) << what;
     }
+    InModule([](const CModuleUser& user) {
+        const auto name = [&](int id) {
+            return user.Control<QWidget>(id).property("text").toString();
+        };
+        EXPECT_EQ(name(idBezeichnungAN), "");
+        EXPECT_NE(name(idBezeichnungRI), "") << "the other valve is still there";
+        user.Cancel();
+    });
+    Do("connect");
 }
 
 TEST_F(ModuleDialogs, WhatIsSwitchedOffStaysOnEachOfSeveralRadiators)

@@ -34,11 +34,7 @@ QRect OnScreen(const QWidget& widget)
 class AnyScreen : public WorkbenchWindow
 {
 protected:
-    AnyScreen()
-    {
-        qputenv("TGA_DATA_SINGLE", RADSEL_DATA_DIR "/root");
-        Show();
-    }
+    AnyScreen() { Show(); }
 
     void Show()
     {
@@ -50,6 +46,7 @@ protected:
     QDockWidget& Dock() { return *m_window->findChild<QDockWidget*>("roomDock"); }
     CPlanView& Plan() { return *m_window->findChild<CPlanView*>(); }
 
+    CEnvironmentVariable m_root{"TGA_DATA_SINGLE", RADSEL_DATA_DIR "/root"};
     CSettingOverride m_local{reference_host::kSettingLocalPath, m_folder.Path()};
 };
 
@@ -165,7 +162,7 @@ TEST_F(AnyScreen, StatesAndLinksCanBeReadWhateverTheColours)
                 EXPECT_GT(std::abs(ink.value<QColor>().lightness() - ground), 100);
             }
         }
-        messages.Add({{"scarso", CRoomRef{0, 0}, "Cucina"}}, std::nullopt);
+        messages.Add({{"scarso", "Cucina"}}, std::nullopt);
         const QTextBlock line = messages.document()->lastBlock();
         const QTextCharFormat link = line.begin().fragment().charFormat();
         ASSERT_TRUE(link.isAnchor());

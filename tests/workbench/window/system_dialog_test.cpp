@@ -59,7 +59,8 @@ TEST_F(SystemDialog, ReadsCommaAndPointAlikeWhateverTheLocale)
 
 TEST_F(SystemDialog, OffersWhatIsUsualAndWhatTheUserStoredAndShowsWhatIsTyped)
 {
-    qputenv("TGA_DATA_SINGLE", QByteArray::fromStdString(Utf8FromWide(m_folder.Path())));
+    const std::string folder = Utf8FromWide(m_folder.Path());
+    const CEnvironmentVariable root("TGA_DATA_SINGLE", folder.c_str());
     m_folder.WriteBytes("HEIZUNG/CmbData.txt",
                         "[Altro]\r\nx (1/2)|\r\n[VDI6030_HS]\r\n"
                         "Standard (75/65)|Pompa di calore (47/40)*|Strano|\r\n");
@@ -82,6 +83,20 @@ TEST_F(SystemDialog, OffersWhatIsUsualAndWhatTheUserStoredAndShowsWhatIsTyped)
     Type(dialog, "supply", "45");
     Type(dialog, "return", "35");
     EXPECT_EQ(Shown(dialog), "45/35 °C");
+}
+
+TEST_F(SystemDialog, WhatIsNotTouchedStaysAsItIs)
+{
+    CBuilding building = m_document.Building();
+    building.system = {52.554, 40.125};
+    building.ueberschussMax = 12.345;
+    CSystemDialog dialog(building);
+    EXPECT_EQ(dialog.GetSystem(), building.system);
+    EXPECT_EQ(dialog.GetExcessMax(), 12.345);
+    Type(dialog, "supply", "52,55");
+    EXPECT_EQ(dialog.GetSystem(), building.system) << "as it was shown";
+    Type(dialog, "supply", "52,5");
+    EXPECT_EQ(dialog.GetSystem(), (CHeatingSystem{52.5, 40.125}));
 }
 
 } // namespace workbench

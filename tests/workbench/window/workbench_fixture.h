@@ -9,6 +9,7 @@
 #include "workbench/plan/coverage.h"
 #include "workbench/window/floor_scene.h"
 
+#include "tests/support/environment_variable.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
 

@@ -5,8 +5,6 @@
 
 #include "tests/dialog_support/dialog_test.h"
 
-#include <gtest/gtest.h>
-
 using namespace reference_host;
 
 namespace {

@@ -163,6 +163,11 @@ protected:
         return HeizkoerperauswahlVDI3805(m_pDrawer, &m_uebergabe, m_layer, m_farbe, true, warnen);
     }
 
+    void ExpectResult(int expected, const CDialogDriver::Script& script, bool warnen = false)
+    {
+        EXPECT_EQ(Oeffne(script, warnen), expected);
+    }
+
     /// Opens the dialog and leaves it with Annulla after the script.
     void Zeige(const CDialogDriver::Script& script)
     {

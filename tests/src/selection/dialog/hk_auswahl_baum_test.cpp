@@ -28,21 +28,20 @@ TEST_F(CAuswahlDialogTest, AProductOfTheTreeGoesToTheHandOverAndFillsTheLists)
 TEST_F(CAuswahlDialogTest, AFolderTakesTheRowsAwayAndNothingElse)
 {
     for (const bool tippen : {false, true}) {
-        EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                      const auto rows = GitterZeilen(user);
-                      KlickeZeile(user, 2);
-                      const CString leistung = user.Text(18011);
-                      user.ChooseInTree(kBaum, {L"Valmorena"});
-                      EXPECT_TRUE(GitterZeilen(user).empty());
-                      EXPECT_EQ(user.Text(18011), leistung);
-                      if (tippen) {
-                          user.Type(18003, L"3001");
-                          EXPECT_EQ(GitterZeilen(user), rows);
-                          KlickeZeile(user, 2);
-                      }
-                      user.Click(kIdOk);
-                  }),
-                  0);
+        ExpectResult(0, [&](CDialogUser& user) {
+            const auto rows = GitterZeilen(user);
+            KlickeZeile(user, 2);
+            const CString leistung = user.Text(18011);
+            user.ChooseInTree(kBaum, {L"Valmorena"});
+            EXPECT_TRUE(GitterZeilen(user).empty());
+            EXPECT_EQ(user.Text(18011), leistung);
+            if (tippen) {
+                user.Type(18003, L"3001");
+                EXPECT_EQ(GitterZeilen(user), rows);
+                KlickeZeile(user, 2);
+            }
+            user.Click(kIdOk);
+        });
         EXPECT_EQ(m_uebergabe.Produkt, L"Tipo 22");
         EXPECT_EQ(m_uebergabe.Leistung, m_uebergabe.Daten.Leistung) << "the former radiator";
     }

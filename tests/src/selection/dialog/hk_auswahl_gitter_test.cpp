@@ -12,33 +12,31 @@ namespace {
 
 TEST_F(CAuswahlDialogTest, TheGridChoosesConfirmsAndCloses)
 {
-    EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                  const Zeile dritte = GitterZeilen(user)[2];
-                  KlickeZeile(user, 2);
-                  EXPECT_EQ(user.Text(18011), dritte[5]);
-                  EXPECT_EQ(m_uebergabe.TypName, dritte[0]);
-                  QTest::keyClick(&Gitter(user), Qt::Key_Down);
-                  EXPECT_EQ(user.Text(18011), GitterZeilen(user)[3][5]);
+    ExpectResult(0, [&](CDialogUser& user) {
+        const Zeile dritte = GitterZeilen(user)[2];
+        KlickeZeile(user, 2);
+        EXPECT_EQ(user.Text(18011), dritte[5]);
+        EXPECT_EQ(m_uebergabe.TypName, dritte[0]);
+        QTest::keyClick(&Gitter(user), Qt::Key_Down);
+        EXPECT_EQ(user.Text(18011), GitterZeilen(user)[3][5]);
 
-                  user.Type(18003, L"500");
-                  QWidget* view = Gitter(user).viewport();
-                  QTest::mouseDClick(Gitter(user).horizontalHeader()->viewport(), Qt::LeftButton,
-                                     {}, {20, 10});
-                  QTest::mouseDClick(view, Qt::LeftButton, {}, {20, view->height() - 3});
-                  EXPECT_FALSE(user.Dialog().HasEnded());
-                  QTest::mouseDClick(view, Qt::LeftButton, {}, MitteDerZeile(user, 1));
-              }),
-              0);
+        user.Type(18003, L"500");
+        QWidget* view = Gitter(user).viewport();
+        QTest::mouseDClick(Gitter(user).horizontalHeader()->viewport(), Qt::LeftButton, {},
+                           {20, 10});
+        QTest::mouseDClick(view, Qt::LeftButton, {}, {20, view->height() - 3});
+        EXPECT_FALSE(user.Dialog().HasEnded());
+        QTest::mouseDClick(view, Qt::LeftButton, {}, MitteDerZeile(user, 1));
+    });
     EXPECT_EQ(m_uebergabe.Daten.Laenge, 500.0);
     const auto* const start = ReadDefFile_VDI6030START(false);
     ASSERT_NE(start, nullptr);
     EXPECT_EQ(start->Produkt, L"Tipo 22");
 
-    EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                  Gitter(user).setFocus();
-                  QTest::keyClick(&Gitter(user), Qt::Key_Escape);
-              }),
-              -2);
+    ExpectResult(-2, [&](CDialogUser& user) {
+        Gitter(user).setFocus();
+        QTest::keyClick(&Gitter(user), Qt::Key_Escape);
+    });
 }
 
 TEST_F(CAuswahlDialogTest, TheBestRowIsChosenUntilTheUserPicksAnother)
@@ -49,34 +47,32 @@ TEST_F(CAuswahlDialogTest, TheBestRowIsChosenUntilTheUserPicksAnother)
     katalog.AddUnit(990.0, L"b");
     katalog.Add(L'E', 600.0, 22.5, 800.0, 1500.0, 0.0, 0.0, lang);
     m_uebergabe = katalog.Uebergabe(1000.0);
-    EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                  const QTableView& view = Gitter(user);
-                  EXPECT_EQ(view.currentIndex().row(), 1);
-                  EXPECT_EQ(user.Texts({18011, 18015}), (Texte{L"990", L"-1.0"}));
-                  for (int spalte = 1; spalte < 8; ++spalte) {
-                      EXPECT_GE(view.columnWidth(spalte), 60) << spalte;
-                  }
-                  EXPECT_GE(view.columnWidth(0),
-                            view.fontMetrics().horizontalAdvance(ToNative(lang)));
+    ExpectResult(0, [&](CDialogUser& user) {
+        const QTableView& view = Gitter(user);
+        EXPECT_EQ(view.currentIndex().row(), 1);
+        EXPECT_EQ(user.Texts({18011, 18015}), (Texte{L"990", L"-1.0"}));
+        for (int spalte = 1; spalte < 8; ++spalte) {
+            EXPECT_GE(view.columnWidth(spalte), 60) << spalte;
+        }
+        EXPECT_GE(view.columnWidth(0), view.fontMetrics().horizontalAdvance(ToNative(lang)));
 
-                  KlickeZeile(user, 0);
-                  EXPECT_EQ(m_uebergabe.TypName, L"a");
-                  EXPECT_EQ(user.Text(18015), L"-50.0");
-                  KlickeZeile(user, 2);
-                  EXPECT_EQ(user.Text(18011), L"1500");
-                  EXPECT_EQ(m_uebergabe.TypName, L"a") << "no whole millimetres, no choice";
+        KlickeZeile(user, 0);
+        EXPECT_EQ(m_uebergabe.TypName, L"a");
+        EXPECT_EQ(user.Text(18015), L"-50.0");
+        KlickeZeile(user, 2);
+        EXPECT_EQ(user.Text(18011), L"1500");
+        EXPECT_EQ(m_uebergabe.TypName, L"a") << "no whole millimetres, no choice";
 
-                  int neuGezeigt = 0;
-                  const QObject solange;
-                  QObject::connect(view.model(), &QAbstractItemModel::modelReset, &solange,
-                                   [&neuGezeigt] { ++neuGezeigt; });
-                  user.Type(18005, L"1400");
-                  EXPECT_EQ(neuGezeigt, 0) << "showing row by row would make a rebuild slow";
-                  EXPECT_EQ(view.currentIndex().row(), 2) << "a rebuild goes to the best row";
-                  EXPECT_EQ(m_uebergabe.TypName, lang) << "which needs no whole millimetres";
-                  user.Click(kIdOk);
-              }),
-              0);
+        int neuGezeigt = 0;
+        const QObject solange;
+        QObject::connect(view.model(), &QAbstractItemModel::modelReset, &solange,
+                         [&neuGezeigt] { ++neuGezeigt; });
+        user.Type(18005, L"1400");
+        EXPECT_EQ(neuGezeigt, 0) << "showing row by row would make a rebuild slow";
+        EXPECT_EQ(view.currentIndex().row(), 2) << "a rebuild goes to the best row";
+        EXPECT_EQ(m_uebergabe.TypName, lang) << "which needs no whole millimetres";
+        user.Click(kIdOk);
+    });
     EXPECT_EQ(m_uebergabe.Leistung, 1500.0);
 }
 
@@ -119,37 +115,36 @@ TEST_F(CAuswahlDialogTest, WithoutARowTheUserIsToldOnceAndTheRangeGrows)
     m_uebergabe.HoeheMin = m_uebergabe.HoeheMax = 600.0;
     m_uebergabe.TiefeMin = 22.5;
     m_uebergabe.TiefeMax = 100.0;
-    EXPECT_EQ(Oeffne(
-                  [&](CDialogUser& user) {
-                      ASSERT_EQ(m_driver.Messages().size(), 1U);
-                      EXPECT_EQ(m_driver.Messages()[0].caption, L"Scelta Corpi scaldanti");
-                      EXPECT_EQ(m_driver.Messages()[0].icon, MessageIcon::information);
-                      EXPECT_EQ(m_driver.Messages()[0].text,
-                                L"Nessun corpo scaldante con le\nmisure 1000 / "
-                                L"600\ntrovato.\nSelezionare un'altro!");
-                      EXPECT_EQ(GitterZeilen(user).size(), 1U);
-                      EXPECT_EQ(m_uebergabe.LaengeMin, 0.0);
-                      EXPECT_EQ(m_uebergabe.TiefeMin, 22.5);
-                      EXPECT_EQ(m_uebergabe.TiefeMax, 300.0);
-                      user.Type(18003, L"1");
-                      EXPECT_TRUE(GitterZeilen(user).empty());
-                      EXPECT_EQ(user.Text(18011), L"") << "a rebuild goes to row 0";
-                      EXPECT_EQ(m_driver.Messages().size(), 1U);
-                      user.Click(kIdOk);
-                  },
-                  true),
-              -1)
-        << "OK without a row";
+    // OK without a row.
+    ExpectResult(
+        -1,
+        [&](CDialogUser& user) {
+            ASSERT_EQ(m_driver.Messages().size(), 1U);
+            EXPECT_EQ(m_driver.Messages()[0].caption, L"Scelta Corpi scaldanti");
+            EXPECT_EQ(m_driver.Messages()[0].icon, MessageIcon::information);
+            EXPECT_EQ(m_driver.Messages()[0].text, L"Nessun corpo scaldante con le\nmisure 1000 / "
+                                                   L"600\ntrovato.\nSelezionare un'altro!");
+            EXPECT_EQ(GitterZeilen(user).size(), 1U);
+            EXPECT_EQ(m_uebergabe.LaengeMin, 0.0);
+            EXPECT_EQ(m_uebergabe.TiefeMin, 22.5);
+            EXPECT_EQ(m_uebergabe.TiefeMax, 300.0);
+            user.Type(18003, L"1");
+            EXPECT_TRUE(GitterZeilen(user).empty());
+            EXPECT_EQ(user.Text(18011), L"") << "a rebuild goes to row 0";
+            EXPECT_EQ(m_driver.Messages().size(), 1U);
+            user.Click(kIdOk);
+        },
+        true);
 
     katalog.Clear();
-    EXPECT_EQ(Oeffne(
-                  [&](CDialogUser& user) {
-                      EXPECT_EQ(user.Texts({18011, 18015}), (Texte{L"Resa\nC.S", L"-100.0"}))
-                          << "a widening without success shows the heading";
-                      user.Click(kIdOk);
-                  },
-                  true),
-              -1);
+    ExpectResult(
+        -1,
+        [&](CDialogUser& user) {
+            EXPECT_EQ(user.Texts({18011, 18015}), (Texte{L"Resa\nC.S", L"-100.0"}))
+                << "a widening without success shows the heading";
+            user.Click(kIdOk);
+        },
+        true);
 }
 
 TEST_F(CAuswahlDialogTest, AfterASortTheRowThatIsPickedIsTheOneThatReturns)
@@ -161,20 +156,19 @@ TEST_F(CAuswahlDialogTest, AfterASortTheRowThatIsPickedIsTheOneThatReturns)
     }
     for (const bool doppelt : {false, true}) {
         m_uebergabe = katalog.Uebergabe(1000.0);
-        EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                      KlickeKopf(user, 5);
-                      EXPECT_EQ(m_uebergabe.TypName, L"b") << "a sort picks nothing";
-                      EXPECT_EQ(Gitter(user).currentIndex().row(), 1);
-                      if (doppelt) {
-                          QTest::mouseDClick(Gitter(user).viewport(), Qt::LeftButton, {},
-                                             MitteDerZeile(user, 1));
-                      } else {
-                          KlickeZeile(user, 1);
-                          EXPECT_EQ(user.Text(18011), L"1200");
-                          user.Click(kIdOk);
-                      }
-                  }),
-                  0);
+        ExpectResult(0, [&](CDialogUser& user) {
+            KlickeKopf(user, 5);
+            EXPECT_EQ(m_uebergabe.TypName, L"b") << "a sort picks nothing";
+            EXPECT_EQ(Gitter(user).currentIndex().row(), 1);
+            if (doppelt) {
+                QTest::mouseDClick(Gitter(user).viewport(), Qt::LeftButton, {},
+                                   MitteDerZeile(user, 1));
+            } else {
+                KlickeZeile(user, 1);
+                EXPECT_EQ(user.Text(18011), L"1200");
+                user.Click(kIdOk);
+            }
+        });
         EXPECT_EQ(m_uebergabe.TypName, L"c");
         EXPECT_EQ(m_uebergabe.Leistung, 1200.0);
     }

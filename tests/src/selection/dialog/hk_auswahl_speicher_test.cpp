@@ -135,13 +135,12 @@ TEST_F(CAuswahlDialogTest, StoresThatCannotBeReadOrWrittenAreNoObstacle)
             EXPECT_EQ(user.Text(1529), L"0.000");
             user.Click(kIdOk);
         });
-        EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                      EXPECT_EQ(user.Items(7006).size(), ordner ? 0U : 1U);
-                      user.Click(7022);
-                      EXPECT_EQ(ReadDefFile_VDI6030START(false) == nullptr, ordner);
-                      user.Click(kIdOk);
-                  }),
-                  0);
+        ExpectResult(0, [&](CDialogUser& user) {
+            EXPECT_EQ(user.Items(7006).size(), ordner ? 0U : 1U);
+            user.Click(7022);
+            EXPECT_EQ(ReadDefFile_VDI6030START(false) == nullptr, ordner);
+            user.Click(kIdOk);
+        });
     }
     EXPECT_TRUE(m_driver.Messages().empty());
 }
@@ -159,24 +158,23 @@ TEST_F(CAuswahlDialogTest, WithFilesThatCannotBeWrittenOkEndsAndLeavesThem)
     };
     const auto vorher = inhalt();
     for (const bool voll : {true, false}) {
-        EXPECT_EQ(Oeffne([&](CDialogUser& user) {
-                      user.Choose(7006, 0);
-                      user.Type(7007, L"Pompa");
-                      user.Click(268);
-                      user.Click(3144);
-                      user.Choose(3187, L"MURI");
-                      std::optional<CFileSizeLimit> limit;
-                      if (voll) {
-                          limit.emplace(0);
-                      } else {
-                          for (const char* name : kDateien) {
-                              std::filesystem::permissions(m_folder.Root() / name,
-                                                           std::filesystem::perms::owner_read);
-                          }
-                      }
-                      user.Click(kIdOk);
-                  }),
-                  0);
+        ExpectResult(0, [&](CDialogUser& user) {
+            user.Choose(7006, 0);
+            user.Type(7007, L"Pompa");
+            user.Click(268);
+            user.Click(3144);
+            user.Choose(3187, L"MURI");
+            std::optional<CFileSizeLimit> limit;
+            if (voll) {
+                limit.emplace(0);
+            } else {
+                for (const char* name : kDateien) {
+                    std::filesystem::permissions(m_folder.Root() / name,
+                                                 std::filesystem::perms::owner_read);
+                }
+            }
+            user.Click(kIdOk);
+        });
         EXPECT_EQ(inhalt(), vorher) << (voll ? "full disk" : "read-only");
     }
     EXPECT_TRUE(m_driver.Messages().empty());

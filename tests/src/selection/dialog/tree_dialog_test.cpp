@@ -9,8 +9,6 @@
 
 #include "tests/dialog_support/dialog_test.h"
 
-#include <gtest/gtest.h>
-
 #include <QTreeWidget>
 
 #include <vector>
@@ -136,12 +134,11 @@ TEST_F(TreeDialog, ACancelledDialogLeavesTheLastSelectedProduct)
 
 TEST_F(TreeDialog, OpensOnWhatThreeSearchesFind)
 {
-    struct Case
+    const struct
     {
         Path wanted;
         Path selected;
-    };
-    const Case cases[] = {
+    } cases[] = {
         // Only exact names have their file read.
         {{L"Nessuno", L"Manca", L"Manca"}, {}},
         {{L"alf", L"piast", L"tipo"}, {}},
@@ -155,7 +152,7 @@ TEST_F(TreeDialog, OpensOnWhatThreeSearchesFind)
         {{L"Beta", L"Convettori", L"Tipo"}, {L"Alfa", L"Piastre", L"Tipo 22"}},
         {{L"", L"", L"eta"}, {L"Beta"}},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         Want(c.wanted[0], c.wanted[1], c.wanted[2]);
         Run([&](CDialogUser& user) {
             EXPECT_EQ(user.ChosenInTree(kBaum), c.selected)

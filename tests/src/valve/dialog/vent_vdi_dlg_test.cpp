@@ -5,8 +5,6 @@
 #include "tests/dialog_support/dialog_driver.h"
 #include "tests/src/valve/ventil_fixture.h"
 
-#include <gtest/gtest.h>
-
 #include <QAbstractButton>
 #include <QTreeWidget>
 
