@@ -94,8 +94,8 @@ enum radsel_result
  * names it and the line. */
 RADSEL_C_API const char* radsel_last_error(void);
 
-/* The file of that reason, empty if there is none, and its line from 1, 0 if the file as a whole is
- * at fault. */
+/* The file of that reason, empty if there is none or if the text alone names it, as it does for
+ * valve files; and its line from 1, 0 if the file as a whole is at fault. */
 RADSEL_C_API const char* radsel_last_error_file(void);
 RADSEL_C_API int radsel_last_error_line(void);
 

@@ -62,7 +62,7 @@ int radsel_find_radiator(radsel_request* request)
 }
 
 int radsel_choose_radiator(radsel_request* request, radsel_layer* layer,
-                           const radsel_drawing* drawing, int warn_and_widen)
+                           const radsel_drawing* drawing, int warnAndWiden)
 {
     return Guarded([&] {
         CRequest call(request);
@@ -73,7 +73,7 @@ int radsel_choose_radiator(radsel_request* request, radsel_layer* layer,
         }
         CString name = ReadField(record.name);
         const int result = HeizkoerperauswahlVDI3805(drawer.get(), &call.Data(), name, record.color,
-                                                     true, warn_and_widen != 0);
+                                                     true, warnAndWiden != 0);
         WriteField(record.name, name);
         return call.Finish(result, [&] {
             if (layer != nullptr) {
@@ -92,26 +92,26 @@ int radsel_choose_product(radsel_request* request)
     });
 }
 
-int radsel_product_sizes(radsel_request* request, double* heights, size_t* height_count,
-                         double* depths, size_t* depth_count)
+int radsel_product_sizes(radsel_request* request, double* heights, size_t* heightCount,
+                         double* depths, size_t* depthCount)
 {
     return Guarded([&] {
-        RequirePlaces(heights, height_count, "heights");
-        RequirePlaces(depths, depth_count, "depths");
+        RequirePlaces(heights, heightCount, "heights");
+        RequirePlaces(depths, depthCount, "depths");
         CRequest call(request);
         OCArray<double> hoehen;
         OCArray<double> tiefen;
         Read_HK_Masse(call.Data(), hoehen, tiefen);
         const bool isEmpty = hoehen.IsEmpty() && tiefen.IsEmpty();
         return call.Finish(isEmpty ? RADSEL_NOTHING : RADSEL_OK, [&] {
-            GiveSizes(hoehen, heights, *height_count);
-            GiveSizes(tiefen, depths, *depth_count);
+            GiveSizes(hoehen, heights, *heightCount);
+            GiveSizes(tiefen, depths, *depthCount);
         });
     });
 }
 
 int radsel_row_sizes(radsel_request* request, short* heights, short* depths, short* lengths,
-                     double* waters, int capacity, radsel_row* first_row)
+                     double* waters, int capacity, radsel_row* firstRow)
 {
     return Guarded([&] {
         Require(heights, "heights");
@@ -135,8 +135,8 @@ int radsel_row_sizes(radsel_request* request, short* heights, short* depths, sho
         std::copy_n(tiefen.begin(), places, depths);
         std::copy_n(laengen.begin(), places, lengths);
         return call.Finish(hasRow ? RADSEL_OK : RADSEL_NOTHING, [&] {
-            if (hasRow && first_row != nullptr) {
-                Store(first_row, ToC(call.Data().Typ));
+            if (hasRow && firstRow != nullptr) {
+                Store(firstRow, ToC(call.Data().Typ));
             }
         });
     });
@@ -160,12 +160,12 @@ int radsel_water_content(radsel_request* request, double height, double depth, d
     });
 }
 
-int radsel_output_factor(double supply_temperature, double return_temperature,
-                         double room_temperature, double* factor)
+int radsel_output_factor(double supplyTemperature, double returnTemperature, double roomTemperature,
+                         double* factor)
 {
     return Guarded([&] {
         Require(factor, "factor");
-        *factor = GetLeistungsFaktor(supply_temperature, return_temperature, room_temperature);
+        *factor = GetLeistungsFaktor(supplyTemperature, returnTemperature, roomTemperature);
         return RADSEL_OK;
     });
 }

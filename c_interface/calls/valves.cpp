@@ -101,16 +101,16 @@ int radsel_fetch_valves(radsel_valve* first, radsel_valve* second)
     });
 }
 
-int radsel_fetch_valves_by_key(const char* first_maker, const char* first_number,
-                               const char* second_maker, const char* second_number,
+int radsel_fetch_valves_by_key(const char* firstMaker, const char* firstNumber,
+                               const char* secondMaker, const char* secondNumber,
                                radsel_valve* first, radsel_valve* second)
 {
     return Guarded([&] {
         Require(first, "first");
         CValve one(first);
         CValve other(second);
-        SetKey(one.data, first_maker, first_number);
-        SetKey(other.data, second_maker, second_number);
+        SetKey(one.data, firstMaker, firstNumber);
+        SetKey(other.data, secondMaker, secondNumber);
         return Fetch(one, other);
     });
 }
@@ -129,21 +129,21 @@ int radsel_choose_valve(const char* maker, const char* number, radsel_valve* val
     });
 }
 
-int radsel_edit_connection(radsel_connection* connection, radsel_valve* flow_valve,
-                           radsel_valve* return_valve, radsel_connection_checks* checks,
-                           radsel_drawn* drawn, size_t drawn_count, const radsel_drawing* drawing)
+int radsel_edit_connection(radsel_connection* connection, radsel_valve* flowValve,
+                           radsel_valve* returnValve, radsel_connection_checks* checks,
+                           radsel_drawn* drawn, size_t drawnCount, const radsel_drawing* drawing)
 {
     return Guarded([&] {
-        Require(flow_valve, "flow_valve");
-        Require(return_valve, "return_valve");
+        Require(flowValve, "flow_valve");
+        Require(returnValve, "return_valve");
         radsel_connection record = Load(connection, DefaultConnection());
         ConnValues anschluss;
         FromC(record, anschluss);
-        CValve flow(flow_valve);
-        CValve ret(return_valve);
+        CValve flow(flowValve);
+        CValve ret(returnValve);
         radsel_connection_checks marks =
             checks == nullptr ? DefaultChecks() : Load(checks, DefaultChecks());
-        CDrawnRadiators radiators(drawn, drawn_count);
+        CDrawnRadiators radiators(drawn, drawnCount);
         std::unique_ptr<CCallbackDrawer> drawer;
         if (drawing != nullptr) {
             drawer = std::make_unique<CCallbackDrawer>(Load(drawing, radsel_drawing{}));
@@ -178,22 +178,22 @@ int radsel_edit_connection(radsel_connection* connection, radsel_valve* flow_val
     });
 }
 
-int radsel_point_to_text(const radsel_point* point, double crossing_distance, int crossing_kind,
-                         double wall_distance, char* text)
+int radsel_point_to_text(const radsel_point* point, double crossingDistance, int crossingKind,
+                         double wallDistance, char* text)
 {
     return Guarded([&] {
         Require(point, "point");
         Require(text, "text");
         CString built;
         lmSet_K_APUNKT_X(built, point->position, point->offset, point->angle, point->side_distance,
-                         crossing_distance, crossing_kind, wall_distance);
+                         crossingDistance, crossingKind, wallDistance);
         WriteField(text, RADSEL_POINT_TEXT, built);
         return RADSEL_OK;
     });
 }
 
-int radsel_point_from_text(const char* text, radsel_point* point, double* crossing_distance,
-                           int* crossing_kind, double* wall_distance)
+int radsel_point_from_text(const char* text, radsel_point* point, double* crossingDistance,
+                           int* crossingKind, double* wallDistance)
 {
     return Guarded([&] {
         Require(point, "point");
@@ -207,14 +207,14 @@ int radsel_point_from_text(const char* text, radsel_point* point, double* crossi
             return 0;
         }
         *point = read;
-        if (crossing_distance != nullptr) {
-            *crossing_distance = crossing;
+        if (crossingDistance != nullptr) {
+            *crossingDistance = crossing;
         }
-        if (crossing_kind != nullptr) {
-            *crossing_kind = kind;
+        if (crossingKind != nullptr) {
+            *crossingKind = kind;
         }
-        if (wall_distance != nullptr) {
-            *wall_distance = wall;
+        if (wallDistance != nullptr) {
+            *wallDistance = wall;
         }
         return count;
     });

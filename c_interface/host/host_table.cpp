@@ -100,7 +100,7 @@ std::optional<CString> AskText(radsel_text_setting setting)
 {
     const radsel_host& host = Host();
     if (host.get_text != nullptr) {
-        const auto answer = AskForText("get_text", {}, [&](char* buffer, std::size_t capacity) {
+        auto answer = AskForText("get_text", {}, [&](char* buffer, std::size_t capacity) {
             return host.get_text(host.user, setting, buffer, capacity);
         });
         if (answer) {

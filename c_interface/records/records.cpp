@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 
 namespace c_interface {
 
@@ -60,7 +61,7 @@ radsel_radiator ToC(const HK_DATEN_VDI3805& daten)
     radiator.output_en442 = daten.LeistungEN442;
     radiator.output = daten.Leistung;
     radiator.sections = daten.Elemente;
-    radiator.form = static_cast<int>(daten.Bauart);
+    radiator.form = static_cast<int>(std::char_traits<wchar_t>::to_int_type(daten.Bauart));
     radiator.exponent = daten.Exponent;
     radiator.water = daten.Inhalt;
     return radiator;

@@ -18,7 +18,7 @@ CShortListFile ReadShortList(const CString& path)
         list.fault = CFileFault(0, DescribeTooLarge(kLargestList), list.strFile);
         return list;
     }
-    ReadTextLines(stream, list.lines, -1);
+    ReadTextLines(stream, list.lines, -1, &list.strLost);
     return list;
 }
 

@@ -15,6 +15,8 @@ struct CShortListFile
     CString strFile;
     /// Its lines, cut and counted as the module cuts them.
     CStringArray lines;
+    /// What stands behind the last line end, which the module does not read.
+    CString strLost;
     /// Why it is not read although it can be: it is larger than a list may be. Then it has no
     /// lines.
     std::optional<CFileFault> fault;

@@ -11,6 +11,7 @@
 #include <set>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace reference_host {
@@ -49,8 +50,10 @@ Fields Split(const CString& line)
     return fields;
 }
 
-std::optional<CFileFault> FindFault(const CString& file, const CStringArray& lines,
-                                    std::span<const RecordRule> rules)
+/// Hands the faults of the lines to `take`, until it gives false.
+template <class Take>
+void ForEachFault(const CString& file, const CStringArray& lines, std::span<const RecordRule> rules,
+                  Take take)
 {
     std::set<std::wstring_view> seen;
     int number = 0;
@@ -67,17 +70,28 @@ std::optional<CFileFault> FindFault(const CString& file, const CStringArray& lin
         if (rule == rules.end()) {
             continue;
         }
+        CString message;
         if (!rule->parent.empty() && !seen.contains(rule->parent)) {
-            return CFileFault{number,
-                              L"il record " + CString(rule->type) + L" non ha un record " +
-                                  CString(rule->parent) + L" sopra di sé",
-                              file};
+            message = L"il record " + CString(rule->type) + L" non ha un record " +
+                      CString(rule->parent) + L" sopra di sé";
+        } else if (fields.size() < rule->nFields) {
+            message = DescribeMissingFields(rule->type, fields.size(), rule->nFields);
         }
-        if (fields.size() < rule->nFields) {
-            return CFileFault{number, DescribeMissingFields(rule->type, fields.size(), rule->nFields), file};
+        if (!message.empty() && !take(CFileFault{number, message, file})) {
+            return;
         }
     }
-    return std::nullopt;
+}
+
+std::optional<CFileFault> FindFault(const CString& file, const CStringArray& lines,
+                                    std::span<const RecordRule> rules)
+{
+    std::optional<CFileFault> first;
+    ForEachFault(file, lines, rules, [&](CFileFault fault) {
+        first = std::move(fault);
+        return false;
+    });
+    return first;
 }
 
 } // namespace
@@ -87,11 +101,11 @@ CValveFileCheck::CValveFileCheck(const CString& path) : m_strFile(path)
     CFile file(path, CFile::modeRead | CFile::shareDenyWrite);
     m_bTooLarge = file.GetLength() > kLargestValveFile;
     if (!m_bTooLarge) {
-        ReadTextLines(file, m_lines, -1);
+        ReadTextLines(file, m_lines, -1, &m_strLost);
     }
 }
 
-std::optional<CFileFault> CValveFileCheck::FindReadingFault() const
+std::optional<CFileFault> CValveFileCheck::FindRefusal() const
 {
     if (m_bTooLarge) {
         return CFileFault{0, DescribeTooLarge(kLargestValveFile), m_strFile};
@@ -102,12 +116,37 @@ std::optional<CFileFault> CValveFileCheck::FindReadingFault() const
             return CFileFault{1, L"la testata 000 è di un altro tipo di file", m_strFile};
         }
     }
+    return std::nullopt;
+}
+
+std::optional<CFileFault> CValveFileCheck::FindReadingFault() const
+{
+    if (auto refusal = FindRefusal()) {
+        return refusal;
+    }
     return FindFault(m_strFile, m_lines, kReadingRules);
 }
 
 std::optional<CFileFault> CValveFileCheck::FindDataFault() const
 {
     return FindFault(m_strFile, m_lines, kDataRules);
+}
+
+std::vector<CFileFault> CValveFileCheck::FindAllFaults() const
+{
+    std::vector<CFileFault> faults;
+    const auto keep = [&faults](CFileFault fault) {
+        faults.push_back(std::move(fault));
+        return true;
+    };
+    ForEachFault(m_strFile, m_lines, kReadingRules, keep);
+    ForEachFault(m_strFile, m_lines, kDataRules, [&](CFileFault fault) {
+        // What stops the reading of a line is told already.
+        const bool known = std::ranges::any_of(
+            faults, [&](const CFileFault& other) { return other.nLine == fault.nLine; });
+        return known || keep(std::move(fault));
+    });
+    return faults;
 }
 
 std::optional<CFileFault> CValveFileCheck::FindArticle(const CString& ventilNr) const

@@ -29,8 +29,8 @@ HOST_API HK_VDI3805_PRODUKT* FindProdukt(HK_VDI3805_ART* art, const CString& nam
 HOST_API int ReadVdiFile(const CString& hersteller, HK_VDI3805_ART** art, double leistungEN442);
 
 /// Opens the help page of a dialog in the user's viewer and does not wait until that ends; for a
-/// moment, a second at most, to learn whether it starts. `dialogId` is the dialog's number. `art` is
-/// the kind of page; the module passes 100. A dialog without a page, or a viewer that cannot be
+/// moment, a second at most, to learn whether it starts. `dialogId` is the dialog's number. `art`
+/// is the kind of page; the module passes 100. A dialog without a page, or a viewer that cannot be
 /// started, changes nothing.
 HOST_API void ShowPDF(unsigned dialogId, int art);
 

@@ -19,6 +19,13 @@ add_test(NAME c_interface COMMAND ${c_interface_dir}/c_interface_test.sh
 set_tests_properties(c_interface PROPERTIES TIMEOUT 120 ENVIRONMENT QT_QPA_PLATFORM=offscreen
     ENVIRONMENT_MODIFICATION ${toolkit_leaks})
 
+add_executable(radsel_owner_window ${c_interface_dir}/owner_window.c)
+radsel_c_program(radsel_owner_window)
+add_test(NAME c_interface_owner COMMAND ${c_interface_dir}/owner_window_test.sh
+    $<TARGET_FILE:radsel_owner_window> ${PROJECT_SOURCE_DIR}/data ${CMAKE_CURRENT_BINARY_DIR})
+set_tests_properties(c_interface_owner PROPERTIES TIMEOUT 120
+    ENVIRONMENT_MODIFICATION ${toolkit_leaks})
+
 add_executable(radsel_c_host ${PROJECT_SOURCE_DIR}/examples/c_host/c_host.c)
 radsel_c_program(radsel_c_host)
 

@@ -48,6 +48,7 @@ for program in "$prefix"/bin/*; do
         grep -q -e "$option\b" <<<"$manual" || fail "not in the manual of $program: $option"
     done
 done
+"$prefix/bin/radsel_check" "$prefix/share/radsel/catalogues/Altovico" | grep -q "nessun difetto$"
 
 # The program has a working place in its user's folder and writes nothing beside itself.
 state_of() { (cd "$1" && find . -type f -exec cksum {} + | sort); }

@@ -40,9 +40,13 @@ choose_with_scrolling() {
     bring_to_front 'Villa dei Tigli*'
 }
 
+all_sized() { ask totals && [[ $found_text == *'Locali da sistemare: 2' ]]; }
+
 connect() {
     step "connect the radiators of the floor"
     keys ctrl+d
+    # Until then, keys may be those of the bar that shows how far it is.
+    await "all rooms sized" all_sized
     keys ctrl+a F6
     await_window 'Parametri valvole e attacco corpi scaldanti'
     expect_on_screen

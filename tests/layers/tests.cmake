@@ -1,8 +1,10 @@
 # The plan of the houses: who may include whom, what each room needs to be linked, and that logic
 # needs no toolkit. The tests of the includes themselves are part of the logic tests.
 
-add_test(NAME toolkit_free COMMAND ${CMAKE_CURRENT_LIST_DIR}/toolkit_free_test.sh
-    $<TARGET_FILE:radsel_logic_tests>)
+foreach(program radsel_logic_tests radsel_check)
+    add_test(NAME toolkit_free_${program} COMMAND
+        ${CMAKE_CURRENT_LIST_DIR}/toolkit_free_test.sh $<TARGET_FILE:${program}>)
+endforeach()
 
 # Every room's library links whole with what its line names and the five libraries of a host. The
 # linker is the test: a function that is missing ends the build.

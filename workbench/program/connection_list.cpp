@@ -6,7 +6,7 @@
 #include "platform/exception.h"
 #include "platform/file_fault.h"
 #include "platform/format.h"
-#include "reference_host/files/short_list_file.h"
+#include "reference_host/files/short_list_check.h"
 #include "workbench/building/user_text.h"
 #include "workbench/program/arguments.h"
 
@@ -14,7 +14,6 @@
 #include <cstddef>
 #include <optional>
 #include <ostream>
-#include <utility>
 
 namespace workbench {
 
@@ -114,105 +113,30 @@ CString DescribePunkt(const CPunkt& punkt)
     return text + DescribeDirection(punkt.winkel);
 }
 
-/// Walks the lines of a short list in the way of the dialog, and tells what goes wrong on it.
-class CListPrinter
+void Write(std::ostream& stream, const CString& text)
 {
-public:
-    CListPrinter(CString file, const CStringArray& lines, std::ostream& out, std::ostream& err)
-        : m_file(std::move(file)), m_lines(lines), m_out(out), m_err(err)
-    {
-    }
+    stream << Utf8FromWide(text) << '\n';
+}
 
-    ExitCode Print()
-    {
-        for (int i = 0; i < m_lines.GetSize(); ++i) {
-            if (m_lines[i].starts_with(L'[')) {
-                TakeName(i);
-            } else {
-                TakePair(i++);
-            }
-        }
-        CheckNameUsed();
-        Write(m_out, L"Tipi di attacco: " + FormatInt(m_nTypes));
-        return m_bFault ? ExitCode::badCatalogue : ExitCode::ok;
-    }
+CString DescribeText(const CString& text)
+{
+    const std::optional<CPunkt> punkt = ReadPunkt(text);
+    return punkt ? DescribePunkt(*punkt) : L"non indicato";
+}
 
-private:
-    static void Write(std::ostream& stream, const CString& text)
-    {
-        stream << Utf8FromWide(text) << '\n';
+ExitCode Print(const reference_host::CShortListCheck& list, std::ostream& out, std::ostream& err)
+{
+    for (const reference_host::CShortListType& type : list.types) {
+        Write(out, type.strName);
+        Write(out, L"    mandata: " + DescribeText(type.strFlow));
+        Write(out, L"    ritorno: " + DescribeText(type.strReturn));
     }
-
-    void Fault(int index, const CString& message)
-    {
-        m_bFault = true;
-        Write(m_err, FormatFileFault({index + 1, message, m_file}));
+    for (const CFileFault& fault : list.faults) {
+        Write(err, FormatFileFault(fault));
     }
-
-    void CheckNameUsed()
-    {
-        if (m_nNameLine >= 0) {
-            Fault(m_nNameLine, L"il tipo \"" + m_name + L"\" non ha punti di attacco");
-        }
-    }
-
-    void TakeName(int index)
-    {
-        CheckNameUsed();
-        const CString& line = m_lines[index];
-        if (line.size() < 2 || line.back() != L']') {
-            Fault(index, L"manca la parentesi quadra chiusa dopo il nome");
-        }
-        m_name = line.size() < 2 ? CString() : line.substr(1, line.size() - 2);
-        m_nNameLine = index;
-    }
-
-    std::optional<CPunkt> TakePunkt(int index, wchar_t mark, const CString& what)
-    {
-        if (index >= m_lines.GetSize()) {
-            Fault(index - 1, L"manca la riga del punto di " + what);
-            return std::nullopt;
-        }
-        const CString& line = m_lines[index];
-        if (!line.starts_with(mark)) {
-            Fault(index,
-                  L"qui ci vuole il punto di " + what + L", una riga che inizia con " + mark);
-            return std::nullopt;
-        }
-        const std::optional<CPunkt> punkt = ReadPunkt(line.substr(1));
-        if (!punkt) {
-            Fault(index, L"il punto di " + what + L" ha meno di tre numeri");
-        }
-        return punkt;
-    }
-
-    void TakePair(int index)
-    {
-        if (m_nNameLine < 0) {
-            Fault(index, L"questi punti di attacco non hanno un nome proprio");
-        }
-        m_nNameLine = -1;
-        const std::optional<CPunkt> flow = TakePunkt(index, L'V', L"mandata");
-        const std::optional<CPunkt> back = TakePunkt(index + 1, L'R', L"ritorno");
-        if (!flow || !back) {
-            return;
-        }
-        ++m_nTypes;
-        Write(m_out, m_name);
-        Write(m_out, L"    mandata: " + DescribePunkt(*flow));
-        Write(m_out, L"    ritorno: " + DescribePunkt(*back));
-    }
-
-    CString m_file;
-    const CStringArray& m_lines;
-    std::ostream& m_out;
-    std::ostream& m_err;
-    CString m_name;
-    /// Line of a name that no pair has followed yet, -1 if there is none.
-    int m_nNameLine = -1;
-    int m_nTypes = 0;
-    bool m_bFault = false;
-};
+    Write(out, L"Tipi di attacco: " + FormatInt(static_cast<long long>(list.types.size())));
+    return list.faults.empty() ? ExitCode::ok : ExitCode::badCatalogue;
+}
 
 } // namespace
 
@@ -229,7 +153,7 @@ ExitCode ListConnections(const CString& path, std::ostream& out, std::ostream& e
         err << Utf8FromWide(FormatFileFault(*list.fault)) << '\n';
         return ExitCode::badCatalogue;
     }
-    return CListPrinter(list.strFile, list.lines, out, err).Print();
+    return Print(reference_host::CheckShortList(list), out, err);
 }
 
 ExitCode RunConnectionList(const CArguments& arguments, std::ostream& out, std::ostream& err)
@@ -239,8 +163,7 @@ ExitCode RunConnectionList(const CArguments& arguments, std::ostream& out, std::
 
 CString DescribeConnectionPoint(const CString& text)
 {
-    const std::optional<CPunkt> punkt = ReadPunkt(text);
-    return punkt ? DescribePunkt(*punkt) : L"non indicato";
+    return DescribeText(text);
 }
 
 } // namespace workbench

@@ -17,10 +17,9 @@ CBuiltProduct Build(const CCatalogueProduct& model, double requiredOutput)
     CBuiltProduct produkt;
     produkt.strName = model.strName;
     produkt.rows = BuildRows(model, requiredOutput);
-    for (const CCatalogueSeries& serie : model.serien) {
-        produkt.hoehen.insert(serie.dHoehe);
-        produkt.tiefen.insert(serie.dTiefe);
-    }
+    CCrossSections sizes = CrossSectionsOf(model);
+    produkt.hoehen = std::move(sizes.hoehen);
+    produkt.tiefen = std::move(sizes.tiefen);
     return produkt;
 }
 

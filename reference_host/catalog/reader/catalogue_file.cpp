@@ -76,11 +76,6 @@ private:
     bool m_bKopf = false;
     int m_nSizes = 0;
 
-    // Where the open levels began: what they lack is told at their own line.
-    int m_nArtLine = 0;
-    int m_nProduktLine = 0;
-    int m_nSerieLine = 0;
-
     std::set<CString> m_artNamen;
     std::set<CString> m_produktNamen;
     std::unordered_map<int, std::size_t> m_serieByNummer;
@@ -151,8 +146,7 @@ void CCatalogueParser::TakeArt(const CRecordLine& line)
     if (!m_artNamen.insert(name).second) {
         line.Refuse(L"La categoria \"" + name + L"\" compare due volte.");
     }
-    m_katalog.arten.push_back({name, {}});
-    m_nArtLine = line.GetLineNumber();
+    m_katalog.arten.push_back({name, {}, line.GetLineNumber()});
     m_produktNamen.clear();
 }
 
@@ -167,8 +161,7 @@ void CCatalogueParser::TakeProdukt(const CRecordLine& line)
     if (!m_produktNamen.insert(name).second) {
         line.Refuse(L"Il prodotto \"" + name + L"\" compare due volte nella stessa categoria.");
     }
-    m_katalog.arten.back().produkte.push_back({name, {}});
-    m_nProduktLine = line.GetLineNumber();
+    m_katalog.arten.back().produkte.push_back({name, {}, line.GetLineNumber()});
     m_serieByNummer.clear();
 }
 
@@ -194,8 +187,8 @@ void CCatalogueParser::TakeSerie(const CRecordLine& line)
     serie.dLeistung = Read(line, 6, L"potenza", kLeistung);
     serie.dExponent = Read(line, 7, L"esponente", kExponent);
     serie.dInhalt = Read(line, 8, L"contenuto d'acqua", kInhalt);
+    serie.nLine = line.GetLineNumber();
     produkt.serien.push_back(std::move(serie));
-    m_nSerieLine = line.GetLineNumber();
 }
 
 void CCatalogueParser::TakeNormLaenge(const CRecordLine& line)
@@ -205,7 +198,8 @@ void CCatalogueParser::TakeNormLaenge(const CRecordLine& line)
         line.Refuse(L"Una serie a elementi non ha lunghezze standard: le lunghezze seguono dal "
                     L"record 710.03.");
     }
-    CStandardLength size{Read(line, 2, L"lunghezza", kLaenge), serie.dLeistung, serie.dInhalt};
+    CStandardLength size{Read(line, 2, L"lunghezza", kLaenge), serie.dLeistung, serie.dInhalt,
+                         line.GetLineNumber()};
     if (!serie.normLaengen.empty() && size.dLaenge <= serie.normLaengen.back().dLaenge) {
         line.Refuse(L"Le lunghezze standard di una serie devono crescere.");
     }
@@ -236,7 +230,7 @@ void CCatalogueParser::TakeZuschnitt(const CRecordLine& line)
     constexpr double binarySlack = 1e-6;
     const int count = static_cast<int>(std::floor((to - from) / step + binarySlack)) + 1;
     CountSizes(line, count);
-    serie.zuschnitt = CCutToLength{from, step, count};
+    serie.zuschnitt = CCutToLength{from, step, count, line.GetLineNumber()};
 }
 
 void CCatalogueParser::TakeGlieder(const CRecordLine& line)
@@ -252,6 +246,7 @@ void CCatalogueParser::TakeGlieder(const CRecordLine& line)
     glieder.dGliedLaenge = Read(line, 1, L"lunghezza dell'elemento", kLaenge);
     glieder.nMax = line.ReadInt(2, L"numero massimo di elementi", 1, kMaxSections);
     glieder.dZugabe = ReadOptional(line, 3, L"aggiunta di estremità", kZugabe, 0.0);
+    glieder.nLine = line.GetLineNumber();
     CountSizes(line, glieder.nMax);
     serie.glieder = glieder;
 }
@@ -267,6 +262,7 @@ void CCatalogueParser::TakeArtikel(const CRecordLine& line)
     }
     const double size = Read(line, 2, L"lunghezza o numero di elementi", kLaenge);
     CCatalogueSeries& serie = produkt.serien[found->second];
+    serie.artikel.push_back({size, line.GetLineNumber()});
     serie.bestellNummern.emplace(size, line.ReadText(3, L"numero d'ordine"));
     if (!line.IsEmpty(4)) {
         serie.typTexte.emplace(size, line.GetText(4));
@@ -280,8 +276,8 @@ void CCatalogueParser::CheckArtComplete() const
     }
     const CCatalogueKind& art = m_katalog.arten.back();
     if (art.produkte.empty()) {
-        throw CFileFault{m_nArtLine, L"La categoria \"" + art.strName +
-                                         L"\" non contiene prodotti (record 110)."};
+        throw CFileFault{art.nLine, L"La categoria \"" + art.strName +
+                                        L"\" non contiene prodotti (record 110)."};
     }
     CheckProduktComplete();
 }
@@ -293,8 +289,8 @@ void CCatalogueParser::CheckProduktComplete() const
     }
     const CCatalogueProduct& produkt = m_katalog.arten.back().produkte.back();
     if (produkt.serien.empty()) {
-        throw CFileFault{m_nProduktLine, L"Il prodotto \"" + produkt.strName +
-                                             L"\" non contiene serie (record 700)."};
+        throw CFileFault{produkt.nLine, L"Il prodotto \"" + produkt.strName +
+                                            L"\" non contiene serie (record 700)."};
     }
     CheckSerieComplete();
 }
@@ -307,9 +303,9 @@ void CCatalogueParser::CheckSerieComplete() const
     }
     const CCatalogueSeries& serie = produkt.serien.back();
     if (serie.normLaengen.empty() && !serie.zuschnitt && !serie.glieder) {
-        throw CFileFault{m_nSerieLine, L"La serie \"" + serie.strTyp +
-                                           L"\" non ha misure (record 710.01, 710.02 o "
-                                           L"710.03)."};
+        throw CFileFault{serie.nLine, L"La serie \"" + serie.strTyp +
+                                          L"\" non ha misure (record 710.01, 710.02 o "
+                                          L"710.03)."};
     }
 }
 

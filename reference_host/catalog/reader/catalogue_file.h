@@ -14,8 +14,9 @@
 namespace reference_host {
 
 /// What a catalogue file says, as plain values: millimetres, watts at EN 442 standard conditions,
-/// litres. docs/catalogue-format.md describes the file. Every number of a model is finite and
-/// within the limits told there, so that whoever builds rows from it need check nothing again.
+/// litres. Each part tells the line of the file, from 1, at which its record stands.
+/// docs/catalogue-format.md describes the file. Every number of a model is finite and within the
+/// limits told there, so that whoever builds rows from it need check nothing again.
 
 /// A length that the product is always made in. Output and content are stated as the series states
 /// them: per metre, or of this unit.
@@ -24,6 +25,7 @@ struct CStandardLength
     double dLaenge = 0.0;
     double dLeistung = 0.0;
     double dInhalt = 0.0;
+    int nLine = 0;
 };
 
 /// Lengths cut to measure: dVon, dVon + dStufe and so on, nAnzahl of them.
@@ -32,6 +34,7 @@ struct CCutToLength
     double dVon = 0.0;
     double dStufe = 0.0;
     int nAnzahl = 0;
+    int nLine = 0;
 };
 
 /// A radiator put together of 1 to nMax sections, dZugabe longer than these.
@@ -40,6 +43,14 @@ struct CSections
     double dGliedLaenge = 0.0;
     double dZugabe = 0.0;
     int nMax = 0;
+    int nLine = 0;
+};
+
+/// An article, which names one size by its length or by its number of sections.
+struct CCatalogueArticle
+{
+    double dSize = 0.0;
+    int nLine = 0;
 };
 
 /// One cross-section of a product: all sizes of one height and depth.
@@ -62,6 +73,9 @@ struct CCatalogueSeries
     std::map<double, CString> typTexte;
     /// Order numbers of single sizes, in the same way.
     std::map<double, CString> bestellNummern;
+    /// All articles of the series, those without effect included.
+    std::vector<CCatalogueArticle> artikel;
+    int nLine = 0;
 
     bool IsPerMetre() const { return cBauart == L'M' || cBauart == L'm'; }
     bool IsPerSection() const { return cBauart == L'S' || cBauart == L's'; }
@@ -72,6 +86,7 @@ struct CCatalogueProduct
 {
     CString strName;
     std::vector<CCatalogueSeries> serien;
+    int nLine = 0;
 };
 
 /// At least one product; names are unique within the kind.
@@ -79,6 +94,7 @@ struct CCatalogueKind
 {
     CString strName;
     std::vector<CCatalogueProduct> produkte;
+    int nLine = 0;
 };
 
 /// At least one kind; names are unique.

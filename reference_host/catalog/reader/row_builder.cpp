@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstddef>
 #include <iterator>
+#include <numeric>
+#include <optional>
 
 namespace reference_host {
 
@@ -21,13 +23,24 @@ struct CSize
     double dLeistung = 0.0;
     /// Of this size as a whole.
     double dInhalt = 0.0;
+    int nLine = 0;
 };
 
+/// The required output at standard conditions in watts; nothing stands for all outputs.
+using CRequirement = std::optional<double>;
+
 /// Which sizes to offer out of `count` whose outputs rise from `first` by `increment`: those around
-/// the requirement, and the ends of the series. By its ends a reader of the row chain tells where
-/// one series stops and the next begins, and how far this one goes.
-std::vector<int> SizesAround(double requiredOutput, double first, double increment, int count)
+/// the requirement, and the ends of the series; without a requirement all of them. By its ends a
+/// reader of the row chain tells where one series stops and the next begins, and how far this one
+/// goes.
+std::vector<int> SizesAround(CRequirement required, double first, double increment, int count)
 {
+    if (!required) {
+        std::vector<int> all(static_cast<std::size_t>(count));
+        std::iota(all.begin(), all.end(), 0);
+        return all;
+    }
+    const double requiredOutput = *required;
     const auto place = [&](double output) { return (output - first) / increment; };
     const double fitting = std::round(place(requiredOutput));
     const double from =
@@ -63,34 +76,34 @@ std::vector<CSize> StandardSizes(const CCatalogueSeries& serie)
     std::vector<CSize> sizes;
     sizes.reserve(serie.normLaengen.size());
     for (const CStandardLength& norm : serie.normLaengen) {
-        sizes.push_back(
-            {norm.dLaenge, 0.0, norm.dLeistung, ScaledInhalt(serie, norm.dInhalt, norm.dLaenge)});
+        sizes.push_back({norm.dLaenge, 0.0, norm.dLeistung,
+                         ScaledInhalt(serie, norm.dInhalt, norm.dLaenge), norm.nLine});
     }
     return sizes;
 }
 
-std::vector<CSize> CutSizes(const CCatalogueSeries& serie, double requiredOutput)
+std::vector<CSize> CutSizes(const CCatalogueSeries& serie, CRequirement required)
 {
     const CCutToLength& cut = *serie.zuschnitt;
     const double wattsPerMm = serie.dLeistung / 1000.0;
     std::vector<CSize> sizes;
     for (const int i :
-         SizesAround(requiredOutput, wattsPerMm * cut.dVon, wattsPerMm * cut.dStufe, cut.nAnzahl)) {
+         SizesAround(required, wattsPerMm * cut.dVon, wattsPerMm * cut.dStufe, cut.nAnzahl)) {
         const double laenge = cut.dVon + i * cut.dStufe;
-        sizes.push_back({laenge, 0.0, serie.dLeistung, ScaledInhalt(serie, serie.dInhalt, laenge)});
+        sizes.push_back(
+            {laenge, 0.0, serie.dLeistung, ScaledInhalt(serie, serie.dInhalt, laenge), cut.nLine});
     }
     return sizes;
 }
 
-std::vector<CSize> SectionSizes(const CCatalogueSeries& serie, double requiredOutput)
+std::vector<CSize> SectionSizes(const CCatalogueSeries& serie, CRequirement required)
 {
     const CSections& glieder = *serie.glieder;
     std::vector<CSize> sizes;
-    for (const int i :
-         SizesAround(requiredOutput, serie.dLeistung, serie.dLeistung, glieder.nMax)) {
+    for (const int i : SizesAround(required, serie.dLeistung, serie.dLeistung, glieder.nMax)) {
         const int count = i + 1;
         sizes.push_back({count * glieder.dGliedLaenge + glieder.dZugabe, static_cast<double>(count),
-                         serie.dLeistung, count * serie.dInhalt});
+                         serie.dLeistung, count * serie.dInhalt, glieder.nLine});
     }
     return sizes;
 }
@@ -106,13 +119,13 @@ std::vector<CSize> Merged(const std::vector<CSize>& standard, const std::vector<
     return sizes;
 }
 
-std::vector<CSize> SizesOf(const CCatalogueSeries& serie, double requiredOutput)
+std::vector<CSize> SizesOf(const CCatalogueSeries& serie, CRequirement required)
 {
     if (serie.glieder) {
-        return SectionSizes(serie, requiredOutput);
+        return SectionSizes(serie, required);
     }
     const std::vector<CSize> standard = StandardSizes(serie);
-    return serie.zuschnitt ? Merged(standard, CutSizes(serie, requiredOutput)) : standard;
+    return serie.zuschnitt ? Merged(standard, CutSizes(serie, required)) : standard;
 }
 
 /// By what the articles of a series name a size.
@@ -161,6 +174,30 @@ std::vector<HK_VDI3805_TYP> BuildRows(const CCatalogueProduct& produkt, double r
         }
     }
     return rows;
+}
+
+std::vector<CCatalogueRow> BuildAllRows(const CCatalogueProduct& produkt)
+{
+    std::vector<CCatalogueRow> rows;
+    for (std::size_t i = 0; i < produkt.serien.size(); ++i) {
+        for (const CSize& size : SizesOf(produkt.serien[i], std::nullopt)) {
+            CCatalogueRow& row = rows.emplace_back();
+            FillRow(row.row, produkt.serien[i], size);
+            row.nSerie = i;
+            row.nLine = size.nLine;
+        }
+    }
+    return rows;
+}
+
+CCrossSections CrossSectionsOf(const CCatalogueProduct& produkt)
+{
+    CCrossSections sizes;
+    for (const CCatalogueSeries& serie : produkt.serien) {
+        sizes.hoehen.insert(serie.dHoehe);
+        sizes.tiefen.insert(serie.dTiefe);
+    }
+    return sizes;
 }
 
 CString FindOrderNumber(const CCatalogueProduct& produkt, const CString& typ,
