@@ -3,6 +3,8 @@
 #include "host/host_base.h"
 #include "host/host_prefs.h"
 #include "host_defaults/answers.h"
+#include "platform/encoding.h"
+#include "platform/path.h"
 
 #include <fstream>
 #include <map>
@@ -13,6 +15,8 @@ namespace {
 struct CSettings
 {
     std::filesystem::path folder;
+    /// In UTF-8, as the file has them. A path of the system takes them so: made of wide text it
+    /// would fail at the first accented letter.
     std::map<std::string, std::string> values;
 };
 
@@ -29,6 +33,12 @@ std::string Trimmed(const std::string& text)
     return first == std::string::npos ? std::string() : text.substr(first, last - first + 1);
 }
 
+std::string Value(const char* key)
+{
+    const auto found = Settings().values.find(key);
+    return found == Settings().values.end() ? std::string() : found->second;
+}
+
 /// A unit by its word, as the code that the module knows: metres unless it is one of the others.
 int UnitSetting(const char* key)
 {
@@ -39,10 +49,10 @@ int UnitSetting(const char* key)
 bool DeliverFolder(const char* key, CString& path)
 {
     // "Not known" leaves the caller's text alone.
-    if (Setting(key).empty()) {
+    if (Value(key).empty()) {
         return false;
     }
-    path = FolderSetting(key).wstring();
+    path = TextFromPath(FolderSetting(key));
     return true;
 }
 
@@ -62,15 +72,12 @@ void LoadSettings(const std::filesystem::path& file)
 
 CString Setting(const char* key)
 {
-    const auto found = Settings().values.find(key);
-    // A path turns UTF-8 to wide text, whatever the locale is.
-    return found == Settings().values.end() ? CString()
-                                            : std::filesystem::path(found->second).wstring();
+    return WideFromUtf8(Value(key));
 }
 
 std::filesystem::path FolderSetting(const char* key)
 {
-    return Settings().folder / Setting(key);
+    return Settings().folder / Value(key);
 }
 
 // What the module asks, out of the settings. What is not written here the defaults answer.
@@ -83,7 +90,7 @@ CString GetHKDir(bool /*projectCopy*/)
 
 CString GetVEDir(bool /*projectCopy*/)
 {
-    return FolderSetting("valves").wstring();
+    return TextFromPath(FolderSetting("valves"));
 }
 
 void lmGetDimension2(int& code)
