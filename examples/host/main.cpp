@@ -5,14 +5,21 @@
 #include "connection.h"
 #include "drawing.h"
 #include "frame/entry_points.h"
+#include "host/host_diagnosis.h"
+#include "platform/encoding.h"
 #include "platform/exception.h"
 #include "settings.h"
 
+#include <clocale>
 #include <cstdlib>
 #include <iostream>
 #include <string_view>
 
 namespace {
+
+/// Why the last call found nothing. A call that finds something tells nothing, so this is emptied
+/// before each.
+CString g_whyNothing;
 
 /// The room's wishes, in millimetres, watts and degrees Celsius.
 HK_DATEN_VDI3805_UEBERGABE Wishes()
@@ -20,7 +27,7 @@ HK_DATEN_VDI3805_UEBERGABE Wishes()
     HK_DATEN_VDI3805_UEBERGABE room;
     room.Hersteller = L"Esempio";
     room.Art = L"Radiatori a piastra";
-    room.Produkt = L"Tipo 22";
+    room.Produkt = Setting("product");
     room.Leistung = 900.0;
     room.Vorlauf = 55.0;
     room.Ruecklauf = 45.0;
@@ -41,6 +48,7 @@ bool ChooseRadiator(HK_DATEN_VDI3805_UEBERGABE& room, CDrawing& drawing, bool wi
     HK_DATEN_VDI3805_UEBERGABE asked = room;
     CString layer;
     int layerColor = 0;
+    g_whyNothing.clear();
     const int answer =
         HeizkoerperauswahlVDI3805(&drawing, &asked, layer, layerColor, withDialog, true);
     if (answer < 0) {
@@ -73,7 +81,9 @@ int Run(bool withDialogs)
     CDrawing drawing;
     HK_DATEN_VDI3805_UEBERGABE room = Wishes();
     if (!ChooseRadiator(room, drawing, withDialogs)) {
-        std::wcerr << L"no radiator" << std::endl;
+        // With the dialog the user has seen for himself, and the module tells nothing.
+        std::wcerr << L"no radiator" << (g_whyNothing.empty() ? L"" : L": ") << g_whyNothing
+                   << std::endl;
         return EXIT_FAILURE;
     }
     CDrawnRadiator radiator(room.Daten.Laenge / 1000.0, room.Daten.Tiefe / 1000.0,
@@ -94,8 +104,17 @@ int Run(bool withDialogs)
 
 } // namespace
 
+/// The listener: the module finds it by its name and calls it when a silent call found nothing.
+void RadselDiagnosis(int /*reason*/, const char* text)
+{
+    g_whyNothing = WideFromUtf8(text);
+}
+
 int main(int argc, char** argv)
 {
+    // What is written below keeps its accents. Of the user's language this takes the letters alone:
+    // the decimal sign stays the point.
+    std::setlocale(LC_CTYPE, "");
     if (argc < 2) {
         std::wcerr << L"usage: cad SETTINGS [--dialogs]" << std::endl;
         return EXIT_FAILURE;

@@ -9,7 +9,7 @@ diff "$example" <(sed -n '/^```cpp$/,/^```$/p' "$guide" | sed '1d;$d')
 [[ $(wc -l <"$example") -le 40 ]] || { echo "the example is too long to be read" && false; }
 
 declared() { # files
-    sed -nE 's/^ *(HOST_API|RADSEL_API|virtual|static) [^(]*[ *&]([A-Za-z_0-9]+)\(.*/\2/p' "$@"
+    sed -nE 's/^(extern "C" HOST_API| *(HOST_API|RADSEL_API|virtual|static)) [^(]*[ *&]([A-Za-z_0-9]+)\(.*/\3/p' "$@"
 }
 names=$(declared "$source"/src/frame/entry_points.h "$source"/src/host/*.h)
 [[ $(wc -w <<<"$names") -ge 50 ]] || { echo "only found: $names" && false; }

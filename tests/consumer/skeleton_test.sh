@@ -9,6 +9,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/Büro"
 cat >"$work/settings.ini" <<END
+product = Tipo 22
 drawing_unit = mm
 user_unit = cm
 valves = $data/valves
@@ -24,6 +25,14 @@ expected='22/600/1000: 841 W, 6.3 l
 H_VL_PUNKT -0.5;0;0;0;0.5;-0.03;180;0;0.1;0;0;0.04
 H_RL_PUNKT -0.5;0;0;0;-0.5;0.03;180;0;0.05;0;0;0.04'
 diff <(echo "$expected") <("$program" "$work/settings.ini")
+
+# A product that is not there: the listener in the program is found and told why, umlaut and all.
+sed 's/Tipo 22/Höhe 22/' "$work/settings.ini" >"$work/wrong.ini"
+if LC_ALL=C.UTF-8 "$program" "$work/wrong.ini" 2>"$work/told"; then
+    echo "finds a product that is not there"
+    exit 1
+fi
+grep -q '^no radiator: .*"Höhe 22".*"Tipo 22"' "$work/told" || { cat "$work/told" && false; }
 
 # The toolkit's own leaks are not looked at, and the library comes ahead of the sanitizer's.
 with_dialogs() {
