@@ -2,11 +2,14 @@
 
 #include "frame/entry_points.h"
 
+#include <clocale>
 #include <cstdlib>
 #include <iostream>
 
 int main()
 {
+    std::setlocale(LC_CTYPE, ""); // accents are printed; the decimal point stays
+
     HK_DATEN_VDI3805_UEBERGABE room;
     room.Hersteller = L"Valmorena";
     room.Art = L"Radiatori a piastra compatti";
