@@ -16,6 +16,9 @@ import radsel
 data = Path(sys.argv[1] if len(sys.argv) > 1 else "/usr/share/radsel")
 picture = sys.argv[2] if len(sys.argv) > 2 else "villa.svg"
 
+if not (data / "catalogues").is_dir():
+    sys.exit(f"No samples in {data}. Name their folder: size_villa.py <prefix>/share/radsel")
+
 radsel.use_folders(catalogues=data / "catalogues", valves=data / "valves")
 
 # %% What the catalogues offer

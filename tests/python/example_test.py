@@ -41,6 +41,12 @@ class ExampleTest(unittest.TestCase):
         self.assertIn("matplotlib is not installed", told[-1])
         self.assertIn("55/45 °C: C 22/600x1100 gives 925 W", told)
 
+    def test_it_says_where_it_looks_for_the_samples(self):
+        with tempfile.TemporaryDirectory() as folder:
+            ended = subprocess.run([sys.executable, EXAMPLE, folder], capture_output=True, text=True)
+        self.assertEqual(ended.returncode, 1)
+        self.assertRegex(ended.stderr, f"^No samples in {folder}\\. .*\n$")
+
     def test_the_page_shows_what_comes_out(self):
         page = (TREE / "docs" / "python.md").read_text("utf-8")
         code, output = re.search(r"```python\n(.*?)```\n\n    (.*?)\n", page, re.DOTALL).groups()
