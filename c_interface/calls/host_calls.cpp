@@ -11,7 +11,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 #include <optional>
+#include <utility>
 
 using namespace c_interface;
 
@@ -78,10 +80,16 @@ int radsel_set_host(const radsel_host* host)
 
 int radsel_host_failure(const char* text, const char* file, int line)
 {
-    Guarded([&] {
-        NoteFailure({text == nullptr ? "" : text, file == nullptr ? "" : file, line});
-        return RADSEL_OK;
-    });
+    try {
+        // Taken before anything else, as the texts may be those of radsel_last_error().
+        CReason reason{text == nullptr ? "" : text, file == nullptr ? "" : file, line};
+        Guarded([&] {
+            NoteFailure(std::move(reason));
+            return RADSEL_OK;
+        });
+    } catch (const std::bad_alloc&) {
+        // The failure then has no words.
+    }
     return RADSEL_HOST_FAILED;
 }
 
