@@ -196,8 +196,8 @@ typedef struct radsel_valve
     /* The key: name of the maker's folder, and the article's ident of 36 digits. */
     char maker[RADSEL_TEXT];
     char number[RADSEL_TEXT];
-    /* Order number of a fetched valve, display name of one that was picked or listed. Empty: there
-     * is no valve in the record. */
+    /* Order number of a fetched valve, which the catalogue may leave out; display name of one that
+     * was picked or listed. */
     char name[RADSEL_TEXT];
     /* Of a valve that was picked in the dialog these two stand the other way round. */
     char main_group[RADSEL_TEXT];
@@ -607,8 +607,9 @@ RADSEL_C_API void radsel_valves_free(radsel_valves* valves);
 
 /* Fills two valves silently by the keys that they hold. `second` may be null, and a second key with
  * fewer than 30 characters of number or no maker is left out. RADSEL_NOTHING: the first key is such
- * a one, or a valve was not found; then its record stays as it came, while the other one is filled.
- * RADSEL_BAD_FILE: a line of the file lacks a field. */
+ * a one, and neither is looked for; or a valve was not found, whose record then stays as it came,
+ * while the other one is filled. RADSEL_BAD_FILE: a line of the file lacks a field. A valve file is
+ * read once in the life of the process. */
 RADSEL_C_API int radsel_fetch_valves(radsel_valve* first, radsel_valve* second);
 
 /* Puts the two keys into the two records first and then does the same. */
@@ -617,7 +618,7 @@ RADSEL_C_API int radsel_fetch_valves_by_key(const char* first_maker, const char*
                                             radsel_valve* first, radsel_valve* second);
 
 /* Lets the user pick a valve; with both texts not empty the dialog opens on that one. On OK `valve`
- * holds key and names of the choice, or is empty if there was none; fetch it for its table. */
+ * holds key and names of the choice, or has no name if there was none; fetch it for its table. */
 RADSEL_C_API int radsel_choose_valve(const char* maker, const char* number, radsel_valve* valve);
 
 /* Lets the user set up the connection of a radiator and its two valves. The valves are fetched by
