@@ -419,7 +419,7 @@ RADSEL_C_API int radsel_picture_set(radsel_picture* picture, int width, int heig
 
 /* Fill a catalogue. A kind belongs to the maker that is read, a product to the kind added last, a
  * row to the product added last. Rows of a product run through rising lengths, series after
- * series. A kind or product that was added before is continued. */
+ * series. A kind or product that was added before is continued in its place. */
 RADSEL_C_API int radsel_catalogue_add_kind(radsel_catalogue* catalogue, const char* name);
 RADSEL_C_API int radsel_catalogue_add_product(radsel_catalogue* catalogue, const char* name);
 RADSEL_C_API int radsel_catalogue_add_row(radsel_catalogue* catalogue, const radsel_row* row);
@@ -449,10 +449,10 @@ typedef struct radsel_host
 
     /* Radiator catalogues. Both or none. Null: the files in RADSEL_CATALOGUE_FOLDER, in the
      * structure of VDI 3805. list_makers adds the names of all makers in the order in which they
-     * are shown. read_maker adds all that the maker has; sizes that are built to measure around
-     * `output_en442`, the required output in watts at 75/65/20 (any number, not-a-number included).
-     * It is asked when the maker comes up first, and again when a request says reread.
-     * RADSEL_NOTHING: he has nothing. */
+     * are shown; RADSEL_NOTHING: there are none. read_maker adds all that the maker has; sizes that
+     * are built to measure around `output_en442`, the required output in watts at 75/65/20 (any
+     * number, not-a-number included). It is asked when the maker comes up first, and again when a
+     * request says reread. RADSEL_NOTHING: he has nothing. */
     int (*list_makers)(void* user, radsel_names* makers);
     int (*read_maker)(void* user, const char* maker, double output_en442,
                       radsel_catalogue* catalogue);
@@ -483,7 +483,7 @@ typedef struct radsel_host
 RADSEL_C_API void radsel_host_init(radsel_host* host, size_t size);
 
 /* Makes the table, which is copied, the host of this process; null: none. What earlier calls have
- * kept of catalogues is given up. Not from inside a callback. */
+ * kept of radiator catalogues is given up. Not from inside a callback. */
 RADSEL_C_API int radsel_set_host(const radsel_host* host);
 
 /* The drawing as dialogs see it. Every entry may be null; then the dialogs leave out what it is
