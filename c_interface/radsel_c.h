@@ -623,8 +623,9 @@ RADSEL_C_API int radsel_choose_valve(const char* maker, const char* number, rads
 
 /* Lets the user set up the connection of a radiator and its two valves. The valves are fetched by
  * their keys before the dialog opens, and that stays after Cancel; everything else is written on OK
- * only. `drawn` are the radiators that show their points meanwhile, `drawn_count` of them, each as
- * long as the first one's size says; null with 0. `checks` and `drawing` may be null. */
+ * only. `drawn` are the radiators that show their points meanwhile, `drawn_count` of them, one
+ * behind the other and all of the first one's size; null with 0. `checks` and `drawing` may be
+ * null. */
 RADSEL_C_API int radsel_edit_connection(radsel_connection* connection, radsel_valve* flow_valve,
                                         radsel_valve* return_valve,
                                         radsel_connection_checks* checks, radsel_drawn* drawn,
