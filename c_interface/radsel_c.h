@@ -355,7 +355,8 @@ enum radsel_text_setting
     RADSEL_STORE_FOLDER = 7,
     /* Layer of radiators; "$d" in it stands for the floor. Default: "HEIZ_HK_$d". */
     RADSEL_LAYER_NAME = 8,
-    /* The block used last. Default: the one that the user has chosen in this process. */
+    /* The block used last. A choice of the user sets it where no keep_block takes it. Default:
+     * none. */
     RADSEL_LAST_BLOCK = 9,
     /* Name without folder of the file of window places. Default: "winpos.txt". */
     RADSEL_PLACEMENT_FILE = 10,
@@ -383,7 +384,7 @@ enum radsel_number_setting
     RADSEL_SKIN_FRAME = 9,
     RADSEL_SKIN_LIST = 10,
     RADSEL_SKIN_INPUT = 11,
-    /* Yes: Enter moves to the next control. Default: no. */
+    /* Yes: Enter moves to the next control. Default: no, also where get_number fails. */
     RADSEL_ENTER_AS_TAB = 12,
     /* Yes: a themed banner. Default: no. */
     RADSEL_BANNER = 13,
@@ -431,10 +432,10 @@ RADSEL_C_API int radsel_host_failure(const char* text, const char* file, int lin
 
 /* The host's side. Every entry may be null; then the library answers by itself as told with it, and
  * the same where a callback that asks for something gives RADSEL_NOTHING: not known. RADSEL_OK is
- * success. Any other value is a failure: a silent call ends with RADSEL_HOST_FAILED; in a dialog a
- * message tells it and the dialog stays open. Exceptions and jumps must not leave a callback.
- * `user` is the table's. A text is written into the buffer, its NUL included, within `capacity`
- * bytes; texts that come in are good during the callback. */
+ * success. Any other value is a failure: while a dialog is open a message tells it and the dialog
+ * stays open; otherwise the call ends with RADSEL_HOST_FAILED. Exceptions and jumps must not leave
+ * a callback. `user` is the table's. A text is written into the buffer, its NUL included, within
+ * `capacity` bytes; texts that come in are good during the callback. */
 typedef struct radsel_host
 {
     size_t size;
@@ -444,7 +445,7 @@ typedef struct radsel_host
      * have set, else the default. */
     int (*get_text)(void* user, int setting, char* buffer, size_t capacity);
     int (*get_number)(void* user, int setting, int* value);
-    /* The user has chosen this block as the one to be used next. Null: kept in the process. */
+    /* The user has chosen this block as the one to be used next. Null: RADSEL_LAST_BLOCK is set. */
     int (*keep_block)(void* user, const char* block);
 
     /* Radiator catalogues. Both or none. Null: the files in RADSEL_CATALOGUE_FOLDER, in the
