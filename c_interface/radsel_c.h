@@ -555,7 +555,7 @@ RADSEL_C_API int radsel_min_depth(radsel_request* request, double* depth);
 RADSEL_C_API int radsel_max_depth(radsel_request* request, double* depth);
 
 /* Water content in litres of the product's row of these sizes, which are METRES; RADSEL_NOTHING and
- * 0 if there is none. */
+ * 0 if there is no such row, or if it states none. */
 RADSEL_C_API int radsel_water_content(radsel_request* request, double height, double depth,
                                       double length, double* litres);
 

@@ -373,6 +373,7 @@ static void asks_its_host(struct host* user, const radsel_host* host)
 {
     radsel_request room = host_request();
     radsel_list* list;
+    double litres = 1;
     CHECK(radsel_set_host(host) == RADSEL_OK);
     user->fail = 1;
     CHECK(radsel_find_radiator(&room) == RADSEL_HOST_FAILED && is(room.type_name, ""));
@@ -383,6 +384,8 @@ static void asks_its_host(struct host* user, const radsel_host* host)
     user->fail = 0;
     CHECK(radsel_find_radiator(&room) >= 0 && user->calls > 0);
     CHECK(is(room.type_name, "S15") && room.chosen.sections == 15);
+    CHECK(radsel_water_content(&room, 0.6, 0.15, 0.9, &litres) == RADSEL_NOTHING && litres == 0);
+    CHECK(tells("states none"));
     CHECK(user->wrong_thread == RADSEL_WRONG_THREAD);
     CHECK(radsel_list_makers(&list) == RADSEL_OK && list_has(list, "Other"));
     CHECK(radsel_list_kinds(room.maker, &list) == RADSEL_OK);
