@@ -19,3 +19,9 @@ for names in "$offered" "$declared"; do
         exit 1
     fi
 done
+
+# Closing the library must not take away what the toolkit's application object rests on.
+if ! readelf -dW "$library" | grep -q NODELETE; then
+    echo "The library would go when a program closes it."
+    exit 1
+fi
