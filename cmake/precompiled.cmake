@@ -5,7 +5,8 @@
 #   radsel_precompile(TARGET HEADER)   HEADER is a file of cmake/precompiled without its suffix
 #
 # The first target with a header compiles it, the others take it from there. A program's sources are
-# compiled otherwise than a library's, so that the two cannot share one.
+# compiled otherwise than a library's, and those of a folder with RADSEL_PRECOMPILED_APART otherwise
+# than those of others, so that they cannot share one.
 set(RADSEL_PRECOMPILED_DIR ${CMAKE_CURRENT_LIST_DIR}/precompiled)
 
 function(radsel_precompile target header)
@@ -17,7 +18,7 @@ function(radsel_precompile target header)
     if(type STREQUAL EXECUTABLE)
         set(shared_by programs)
     endif()
-    set(property RADSEL_PRECOMPILED_${header}_${shared_by})
+    set(property RADSEL_PRECOMPILED_${header}_${shared_by}_${RADSEL_PRECOMPILED_APART})
     get_property(first GLOBAL PROPERTY ${property})
     if(first)
         target_precompile_headers(${target} REUSE_FROM ${first})

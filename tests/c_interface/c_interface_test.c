@@ -475,7 +475,7 @@ int main(int argc, char** argv)
     CHECK(radsel_set_text(RADSEL_CATALOGUE_FOLDER, path) == RADSEL_OK);
     snprintf(path, sizeof path, "%s/valves", argv[1]);
     CHECK(radsel_set_text(RADSEL_VALVE_FOLDER, path) == RADSEL_OK);
-    snprintf(path, sizeof path, "%s/root", argv[1]);
+    snprintf(path, sizeof path, "%s/root", argv[2]);
     CHECK(radsel_set_text(RADSEL_SHARED_FOLDER, path) == RADSEL_OK);
     CHECK(radsel_set_text(RADSEL_LOCAL_FOLDER, argv[2]) == RADSEL_OK);
     keeps_the_layout_of_the_first_version();

@@ -5,6 +5,8 @@ program=$1 data=$2
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 mkdir "$scratch/Valmorena" "$scratch/Rotto" "$scratch/stores"
+# The dialogs write beside what they read.
+cp -r "$data/root" "$scratch/root"
 # A valve file in which an article ends behind its first field.
 sed -E '0,/^800;/s/^(800;).*/\1/' "$data/valves/Fontespada/ha.tga" >"$scratch/Rotto/ha.tga"
 env -u RADSEL_HKDIR -u RADSEL_VEDIR "$program" "$data" "$scratch"

@@ -50,8 +50,8 @@ set_up_a_connection() {
     expect_exit 0
     expect_line Mandata "all'estremità destra, in basso 30 mm più in alto, tubo verso destra"
     expect_line Ritorno "all'estremità sinistra 30 mm a destra, in alto, tubo verso l'alto"
-    expect_line 'Distanza laterale, mandata' '0\.100 m'
-    expect_line 'Distanza laterale, ritorno' '0\.000 m'
+    expect_line 'Distanza laterale, mandata' '0,100 m'
+    expect_line 'Distanza laterale, ritorno' '0,000 m'
     local valve='Ostervliet DN 10 zwart, Haaks, Reeks OA, voorinstelling 1 tot 6, DN 10'
     expect_line 'Valvola di mandata' "$valve"
     expect_line 'Valvola di ritorno' "$valve" # an empty side takes over what is picked
