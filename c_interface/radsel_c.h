@@ -196,8 +196,8 @@ typedef struct radsel_valve
     /* The key: name of the maker's folder, and the article's ident of 36 digits. */
     char maker[RADSEL_TEXT];
     char number[RADSEL_TEXT];
-    /* Order number of a fetched valve, display name of one that was picked or listed. Empty: there
-     * is no valve in the record. */
+    /* Order number of a fetched valve, which the catalogue may leave out; display name of one that
+     * was picked or listed. */
     char name[RADSEL_TEXT];
     /* Of a valve that was picked in the dialog these two stand the other way round. */
     char main_group[RADSEL_TEXT];
@@ -355,7 +355,8 @@ enum radsel_text_setting
     RADSEL_STORE_FOLDER = 7,
     /* Layer of radiators; "$d" in it stands for the floor. Default: "HEIZ_HK_$d". */
     RADSEL_LAYER_NAME = 8,
-    /* The block used last. Default: the one that the user has chosen in this process. */
+    /* The block used last. A choice of the user sets it where no keep_block takes it. Default:
+     * none. */
     RADSEL_LAST_BLOCK = 9,
     /* Name without folder of the file of window places. Default: "winpos.txt". */
     RADSEL_PLACEMENT_FILE = 10,
@@ -383,7 +384,7 @@ enum radsel_number_setting
     RADSEL_SKIN_FRAME = 9,
     RADSEL_SKIN_LIST = 10,
     RADSEL_SKIN_INPUT = 11,
-    /* Yes: Enter moves to the next control. Default: no. */
+    /* Yes: Enter moves to the next control. Default: no, also where get_number fails. */
     RADSEL_ENTER_AS_TAB = 12,
     /* Yes: a themed banner. Default: no. */
     RADSEL_BANNER = 13,
@@ -419,7 +420,7 @@ RADSEL_C_API int radsel_picture_set(radsel_picture* picture, int width, int heig
 
 /* Fill a catalogue. A kind belongs to the maker that is read, a product to the kind added last, a
  * row to the product added last. Rows of a product run through rising lengths, series after
- * series. A kind or product that was added before is continued. */
+ * series. A kind or product that was added before is continued in its place. */
 RADSEL_C_API int radsel_catalogue_add_kind(radsel_catalogue* catalogue, const char* name);
 RADSEL_C_API int radsel_catalogue_add_product(radsel_catalogue* catalogue, const char* name);
 RADSEL_C_API int radsel_catalogue_add_row(radsel_catalogue* catalogue, const radsel_row* row);
@@ -431,10 +432,10 @@ RADSEL_C_API int radsel_host_failure(const char* text, const char* file, int lin
 
 /* The host's side. Every entry may be null; then the library answers by itself as told with it, and
  * the same where a callback that asks for something gives RADSEL_NOTHING: not known. RADSEL_OK is
- * success. Any other value is a failure: a silent call ends with RADSEL_HOST_FAILED; in a dialog a
- * message tells it and the dialog stays open. Exceptions and jumps must not leave a callback.
- * `user` is the table's. A text is written into the buffer, its NUL included, within `capacity`
- * bytes; texts that come in are good during the callback. */
+ * success. Any other value is a failure: while a dialog is open a message tells it and the dialog
+ * stays open; otherwise the call ends with RADSEL_HOST_FAILED. Exceptions and jumps must not leave
+ * a callback. `user` is the table's. A text is written into the buffer, its NUL included, within
+ * `capacity` bytes; texts that come in are good during the callback. */
 typedef struct radsel_host
 {
     size_t size;
@@ -444,15 +445,15 @@ typedef struct radsel_host
      * have set, else the default. */
     int (*get_text)(void* user, int setting, char* buffer, size_t capacity);
     int (*get_number)(void* user, int setting, int* value);
-    /* The user has chosen this block as the one to be used next. Null: kept in the process. */
+    /* The user has chosen this block as the one to be used next. Null: RADSEL_LAST_BLOCK is set. */
     int (*keep_block)(void* user, const char* block);
 
     /* Radiator catalogues. Both or none. Null: the files in RADSEL_CATALOGUE_FOLDER, in the
      * structure of VDI 3805. list_makers adds the names of all makers in the order in which they
-     * are shown. read_maker adds all that the maker has; sizes that are built to measure around
-     * `output_en442`, the required output in watts at 75/65/20 (any number, not-a-number included).
-     * It is asked when the maker comes up first, and again when a request says reread.
-     * RADSEL_NOTHING: he has nothing. */
+     * are shown; RADSEL_NOTHING: there are none. read_maker adds all that the maker has; sizes that
+     * are built to measure around `output_en442`, the required output in watts at 75/65/20 (any
+     * number, not-a-number included). It is asked when the maker comes up first, and again when a
+     * request says reread. RADSEL_NOTHING: he has nothing. */
     int (*list_makers)(void* user, radsel_names* makers);
     int (*read_maker)(void* user, const char* maker, double output_en442,
                       radsel_catalogue* catalogue);
@@ -483,7 +484,7 @@ typedef struct radsel_host
 RADSEL_C_API void radsel_host_init(radsel_host* host, size_t size);
 
 /* Makes the table, which is copied, the host of this process; null: none. What earlier calls have
- * kept of catalogues is given up. Not from inside a callback. */
+ * kept of radiator catalogues is given up. Not from inside a callback. */
 RADSEL_C_API int radsel_set_host(const radsel_host* host);
 
 /* The drawing as dialogs see it. Every entry may be null; then the dialogs leave out what it is
@@ -554,7 +555,7 @@ RADSEL_C_API int radsel_min_depth(radsel_request* request, double* depth);
 RADSEL_C_API int radsel_max_depth(radsel_request* request, double* depth);
 
 /* Water content in litres of the product's row of these sizes, which are METRES; RADSEL_NOTHING and
- * 0 if there is none. */
+ * 0 if there is no such row, or if it states none. */
 RADSEL_C_API int radsel_water_content(radsel_request* request, double height, double depth,
                                       double length, double* litres);
 
@@ -607,8 +608,9 @@ RADSEL_C_API void radsel_valves_free(radsel_valves* valves);
 
 /* Fills two valves silently by the keys that they hold. `second` may be null, and a second key with
  * fewer than 30 characters of number or no maker is left out. RADSEL_NOTHING: the first key is such
- * a one, or a valve was not found; then its record stays as it came, while the other one is filled.
- * RADSEL_BAD_FILE: a line of the file lacks a field. */
+ * a one, and neither is looked for; or a valve was not found, whose record then stays as it came,
+ * while the other one is filled. RADSEL_BAD_FILE: a line of the file lacks a field. A valve file is
+ * read once in the life of the process. */
 RADSEL_C_API int radsel_fetch_valves(radsel_valve* first, radsel_valve* second);
 
 /* Puts the two keys into the two records first and then does the same. */
@@ -617,13 +619,14 @@ RADSEL_C_API int radsel_fetch_valves_by_key(const char* first_maker, const char*
                                             radsel_valve* first, radsel_valve* second);
 
 /* Lets the user pick a valve; with both texts not empty the dialog opens on that one. On OK `valve`
- * holds key and names of the choice, or is empty if there was none; fetch it for its table. */
+ * holds key and names of the choice, or has no name if there was none; fetch it for its table. */
 RADSEL_C_API int radsel_choose_valve(const char* maker, const char* number, radsel_valve* valve);
 
 /* Lets the user set up the connection of a radiator and its two valves. The valves are fetched by
  * their keys before the dialog opens, and that stays after Cancel; everything else is written on OK
- * only. `drawn` are the radiators that show their points meanwhile, `drawn_count` of them, each as
- * long as the first one's size says; null with 0. `checks` and `drawing` may be null. */
+ * only. `drawn` are the radiators that show their points meanwhile, `drawn_count` of them, one
+ * behind the other and all of the first one's size; null with 0. `checks` and `drawing` may be
+ * null. */
 RADSEL_C_API int radsel_edit_connection(radsel_connection* connection, radsel_valve* flow_valve,
                                         radsel_valve* return_valve,
                                         radsel_connection_checks* checks, radsel_drawn* drawn,

@@ -66,6 +66,10 @@ CDrawnRadiators::CDrawnRadiators(radsel_drawn* drawn, std::size_t count) : CDraw
     for (std::size_t i = 0; i < count; ++i) {
         m_records.push_back(
             reinterpret_cast<radsel_drawn*>(reinterpret_cast<char*>(drawn) + i * size));
+        if (SizeOf(m_records.back()) != size) {
+            throw CCallFault(RADSEL_BAD_ARGUMENT, "Drawn radiator " + std::to_string(i) +
+                                                      " has not the first one's size.");
+        }
         m_answers.push_back(Load(m_records.back(), DefaultDrawn()));
     }
     m_nodes.resize(count);

@@ -62,7 +62,7 @@ int Explain()
 
 } // namespace
 
-int Guarded(const std::function<int()>& work) noexcept
+int RunGuarded(const std::function<int()>& work) noexcept
 {
     try {
         KeepReason({});
@@ -75,6 +75,8 @@ int Guarded(const std::function<int()>& work) noexcept
             const int result = work();
             if (result >= 0) {
                 KeepReason({});
+            } else if (result == RADSEL_CANCELLED) {
+                KeepReason({"The dialog was cancelled.", {}, 0});
             }
             return result;
         } catch (...) {

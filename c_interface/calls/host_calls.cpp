@@ -11,7 +11,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 #include <optional>
+#include <utility>
 
 using namespace c_interface;
 
@@ -26,17 +28,16 @@ int KnownSetting(bool isKnown, int setting)
     return RADSEL_OK;
 }
 
-/// The element of that name, made at the end if there is none.
+/// The place of the element of that name, which is made at the end if there is none.
 template <class Element>
-Element& Continue(std::vector<Element>& elements, const CString& name)
+std::size_t Continue(std::vector<Element>& elements, const CString& name)
 {
     const auto found = std::ranges::find(elements, name, &Element::strName);
-    if (found != elements.end()) {
-        std::rotate(found, found + 1, elements.end());
-        return elements.back();
+    const auto place = static_cast<std::size_t>(found - elements.begin());
+    if (found == elements.end()) {
+        elements.emplace_back().strName = name;
     }
-    elements.emplace_back().strName = name;
-    return elements.back();
+    return place;
 }
 
 } // namespace
@@ -78,10 +79,16 @@ int radsel_set_host(const radsel_host* host)
 
 int radsel_host_failure(const char* text, const char* file, int line)
 {
-    Guarded([&] {
-        NoteFailure({text == nullptr ? "" : text, file == nullptr ? "" : file, line});
-        return RADSEL_OK;
-    });
+    try {
+        // Taken before anything else, as the texts may be those of radsel_last_error().
+        CReason reason{text == nullptr ? "" : text, file == nullptr ? "" : file, line};
+        Guarded([&] {
+            NoteFailure(std::move(reason));
+            return RADSEL_OK;
+        });
+    } catch (const std::bad_alloc&) {
+        // The failure then has no words.
+    }
     return RADSEL_HOST_FAILED;
 }
 
@@ -128,7 +135,9 @@ int radsel_catalogue_add_kind(radsel_catalogue* catalogue, const char* name)
 {
     return Guarded([&] {
         Require(catalogue, "catalogue");
-        Continue(catalogue->kinds, ReadText(name));
+        catalogue->kind = Continue(catalogue->kinds, ReadText(name));
+        const std::size_t count = catalogue->kinds[catalogue->kind].produkte.size();
+        catalogue->product = count - (count != 0 ? 1 : 0);
         return RADSEL_OK;
     });
 }
@@ -140,7 +149,7 @@ int radsel_catalogue_add_product(radsel_catalogue* catalogue, const char* name)
         if (catalogue->kinds.empty()) {
             throw CCallFault(RADSEL_BAD_ARGUMENT, "A product is added before its kind.");
         }
-        Continue(catalogue->kinds.back().produkte, ReadText(name));
+        catalogue->product = Continue(catalogue->kinds[catalogue->kind].produkte, ReadText(name));
         return RADSEL_OK;
     });
 }
@@ -149,7 +158,7 @@ int radsel_catalogue_add_row(radsel_catalogue* catalogue, const radsel_row* row)
 {
     return Guarded([&] {
         Require(catalogue, "catalogue");
-        if (catalogue->kinds.empty() || catalogue->kinds.back().produkte.empty()) {
+        if (catalogue->kinds.empty() || catalogue->kinds[catalogue->kind].produkte.empty()) {
             throw CCallFault(RADSEL_BAD_ARGUMENT, "A row is added before its product.");
         }
         HK_VDI3805_TYP typ;
@@ -161,7 +170,8 @@ int radsel_catalogue_add_row(radsel_catalogue* catalogue, const radsel_row* row)
                 throw CCallFault(RADSEL_BAD_ARGUMENT, "A number of the row is not finite.");
             }
         }
-        reference_host::CBuiltProduct& produkt = catalogue->kinds.back().produkte.back();
+        reference_host::CBuiltProduct& produkt =
+            catalogue->kinds[catalogue->kind].produkte[catalogue->product];
         produkt.hoehen.insert(daten.Hoehe);
         produkt.tiefen.insert(daten.Tiefe);
         produkt.rows.push_back(typ);

@@ -74,9 +74,12 @@ std::string Quoted(const CString& name)
 template <class List, class Fill>
 int MakeList(List** place, Fill fill)
 {
+    // Whatever keeps the call from its work: what the caller frees is null.
+    if (place != nullptr) {
+        *place = nullptr;
+    }
     return Guarded([&] {
         Require(place, "list");
-        *place = nullptr;
         const CResourceContext context;
         auto list = std::make_unique<List>();
         const int result = fill(*list);

@@ -44,7 +44,9 @@ int AskDouble(radsel_request* request, double* answer, double nothing,
         *answer = nothing;
         CRequest call(request);
         const double found = question(call.Data());
-        return call.Finish(found == nothing ? RADSEL_NOTHING : RADSEL_OK, [&] { *answer = found; });
+        return call.Finish(
+            found == nothing ? RADSEL_NOTHING : RADSEL_OK, [&] { *answer = found; },
+            "The row or product is there, but states none.");
     });
 }
 
@@ -103,10 +105,13 @@ int radsel_product_sizes(radsel_request* request, double* heights, size_t* heigh
         OCArray<double> tiefen;
         Read_HK_Masse(call.Data(), hoehen, tiefen);
         const bool isEmpty = hoehen.IsEmpty() && tiefen.IsEmpty();
-        return call.Finish(isEmpty ? RADSEL_NOTHING : RADSEL_OK, [&] {
-            GiveSizes(hoehen, heights, *heightCount);
-            GiveSizes(tiefen, depths, *depthCount);
-        });
+        return call.Finish(
+            isEmpty ? RADSEL_NOTHING : RADSEL_OK,
+            [&] {
+                GiveSizes(hoehen, heights, *heightCount);
+                GiveSizes(tiefen, depths, *depthCount);
+            },
+            "The product has rows, but states no sizes.");
     });
 }
 

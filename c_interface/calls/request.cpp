@@ -15,11 +15,11 @@ CRequest::CRequest(radsel_request* request) : m_request(request)
     ForgetDiagnosis();
 }
 
-int CRequest::Finish(int result, const std::function<void()>& give)
+int CRequest::Finish(int result, const std::function<void()>& give, const char* otherwise)
 {
     if (result == RADSEL_NOTHING) {
         RequireCatalogue(m_data.Hersteller);
-        KeepReason({LastDiagnosis("No row was chosen."), {}, 0});
+        KeepReason({LastDiagnosis(otherwise), {}, 0});
     }
     radsel_request record = DefaultRequest();
     ToC(m_data, record);

@@ -17,9 +17,10 @@ public:
     HK_DATEN_VDI3805_UEBERGABE& Data() { return m_data; }
 
     /// Gives the record back, runs `give` for the caller's other places, and returns the result of
-    /// the call. Of RADSEL_NOTHING the reason is kept; where it is a catalogue that cannot be read,
-    /// nothing is given and CCallFault raised.
-    int Finish(int result, const std::function<void()>& give = {});
+    /// the call. Of RADSEL_NOTHING the reason is kept, `otherwise` if the module has told none;
+    /// where it is a catalogue that cannot be read, nothing is given and CCallFault raised.
+    int Finish(int result, const std::function<void()>& give = {},
+               const char* otherwise = "No row was chosen.");
 
 private:
     radsel_request* m_request;

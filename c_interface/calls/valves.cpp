@@ -9,6 +9,7 @@
 #include "c_interface/records/texts.h"
 #include "frame/entry_points.h"
 #include "host/host_fittings.h"
+#include "host/host_prefs.h"
 #include "valve/ventil_katalog.h"
 
 #include <memory>
@@ -57,26 +58,54 @@ VDI3805_VENTIL_KV OnlyKey(const VDI3805_VENTIL_KV& ventil)
     return key;
 }
 
+/// True if a record that held nothing but its key holds a valve now. An article may lack its order
+/// number, and yet it is one.
+bool IsFound(const VDI3805_VENTIL_KV& ventil)
+{
+    return !ventil.Bezeichnung.empty() || !ventil.Gruppe.empty() || ventil.AnzahlKv > 0;
+}
+
+/// To be called before valves are fetched. The module keeps the last one by its key alone; a folder
+/// that was set meanwhile may have another valve of that key, or have it at last.
+void BeginFetching()
+{
+    static CString lastFolder;
+    ForgetDiagnosis();
+    const CString folder = GetVEDir(false);
+    if (folder == lastFolder) {
+        return;
+    }
+    // No folder has this maker, so that the key takes the kept one's place and nothing else
+    // happens.
+    VDI3805_VENTIL_KV nobody;
+    VDI3805_VENTIL_KV none;
+    nobody.Hersteller = L"..";
+    nobody.VentilNr.assign(kShortestVentilNr, L'0');
+    VDI3805GetVentilDaten(nobody, none);
+    lastFolder = folder;
+    ForgetDiagnosis();
+}
+
 /// The module leaves a record alone whose valve it does not find. So it gets records with nothing
-/// but the keys, and what is empty then was not found.
+/// but the keys.
 int Fetch(CValve& first, CValve& second)
 {
-    ForgetDiagnosis();
+    BeginFetching();
     VDI3805_VENTIL_KV one = OnlyKey(first.data);
     VDI3805_VENTIL_KV other = OnlyKey(second.data);
     VDI3805GetVentilDaten(one, other);
-    if (!one.Bezeichnung.empty()) {
+    if (IsFound(one)) {
         first.data = one;
     }
-    if (!other.Bezeichnung.empty()) {
+    if (IsFound(other)) {
         second.data = other;
     }
     first.Prepare();
     second.Prepare();
     first.Give();
     second.Give();
-    const bool isMissing = IsValveKey(other) && other.Bezeichnung.empty();
-    if (!one.Bezeichnung.empty() && !isMissing) {
+    const bool isMissing = IsValveKey(other) && !IsFound(other);
+    if (IsFound(one) && !isMissing) {
         return RADSEL_OK;
     }
     KeepReason({LastDiagnosis("The valve was not found."), {}, 0});
@@ -149,6 +178,7 @@ int radsel_edit_connection(radsel_connection* connection, radsel_valve* flowValv
             drawer = std::make_unique<CCallbackDrawer>(Load(drawing, radsel_drawing{}));
         }
 
+        BeginFetching();
         bool selectable = marks.selectable != 0;
         bool valves = marks.valves != 0;
         bool type = marks.type != 0;

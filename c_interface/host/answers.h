@@ -5,6 +5,7 @@
 #include "platform/text.h"
 #include "reference_host/catalog/library/built_catalogue.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -28,4 +29,7 @@ struct radsel_picture
 struct radsel_catalogue
 {
     std::vector<reference_host::CBuiltKind> kinds;
+    /// Places of the kind, and of its product, that take in what comes next.
+    std::size_t kind = 0;
+    std::size_t product = 0;
 };

@@ -8,8 +8,10 @@
 #include "reference_host/catalog/library/catalogue_library.h"
 
 #include <memory>
+#include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 using namespace c_interface;
 
@@ -38,6 +40,8 @@ HK_VDI3805_HERSTELLER* ListHandedIn()
     const radsel_host& host = Host();
     radsel_names makers;
     Succeeded("list_makers", host.list_makers(host.user, &makers));
+    std::set<CString> listed;
+    std::erase_if(makers.texts, [&](const CString& name) { return !listed.insert(name).second; });
     Place()->handedIn.ListHersteller({}, makers.texts);
     return Place()->handedIn.GetFirst();
 }

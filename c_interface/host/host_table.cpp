@@ -85,6 +85,11 @@ void NoteFailure(CReason reason)
     State().failure = std::move(reason);
 }
 
+void ForgetFailure()
+{
+    State().failure.reset();
+}
+
 std::optional<CString> AskForText(const char* name, const CString& before,
                                   const TextCallback& callback)
 {
@@ -93,7 +98,13 @@ std::optional<CString> AskForText(const char* name, const CString& before,
     if (!Succeeded(name, callback(buffer.data(), buffer.size()))) {
         return std::nullopt;
     }
-    return ReadField(buffer.data(), buffer.size());
+    try {
+        return ReadField(buffer.data(), buffer.size());
+    } catch (const CCallFault& fault) {
+        CReason reason = fault.GetReason();
+        reason.text = "The host's " + std::string(name) + ": " + reason.text;
+        throw CHostFailure(std::move(reason));
+    }
 }
 
 std::optional<CString> AskText(radsel_text_setting setting)

@@ -23,6 +23,7 @@ bool Succeeded(const char* callback, int code);
 
 /// What the callback at work tells of its failure.
 void NoteFailure(CReason reason);
+void ForgetFailure();
 
 /// The text that a callback makes of `before` in the buffer it is given; nothing if it succeeds
 /// with none. One that does not end within the buffer is a failure.

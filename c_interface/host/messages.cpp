@@ -26,14 +26,25 @@ int IconNumber(MessageIcon icon)
     return 0;
 }
 
+/// What shows messages where the host does not.
+MessageHandler& Before()
+{
+    static MessageHandler before;
+    return before;
+}
+
 /// A message tells of a failure already; another one that cannot be told would lead nowhere.
 void ShowThroughHost(const MessageBoxText& message)
 {
     const radsel_host& host = Host();
     const std::string caption = Utf8FromWide(message.caption);
     const std::string text = Utf8FromWide(message.text);
-    if (host.show_message(host.user, IconNumber(message.icon), caption.c_str(), text.c_str()) !=
-        RADSEL_OK) {
+    const int code =
+        host.show_message(host.user, IconNumber(message.icon), caption.c_str(), text.c_str());
+    if (code == RADSEL_NOTHING && Before()) {
+        Before()(message);
+    } else if (code != RADSEL_OK) {
+        ForgetFailure();
         WriteMessage(message);
     }
 }
@@ -43,9 +54,8 @@ void ShowThroughHost(const MessageBoxText& message)
 void ShowMessagesThroughHost(bool throughHost)
 {
     static bool isThroughHost = false;
-    static MessageHandler before;
     if (throughHost != isThroughHost) {
-        before = SetMessageHandler(throughHost ? MessageHandler(ShowThroughHost) : before);
+        Before() = SetMessageHandler(throughHost ? MessageHandler(ShowThroughHost) : Before());
         isThroughHost = throughHost;
     }
 }

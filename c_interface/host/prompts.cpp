@@ -8,32 +8,33 @@ using namespace c_interface;
 
 namespace {
 
-/// A number that the host lets the user change; it stays unless he confirms.
+/// A number that the host lets the user change; it stays unless he confirms. A host that knows no
+/// such choice leaves it to the library's dialog.
 template <class Callback>
-bool LetChoose(const char* name, Callback callback, int& number)
+bool LetChoose(const char* name, Callback callback, bool (&ownDialog)(int&), int& number)
 {
-    int choice = number;
-    if (!Succeeded(name, callback(Host().user, &choice))) {
-        return false;
+    if (callback == nullptr) {
+        return ownDialog(number);
     }
-    number = choice;
-    return true;
+    int choice = number;
+    const int code = callback(Host().user, &choice);
+    if (Succeeded(name, code)) {
+        number = choice;
+        return true;
+    }
+    return code == RADSEL_NOTHING && ownDialog(number);
 }
 
 } // namespace
 
 bool ShowTransDlg(int& alpha)
 {
-    const auto callback = Host().choose_opacity;
-    return callback == nullptr ? host_defaults::ShowTransDlg(alpha)
-                               : LetChoose("choose_opacity", callback, alpha);
+    return LetChoose("choose_opacity", Host().choose_opacity, host_defaults::ShowTransDlg, alpha);
 }
 
 bool GetColorDlg(int& index)
 {
-    const auto callback = Host().choose_color;
-    return callback == nullptr ? host_defaults::GetColorDlg(index)
-                               : LetChoose("choose_color", callback, index);
+    return LetChoose("choose_color", Host().choose_color, host_defaults::GetColorDlg, index);
 }
 
 bool ShowBigLayerDlg(CDrawer* drawer, CString& layer, int& farbe)
@@ -43,9 +44,13 @@ bool ShowBigLayerDlg(CDrawer* drawer, CString& layer, int& farbe)
         return host_defaults::ShowBigLayerDlg(drawer, layer, farbe);
     }
     int color = farbe;
+    int code = RADSEL_OK;
     const auto choice = AskForText("choose_layer", layer, [&](char* buffer, std::size_t capacity) {
-        return host.choose_layer(host.user, buffer, capacity, &color);
+        return code = host.choose_layer(host.user, buffer, capacity, &color);
     });
+    if (code == RADSEL_NOTHING) {
+        return host_defaults::ShowBigLayerDlg(drawer, layer, farbe);
+    }
     if (!choice || choice->empty()) {
         return false;
     }
@@ -69,9 +74,8 @@ CString CRoomTools::GetFloorName(const CString& raum)
         return host_defaults::GetFloorName(raum);
     }
     const std::string room = Utf8FromWide(raum);
-    return AskForText("floor_of_room", {},
-                      [&](char* buffer, std::size_t capacity) {
-                          return host.floor_of_room(host.user, room.c_str(), buffer, capacity);
-                      })
-        .value_or(CString());
+    const auto floor = AskForText("floor_of_room", {}, [&](char* buffer, std::size_t capacity) {
+        return host.floor_of_room(host.user, room.c_str(), buffer, capacity);
+    });
+    return floor ? *floor : host_defaults::GetFloorName(raum);
 }

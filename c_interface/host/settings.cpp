@@ -39,13 +39,6 @@ bool DeliverFlag(radsel_number_setting setting, bool& target)
     return value.has_value();
 }
 
-/// The block that was chosen last, where the host does not keep it.
-CString& ChosenBlock()
-{
-    static CString block;
-    return block;
-}
-
 } // namespace
 
 CString GetHKDir(bool /*projectCopy*/)
@@ -102,21 +95,16 @@ bool lmGetDWGDefPath(const LumoDWGDefsNames& name, CString& path)
 
 bool lmGetHKBlock(CString& block)
 {
-    if (!ChosenBlock().empty()) {
-        block = ChosenBlock();
-        return true;
-    }
     return DeliverText(RADSEL_LAST_BLOCK, block);
 }
 
 void lmSetHKBlock(const CString& block)
 {
     const radsel_host& host = Host();
-    if (host.keep_block == nullptr) {
-        ChosenBlock() = block;
-        return;
+    if (host.keep_block == nullptr ||
+        !Succeeded("keep_block", host.keep_block(host.user, Utf8FromWide(block).c_str()))) {
+        SetText(RADSEL_LAST_BLOCK, block);
     }
-    Succeeded("keep_block", host.keep_block(host.user, Utf8FromWide(block).c_str()));
 }
 
 bool lmGetGlobalSuperUser(bool& superUser)
@@ -140,9 +128,17 @@ bool lmGetLumoSkinColor(LumoSkinType type, unsigned long& color)
     return value.has_value();
 }
 
+// Asked ahead of every button of a dialog, so that a failure would leave the user no way out.
 bool lmGetAllowEnterAsTab(bool& allow)
 {
-    return DeliverFlag(RADSEL_ENTER_AS_TAB, allow) || host_defaults::lmGetAllowEnterAsTab(allow);
+    try {
+        if (DeliverFlag(RADSEL_ENTER_AS_TAB, allow)) {
+            return true;
+        }
+    } catch (const CHostFailure&) {
+        allow = false;
+    }
+    return host_defaults::lmGetAllowEnterAsTab(allow);
 }
 
 bool lmGetCurrentWinposFile(CString& name)

@@ -73,7 +73,9 @@ std::optional<Bytes> ReadStore(const CString& name)
     FailedReadings().erase(name);
     try {
         if (Host().read_store != nullptr) {
-            return ReadThroughHost(name);
+            if (auto bytes = ReadThroughHost(name)) {
+                return bytes;
+            }
         }
         if (const auto folder = AskText(RADSEL_STORE_FOLDER)) {
             return ReadFromFolder(*folder, name);
@@ -93,9 +95,10 @@ bool WriteStore(const CString& name, const Bytes& bytes)
     }
     const radsel_host& host = Host();
     try {
-        if (host.write_store != nullptr) {
-            return Succeeded("write_store", host.write_store(host.user, Utf8FromWide(name).c_str(),
-                                                             bytes.data(), bytes.size()));
+        if (host.write_store != nullptr &&
+            Succeeded("write_store", host.write_store(host.user, Utf8FromWide(name).c_str(),
+                                                      bytes.data(), bytes.size()))) {
+            return true;
         }
         if (const auto folder = AskText(RADSEL_STORE_FOLDER)) {
             WriteWholeFile(JoinPath(*folder, name),

@@ -10,16 +10,16 @@
 #include "platform/exception.h"
 #include "settings.h"
 
-#include <clocale>
 #include <cstdlib>
 #include <iostream>
+#include <string>
 #include <string_view>
 
 namespace {
 
-/// Why the last call found nothing. A call that finds something tells nothing, so this is emptied
-/// before each.
-CString g_whyNothing;
+/// Why the last call found nothing, in UTF-8. A call that finds something tells nothing, so this is
+/// emptied before each.
+std::string g_whyNothing;
 
 /// The room's wishes, in millimetres, watts and degrees Celsius.
 HK_DATEN_VDI3805_UEBERGABE Wishes()
@@ -55,8 +55,8 @@ bool ChooseRadiator(HK_DATEN_VDI3805_UEBERGABE& room, CDrawing& drawing, bool wi
         return false;
     }
     room = asked;
-    std::wcout << room.TypName << L": " << room.Daten.Leistung << L" W, " << room.Daten.Inhalt
-               << L" l" << std::endl;
+    std::cout << Utf8FromWide(room.TypName) << ": " << room.Daten.Leistung << " W, "
+              << room.Daten.Inhalt << " l" << std::endl;
     return true;
 }
 
@@ -71,9 +71,9 @@ void ChooseValve(VDI3805_VENTIL_KV& valve)
 
 void PrintConnection(const CDrawnRadiator& radiator, const CConnection& connection)
 {
-    std::wcout << connection.points.Name << L'\n' << L"H_VL_PUNKT "
-               << radiator.Attribute(L"H_VL_PUNKT") << L'\n' << L"H_RL_PUNKT "
-               << radiator.Attribute(L"H_RL_PUNKT") << std::endl;
+    std::cout << Utf8FromWide(connection.points.Name) << '\n'
+              << "H_VL_PUNKT " << Utf8FromWide(radiator.Attribute(L"H_VL_PUNKT")) << '\n'
+              << "H_RL_PUNKT " << Utf8FromWide(radiator.Attribute(L"H_RL_PUNKT")) << std::endl;
 }
 
 int Run(bool withDialogs)
@@ -82,8 +82,8 @@ int Run(bool withDialogs)
     HK_DATEN_VDI3805_UEBERGABE room = Wishes();
     if (!ChooseRadiator(room, drawing, withDialogs)) {
         // With the dialog the user has seen for himself, and the module tells nothing.
-        std::wcerr << L"no radiator" << (g_whyNothing.empty() ? L"" : L": ") << g_whyNothing
-                   << std::endl;
+        std::cerr << "no radiator" << (g_whyNothing.empty() ? "" : ": ") << g_whyNothing
+                  << std::endl;
         return EXIT_FAILURE;
     }
     CDrawnRadiator radiator(room.Daten.Laenge / 1000.0, room.Daten.Tiefe / 1000.0,
@@ -94,7 +94,7 @@ int Run(bool withDialogs)
     if (withDialogs) {
         ChooseValve(connection.flowValve);
         if (!EditConnection(radiator, connection, drawing)) {
-            std::wcerr << L"not connected" << std::endl;
+            std::cerr << "not connected" << std::endl;
             return EXIT_FAILURE;
         }
     }
@@ -107,24 +107,24 @@ int Run(bool withDialogs)
 /// The listener: the module finds it by its name and calls it when a silent call found nothing.
 void RadselDiagnosis(int /*reason*/, const char* text)
 {
-    g_whyNothing = WideFromUtf8(text);
+    g_whyNothing = text;
 }
 
 int main(int argc, char** argv)
 {
-    // What is written below keeps its accents. Of the user's language this takes the letters alone:
-    // the decimal sign stays the point.
-    std::setlocale(LC_CTYPE, "");
     if (argc < 2) {
-        std::wcerr << L"usage: cad SETTINGS [--dialogs]" << std::endl;
+        std::cerr << "usage: cad SETTINGS [--dialogs]" << std::endl;
         return EXIT_FAILURE;
     }
-    LoadSettings(argv[1]);
+    if (!LoadSettings(argv[1])) {
+        std::cerr << argv[1] << ": cannot be read" << std::endl;
+        return EXIT_FAILURE;
+    }
     try {
         return Run(argc > 2 && std::string_view(argv[2]) == "--dialogs");
     } catch (const CException& fault) {
         // A damaged valve file, say. The text is for the user.
-        std::wcerr << fault.GetErrorMessage() << std::endl;
+        std::cerr << Utf8FromWide(fault.GetErrorMessage()) << std::endl;
         return EXIT_FAILURE;
     }
 }

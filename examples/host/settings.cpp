@@ -15,8 +15,6 @@ namespace {
 struct CSettings
 {
     std::filesystem::path folder;
-    /// In UTF-8, as the file has them. A path of the system takes them so: made of wide text it
-    /// would fail at the first accented letter.
     std::map<std::string, std::string> values;
 };
 
@@ -33,12 +31,6 @@ std::string Trimmed(const std::string& text)
     return first == std::string::npos ? std::string() : text.substr(first, last - first + 1);
 }
 
-std::string Value(const char* key)
-{
-    const auto found = Settings().values.find(key);
-    return found == Settings().values.end() ? std::string() : found->second;
-}
-
 /// A unit by its word, as the code that the module knows: metres unless it is one of the others.
 int UnitSetting(const char* key)
 {
@@ -49,7 +41,7 @@ int UnitSetting(const char* key)
 bool DeliverFolder(const char* key, CString& path)
 {
     // "Not known" leaves the caller's text alone.
-    if (Value(key).empty()) {
+    if (Setting(key).empty()) {
         return false;
     }
     path = TextFromPath(FolderSetting(key));
@@ -58,7 +50,7 @@ bool DeliverFolder(const char* key, CString& path)
 
 } // namespace
 
-void LoadSettings(const std::filesystem::path& file)
+bool LoadSettings(const std::filesystem::path& file)
 {
     Settings().folder = std::filesystem::absolute(file).parent_path();
     std::ifstream lines(file);
@@ -68,16 +60,21 @@ void LoadSettings(const std::filesystem::path& file)
             Settings().values[Trimmed(line.substr(0, equals))] = Trimmed(line.substr(equals + 1));
         }
     }
+    // A file that was opened and read has ended; one that is missing never began.
+    return lines.eof();
 }
 
 CString Setting(const char* key)
 {
-    return WideFromUtf8(Value(key));
+    const auto found = Settings().values.find(key);
+    // Whatever the locale is, and whatever bytes the file holds.
+    return found == Settings().values.end() ? CString() : WideFromUtf8(found->second);
 }
 
 std::filesystem::path FolderSetting(const char* key)
 {
-    return Settings().folder / Value(key);
+    // From its bytes: the standard library takes wide text with ASCII letters only for a path.
+    return Settings().folder / Utf8FromWide(Setting(key));
 }
 
 // What the module asks, out of the settings. What is not written here the defaults answer.

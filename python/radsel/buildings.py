@@ -13,7 +13,7 @@ from pathlib import Path
 
 from ._places import find_workbench
 from ._schedule_file import read_schedule
-from .errors import RadselError
+from .errors import NotInstalledError, RadselError
 from .folders import StrPath
 from .schedule import Schedule
 
@@ -54,9 +54,12 @@ def size_building(
         for name, value in options.items():
             if value is not None:
                 command.append(f"{name}={os.fspath(value)}")
-        ended = subprocess.run(
-            command, capture_output=True, encoding="utf-8", errors="replace", check=False
-        )
+        try:
+            ended = subprocess.run(
+                command, capture_output=True, encoding="utf-8", errors="replace", check=False
+            )
+        except OSError as error:
+            raise NotInstalledError(f"the workbench cannot be started: {error}") from error
         schedule = Path(folder, "corpi-scaldanti.json")
         if ended.returncode not in (_OK, _DAMAGED_FILE) or not schedule.exists():
             raise RadselError(_reason(ended))

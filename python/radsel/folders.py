@@ -18,12 +18,16 @@ def use_folders(*, catalogues: StrPath | None = None, valves: StrPath | None = N
     A folder that is left out stays what it was; in the beginning that is what the environment
     variables ``RADSEL_HKDIR`` and ``RADSEL_VEDIR`` say.
     """
-    for setting, folder in (
-        (_library.CATALOGUE_FOLDER, catalogues),
-        (_library.VALVE_FOLDER, valves),
-    ):
-        if folder is not None:
-            path = os.fspath(folder)
-            if not os.path.isdir(path):
-                raise RadselError(f"no folder: {path}", path)
-            _library.call("radsel_set_text", setting, _library.encode(path))
+    paths = {
+        setting: os.fspath(folder)
+        for setting, folder in (
+            (_library.CATALOGUE_FOLDER, catalogues),
+            (_library.VALVE_FOLDER, valves),
+        )
+        if folder is not None
+    }
+    for path in paths.values():
+        if not os.path.isdir(path):
+            raise RadselError(f"no folder: {path}", path)
+    for setting, path in paths.items():
+        _library.call("radsel_set_text", setting, _library.encode(path))

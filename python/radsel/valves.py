@@ -43,7 +43,7 @@ class Valve:
 
     maker: str
     number: str
-    #: Order number.
+    #: Order number; empty where the catalogue has none.
     name: str
     main_group: str
     group: str

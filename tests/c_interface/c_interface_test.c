@@ -176,9 +176,11 @@ static void keeps_the_layout_of_the_first_version(void)
           offsetof(radsel_drawing, draw_point) == 72);
 }
 
-static void* find_elsewhere(void* result)
+static void* ask_elsewhere(void* result)
 {
     radsel_request room = sample_request();
+    radsel_list* list = (radsel_list*)result;
+    CHECK(radsel_list_makers(&list) == RADSEL_WRONG_THREAD && list == NULL);
     *(int*)result = radsel_find_radiator(&room);
     return NULL;
 }
@@ -222,7 +224,6 @@ static void tells_file_and_line(const char* scratch)
     CHECK(radsel_last_error_line() > 0 && tells("hk.tga"));
     CHECK(room.reread == 1);
 
-    CHECK(radsel_set_text(RADSEL_VALVE_FOLDER, scratch) == RADSEL_OK);
     radsel_valve_init(&valve, sizeof valve);
     CHECK(radsel_fetch_valves_by_key("Rotto", "000000000000000000000000000000000000", NULL, NULL,
                                      &valve, NULL) == RADSEL_BAD_FILE);
@@ -246,6 +247,8 @@ static int list_makers(void* user, radsel_names* makers)
 {
     struct host* host = user;
     host->calls++;
+    radsel_names_add(makers, "M\xc3\xbcller");
+    radsel_names_add(makers, "Other");
     return radsel_names_add(makers, "M\xc3\xbcller");
 }
 
@@ -257,10 +260,13 @@ static int read_maker(void* user, const char* maker, double output_en442,
     int length;
     pthread_t thread;
     CHECK(is(maker, "M\xc3\xbcller") && output_en442 > 0);
-    if (host->fail) {
+    if (host->fail == 1) {
         return radsel_host_failure("no line to the server", "prices.db", 7);
     }
-    if (pthread_create(&thread, NULL, find_elsewhere, &host->wrong_thread) != 0) {
+    if (host->fail == 3 && radsel_catalogue_add_product(catalogue, "P") != RADSEL_OK) {
+        return radsel_host_failure(radsel_last_error(), NULL, 0);
+    }
+    if (pthread_create(&thread, NULL, ask_elsewhere, &host->wrong_thread) != 0) {
         abort();
     }
     pthread_join(thread, NULL);
@@ -280,6 +286,8 @@ static int read_maker(void* user, const char* maker, double output_en442,
         row.data.output_en442 = 100;
         CHECK(radsel_catalogue_add_row(catalogue, &row) == RADSEL_OK);
     }
+    CHECK(radsel_catalogue_add_kind(catalogue, "K2") == RADSEL_OK);
+    CHECK(radsel_catalogue_add_kind(catalogue, "K") == RADSEL_OK);
     return RADSEL_OK;
 }
 
@@ -320,6 +328,15 @@ static int get_text(void* user, int setting, char* buffer, size_t capacity)
     return RADSEL_NOTHING;
 }
 
+static int floor_of_room(void* user, const char* room, char* buffer, size_t capacity)
+{
+    (void)user;
+    (void)room;
+    (void)buffer;
+    (void)capacity;
+    return RADSEL_NOTHING;
+}
+
 static int list_layers(void* user, radsel_names* layers)
 {
     (void)user;
@@ -355,15 +372,25 @@ static radsel_request host_request(void)
 static void asks_its_host(struct host* user, const radsel_host* host)
 {
     radsel_request room = host_request();
+    radsel_list* list;
+    double litres = 1;
     CHECK(radsel_set_host(host) == RADSEL_OK);
     user->fail = 1;
     CHECK(radsel_find_radiator(&room) == RADSEL_HOST_FAILED && is(room.type_name, ""));
     CHECK(tells("no line to the server") && is(radsel_last_error_file(), "prices.db"));
     CHECK(radsel_last_error_line() == 7);
+    user->fail = 3;
+    CHECK(radsel_find_radiator(&room) == RADSEL_HOST_FAILED && tells("before its kind"));
     user->fail = 0;
     CHECK(radsel_find_radiator(&room) >= 0 && user->calls > 0);
     CHECK(is(room.type_name, "S15") && room.chosen.sections == 15);
+    CHECK(radsel_water_content(&room, 0.6, 0.15, 0.9, &litres) == RADSEL_NOTHING && litres == 0);
+    CHECK(tells("states none"));
     CHECK(user->wrong_thread == RADSEL_WRONG_THREAD);
+    CHECK(radsel_list_makers(&list) == RADSEL_OK && list_has(list, "Other"));
+    CHECK(radsel_list_kinds(room.maker, &list) == RADSEL_OK);
+    CHECK(radsel_list_count(list) == 2 && is(radsel_list_text(list, 0), "K"));
+    radsel_list_free(list);
 }
 
 static void shows_dialogs(struct host* user)
@@ -380,15 +407,20 @@ static void shows_dialogs(struct host* user)
     drawing.list_layers = list_layers;
     drawing.draw_point = draw_point;
     radsel_layer_init(&layer, sizeof layer);
+    strcpy(layer.name, "HEIZ_$d");
+    strcpy(room.room, "1.Bad");
+    CHECK(radsel_choose_radiator(&room, &layer, NULL, 0) == RADSEL_OK);
+    CHECK(is(layer.name, "HEIZ_1"));
+    room = host_request();
     strcpy(layer.name, "HEIZ");
     CHECK(radsel_choose_radiator(&room, &layer, &drawing, 0) == RADSEL_OK);
     CHECK(is(room.type_name, "S15") && is(layer.name, "HEIZ") && user->stored > 0);
     CHECK(radsel_choose_product(&room) == RADSEL_OK && is(room.product, "P"));
 
-    /* A host that fails shows in a message, and a dialog that is open goes on. */
+    /* The layer is asked for before the dialog opens. */
     user->fail = 2;
-    CHECK(radsel_choose_radiator(&room, NULL, &drawing, 0) != RADSEL_INTERNAL_ERROR);
-    CHECK(strstr(user->message, "no end") != NULL || tells("no end"));
+    CHECK(radsel_choose_radiator(&room, NULL, &drawing, 0) == RADSEL_HOST_FAILED);
+    CHECK(tells("get_text") && tells("no end"));
     user->fail = 0;
 
     radsel_valve_init(&valves[0], sizeof valves[0]);
@@ -442,6 +474,20 @@ static void fetches_valves(void)
     CHECK(radsel_list_valves("Nessuno", &listed) == RADSEL_NOTHING && listed == NULL);
 }
 
+/* In the second folder the articles have no order numbers. */
+static void fetches_valves_of_the_folder_that_is_set(const char* scratch)
+{
+    static const char number[] = "020001011000000000010000000001000100";
+    radsel_valve valve;
+    radsel_valve_init(&valve, sizeof valve);
+    CHECK(radsel_fetch_valves_by_key("Fontespada", number, NULL, NULL, &valve, NULL) == RADSEL_OK);
+    CHECK(is(valve.name, "FT-S10-N"));
+    CHECK(radsel_set_text(RADSEL_VALVE_FOLDER, scratch) == RADSEL_OK);
+    radsel_valve_init(&valve, sizeof valve);
+    CHECK(radsel_fetch_valves_by_key("Fontespada", number, NULL, NULL, &valve, NULL) == RADSEL_OK);
+    CHECK(is(valve.name, "") && valve.row_count > 0);
+}
+
 static void turns_points_into_text(void)
 {
     radsel_point point = {{0.5, 0, -0.5}, {0.05, 0, 0.1}, {180, 90, 0}, 0.02};
@@ -484,6 +530,7 @@ int main(int argc, char** argv)
     takes_records_of_earlier_callers();
     refuses_what_no_call_can_be();
     fetches_valves();
+    fetches_valves_of_the_folder_that_is_set(argv[2]);
     turns_points_into_text();
     tells_file_and_line(argv[2]);
 
@@ -495,6 +542,7 @@ int main(int argc, char** argv)
     host.write_store = write_store;
     host.show_message = show_message;
     host.get_text = get_text;
+    host.floor_of_room = floor_of_room;
     asks_its_host(&user, &host);
     shows_dialogs(&user);
     CHECK(radsel_set_host(NULL) == RADSEL_OK);

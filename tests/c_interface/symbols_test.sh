@@ -7,8 +7,9 @@ export LC_ALL=C
 library=$1 header=$2
 list=$(dirname "${BASH_SOURCE[0]}")/symbols.txt
 
-# Instrumented code has marks of its own.
-offered=$(nm -D --defined-only "$library" | sed -E 's/^[0-9a-f]+ [A-Za-z] //' |
+# Instrumented code has marks of its own. Entries that are local to the library offer nothing: the
+# linker leaves some in unoptimised builds.
+offered=$(nm -D --defined-only --extern-only "$library" | sed -E 's/^[0-9a-f]+ [A-Za-z] //' |
     grep -vE '^(__asan_|__odr_asan|__ubsan_)')
 declared=$(grep -A1 '^RADSEL_C_API' "$header" | sed -nE 's/.*(radsel_[a-z0-9_]+)\(.*/\1/p' | sort)
 for names in "$offered" "$declared"; do
@@ -18,3 +19,9 @@ for names in "$offered" "$declared"; do
         exit 1
     fi
 done
+
+# Closing the library must not take away what the toolkit's application object rests on.
+if ! readelf -dW "$library" | grep -q NODELETE; then
+    echo "The library would go when a program closes it."
+    exit 1
+fi

@@ -7,14 +7,14 @@ program=$1 data=$2 confirm=$3
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-mkdir "$work/Büro"
+mkdir "$work/caffè"
 cat >"$work/settings.ini" <<END
 product = Tipo 22
 drawing_unit = mm
 user_unit = cm
 valves = $data/valves
 server = $data/root
-workplace = Büro
+workplace = caffè
 END
 
 # 55/45/20 °C gives 0.495 of the output at 75/65/20 °C (example_test.sh). Of 1698 W a metre that are
@@ -42,6 +42,6 @@ with_dialogs() {
 }
 diff <(echo "$expected") <(with_dialogs)
 for file in HkAuswahl.def winpos.txt; do
-    [[ -s $work/Büro/$file ]] || { echo "nothing is kept in $file" && false; }
+    [[ -s $work/caffè/$file ]] || { echo "nothing is kept in $file" && false; }
 done
 diff <(echo "$expected") <(with_dialogs)

@@ -83,6 +83,9 @@ class BuildingsTest(unittest.TestCase):
         with mock.patch.dict(os.environ, RADSEL_WORKBENCH="", PATH=""):
             with self.assertRaisesRegex(radsel.NotInstalledError, "RADSEL_WORKBENCH"):
                 size()
+        with mock.patch.dict(os.environ, RADSEL_WORKBENCH=str(VILLA)):
+            with self.assertRaisesRegex(radsel.NotInstalledError, VILLA.name):
+                size()
 
 
 if __name__ == "__main__":
