@@ -1,5 +1,6 @@
 #include "platform/encoding.h"
 #include "platform/environment.h"
+#include "platform/path.h"
 #include "workbench/program/command_line.h"
 #include "workbench/program/host_folders.h"
 
@@ -23,7 +24,7 @@ std::vector<CString> InstalledDefaults()
     if (!data) {
         return {};
     }
-    return {L"--sample", (*data / "buildings" / "villa-dei-tigli.json").wstring()};
+    return {L"--sample", TextFromPath(*data / "buildings" / "villa-dei-tigli.json")};
 }
 
 } // namespace

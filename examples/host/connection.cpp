@@ -92,8 +92,9 @@ void WriteConnection(CDrawnRadiator& radiator, const ConnValues& points)
 
 bool EditConnection(CDrawnRadiator& radiator, CConnection& connection, CDrawer& drawing)
 {
-    const ConnValues before = ReadConnection(radiator);
-    ConnValues points = before;
+    const CString flowBefore = radiator.Attribute(kFlow);
+    const CString returnBefore = radiator.Attribute(kReturn);
+    ConnValues points = ReadConnection(radiator);
     // The dialog takes side distances, cross-over and distance from the wall from the fields, and
     // the two points from the fields as well unless they lie at the same place.
     FillTexts(points);
@@ -113,7 +114,8 @@ bool EditConnection(CDrawnRadiator& radiator, CConnection& connection, CDrawer& 
     if (!ShowVentDlg(points, flowValve, returnValve, maySkipGroups, takeValves, takePoints, fanCoil,
                      radiator.Record(), &drawing)) {
         // The preview wrote into the attributes while the user tried things.
-        WriteConnection(radiator, before);
+        radiator.SetAttribute(kFlow, flowBefore);
+        radiator.SetAttribute(kReturn, returnBefore);
         return false;
     }
     // The fields are the truth now. The texts of the record lack the distance from the wall, and

@@ -5,6 +5,7 @@
 #include "connection.h"
 #include "drawing.h"
 #include "frame/entry_points.h"
+#include "platform/encoding.h"
 #include "platform/exception.h"
 #include "settings.h"
 
@@ -47,8 +48,8 @@ bool ChooseRadiator(HK_DATEN_VDI3805_UEBERGABE& room, CDrawing& drawing, bool wi
         return false;
     }
     room = asked;
-    std::wcout << room.TypName << L": " << room.Daten.Leistung << L" W, " << room.Daten.Inhalt
-               << L" l" << std::endl;
+    std::cout << Utf8FromWide(room.TypName) << ": " << room.Daten.Leistung << " W, "
+              << room.Daten.Inhalt << " l" << std::endl;
     return true;
 }
 
@@ -63,9 +64,9 @@ void ChooseValve(VDI3805_VENTIL_KV& valve)
 
 void PrintConnection(const CDrawnRadiator& radiator, const CConnection& connection)
 {
-    std::wcout << connection.points.Name << L'\n' << L"H_VL_PUNKT "
-               << radiator.Attribute(L"H_VL_PUNKT") << L'\n' << L"H_RL_PUNKT "
-               << radiator.Attribute(L"H_RL_PUNKT") << std::endl;
+    std::cout << Utf8FromWide(connection.points.Name) << '\n'
+              << "H_VL_PUNKT " << Utf8FromWide(radiator.Attribute(L"H_VL_PUNKT")) << '\n'
+              << "H_RL_PUNKT " << Utf8FromWide(radiator.Attribute(L"H_RL_PUNKT")) << std::endl;
 }
 
 int Run(bool withDialogs)
@@ -73,7 +74,7 @@ int Run(bool withDialogs)
     CDrawing drawing;
     HK_DATEN_VDI3805_UEBERGABE room = Wishes();
     if (!ChooseRadiator(room, drawing, withDialogs)) {
-        std::wcerr << L"no radiator" << std::endl;
+        std::cerr << "no radiator" << std::endl;
         return EXIT_FAILURE;
     }
     CDrawnRadiator radiator(room.Daten.Laenge / 1000.0, room.Daten.Tiefe / 1000.0,
@@ -84,7 +85,7 @@ int Run(bool withDialogs)
     if (withDialogs) {
         ChooseValve(connection.flowValve);
         if (!EditConnection(radiator, connection, drawing)) {
-            std::wcerr << L"not connected" << std::endl;
+            std::cerr << "not connected" << std::endl;
             return EXIT_FAILURE;
         }
     }
@@ -97,15 +98,18 @@ int Run(bool withDialogs)
 int main(int argc, char** argv)
 {
     if (argc < 2) {
-        std::wcerr << L"usage: cad SETTINGS [--dialogs]" << std::endl;
+        std::cerr << "usage: cad SETTINGS [--dialogs]" << std::endl;
         return EXIT_FAILURE;
     }
-    LoadSettings(argv[1]);
+    if (!LoadSettings(argv[1])) {
+        std::cerr << argv[1] << ": cannot be read" << std::endl;
+        return EXIT_FAILURE;
+    }
     try {
         return Run(argc > 2 && std::string_view(argv[2]) == "--dialogs");
     } catch (const CException& fault) {
         // A damaged valve file, say. The text is for the user.
-        std::wcerr << fault.GetErrorMessage() << std::endl;
+        std::cerr << Utf8FromWide(fault.GetErrorMessage()) << std::endl;
         return EXIT_FAILURE;
     }
 }

@@ -3,6 +3,8 @@
 #include "host/host_base.h"
 #include "host/host_prefs.h"
 #include "host_defaults/answers.h"
+#include "platform/encoding.h"
+#include "platform/path.h"
 
 #include <fstream>
 #include <map>
@@ -42,13 +44,13 @@ bool DeliverFolder(const char* key, CString& path)
     if (Setting(key).empty()) {
         return false;
     }
-    path = FolderSetting(key).wstring();
+    path = TextFromPath(FolderSetting(key));
     return true;
 }
 
 } // namespace
 
-void LoadSettings(const std::filesystem::path& file)
+bool LoadSettings(const std::filesystem::path& file)
 {
     Settings().folder = std::filesystem::absolute(file).parent_path();
     std::ifstream lines(file);
@@ -58,19 +60,21 @@ void LoadSettings(const std::filesystem::path& file)
             Settings().values[Trimmed(line.substr(0, equals))] = Trimmed(line.substr(equals + 1));
         }
     }
+    // A file that was opened and read has ended; one that is missing never began.
+    return lines.eof();
 }
 
 CString Setting(const char* key)
 {
     const auto found = Settings().values.find(key);
-    // A path turns UTF-8 to wide text, whatever the locale is.
-    return found == Settings().values.end() ? CString()
-                                            : std::filesystem::path(found->second).wstring();
+    // Whatever the locale is, and whatever bytes the file holds.
+    return found == Settings().values.end() ? CString() : WideFromUtf8(found->second);
 }
 
 std::filesystem::path FolderSetting(const char* key)
 {
-    return Settings().folder / Setting(key);
+    // From its bytes: the standard library takes wide text with ASCII letters only for a path.
+    return Settings().folder / Utf8FromWide(Setting(key));
 }
 
 // What the module asks, out of the settings. What is not written here the defaults answer.
@@ -83,7 +87,7 @@ CString GetHKDir(bool /*projectCopy*/)
 
 CString GetVEDir(bool /*projectCopy*/)
 {
-    return FolderSetting("valves").wstring();
+    return TextFromPath(FolderSetting("valves"));
 }
 
 void lmGetDimension2(int& code)

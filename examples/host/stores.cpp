@@ -5,6 +5,7 @@
 #include "frame/vdi6030_start.h"
 #include "host/host_prefs.h"
 #include "platform/archive.h"
+#include "platform/encoding.h"
 #include "platform/exception.h"
 #include "settings.h"
 
@@ -22,7 +23,7 @@ constexpr wchar_t kStartName[] = L"radiator_start.def";
 
 std::filesystem::path FileOf(const CString& name)
 {
-    return FolderSetting("workplace") / name;
+    return FolderSetting("workplace") / Utf8FromWide(name);
 }
 
 /// Calls `read` with the archive in the file; false if there is none or it is damaged.

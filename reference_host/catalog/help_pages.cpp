@@ -95,6 +95,6 @@ void ShowPDF(unsigned dialogId, int /*art*/)
     if (page && !StartDetached(Utf8FromWide(program), page->string())) {
         const CString kind = page->extension() == ".pdf" ? L"PDF" : L"HTML";
         Tell(L"La pagina della guida non si apre: manca un programma per i file " + kind +
-             L".\nSi trova in " + page->wstring());
+             L".\nSi trova in " + TextFromPath(*page));
     }
 }

@@ -24,14 +24,20 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Far more than a root, its makers and their files: a link that leads back must end.
-constexpr int kDeepestFolder = 6;
+/// The folders on the way to one, by which a link that leads back is told from a folder below.
+using CFolderPath = std::vector<fs::path>;
+
+void CannotRead(const fs::path& place, const std::error_code& error, CCheckReport& report)
+{
+    report.unreadable.push_back(
+        FormatFileFault({0, WideFromUtf8(error.message()), TextFromPath(place)}));
+}
 
 void CheckShortListFile(const CString& file, CCheckReport& report)
 {
-    ++report.nShortLists;
     try {
         const CShortListFile list = ReadShortList(file);
+        ++report.nShortLists;
         if (list.fault) {
             report.findings.push_back(*list.fault);
             return;
@@ -47,12 +53,16 @@ void CheckShortListFile(const CString& file, CCheckReport& report)
                             L"il nome è già quello della riga " + FormatInt(lines[line]));
             }
         }
+        const auto utf8 = std::find_if(list.lines.begin(), list.lines.end(), IsUtf8Line);
+        if (utf8 != list.lines.end()) {
+            report.Find(list.strFile, static_cast<int>(utf8 - list.lines.begin()) + 1, kIsUtf8);
+        }
         if (!list.strLost.empty()) {
             report.Find(list.strFile, list.lines.GetSize() + 1,
                         L"l'ultima riga non ha la fine di riga e non si legge");
         }
     } catch (const CFileException& error) {
-        report.unreadable.emplace_back(0, error.GetErrorMessage(), file);
+        report.unreadable.push_back(error.GetErrorMessage());
     }
 }
 
@@ -92,16 +102,16 @@ void CheckMakerNames(const std::vector<fs::path>& makers, CCheckReport& report)
     }
 }
 
-void CheckFolder(const fs::path& folder, int depth, CCheckReport& report);
+void CheckFolder(const fs::path& folder, CFolderPath& above, CCheckReport& report);
 
-void CheckEntries(const std::vector<fs::path>& entries, int depth, CCheckReport& report)
+void CheckEntries(const std::vector<fs::path>& entries, CFolderPath& above, CCheckReport& report)
 {
     std::vector<fs::path> makers;
     for (const fs::path& entry : entries) {
         std::error_code error;
         if (fs::is_directory(entry, error)) {
             const auto before = std::pair(report.nCatalogues, report.nValveFiles);
-            CheckFolder(entry, depth + 1, report);
+            CheckFolder(entry, above, report);
             if (before != std::pair(report.nCatalogues, report.nValveFiles)) {
                 makers.push_back(entry);
             }
@@ -112,22 +122,25 @@ void CheckEntries(const std::vector<fs::path>& entries, int depth, CCheckReport&
     CheckMakerNames(makers, report);
 }
 
-void CheckFolder(const fs::path& folder, int depth, CCheckReport& report)
+void CheckFolder(const fs::path& folder, CFolderPath& above, CCheckReport& report)
 {
-    if (depth > kDeepestFolder) {
+    std::error_code error;
+    const fs::path own = fs::canonical(folder, error);
+    if (std::ranges::find(above, own) != above.end()) {
         return;
     }
     std::vector<fs::path> entries;
-    std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
         entries.push_back(entry->path());
     }
     if (error) {
-        report.unreadable.emplace_back(0, WideFromUtf8(error.message()), TextFromPath(folder));
+        CannotRead(folder, error, report);
     }
     std::ranges::sort(entries);
-    CheckEntries(entries, depth, report);
+    above.push_back(own);
+    CheckEntries(entries, above, report);
+    above.pop_back();
 }
 
 } // namespace
@@ -137,13 +150,12 @@ bool CheckPath(const CString& path, CCheckReport& report)
     const fs::path place = ResolvePath(path);
     std::error_code error;
     if (fs::is_directory(place, error)) {
-        CheckFolder(place, 0, report);
+        CFolderPath above;
+        CheckFolder(place, above, report);
         return true;
     }
     if (!fs::exists(place, error)) {
-        report.unreadable.push_back(
-            {0, WideFromUtf8(std::make_error_code(std::errc::no_such_file_or_directory).message()),
-             TextFromPath(place)});
+        CannotRead(place, std::make_error_code(std::errc::no_such_file_or_directory), report);
         return true;
     }
     const Checker check = CheckerOf(place);

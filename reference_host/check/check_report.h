@@ -20,8 +20,8 @@ struct CCheckReport
     int nShortLists = 0;
     int nTypes = 0;
     std::vector<CFileFault> findings;
-    /// Files and folders that the system does not let be read.
-    std::vector<CFileFault> unreadable;
+    /// Files and folders that the system does not let be read, each with the reason.
+    std::vector<CString> unreadable;
 
     void Find(const CString& file, int line, CString message)
     {

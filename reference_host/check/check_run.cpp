@@ -51,8 +51,8 @@ CheckExit Tell(const CCheckReport& report, std::ostream& out, std::ostream& err)
     for (const CFileFault& fault : report.findings) {
         Write(out, FormatFileFault(fault));
     }
-    for (const CFileFault& fault : report.unreadable) {
-        Write(err, L"radsel_check: non si può leggere " + FormatFileFault(fault));
+    for (const CString& place : report.unreadable) {
+        Write(err, L"radsel_check: non si può leggere " + place);
     }
     const CString lookedAt = DescribeLookedAt(report);
     if (lookedAt.empty() && report.unreadable.empty()) {

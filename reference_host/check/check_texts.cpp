@@ -1,5 +1,6 @@
 #include "reference_host/check/check_texts.h"
 
+#include "platform/encoding.h"
 #include "platform/format.h"
 
 #include <algorithm>
@@ -17,6 +18,11 @@ CString ReadName(const CString& name)
     return first == CString::npos
                ? CString()
                : ToLower(name.substr(first, name.find_last_not_of(L" \t") - first + 1));
+}
+
+bool IsUtf8Line(const CString& line)
+{
+    return FindUtf8Line(Cp1252FromWide(line)) != 0;
 }
 
 int FindUtf8Line(std::string_view bytes)

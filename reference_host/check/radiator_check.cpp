@@ -196,9 +196,7 @@ private:
 void CheckBytes(const CString& file, const std::string& bytes, CCheckReport& report)
 {
     if (const int line = FindUtf8Line(bytes)) {
-        report.Find(file, line,
-                    L"il testo è in UTF-8 e si legge come Windows 1252: le lettere "
-                    L"accentate sono sbagliate");
+        report.Find(file, line, kIsUtf8);
     }
     auto result = ParseCatalogue(BytesOf(bytes));
     if (auto* const fault = std::get_if<CFileFault>(&result)) {
@@ -213,16 +211,16 @@ void CheckBytes(const CString& file, const std::string& bytes, CCheckReport& rep
 
 void CheckRadiatorFile(const CString& file, CCheckReport& report)
 {
-    ++report.nCatalogues;
     try {
         const auto bytes = ReadWholeFile(file, kLargestCatalogue);
+        ++report.nCatalogues;
         if (bytes) {
             CheckBytes(file, *bytes, report);
         } else {
             report.Find(file, 0, DescribeTooLarge(kLargestCatalogue));
         }
     } catch (const CFileException& error) {
-        report.unreadable.emplace_back(0, error.GetErrorMessage(), file);
+        report.unreadable.push_back(error.GetErrorMessage());
     }
 }
 

@@ -87,13 +87,15 @@ public:
     {
         const CString type = line.GetText(0);
         const bool told = m_told.contains(line.GetLineNumber());
-        if (type == L"100" || type == L"110") {
+        // Behind a new main group records go on to the last group until the next one begins.
+        if (type == L"110") {
             CloseGroup();
         } else if (type == L"700") {
             TakeDataSet(line);
         } else if (type == L"710.01") {
             TakeRow(line);
-        } else if (type.starts_with(L"710.")) {
+        } else if (type == L"710.02" || type == L"710.03" || type == L"710.04" ||
+                   type == L"710.05") {
             CloseDataSet();
         } else if (type == L"800" && !told) {
             TakeArticle(line);
@@ -218,11 +220,16 @@ private:
 
     void TakeText(const CRecordLine& line, const CString& type)
     {
-        const int number = _wtoi(line.GetText(1));
+        const CString written = line.GetText(1);
+        const int number = _wtoi(written);
         m_texts[{type, number}] = line.GetLineNumber();
-        if (number < 1 || number > 9) {
-            Find(line.GetLineNumber(), FieldPlace(type.c_str(), 1, L"numero"),
-                 FormatInt(number) + L" non ha una cifra sola: il testo che si vede è spostato");
+        const CString place = FieldPlace(type.c_str(), 1, L"numero");
+        if (number < 1) {
+            Find(line.GetLineNumber(), place,
+                 L"\"" + written + L"\" non è un numero da 1 in su: il testo non si vede mai");
+        } else if (written.size() != 1) {
+            Find(line.GetLineNumber(), place,
+                 L"\"" + written + L"\" non ha una cifra sola: il testo che si vede è spostato");
         }
     }
 
@@ -267,9 +274,9 @@ private:
 
 void CheckValveFile(const CString& file, CCheckReport& report)
 {
-    ++report.nValveFiles;
     try {
         const CValveFileCheck check(file);
+        ++report.nValveFiles;
         if (const auto refusal = check.FindRefusal()) {
             report.findings.push_back(*refusal);
             return;
@@ -281,15 +288,20 @@ void CheckValveFile(const CString& file, CCheckReport& report)
         }
         CValveLines lines(file, std::move(told), report);
         int number = 0;
+        bool utf8 = false;
         for (const CString& line : check.GetLines()) {
             lines.Take(CRecordLine(line, ++number));
+            if (!utf8 && IsUtf8Line(line)) {
+                utf8 = true;
+                report.Find(file, number, kIsUtf8);
+            }
         }
         lines.Finish();
         if (!check.GetLost().empty()) {
             report.Find(file, number + 1, L"l'ultima riga non ha la fine di riga e non si legge");
         }
     } catch (const CFileException& error) {
-        report.unreadable.emplace_back(0, error.GetErrorMessage(), file);
+        report.unreadable.push_back(error.GetErrorMessage());
     }
 }
 

@@ -243,10 +243,10 @@ private:
         const CString measures = FormatPlain(size.Hoehe) + L" x " + FormatPlain(size.Tiefe) +
                                  L" x " + Millimetres(size.Laenge);
         if (!m_byName.emplace(row.Name, size.Hoehe, size.Tiefe, size.Laenge).second) {
-            Melde(
-                i, KatalogFeld::laenge, KatalogRegel::doppelt,
-                L"la misura " + measures + L" con il nome \"" + row.Name +
-                    L"\" compare due volte: di due righe uguali la scelta prende sempre l'ultima");
+            Melde(i, KatalogFeld::laenge, KatalogRegel::doppelt,
+                  L"la misura " + measures + L" con il nome \"" + row.Name +
+                      L"\" compare due volte: di due righe uguali la finestra di scelta prende "
+                      L"l'ultima");
         } else if (first->Daten.Inhalt != size.Inhalt) {
             Melde(i, KatalogFeld::inhalt, KatalogRegel::doppelt,
                   L"la misura " + measures + L" ha qui il contenuto " + FormatPlain(size.Inhalt) +

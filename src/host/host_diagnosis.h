@@ -31,7 +31,7 @@ enum class HostDiagnosis : int
     /// the first call told in a message.
     noCall = 1,
     /// Hersteller names no maker of the catalogue. The text tells those that there are; so do those
-    /// of the next three.
+    /// of unknownKind and unknownProduct.
     unknownMaker = 2,
     /// The maker is known, but ReadVdiFile failed, or has left nothing below him.
     unreadMaker = 3,
@@ -41,12 +41,15 @@ enum class HostDiagnosis : int
     noRows = 6,
     /// No row of the product lies within the ranges. The text tells which range leaves out how many
     /// rows, and the nearest row: the one that misses the ranges by the fewest millimetres, and of
-    /// several the one whose output is nearest to the required one.
+    /// several the one whose output is nearest to the required one; a single section, which is
+    /// never chosen, only where there is nothing else.
     noRowInRange = 7,
-    /// Rows lie within the ranges, but the nearest output is 100,000 W off, or no number because
-    /// supply and return temperature are the same.
+    /// Rows lie within the ranges, but the nearest output is 100,000 W off, or the temperatures
+    /// give none (supply and return are the same, or the supply lies far below room and return), or
+    /// the required output is no number.
     noNearOutput = 8,
-    /// GetHK_Inhalt: the product has no row of exactly these measures. The text tells the nearest.
+    /// GetHK_Inhalt: the product has no row of exactly these measures among its first 2000. The
+    /// text tells the nearest.
     unknownMeasures = 9,
     /// HKGetMinTiefe, HKGetMaxTiefe: the product has rows, but its list of depths is empty.
     noDepths = 10,

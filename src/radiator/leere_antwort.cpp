@@ -6,7 +6,7 @@
 #include "radiator/hk_vdi3805.h"
 
 #include <cmath>
-#include <utility>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -92,13 +92,15 @@ private:
     int m_nOut = 0;
 };
 
-/// The row that comes nearest, first in millimetres and then in watts.
+/// The row that comes nearest, first in millimetres and then in watts. One that no range lets in
+/// comes behind all others.
 class CNearestRow
 {
 public:
-    void Offer(const HK_VDI3805_TYP& row, double millimetres, double watts, double leistung)
+    void Offer(const HK_VDI3805_TYP& row, bool never, double millimetres, double watts,
+               double leistung)
     {
-        const std::pair distance(millimetres, watts);
+        const std::tuple distance(never, millimetres, watts);
         if (m_pRow == nullptr || distance < m_distance) {
             m_pRow = &row;
             m_distance = distance;
@@ -114,7 +116,7 @@ public:
 
 private:
     const HK_VDI3805_TYP* m_pRow = nullptr;
-    std::pair<double, double> m_distance;
+    std::tuple<bool, double, double> m_distance;
     double m_leistung = 0.0;
 };
 
@@ -177,7 +179,7 @@ CString FaultsOf(const HK_VDI3805_PRODUKT& produkt)
     }
     const CKatalogMangel& first = maengel.front();
     return L" Il prodotto ha inoltre " + FormatInt(static_cast<long long>(maengel.size())) +
-           L" difetti di catalogo; il primo" +
+           (maengel.size() == 1 ? L" difetto" : L" difetti") + L" di catalogo; il primo" +
            (first.nRow < 0 ? CString() : L", alla riga " + FormatInt(first.nRow + 1)) + L": " +
            first.strText + L".";
 }
@@ -200,8 +202,8 @@ void TellNoRowInRange(const CHKVdi3805& katalog)
         laenge.Count(miss.laenge);
         singles += miss.bAusgang ? 1 : 0;
         ++rows;
-        nearest.Offer(*row, miss.hoehe + miss.tiefe + miss.laenge, Watts(miss.leistung, daten),
-                      miss.leistung);
+        nearest.Offer(*row, miss.bAusgang, miss.hoehe + miss.tiefe + miss.laenge,
+                      Watts(miss.leistung, daten), miss.leistung);
     }
     CString text = L"Nessuna delle " + FormatInt(rows) + L" righe del prodotto " +
                    InQuotes(daten.Produkt) + L" rientra nei limiti:" + hoehe.Text() + tiefe.Text() +
@@ -215,19 +217,28 @@ void TellNoRowInRange(const CHKVdi3805& katalog)
                   text + nearest.Text() + FaultsOf(*katalog.GetProdukt()));
 }
 
+CString NoNearOutput(const HK_DATEN_VDI3805_UEBERGABE& daten)
+{
+    if (std::isnan(daten.Umrechnungsfaktor)) {
+        return daten.Vorlauf == daten.Ruecklauf
+                   ? L"Le temperature di mandata e di ritorno non danno una potenza: sono uguali."
+                   : L"Le temperature di mandata, di ritorno e del locale non danno una potenza.";
+    }
+    if (std::isnan(daten.Leistung)) {
+        return L"La potenza richiesta non è un numero.";
+    }
+    return L"La potenza richiesta di " + FormatPlain(daten.Leistung) +
+           L" W dista almeno 100000 W da ogni riga che rientra nei limiti.";
+}
+
 void TellNoNearOutput(const CHKVdi3805& katalog)
 {
     const HK_DATEN_VDI3805_UEBERGABE& daten = katalog.GetDaten();
     CNearestRow nearest;
     for (const HK_VDI3805_TYP* row = katalog.GetErgebnis(); row != nullptr; row = row->pNext) {
-        nearest.Offer(*row, 0.0, Watts(row->Daten.Leistung, daten), row->Daten.Leistung);
+        nearest.Offer(*row, false, 0.0, Watts(row->Daten.Leistung, daten), row->Daten.Leistung);
     }
-    const CString text =
-        std::isnan(daten.Umrechnungsfaktor)
-            ? CString(L"Le temperature di mandata e di ritorno non danno una potenza: sono uguali.")
-            : L"La potenza richiesta di " + FormatPlain(daten.Leistung) +
-                  L" W dista almeno 100000 W da ogni riga che rientra nei limiti.";
-    TellDiagnosis(HostDiagnosis::noNearOutput, text + nearest.Text());
+    TellDiagnosis(HostDiagnosis::noNearOutput, NoNearOutput(daten) + nearest.Text());
 }
 
 } // namespace
@@ -266,14 +277,20 @@ void ErklaereFehlendeMasse(CHKVdi3805& katalog, double hoehe, double tiefe, doub
         return;
     }
     CNearestRow nearest;
+    int rows = 0;
     for (const HK_VDI3805_TYP* row = katalog.GetErgebnis(); row != nullptr; row = row->pNext) {
         const HK_DATEN_VDI3805& size = row->Daten;
-        nearest.Offer(*row,
+        nearest.Offer(*row, false,
                       std::fabs(size.Hoehe - hoehe) + std::fabs(size.Tiefe - tiefe) +
                           std::fabs(size.Laenge - laenge),
                       0.0, size.Leistung);
+        ++rows;
     }
     TellDiagnosis(HostDiagnosis::unknownMeasures,
                   L"Il prodotto " + InQuotes(katalog.GetDaten().Produkt) + L" non ha la misura " +
-                      Measures(hoehe, tiefe, laenge) + L"." + nearest.Text());
+                      Measures(hoehe, tiefe, laenge) +
+                      (rows < kMaxKatalogZeilen
+                           ? L"."
+                           : L" tra le prime " + FormatInt(kMaxKatalogZeilen) + L" righe.") +
+                      nearest.Text());
 }

@@ -52,9 +52,9 @@ done
 
 # The program has a working place in its user's folder and writes nothing beside itself.
 state_of() { (cd "$1" && find . -type f -exec cksum {} + | sort); }
-own=$work/home/.config/radsel
+own=$work/josé/.config/radsel
 list_connections() {
-    env -u TGA_DATA_SINGLE -u TGA_DATA_SINGLE_S -u XDG_CONFIG_HOME HOME="$work/home" \
+    env -u TGA_DATA_SINGLE -u TGA_DATA_SINGLE_S -u XDG_CONFIG_HOME HOME="$work/josé" \
         "$prefix/bin/radsel_workbench" --list-connections
 }
 installed=$(state_of "$prefix")
@@ -143,7 +143,7 @@ LD_LIBRARY_PATH=$libraries:$libraries/radsel/reference_host \
 # The Python package; an interpreter that is not instrumented does not take a library that is.
 sized() {
     env -u RADSEL_LIBRARY -u RADSEL_WORKBENCH PYTHONPATH="$prefix/lib/python3/dist-packages" \
-        PYTHONDONTWRITEBYTECODE=1 HOME="$work/home" python3 \
+        PYTHONDONTWRITEBYTECODE=1 HOME="$work/josé" python3 \
         "$prefix/share/doc/radsel/examples/python/size_villa.py" "$prefix/share/radsel" "$work/villa.svg"
 }
 [[ -n $instruments ]] || sized >"$work/log" 2>&1 || fail "$(<"$work/log")"

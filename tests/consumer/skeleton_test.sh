@@ -7,13 +7,13 @@ program=$1 data=$2 confirm=$3
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-mkdir "$work/workplace"
+mkdir "$work/caffè"
 cat >"$work/settings.ini" <<END
 drawing_unit = mm
 user_unit = cm
 valves = $data/valves
 server = $data/root
-workplace = workplace
+workplace = caffè
 END
 
 # 55/45/20 °C gives 0.495 of the output at 75/65/20 °C (example_test.sh). Of 1698 W a metre that are
@@ -33,6 +33,6 @@ with_dialogs() {
 }
 diff <(echo "$expected") <(with_dialogs)
 for file in HkAuswahl.def winpos.txt; do
-    [[ -s $work/workplace/$file ]] || { echo "nothing is kept in $file" && false; }
+    [[ -s $work/caffè/$file ]] || { echo "nothing is kept in $file" && false; }
 done
 diff <(echo "$expected") <(with_dialogs)

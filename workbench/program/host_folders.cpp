@@ -67,7 +67,7 @@ void DoWithoutWorkplace(const fs::path& lists, const fs::path& own, const CStrin
 {
     setenv("TGA_DATA_SINGLE", lists.c_str(), 1);
     WriteMessage({L"radsel",
-                  L"La cartella " + own.wstring() +
+                  L"La cartella " + TextFromPath(own) +
                       L" non è scrivibile: elenchi e posizioni delle finestre non si "
                       L"conservano. " +
                       reason,
@@ -81,7 +81,7 @@ void FillOwnWorkplace()
     const std::optional<fs::path> data = InstalledDataFolder();
     const fs::path own = OwnWorkplace();
     if (!data || own.empty() ||
-        GetEnvironment(L"TGA_DATA_SINGLE") != std::optional(own.wstring())) {
+        GetEnvironment(L"TGA_DATA_SINGLE") != std::optional(TextFromPath(own))) {
         return;
     }
     try {

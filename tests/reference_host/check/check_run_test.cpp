@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -154,9 +155,17 @@ TEST(CheckRun, EachFaultIsToldWithItsLineAndField)
           "riga 11: Record 800, campo 1 (numero TGA): rimanda al record 700 numero 2"}},
         {"texts that are not there or shifted",
          "ha.tga",
-         kValves + "160;12;Testa|" + kDataSet + "800;020003" + number.substr(6) + ";B",
-         {"riga 4: Record 160, campo 1 (numero): 12",
-          "riga 7: Record 800, campo 1 (numero TGA): rimanda al record 160 numero 3 (comando)"}},
+         kValves + "160;12;Testa|160;01;Testa|160;0;Tür|" + kDataSet + "800;020003" +
+             number.substr(6) + ";B",
+         {"riga 4: Record 160, campo 1 (numero): \"12\" non ha una cifra sola",
+          "riga 5: Record 160, campo 1 (numero): \"01\" non ha una cifra sola",
+          "riga 6: Record 160, campo 1 (numero): \"0\" non è un numero da 1 in su",
+          "riga 6: il testo è in UTF-8",
+          "riga 9: Record 800, campo 1 (numero TGA): rimanda al record 160 numero 3 (comando)"}},
+        {"records of the last group behind a new main group",
+         "ha.tga",
+         kValves + kDataSet + "100;2;C|800;" + number + ";B",
+         {}},
         {"data sets",
          "ha.tga",
          kValves + kDataSet + "710.02;1|710.01;2;2;;;2;;;0.3|700;1;2;15;0.9;;;;;;;1;;",
@@ -230,6 +239,12 @@ TEST(CheckRun, FoldersAreLookedThroughAndMakersToldFromEachOther)
                   ": il produttore \"nuovo \" si distingue da \"Nuovo\" solo per maiuscole o "
                   "spazi\n3 produttori di corpi scaldanti, 6 righe: 1 difetto\n");
     EXPECT_EQ(Check({folder.Path("Altovico")}).exit, CheckExit::clean);
+
+    // However deep, and once where a link leads back.
+    folder.WriteBytes("1/2/3/4/5/6/7/8/Altovico/hk.tga", file);
+    std::filesystem::create_directory_symlink(folder.Root() / "1", folder.Root() / "1/2/back");
+    EXPECT_TRUE(Check({folder.Path("1")}).out.starts_with("1 produttore di"));
+    EXPECT_NE(Check({folder.Path()}).out.find("4 produttori di"), std::string::npos);
 }
 
 TEST(CheckRun, TheSamplesHaveNoFaultsButTheTwoThatTheyShow)
@@ -268,6 +283,15 @@ TEST(CheckRun, WhatCannotBeLookedAtHasExitCodesOfItsOwn)
         EXPECT_EQ(run.exit, c.exit);
         EXPECT_TRUE(run.err.starts_with("radsel_check: ")) << run.err;
         EXPECT_EQ(run.out, "");
+    }
+    for (const char* const name : {"hk.tga", "ha.tga", "Vent.txt"}) {
+        const std::filesystem::path link = folder.Root() / "rotto" / name;
+        std::filesystem::create_directories(link.parent_path());
+        std::filesystem::create_symlink("nessuno", link);
+        EXPECT_EQ(Check({folder.Path("rotto")}).err, "radsel_check: non si può leggere " +
+                                                         link.string() +
+                                                         ": No such file or directory\n");
+        std::filesystem::remove(link);
     }
     EXPECT_EQ(Check({L"--help"}).exit, CheckExit::clean);
 }

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
 
 namespace {
@@ -89,6 +90,20 @@ TEST_F(LeereAntwort, EachReasonOfASelectionIsToldInWords)
          L"1700 W alle temperature di progetto, contenuto 6.3 l."},
         {[](Uebergabe& u) { u.Ruecklauf = u.Vorlauf; }, HostDiagnosis::noNearOutput,
          L"Le temperature di mandata e di ritorno non danno una potenza: sono uguali."},
+        {[](Uebergabe& u) {
+             u.Vorlauf = 5;
+             u.Ruecklauf = 45;
+             u.Raumtemperatur = 20;
+         },
+         HostDiagnosis::noNearOutput,
+         L"Le temperature di mandata, di ritorno e del locale non danno una potenza. La riga"},
+        {[](Uebergabe& u) { u.Leistung = NAN; }, HostDiagnosis::noNearOutput,
+         L"La potenza richiesta non è un numero. La riga"},
+        // The single section misses the range by less, but no range lets it in.
+        {[](Uebergabe& u) { u.LaengeMax = 60; }, HostDiagnosis::noRowInRange,
+         L"Nessuna delle 4 righe del prodotto \"Prodotto\" rientra nei limiti: la lunghezza da 0 a "
+         L"60 mm ne esclude 4; un elemento solo non è un corpo scaldante e ne esclude 1. La riga "
+         L"più vicina è \"C3\", altezza 500, profondità 80, lunghezza 120 mm, elementi 2"},
     };
     for (const auto& c : cases) {
         auto uebergabe = m_catalogue.Uebergabe(1000);
@@ -109,7 +124,7 @@ TEST_F(LeereAntwort, AFaultyCatalogueIsToldWithTheRowsThatDoNotFit)
     uebergabe.TiefeMin = 200;
     EXPECT_EQ(Waehle(uebergabe), -1);
     const CString text = Told().text;
-    EXPECT_NE(text.find(L"ha inoltre 1 difetti di catalogo; il primo, alla riga 5: dopo 120 mm"),
+    EXPECT_NE(text.find(L"ha inoltre 1 difetto di catalogo; il primo, alla riga 5: dopo 120 mm"),
               CString::npos);
 }
 
