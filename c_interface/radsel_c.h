@@ -574,8 +574,8 @@ typedef struct radsel_rows radsel_rows;
 typedef struct radsel_valves radsel_valves;
 
 /* Names of the makers, of a maker's kinds, of a kind's products, and of the makers of valves. The
- * list may be empty. RADSEL_NOTHING: no such maker or kind. RADSEL_BAD_FILE: the maker's catalogue
- * cannot be read. */
+ * list may be empty, as it is where no folder is set. RADSEL_NOTHING: no such maker or kind.
+ * RADSEL_BAD_FILE: the maker's catalogue cannot be read, or the folder of catalogues or valves. */
 RADSEL_C_API int radsel_list_makers(radsel_list** list);
 RADSEL_C_API int radsel_list_kinds(const char* maker, radsel_list** list);
 RADSEL_C_API int radsel_list_products(const char* maker, const char* kind, radsel_list** list);

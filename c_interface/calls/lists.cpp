@@ -2,6 +2,7 @@
 
 #include "c_interface/calls/guarded_call.h"
 #include "c_interface/calls/request.h"
+#include "c_interface/host/catalogue.h"
 #include "c_interface/records/records.h"
 #include "c_interface/records/sized_record.h"
 #include "c_interface/records/texts.h"
@@ -115,6 +116,21 @@ HK_VDI3805_HERSTELLER* ReadMaker(const CString& name)
     return maker;
 }
 
+/// A folder that is set has to be one that can be listed.
+void RequireFolder(const CString& folder)
+{
+    if (folder.empty()) {
+        return;
+    }
+    const std::filesystem::path path = ResolvePath(folder);
+    std::error_code error;
+    const std::filesystem::directory_iterator entries(path, error);
+    if (error) {
+        RefuseFault(CFileFault{0, L"non si può leggere: " + WideFromUtf8(error.message()),
+                               TextFromPath(path)});
+    }
+}
+
 void AddValves(const VENT_VDI3805_HAUPTGRUPPE* first, radsel_valves& list)
 {
     for (const auto* main = first; main != nullptr; main = main->Next) {
@@ -133,6 +149,7 @@ int radsel_list_makers(radsel_list** list)
 {
     return MakeList(list, [](radsel_list& names) {
         AddNames(ReadHKDaten(), names);
+        RefuseFault(CatalogueFolderError());
         return RADSEL_OK;
     });
 }
@@ -171,6 +188,7 @@ int radsel_list_valve_makers(radsel_list** list)
 {
     return MakeList(list, [](radsel_list& names) {
         const CString folder = GetVEDir(false);
+        RequireFolder(folder);
         for (const CString& maker : ListFolders(folder)) {
             std::error_code error;
             if (std::filesystem::exists(ResolvePath(VentilDateiPfad(folder, maker)), error)) {

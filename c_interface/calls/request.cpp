@@ -32,7 +32,12 @@ int CRequest::Finish(int result, const std::function<void()>& give, const char* 
 
 void RequireCatalogue(const CString& maker)
 {
-    if (const auto fault = CatalogueError(maker)) {
+    RefuseFault(CatalogueError(maker));
+}
+
+void RefuseFault(const std::optional<CFileFault>& fault)
+{
+    if (fault) {
         throw CCallFault(RADSEL_BAD_FILE, {Utf8FromWide(FormatFileFault(*fault)),
                                            Utf8FromWide(fault->strFile), fault->nLine});
     }

@@ -2,8 +2,10 @@
 
 #include "c_interface/radsel_c.h"
 #include "frame/handover.h"
+#include "platform/file_fault.h"
 
 #include <functional>
+#include <optional>
 
 namespace c_interface {
 
@@ -29,5 +31,8 @@ private:
 
 /// Raises CCallFault if the maker's catalogue could not be read.
 void RequireCatalogue(const CString& maker);
+
+/// Raises CCallFault if there is a fault.
+void RefuseFault(const std::optional<CFileFault>& fault);
 
 } // namespace c_interface

@@ -90,6 +90,12 @@ std::optional<CFileFault> CatalogueError(const CString& maker)
     return AreHandedIn() ? std::nullopt : Place()->files.Error(maker);
 }
 
+std::optional<CFileFault> CatalogueFolderError()
+{
+    // A maker without a name has no folder of his own that could be at fault.
+    return CatalogueError({});
+}
+
 void ForgetCatalogues()
 {
     Place() = std::make_unique<CCatalogues>();

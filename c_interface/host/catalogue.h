@@ -11,6 +11,10 @@ namespace c_interface {
 /// the host hands its catalogues in.
 std::optional<CFileFault> CatalogueError(const CString& maker);
 
+/// What kept the last listing of makers from looking through the folder of catalogues; nothing
+/// where no folder is set, or the host hands its catalogues in.
+std::optional<CFileFault> CatalogueFolderError();
+
 /// Gives up all that was read of catalogues. No call may be at work on them.
 void ForgetCatalogues();
 

@@ -152,7 +152,8 @@ static int draw_point(void* user, const double place[3], const double direction[
 
 static int fail(const char* what)
 {
-    fprintf(stderr, "%s: %s\n", what, radsel_last_error());
+    const char* why = radsel_last_error();
+    fprintf(stderr, "%s%s%s\n", what, *why == '\0' ? "" : ": ", why);
     return EXIT_FAILURE;
 }
 
@@ -163,7 +164,7 @@ static void print_choice(const char* how, const radsel_request* room)
            room->chosen.water);
 }
 
-/* A valve with a kv table, the first of the first maker who has one. */
+/* The first maker's first valve that has a kv table. */
 static int find_valve(radsel_valve* found)
 {
     radsel_list* makers;
@@ -172,6 +173,10 @@ static int find_valve(radsel_valve* found)
     int result = radsel_list_valve_makers(&makers);
     if (result < 0) {
         return result;
+    }
+    if (radsel_list_count(makers) == 0) {
+        radsel_list_free(makers);
+        return RADSEL_NOTHING;
     }
     result = radsel_list_valves(radsel_list_text(makers, 0), &valves);
     radsel_list_free(makers);

@@ -10,6 +10,7 @@ import os
 import subprocess
 import tempfile
 from pathlib import Path
+from typing import Any
 
 from ._places import find_workbench
 from ._schedule_file import read_schedule
@@ -44,7 +45,7 @@ def size_building(
     """
     options = {
         "--building": building,
-        "--system": "{:.10g}/{:.10g}".format(*system) if system else None,
+        "--system": None if system is None else _system(system),
         "--catalogues": catalogues,
         "--valve-catalogues": valve_catalogues,
         "--save": save,
@@ -64,6 +65,16 @@ def size_building(
         if ended.returncode not in (_OK, _DAMAGED_FILE) or not schedule.exists():
             raise RadselError(_reason(ended))
         return read_schedule(schedule)
+
+
+def _system(temperatures: Any) -> str:
+    try:
+        supply, return_ = map(float, temperatures)
+    except (TypeError, ValueError):
+        raise ValueError(
+            f"system has to be the supply and the return in °C, not {temperatures!r}"
+        ) from None
+    return f"{supply:.10g}/{return_:.10g}"
 
 
 def _reason(ended: subprocess.CompletedProcess[str]) -> str:

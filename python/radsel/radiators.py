@@ -4,7 +4,7 @@ from __future__ import annotations
 
 from ctypes import byref, c_double
 from dataclasses import dataclass
-from typing import Optional
+from typing import Any, Optional
 
 from . import _library
 
@@ -128,6 +128,7 @@ def output_factor(temperatures: Temperatures) -> float:
 
     It is rounded to 0.001. The exponent is 1.33 for every radiator.
     """
+    _require("temperatures", temperatures, Temperatures)
     factor = c_double()
     _library.call(
         "radsel_output_factor",
@@ -147,6 +148,8 @@ def _request(
     depth: Range,
     length: Range,
 ) -> _library.RequestRecord:
+    _require("product", product, Product)
+    _require("temperatures", temperatures, Temperatures)
     if not output > 0:
         raise ValueError(f"an output above 0 W is needed, not {output}")
     request = _library.new_record(_library.RequestRecord)
@@ -158,12 +161,29 @@ def _request(
     request.return_temperature = temperatures.return_
     request.room_temperature = temperatures.room
     if height is not None:
-        request.min_height, request.max_height = height
+        request.min_height, request.max_height = _ends("height", height)
     if depth is not None:
-        request.min_depth, request.max_depth = depth
+        request.min_depth, request.max_depth = _ends("depth", depth)
     if length is not None:
-        request.min_length, request.max_length = length
+        request.min_length, request.max_length = _ends("length", length)
     return request
+
+
+def _require(name: str, value: object, kind: type) -> None:
+    if not isinstance(value, kind):
+        raise ValueError(f"{name} has to be a radsel.{kind.__name__}, not {value!r}")
+
+
+def _ends(name: str, ends: Any) -> tuple[float, float]:
+    """The ends of a range. One number, and a range that begins above its end, are mistakes that
+    would look as if no size fitted."""
+    try:
+        smallest, largest = map(float, ends)
+        if smallest <= largest:
+            return smallest, largest
+    except (TypeError, ValueError):
+        pass
+    raise ValueError(f"{name} has to be the smallest and the largest in mm, not {ends!r}")
 
 
 def _radiator(name: bytes, data: _library.RadiatorRecord) -> Radiator:

@@ -93,8 +93,9 @@ Opzioni:
 Codici di uscita:
   0  nessun difetto
   1  difetti
-  2  argomenti errati
-  4  un file o una cartella non si può leggere, o non c'è; il resto è guardato ugualmente
+  2  argomenti errati, o un file con un altro nome
+  4  un file o una cartella non si può leggere, o non c'è, o non c'è alcun file da
+     guardare; il resto è guardato ugualmente
   5  uscita standard non scrivibile
 )";
 }
@@ -109,7 +110,7 @@ CheckExit RunCheck(const std::vector<CString>& arguments, std::ostream& out, std
                                     : L"radsel_check " + WideFromUtf8(RADSEL_VERSION) + L"\n");
             return out.flush() ? CheckExit::clean : CheckExit::outputNotWritable;
         }
-        if (argument.starts_with(L"--")) {
+        if (argument.starts_with(L"-")) {
             return Refuse(err, L"l'opzione " + argument + L" non esiste");
         }
     }

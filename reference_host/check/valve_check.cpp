@@ -97,14 +97,24 @@ public:
         } else if (type == L"710.02" || type == L"710.03" || type == L"710.04" ||
                    type == L"710.05") {
             CloseDataSet();
-        } else if (type == L"800" && !told) {
-            TakeArticle(line);
+        } else if (type == L"800") {
+            m_hasArticles = true;
+            if (!told) {
+                TakeArticle(line);
+            }
         } else if (!told && (type == L"160" || type == L"200" || type == L"400")) {
             TakeText(line, type);
         }
     }
 
-    void Finish() { CloseGroup(); }
+    void Finish()
+    {
+        CloseGroup();
+        if (!m_hasArticles) {
+            m_report.Find(m_file, 0,
+                          L"il file non ha articoli (record 800): non c'è alcuna valvola");
+        }
+    }
 
 private:
     struct CArticle
@@ -261,6 +271,7 @@ private:
     const CString& m_file;
     std::set<int> m_told;
     CCheckReport& m_report;
+    bool m_hasArticles = false;
     // Of the open group.
     std::map<int, int> m_dataSets;
     std::map<std::pair<CString, int>, int> m_texts;

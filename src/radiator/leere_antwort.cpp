@@ -66,8 +66,10 @@ CString Describe(const HK_VDI3805_TYP& row, double leistung)
     if (size.Elemente > 0.0) {
         text += L", elementi " + FormatPlain(size.Elemente);
     }
-    return text + L", " + FormatPlain(leistung) + L" W alle temperature di progetto, contenuto " +
-           FormatPlain(size.Inhalt) + L" l";
+    if (!std::isnan(leistung)) {
+        text += L", " + FormatPlain(leistung) + L" W alle temperature di progetto";
+    }
+    return text + L", contenuto " + FormatPlain(size.Inhalt) + L" l";
 }
 
 /// Counts the rows that a range leaves out, and tells it.

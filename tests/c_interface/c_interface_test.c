@@ -230,6 +230,25 @@ static void tells_file_and_line(const char* scratch)
     CHECK(tells("Rotto/ha.tga") && is(valve.maker, ""));
 }
 
+static void tells_a_folder_that_is_not_there(const char* scratch)
+{
+    radsel_list* list;
+    char path[1024];
+    snprintf(path, sizeof path, "%s/nowhere", scratch);
+    CHECK(radsel_set_text(RADSEL_CATALOGUE_FOLDER, path) == RADSEL_OK);
+    CHECK(radsel_list_makers(&list) == RADSEL_BAD_FILE && list == NULL && tells(path));
+    CHECK(is(radsel_last_error_file(), path));
+    CHECK(radsel_set_text(RADSEL_CATALOGUE_FOLDER, "") == RADSEL_OK);
+    CHECK(radsel_list_makers(&list) == RADSEL_OK && radsel_list_count(list) == 0);
+    radsel_list_free(list);
+    CHECK(radsel_set_text(RADSEL_VALVE_FOLDER, path) == RADSEL_OK);
+    CHECK(radsel_list_valve_makers(&list) == RADSEL_BAD_FILE && list == NULL && tells(path));
+    CHECK(is(radsel_last_error_file(), path));
+    CHECK(radsel_set_text(RADSEL_VALVE_FOLDER, "") == RADSEL_OK);
+    CHECK(radsel_list_valve_makers(&list) == RADSEL_OK && radsel_list_count(list) == 0);
+    radsel_list_free(list);
+}
+
 /* ------------------------------------------------------------------ a host with callbacks */
 
 struct host
@@ -533,6 +552,7 @@ int main(int argc, char** argv)
     fetches_valves_of_the_folder_that_is_set(argv[2]);
     turns_points_into_text();
     tells_file_and_line(argv[2]);
+    tells_a_folder_that_is_not_there(argv[2]);
 
     radsel_host_init(&host, sizeof host);
     host.user = &user;

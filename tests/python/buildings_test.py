@@ -78,6 +78,7 @@ class BuildingsTest(unittest.TestCase):
     def test_what_is_refused_is_told(self):
         with self.assertRaisesRegex(radsel.RadselError, "^--system: .*110 °C"):
             size(system=(120, 100))
+        self.assertRaisesRegex(ValueError, "the supply and the return", size, system=55)
         with self.assertRaisesRegex(radsel.RadselError, "nessuno.json"):
             size("nessuno.json")
         with mock.patch.dict(os.environ, RADSEL_WORKBENCH="", PATH=""):

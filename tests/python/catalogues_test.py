@@ -87,6 +87,12 @@ class CataloguesTest(unittest.TestCase):
             self.assertRaises(ValueError, radsel.Temperatures, *wrong)
         self.assertRaises(ValueError, radsel.find_radiator, PANEL, math.nan)
         self.assertRaises(ValueError, radsel.find_radiator, radsel.Product("ä" * 128, "", ""), 900)
+        for sizes in [600, (700, 600), (600,), (math.nan, 600), ("a", 600)]:
+            with self.assertRaisesRegex(ValueError, "depth has to be the smallest and the largest"):
+                radsel.list_rows(PANEL, depth=sizes)
+        for ask in [lambda: radsel.find_radiator(PANEL, 900, (55, 45, 20)),
+                    lambda: radsel.output_factor((55, 45, 20))]:
+            self.assertRaisesRegex(ValueError, "has to be a radsel.Temperatures", ask)
         self.assertRaises(radsel.RadselError, radsel.use_folders, valves=VALVES / "nothing")
 
     def test_a_damaged_catalogue_is_told_with_file_and_line(self):

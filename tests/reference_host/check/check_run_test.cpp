@@ -135,13 +135,14 @@ TEST(CheckRun, EachFaultIsToldWithItsLineAndField)
          {"riga 4: al record 700 mancano i campi da 2 a 12",
           "riga 4: Record 700, campo 2 (tipo di valvola): 0 non è compreso tra 1 e 11",
           "riga 6: al record 800 manca il campo 1"}},
+        {"no valve, only the name", "ha.tga", "\xEF\xBB\xBF", {"il file non ha articoli"}},
         {"records without parent",
          "ha.tga",
          "110;1;B",
-         {"riga 1: il record 110 non ha un record 100 sopra di sé"}},
+         {"il file non ha articoli", "riga 1: il record 110 non ha un record 100 sopra di sé"}},
         {"numbers that are read otherwise",
          "ha.tga",
-         kValves + "700;1;12;15;0,9;;;;;;;1;;|710.01;1;2;;;1;;;0,25",
+         kValves + "700;1;12;15;0,9;;;;;;;1;;|710.01;1;2;;;1;;;0,25|800;" + number + ";B",
          {"riga 4: Record 700, campo 4 (kvs): i decimali si scrivono con il punto",
           "riga 4: Record 700, campo 2 (tipo di valvola): 12 non è compreso",
           "riga 5: Record 710.01, campo 8 (kv): i decimali si scrivono con il punto"}},
@@ -168,7 +169,8 @@ TEST(CheckRun, EachFaultIsToldWithItsLineAndField)
          {}},
         {"data sets",
          "ha.tga",
-         kValves + kDataSet + "710.02;1|710.01;2;2;;;2;;;0.3|700;1;2;15;0.9;;;;;;;1;;",
+         kValves + kDataSet + "710.02;1|710.01;2;2;;;2;;;0.3|700;1;2;15;0.9;;;;;;;1;;|800;" +
+             number + ";B",
          {"riga 7: Record 710.01: la riga non segue il suo record 700",
           "riga 8: Record 700, campo 1 (numero del gruppo di dati): il numero 1 è già",
           "riga 8: Record 700: la tabella kv non ha righe"}},
@@ -214,7 +216,7 @@ TEST(CheckRun, AFullTableIsToldOnce)
         lines += "|710.01;1;2;;;" + std::to_string(row) + ";;;0.25";
     }
     const CTempFolder folder;
-    folder.WriteBytes("ha.tga", Lines(lines));
+    folder.WriteBytes("ha.tga", Lines(lines + "|800;" + kNumber + "0;B"));
     EXPECT_EQ(
         Findings(folder, "ha.tga", Check({folder.Path()})),
         "riga 54: Record 710.01: la tabella kv ha 50 righe: il modulo segnala \"MAXKV\" a ogni "
@@ -273,6 +275,7 @@ TEST(CheckRun, WhatCannotBeLookedAtHasExitCodesOfItsOwn)
     } cases[] = {
         {{}, CheckExit::wrongArguments},
         {{L"--tutto"}, CheckExit::wrongArguments},
+        {{L"-x"}, CheckExit::wrongArguments},
         {{folder.Path("altro.txt")}, CheckExit::wrongArguments},
         {{folder.Path("hk.tga")}, CheckExit::unreadable},
         {{folder.Path("nessuno")}, CheckExit::unreadable},

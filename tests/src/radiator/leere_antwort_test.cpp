@@ -89,7 +89,8 @@ TEST_F(LeereAntwort, EachReasonOfASelectionIsToldInWords)
          L"limiti. La riga più vicina è \"T22\", altezza 600, profondità 100, lunghezza 1000 mm, "
          L"1700 W alle temperature di progetto, contenuto 6.3 l."},
         {[](Uebergabe& u) { u.Ruecklauf = u.Vorlauf; }, HostDiagnosis::noNearOutput,
-         L"Le temperature di mandata e di ritorno non danno una potenza: sono uguali."},
+         L"Le temperature di mandata e di ritorno non danno una potenza: sono uguali. La riga "
+         L"più vicina è \"T22\", altezza 600, profondità 100, lunghezza 400 mm, contenuto"},
         {[](Uebergabe& u) {
              u.Vorlauf = 5;
              u.Ruecklauf = 45;
