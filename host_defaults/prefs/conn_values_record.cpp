@@ -8,7 +8,7 @@ using namespace host_defaults;
 
 namespace {
 
-constexpr std::uint32_t kVersion = 1;
+constexpr std::uint32_t kConnValuesVersion = 1;
 
 void TransferFields(CArchive& archive, ConnValues& record)
 {
@@ -48,7 +48,7 @@ const CRuntimeClass& ConnValues::GetRuntimeClass() const
 
 void ConnValues::Serialize(CArchive& archive)
 {
-    TransferVersion(archive, kVersion);
+    TransferVersion(archive, kConnValuesVersion);
     if (archive.IsStoring()) {
         TransferFields(archive, *this);
         return;

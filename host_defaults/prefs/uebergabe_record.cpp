@@ -8,7 +8,7 @@ using namespace host_defaults;
 
 namespace {
 
-constexpr std::uint32_t kVersion = 1;
+constexpr std::uint32_t kUebergabeVersion = 1;
 
 void TransferFields(CArchive& archive, HK_DATEN_VDI3805_UEBERGABE& record)
 {
@@ -55,7 +55,7 @@ HK_DATEN_VDI3805_UEBERGABE::~HK_DATEN_VDI3805_UEBERGABE() = default;
 
 void HK_DATEN_VDI3805_UEBERGABE::Serialize(CArchive& archive)
 {
-    TransferVersion(archive, kVersion);
+    TransferVersion(archive, kUebergabeVersion);
     if (archive.IsStoring()) {
         TransferFields(archive, *this);
         return;

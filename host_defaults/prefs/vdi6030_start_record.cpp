@@ -8,7 +8,7 @@ using namespace host_defaults;
 
 namespace {
 
-constexpr std::uint32_t kVersion = 1;
+constexpr std::uint32_t kVdi6030StartVersion = 1;
 
 void TransferFields(CArchive& archive, VDI6030START& record)
 {
@@ -32,7 +32,7 @@ VDI6030START::~VDI6030START() = default;
 
 void VDI6030START::Serialize(CArchive& archive)
 {
-    TransferVersion(archive, kVersion);
+    TransferVersion(archive, kVdi6030StartVersion);
     if (archive.IsStoring()) {
         TransferFields(archive, *this);
         return;

@@ -8,7 +8,7 @@ using namespace host_defaults;
 
 namespace {
 
-constexpr std::uint32_t kVersion = 1;
+constexpr std::uint32_t kVentilKvVersion = 1;
 
 } // namespace
 
@@ -39,7 +39,7 @@ void VDI3805_VENTIL_KV::Init()
 
 void VDI3805_VENTIL_KV::Serialize(CArchive& archive)
 {
-    TransferVersion(archive, kVersion);
+    TransferVersion(archive, kVentilKvVersion);
     TransferAll(archive, Gruppe, Hauptgruppe, Bezeichnung, Hersteller, VentilNr, Einstellbar, DN,
                 VentilArt, VentilTyp, Kvs, Wert5, Wert6, DruckMax, Zusatz, AnzahlKv);
     if (AnzahlKv < 0 || AnzahlKv > kMaxKv) {

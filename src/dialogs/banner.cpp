@@ -7,7 +7,7 @@ namespace {
 
 constexpr COLORREF kBannerOben = 0xFDE061;
 constexpr COLORREF kBannerUnten = 0xFFFFFF;
-constexpr COLORREF kSchrift = RGB(0, 0, 0);
+constexpr COLORREF kBannerSchrift = RGB(0, 0, 0);
 constexpr int kSenkrecht = 900;
 constexpr int kEinzug = 4;
 constexpr int kAbstandUnten = 10;
@@ -38,7 +38,7 @@ void BannerZeichnen(const CWnd& control, bool schlicht)
     speicher.FillGradient(flaeche, kBannerOben, kBannerUnten);
     CString name;
     lmGetProductLongName(name);
-    speicher.TextOut({kEinzug, flaeche.Height() - kAbstandUnten}, name, kBannerFont, kSchrift,
+    speicher.TextOut({kEinzug, flaeche.Height() - kAbstandUnten}, name, kBannerFont, kBannerSchrift,
                      kSenkrecht);
     CClientDC(control).BitBlt({0, 0}, speicher);
 }
@@ -51,6 +51,6 @@ void FarbfeldZeichnen(const CWnd& control, COLORREF farbe)
     CClientDC dc(control);
     const CRect flaeche = control.GetClientRect();
     dc.FillRect(flaeche, farbe);
-    dc.SetPen(kSchrift, 1);
+    dc.SetPen(kBannerSchrift, 1);
     dc.Rectangle(flaeche);
 }

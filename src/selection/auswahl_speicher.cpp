@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr wchar_t kDateiName[] = L"HkAuswahl.def";
+constexpr wchar_t kAuswahlDatei[] = L"HkAuswahl.def";
 
 std::int32_t GanzeGrade(double temperatur)
 {
@@ -30,7 +30,7 @@ std::int32_t GanzeGrade(double temperatur)
 bool LayerVorgabe(const CString& raumname, CString& layer, int& farbe)
 {
     const auto* const letzte = static_cast<const HKAUSWAHL_UEBERGABE*>(
-        ReadDefFile(&HKAUSWAHL_UEBERGABE::GetThisClass(), kDateiName));
+        ReadDefFile(&HKAUSWAHL_UEBERGABE::GetThisClass(), kAuswahlDatei));
     if (letzte == nullptr || !layer.empty()) {
         return false;
     }
@@ -50,7 +50,7 @@ void LayerMerken(const CString& layer, int farbe)
     HKAUSWAHL_UEBERGABE auswahl;
     auswahl.Layer = layer;
     auswahl.LayerFarbe = farbe;
-    WriteDefFile(&auswahl, &HKAUSWAHL_UEBERGABE::GetThisClass(), kDateiName);
+    WriteDefFile(&auswahl, &HKAUSWAHL_UEBERGABE::GetThisClass(), kAuswahlDatei);
 }
 
 void AuswahlMerken(const HK_DATEN_VDI3805_UEBERGABE& uebergabe, const CString& systemName,

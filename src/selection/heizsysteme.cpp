@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr wchar_t kDateiName[] = L"CmbData.txt";
+constexpr wchar_t kHeizsystemeDatei[] = L"CmbData.txt";
 constexpr wchar_t kVorgabe[] = L"Standard (75/65)";
 constexpr wchar_t kTrenner = L'|';
 constexpr wchar_t kMarke = L'*';
@@ -126,7 +126,7 @@ bool ListeLesen(const CString& name, CAuswahlListe& liste, int gewerk)
     if (gewerk != kGewerkHeizung) {
         return false;
     }
-    const std::optional<CStringArray> zeilen = LeseZeilen(HeizungPfad(kDateiName));
+    const std::optional<CStringArray> zeilen = LeseZeilen(HeizungPfad(kHeizsystemeDatei));
     return zeilen && ListeAusZeilen(*zeilen, name, liste);
 }
 
@@ -136,7 +136,7 @@ bool ListeSchreiben(const CString& name, const CAuswahlListe& liste, int gewerk)
         return false;
     }
     try {
-        const CString pfad = HeizungPfad(kDateiName);
+        const CString pfad = HeizungPfad(kHeizsystemeDatei);
         const CFileLock sperre(pfad);
         std::optional<CStringArray> zeilen = LeseZeilenMitRest(pfad, name);
         if (!zeilen) {
@@ -176,7 +176,7 @@ void ListeInZeilen(CStringArray& zeilen, const CString& name, const CAuswahlList
 
 int SystemSuchen(CString& name, double vorlauf, double ruecklauf)
 {
-    const std::optional<CStringArray> zeilen = LeseZeilen(HeizungPfad(kDateiName));
+    const std::optional<CStringArray> zeilen = LeseZeilen(HeizungPfad(kHeizsystemeDatei));
     if (!zeilen) {
         return -1;
     }

@@ -15,8 +15,6 @@ namespace workbench {
 
 namespace {
 
-constexpr auto kLine = CJsonWriter::Layout::line;
-
 /// No room of a building reaches these; beyond them a unit was mistaken.
 constexpr double kLargestLength = kAnyDepth;
 constexpr double kLargestDemand = 50000.0;
@@ -56,7 +54,7 @@ CFloorRect ReadOutline(CJsonFields fields)
 
 void WriteOutline(CJsonWriter& writer, const CFloorRect& outline)
 {
-    writer.BeginObject("outline", kLine);
+    writer.BeginObject("outline", CJsonWriter::Layout::line);
     writer.Number("x", outline.x);
     writer.Number("y", outline.y);
     writer.Number("width", outline.breite);
@@ -110,7 +108,7 @@ CRadiatorPlace ReadPlace(CJsonFields& owner, const CRoom& room, const CRoomsOfFi
 void WritePlace(CJsonWriter& writer, const CRadiatorPlace& place)
 {
     const bool window = place.art == PlaceKind::window;
-    writer.BeginObject(nullptr, kLine);
+    writer.BeginObject(nullptr, CJsonWriter::Layout::line);
     writer.BeginObject(window ? "window" : "wall");
     writer.Number(window ? "sill" : "height", place.hoehe);
     writer.Number("width", place.breite);

@@ -16,7 +16,7 @@ namespace workbench {
 namespace {
 
 constexpr double kMarginShare = 0.08;
-constexpr double kPenWidth = 1.25;
+constexpr double kBlockPenWidth = 1.25;
 
 int SideOf(int asked, int standard)
 {
@@ -41,7 +41,7 @@ QTransform FitInto(const QImage& image, const QRectF& bounds)
 
 QPen PenOf(COLORREF color)
 {
-    QPen pen(QColor(GetRValue(color), GetGValue(color), GetBValue(color)), kPenWidth);
+    QPen pen(QColor(GetRValue(color), GetGValue(color), GetBValue(color)), kBlockPenWidth);
     pen.setJoinStyle(Qt::RoundJoin);
     pen.setCapStyle(Qt::RoundCap);
     return pen;

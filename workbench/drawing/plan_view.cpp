@@ -23,7 +23,7 @@ constexpr double kUnitsPerNotch = 120.0;
 constexpr int kStepsPerWindow = 8;
 
 /// Part of the content's size that is left free on every side.
-constexpr double kMarginShare = 0.04;
+constexpr double kViewMarginShare = 0.04;
 
 /// Shown around an empty plan, metres.
 constexpr double kEmptySide = 10.0;
@@ -35,7 +35,7 @@ QRectF FramedContent(const QGraphicsScene& scene)
         const QPointF half(kEmptySide / 2.0, kEmptySide / 2.0);
         content = QRectF(content.center() - half, content.center() + half);
     }
-    const double margin = kMarginShare * std::max(content.width(), content.height());
+    const double margin = kViewMarginShare * std::max(content.width(), content.height());
     return content.adjusted(-margin, -margin, margin, margin);
 }
 

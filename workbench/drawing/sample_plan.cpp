@@ -9,7 +9,7 @@ namespace workbench {
 
 namespace {
 
-constexpr double kPenWidth = 1.2;
+constexpr double kSamplePenWidth = 1.2;
 
 const QColor kWallColor(200, 200, 200);
 const QColor kWallEdge(90, 90, 90);
@@ -68,7 +68,7 @@ void CSamplePlan::AddRadiator(const CDxfDrawing& blocks, const CPlanRadiator& ra
 
 void CSamplePlan::Add(const QPainterPath& path, const QColor& pen, const QBrush& brush)
 {
-    auto* const item = new CHairlineItem(path, pen, kPenWidth);
+    auto* const item = new CHairlineItem(path, pen, kSamplePenWidth);
     item->setBrush(brush);
     m_scene.addItem(item);
 }

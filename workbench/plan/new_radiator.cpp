@@ -12,7 +12,7 @@ namespace {
 
 /// Metres that leave room for brackets behind a radiator.
 constexpr double kUsualWallDistance = 0.05;
-constexpr double kMillimetre = 0.001;
+constexpr double kMetreOfMillimetre = 0.001;
 
 /// The record has no other sign for "not set" than 0.
 std::optional<double> Kept(double distance)
@@ -79,7 +79,8 @@ void TakeStartDistances(CPlacedRadiator& radiator, const CBuilding& building,
                         const CRadiatorStart& start)
 {
     radiator.abstandWand = start.abstandWand.value_or(kUsualWallDistance);
-    radiator.abstandBoden = start.abstandBoden.value_or(kMillimetre * building.abstaende.boden);
+    radiator.abstandBoden =
+        start.abstandBoden.value_or(kMetreOfMillimetre * building.abstaende.boden);
 }
 
 void ConnectLikeLast(CPlacedRadiator& radiator, const CBuilding& building,

@@ -17,7 +17,7 @@ namespace {
 
 constexpr double kLeistung = 1000.0;
 constexpr double kRaumtemperatur = 20.0;
-constexpr CHeatingSystem kSystem{75.0, 65.0};
+constexpr CHeatingSystem kUsualSystem{75.0, 65.0};
 
 CString DescribeProdukt(const HK_DATEN_VDI3805_UEBERGABE& uebergabe)
 {
@@ -37,7 +37,7 @@ CString DescribePick(const HK_DATEN_VDI3805_UEBERGABE& uebergabe, bool confirmed
 
 ExitCode RunTreeDialog(const CArguments& arguments, std::ostream& out, std::ostream& err)
 {
-    const CHeatingSystem system = arguments.system.value_or(kSystem);
+    const CHeatingSystem system = arguments.system.value_or(kUsualSystem);
     if (kRaumtemperatur >= system.ruecklauf) {
         throw CArgumentException(L"--system: il ritorno non supera la temperatura del locale, " +
                                  FormatFixed(kRaumtemperatur, 0) + L" °C");

@@ -21,7 +21,7 @@ namespace {
 /// Thickness of an outer wall in metres.
 constexpr double kWall = 0.3;
 
-constexpr double kTitleHeight = 0.4;
+constexpr double kPlanTitleHeight = 0.4;
 constexpr double kSubtitleHeight = 0.2;
 constexpr double kRoomTextHeight = 0.16;
 constexpr double kLabelHeight = 0.1;
@@ -87,8 +87,8 @@ public:
         const double left = bounds.left() + m_dx;
         AddText(kLayerTexts, At(left, bounds.bottom() + 1.0), kSubtitleHeight, 0.0, DxfAlign::left,
                 m_building.strName + L", " + FormatSystem(m_building.system) + L" °C");
-        AddText(kLayerTexts, At(left, bounds.bottom() + 1.0 + 2.0 * kSubtitleHeight), kTitleHeight,
-                0.0, DxfAlign::left, floor.strName);
+        AddText(kLayerTexts, At(left, bounds.bottom() + 1.0 + 2.0 * kSubtitleHeight),
+                kPlanTitleHeight, 0.0, DxfAlign::left, floor.strName);
     }
 
 private:

@@ -31,7 +31,7 @@ constexpr double kTitleGap = 5.0;
 /// The list of contents stands beside the facts of the plant.
 constexpr double kContentsWidth = 95.0;
 constexpr double kContentHeight = 5.6;
-constexpr double kFootHeight = 8.0;
+constexpr double kPageFoot = 8.0;
 
 /// A plan at this scale or a larger one needs no larger paper.
 constexpr int kSmallPaperScale = 100;
@@ -164,7 +164,7 @@ private:
     {
         const QSizeF upright = m_paper.size(QPageSize::Millimeter);
         return QRectF(0.0, 0.0, upright.height(), upright.width())
-            .adjusted(kMargin, kMargin, -kMargin, -kMargin - kFootHeight);
+            .adjusted(kMargin, kMargin, -kMargin, -kMargin - kPageFoot);
     }
 
     QRectF PlanArea() const { return Area().adjusted(0.0, kHeadHeight, 0.0, 0.0); }
@@ -311,7 +311,7 @@ private:
     void PaintFoot(CReportSheet& sheet, std::size_t page) const
     {
         const QRectF area = Area();
-        const QRectF foot(area.left(), area.bottom() + 3.0, area.width(), kFootHeight - 3.0);
+        const QRectF foot(area.left(), area.bottom() + 3.0, area.width(), kPageFoot - 3.0);
         sheet.Line(foot.topLeft(), foot.topRight(), 0.15, kGrey);
         const CString& number = m_building.project.strNumber;
         const QRectF leftPart = foot.adjusted(0.0, 0.0, -foot.width() / 2 - 15.0, 0.0);

@@ -28,7 +28,7 @@ constexpr int kLargestBlockScale = 100;
 constexpr int kLargestNumberScale = 250;
 
 /// At the foot of the area for the bar of the scale and the colours' meaning.
-constexpr double kFootHeight = 12.0;
+constexpr double kPictureFoot = 12.0;
 
 constexpr double kHairline = 0.06;
 constexpr double kOutline = 0.13;
@@ -236,7 +236,7 @@ int CPlanPicture::GetScale(const QSizeF& area) const
     const QSizeF metres = m_walls.boundingRect().size();
     for (const int scale : kScales) {
         if (1000.0 * metres.width() / scale <= area.width() &&
-            1000.0 * metres.height() / scale <= area.height() - kFootHeight) {
+            1000.0 * metres.height() / scale <= area.height() - kPictureFoot) {
             return scale;
         }
     }
@@ -245,7 +245,7 @@ int CPlanPicture::GetScale(const QSizeF& area) const
 
 void CPlanPicture::Paint(CReportSheet& sheet, const QRectF& area, int scale) const
 {
-    const QRectF place = area.adjusted(0.0, 0.0, 0.0, -kFootHeight);
+    const QRectF place = area.adjusted(0.0, 0.0, 0.0, -kPictureFoot);
     CPlanPainter painter(sheet, m_walls.boundingRect(), place.center(), scale);
     painter.PaintWalls(m_walls);
     for (const auto& room : m_floor.rooms) {

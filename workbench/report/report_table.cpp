@@ -8,7 +8,7 @@ namespace workbench {
 
 namespace {
 
-constexpr double kTitleHeight = 9.0;
+constexpr double kTableTitleHeight = 9.0;
 constexpr double kHeadingsHeight = 6.5;
 constexpr double kRowHeight = 4.8;
 constexpr double kTableGap = 6.0;
@@ -28,7 +28,7 @@ double HeightOf(CTableLine::Kind kind)
 {
     switch (kind) {
     case CTableLine::Kind::title:
-        return kTitleHeight;
+        return kTableTitleHeight;
     case CTableLine::Kind::headings:
         return kHeadingsHeight;
     case CTableLine::Kind::row:
@@ -60,7 +60,7 @@ private:
     void AddTable(std::size_t table)
     {
         m_dTop += kTableGap;
-        if (m_pages.empty() || !HasSpace(kTitleHeight + kHeadingsHeight + 3.0 * kRowHeight)) {
+        if (m_pages.empty() || !HasSpace(kTableTitleHeight + kHeadingsHeight + 3.0 * kRowHeight)) {
             OpenPage();
         }
         AddHead(table, false);

@@ -14,8 +14,8 @@ namespace workbench {
 namespace {
 
 /// Signs are drawn in a square of this side, with y downwards.
-constexpr double kGrid = 24.0;
-constexpr double kStroke = 1.7;
+constexpr double kIconGrid = 24.0;
+constexpr double kIconStroke = 1.7;
 
 const QColor kProgramGround(24, 92, 150);
 const QColor kWarm(206, 84, 38);
@@ -52,7 +52,7 @@ void PaintUndo(QPainter& painter)
 
 void PaintRedo(QPainter& painter)
 {
-    painter.translate(kGrid, 0.0);
+    painter.translate(kIconGrid, 0.0);
     painter.scale(-1.0, 1.0);
     PaintUndo(painter);
 }
@@ -134,8 +134,8 @@ void PaintSign(QPainter& painter, const QRect& place, Painter paint, const QColo
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(place.topLeft());
-    painter.scale(place.width() / kGrid, place.height() / kGrid);
-    painter.setPen(QPen(color, kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.scale(place.width() / kIconGrid, place.height() / kIconGrid);
+    painter.setPen(QPen(color, kIconStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     paint(painter);
     painter.restore();
@@ -184,10 +184,10 @@ QIcon ProgramIcon()
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(side / kGrid, side / kGrid);
+        painter.scale(side / kIconGrid, side / kIconGrid);
         painter.setPen(Qt::NoPen);
         painter.setBrush(kProgramGround);
-        painter.drawRoundedRect(QRectF(0, 0, kGrid, kGrid), 4.5, 4.5);
+        painter.drawRoundedRect(QRectF(0, 0, kIconGrid, kIconGrid), 4.5, 4.5);
         painter.setBrush(Qt::white);
         PaintColumns(painter, 5.0, 17.0);
         painter.setBrush(kWarm);

@@ -9,12 +9,12 @@ namespace workbench {
 namespace {
 
 /// Signs are drawn in a square of this side.
-constexpr double kGrid = 16.0;
-constexpr double kStroke = 2.4;
+constexpr double kSignGrid = 16.0;
+constexpr double kSignStroke = 2.4;
 
 QPen InkPen(Coverage coverage)
 {
-    return {InkOf(coverage), kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+    return {InkOf(coverage), kSignStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
 /// An arrow that points beyond both sides.
@@ -96,7 +96,7 @@ void PaintSign(QPainter& painter, Coverage coverage, const QRectF& square)
 {
     painter.save();
     painter.translate(square.topLeft());
-    painter.scale(square.width() / kGrid, square.height() / kGrid);
+    painter.scale(square.width() / kSignGrid, square.height() / kSignGrid);
     painter.setPen(InkPen(coverage));
     painter.setBrush(Qt::NoBrush);
     switch (coverage) {

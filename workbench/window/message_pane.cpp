@@ -12,7 +12,7 @@ namespace workbench {
 namespace {
 
 /// Older ones go: nobody reads so many, and each keeps its lines.
-constexpr std::size_t kMost = 5000;
+constexpr std::size_t kMostMessages = 5000;
 
 QString PlainLines(const QString& text)
 {
@@ -57,8 +57,8 @@ void CMessagePane::Add(const std::vector<CNotice>& notices, std::optional<StateI
     for (const CNotice& notice : notices) {
         m_entries.push_back({notice, state});
     }
-    if (m_entries.size() > kMost) {
-        m_entries.erase(m_entries.begin(), m_entries.end() - std::ptrdiff_t(kMost));
+    if (m_entries.size() > kMostMessages) {
+        m_entries.erase(m_entries.begin(), m_entries.end() - std::ptrdiff_t(kMostMessages));
     }
     Rebuild();
 }

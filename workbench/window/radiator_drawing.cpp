@@ -41,7 +41,7 @@ constexpr double kLabelLine = 1.3;
 /// A label may be longer than the radiator, but not so long that it reaches its neighbour's.
 constexpr double kLabelReach = 1.5;
 /// Pixels of a radiator from which on it gets a label.
-constexpr double kLeastLabelled = 60.0;
+constexpr double kLeastLabelledLength = 60.0;
 
 /// How far the paper shines through the layer's colour in a radiator's body.
 constexpr double kPaperShare = 0.86;
@@ -211,7 +211,7 @@ void CRadiatorDrawing::PaintConnections(QPainter& painter) const
 
 bool CRadiatorDrawing::HasLabel(double scale) const
 {
-    return scale >= kBlockScale && m_pose.dLaenge * scale >= kLeastLabelled;
+    return scale >= kBlockScale && m_pose.dLaenge * scale >= kLeastLabelledLength;
 }
 
 QPointF CRadiatorDrawing::Inward() const

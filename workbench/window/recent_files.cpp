@@ -9,7 +9,7 @@ namespace workbench {
 namespace {
 
 constexpr wchar_t kSetting[] = L"WorkbenchRecent";
-constexpr std::size_t kMost = 8;
+constexpr std::size_t kMostFiles = 8;
 /// No path that a dialog gives has it.
 constexpr wchar_t kSeparator = L'\t';
 
@@ -47,7 +47,7 @@ void KeepRecentFile(const CString& path)
     }
     std::erase(paths, path);
     paths.insert(paths.begin(), path);
-    paths.resize(std::min(paths.size(), kMost));
+    paths.resize(std::min(paths.size(), kMostFiles));
     Keep(paths);
 }
 

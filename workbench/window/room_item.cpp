@@ -25,7 +25,7 @@ constexpr double kMostSign = 18.0;
 constexpr double kSignGap = 3.0;
 
 /// Pixels of a room's shorter side from which on it has texts.
-constexpr double kLeastLabelled = 24.0;
+constexpr double kLeastLabelledSide = 24.0;
 
 /// Metres that texts keep to walls and radiators.
 constexpr double kTextGap = 0.08;
@@ -149,7 +149,7 @@ void CRoomItem::PaintTexts(QPainter& painter, double scale) const
     const QRectF free = FreeArea(scale);
     const CPixelPainting inPixels(painter);
     PaintSign(painter, m_coverage, inPixels.Map(sign));
-    if (side >= kLeastLabelled && free.isValid()) {
+    if (side >= kLeastLabelledSide && free.isValid()) {
         // Of the plan's sizes: those of mapped areas differ in their last digits as the plan moves.
         m_label.Paint(painter, inPixels.Map(free.center()), free.size() * scale,
                       TakenCorner(free, sign) * scale, scale);

@@ -14,8 +14,8 @@ const CMessageMap& CWandAbDlg::GetMessageMap() const
     static const CMessageMap map(
         &CBrushedDialog::GetMessageMap(),
         {
-            On(ControlEvent::textChanged, idWand, &CWandAbDlg::OnTextGeaendert),
-            On(ControlEvent::textChanged, idBoden, &CWandAbDlg::OnTextGeaendert),
+            On(ControlEvent::textChanged, idAbstandWand, &CWandAbDlg::OnTextGeaendert),
+            On(ControlEvent::textChanged, idAbstandBoden, &CWandAbDlg::OnTextGeaendert),
         });
     return map;
 }
@@ -23,8 +23,8 @@ const CMessageMap& CWandAbDlg::GetMessageMap() const
 void CWandAbDlg::DoDataExchange(CDataExchange* pDX)
 {
     CBrushedDialog::DoDataExchange(pDX);
-    DDX_Text(pDX, idWand, m_TextWand);
-    DDX_Text(pDX, idBoden, m_TextBoden);
+    DDX_Text(pDX, idAbstandWand, m_TextWand);
+    DDX_Text(pDX, idAbstandBoden, m_TextBoden);
 }
 
 bool CWandAbDlg::OnInitDialog()
@@ -38,7 +38,7 @@ bool CWandAbDlg::OnInitDialog()
     m_TextWand = MeterToText(m_Start.AbstandWand);
     m_TextBoden = MeterToText(m_Start.AbstandBoden);
     UpdateData(false);
-    GetDlgItem(idWand).SetFocus();
+    GetDlgItem(idAbstandWand).SetFocus();
     return false;
 }
 

@@ -17,10 +17,10 @@ const DialogTemplate& WandAbTemplate()
 
             {kNoId, groupBox, L"Posiziona nel disegno", 22, 6, 146, 78},
             {kNoId, label, L"Distanza dal muro", 31, 33, 64, 9},
-            {idWand, edit, L"", 98, 31, 48, 13, styleRight},
+            {idAbstandWand, edit, L"", 98, 31, 48, 13, styleRight},
             {idEinheitWand, label, L"m", 150, 33, 14, 9},
             {kNoId, label, L"Distanza dal pav:", 31, 55, 64, 9},
-            {idBoden, edit, L"", 98, 53, 48, 13, styleRight},
+            {idAbstandBoden, edit, L"", 98, 53, 48, 13, styleRight},
             {idEinheitBoden, label, L"m", 150, 55, 14, 9},
 
             {kIdOk, defaultButton, L"OK", 64, 92, 50, 14},

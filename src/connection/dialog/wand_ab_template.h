@@ -5,9 +5,9 @@
 /// Controls of the dialog for the distances.
 enum WandAbControl : int
 {
-    idWand = 1529,
+    idAbstandWand = 1529,
     idEinheitWand = 7020,
-    idBoden = 1530,
+    idAbstandBoden = 1530,
     idEinheitBoden = 7023,
 };
 

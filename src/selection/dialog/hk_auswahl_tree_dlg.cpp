@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr wchar_t kPlatzierung[] = L"RADSEL_HK_AUSWAHL_TREE";
+constexpr wchar_t kBaumPlatzierung[] = L"RADSEL_HK_AUSWAHL_TREE";
 
 } // namespace
 
@@ -41,7 +41,7 @@ bool CHKAuswahlVdi3805TreeDlg::OnInitDialog()
     CResizingDialog::OnInitDialog();
     m_baum.Fuelle();
     SetzeAnker();
-    PlatzierungLaden(*this, kPlatzierung, nullptr, false);
+    PlatzierungLaden(*this, kBaumPlatzierung, nullptr, false);
     m_baum.WaehleVorgabe();
     SetExplorerTheme(m_baum);
     return true;
@@ -71,6 +71,6 @@ void CHKAuswahlVdi3805TreeDlg::OnBaumSelChanged(CNotify& notify)
 
 void CHKAuswahlVdi3805TreeDlg::OnOK()
 {
-    PlatzierungSpeichern(*this, kPlatzierung, &kDeckend);
+    PlatzierungSpeichern(*this, kBaumPlatzierung, &kDeckend);
     CResizingDialog::OnOK();
 }

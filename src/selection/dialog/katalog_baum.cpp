@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr int kIconKante = 16;
+constexpr int kBildKante = 16;
 constexpr std::intptr_t kPlatzhalter = -1;
 
 /// Places in the image list.
@@ -21,7 +21,7 @@ CImageList LadeBilder()
     const CImageLoader lader;
     CImageList bilder;
     for (const int nummer : {iconHersteller, iconProdukt}) {
-        bilder.Add(lader.LoadLumoIcon(nummer, kIconKante, kIconKante));
+        bilder.Add(lader.LoadLumoIcon(nummer, kBildKante, kBildKante));
     }
     return bilder;
 }

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kTitleIndent = 8;
+constexpr int kGroupTitleIndent = 8;
 constexpr int kTitleGap = 3;
 
 constexpr int kWordGap = 5;
@@ -132,7 +132,7 @@ void CGroupWidget::paintEvent(QPaintEvent* /*event*/)
         return;
     }
     const int width = metrics.horizontalAdvance(title());
-    const QRect area(kTitleIndent, 0, width + 2 * kTitleGap, metrics.height());
+    const QRect area(kGroupTitleIndent, 0, width + 2 * kTitleGap, metrics.height());
     painter.fillRect(area, palette().window());
     painter.setPen(
         palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
