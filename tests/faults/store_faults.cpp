@@ -16,7 +16,6 @@
 #include <iterator>
 #include <map>
 #include <random>
-#include <ranges>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -106,8 +105,11 @@ void RestoreFiles(const fs::path& folder, const CFiles& files)
 
 std::set<fs::path> NamesOf(const CFiles& files)
 {
-    const auto names = std::views::keys(files);
-    return {names.begin(), names.end()};
+    std::set<fs::path> names;
+    for (const auto& [path, bytes] : files) {
+        names.insert(path);
+    }
+    return names;
 }
 
 /// Kills processes that store numbers; two of them also look whether each keeps its own.

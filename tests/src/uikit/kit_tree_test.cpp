@@ -145,7 +145,7 @@ TEST_F(KitTree, PointingAtAnItemThatIsCutTellsTheWhole)
     Run([&](CDialogUser&) {
         Fill();
         const std::wstring words(400, L'w');
-        const HTREEITEM wide = m_dialog.tree.InsertItem(words.c_str(), -1, -1, nullptr);
+        const HTREEITEM wide = m_dialog.tree.InsertItem(words, -1, -1, nullptr);
         QCoreApplication::processEvents();
         const auto tip = [&](HTREEITEM item) {
             const int y = Middle(item).y();
