@@ -3,6 +3,8 @@
 #include "c_interface/records/texts.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <iterator>
 #include <string>
 
@@ -21,33 +23,148 @@ Record Empty()
     return record;
 }
 
-void CopyTable(const VDI3805_VENTIL_KV::Table& from, float (&to)[RADSEL_MAX_KV])
+/// Copies a field of the module's record into that of the C record.
+struct CToC
+{
+    template <class Number>
+    void operator()(Number& field, const Number& own) const
+    {
+        field = own;
+    }
+
+    template <class Number, std::size_t size>
+    void operator()(Number (&field)[size], const std::array<Number, size>& own) const
+    {
+        std::copy(own.begin(), own.end(), field);
+    }
+
+    template <std::size_t size>
+    void operator()(char (&field)[size], const CString& own) const
+    {
+        WriteField(field, own);
+    }
+
+    void operator()(int& letter, wchar_t own) const
+    {
+        letter = static_cast<int>(std::char_traits<wchar_t>::to_int_type(own));
+    }
+};
+
+/// Copies a field of the C record into that of the module's record.
+struct CFromC
+{
+    template <class Number>
+    void operator()(const Number& field, Number& own) const
+    {
+        own = field;
+    }
+
+    template <class Number, std::size_t size>
+    void operator()(const Number (&field)[size], std::array<Number, size>& own) const
+    {
+        std::copy(std::begin(field), std::end(field), own.begin());
+    }
+
+    template <std::size_t size>
+    void operator()(const char (&field)[size], CString& own) const
+    {
+        own = ReadField(field);
+    }
+
+    void operator()(int letter, wchar_t& own) const { own = static_cast<wchar_t>(letter); }
+};
+
+// Which field of a C record is which of the module's, once for both ways.
+
+template <class Copy, class Radiator, class Daten>
+void EachFieldOfRadiator(Copy copy, Radiator& radiator, Daten& daten)
+{
+    copy(radiator.height, daten.Hoehe);
+    copy(radiator.depth, daten.Tiefe);
+    copy(radiator.length, daten.Laenge);
+    copy(radiator.output_en442, daten.LeistungEN442);
+    copy(radiator.output, daten.Leistung);
+    copy(radiator.sections, daten.Elemente);
+    copy(radiator.form, daten.Bauart);
+    copy(radiator.exponent, daten.Exponent);
+    copy(radiator.water, daten.Inhalt);
+}
+
+template <class Copy, class Request, class Uebergabe>
+void EachFieldOfRequest(Copy copy, Request& request, Uebergabe& uebergabe)
+{
+    copy(request.maker, uebergabe.Hersteller);
+    copy(request.kind, uebergabe.Art);
+    copy(request.product, uebergabe.Produkt);
+    copy(request.output, uebergabe.Leistung);
+    copy(request.min_output, uebergabe.LeistungMin);
+    copy(request.max_output, uebergabe.LeistungMax);
+    copy(request.tolerance, uebergabe.Toleranz);
+    copy(request.min_length, uebergabe.LaengeMin);
+    copy(request.max_length, uebergabe.LaengeMax);
+    copy(request.min_height, uebergabe.HoeheMin);
+    copy(request.max_height, uebergabe.HoeheMax);
+    copy(request.min_depth, uebergabe.TiefeMin);
+    copy(request.max_depth, uebergabe.TiefeMax);
+    copy(request.supply_temperature, uebergabe.Vorlauf);
+    copy(request.return_temperature, uebergabe.Ruecklauf);
+    copy(request.room_temperature, uebergabe.Raumtemperatur);
+    copy(request.factor, uebergabe.Umrechnungsfaktor);
+    copy(request.room, uebergabe.Raumname);
+    copy(request.room_demand, uebergabe.RaumBedarf);
+    copy(request.room_covered, uebergabe.RaumGedeckt);
+    copy(request.reread, uebergabe.NeuLesen);
+    copy(request.type_name, uebergabe.TypName);
+    EachFieldOfRadiator(copy, request.chosen, uebergabe.Daten);
+}
+
+template <class Copy, class Valve, class Ventil>
+void EachFieldOfValve(Copy copy, Valve& valve, Ventil& ventil)
 {
     static_assert(VDI3805_VENTIL_KV::kMaxKv == RADSEL_MAX_KV);
-    std::copy(from.begin(), from.end(), to);
+    copy(valve.maker, ventil.Hersteller);
+    copy(valve.number, ventil.VentilNr);
+    copy(valve.name, ventil.Bezeichnung);
+    copy(valve.main_group, ventil.Hauptgruppe);
+    copy(valve.group, ventil.Gruppe);
+    copy(valve.note, ventil.Zusatz);
+    copy(valve.nominal_diameter, ventil.DN);
+    copy(valve.presettable, ventil.Einstellbar);
+    copy(valve.kind, ventil.VentilArt);
+    copy(valve.type, ventil.VentilTyp);
+    copy(valve.row_count, ventil.AnzahlKv);
+    copy(valve.kvs, ventil.Kvs);
+    copy(valve.max_pressure, ventil.DruckMax);
+    copy(valve.value5, ventil.Wert5);
+    copy(valve.value6, ventil.Wert6);
+    copy(valve.proportional_band, ventil.Xp);
+    copy(valve.bypass_kv, ventil.KvBypass);
+    copy(valve.radiator_kv, ventil.KvHK);
+    copy(valve.radiator_share, ventil.AnteilHK);
+    copy(valve.kv, ventil.Kv);
+    copy(valve.row_kvs, ventil.KvsTab);
+    copy(valve.presetting, ventil.Einstellung);
 }
 
-void CopyTable(const float (&from)[RADSEL_MAX_KV], VDI3805_VENTIL_KV::Table& to)
+template <class Copy, class Connection, class Anschluss>
+void EachFieldOfConnection(Copy copy, Connection& connection, Anschluss& anschluss)
 {
-    std::copy(std::begin(from), std::end(from), to.begin());
-}
-
-void CopyPoint(const ConnVector& position, const ConnVector& offset, const ConnVector& winkel,
-               double seitAbstand, radsel_point& point)
-{
-    std::copy(position.begin(), position.end(), point.position);
-    std::copy(offset.begin(), offset.end(), point.offset);
-    std::copy(winkel.begin(), winkel.end(), point.angle);
-    point.side_distance = seitAbstand;
-}
-
-void CopyPoint(const radsel_point& point, ConnVector& position, ConnVector& offset,
-               ConnVector& winkel, double& seitAbstand)
-{
-    std::copy(std::begin(point.position), std::end(point.position), position.begin());
-    std::copy(std::begin(point.offset), std::end(point.offset), offset.begin());
-    std::copy(std::begin(point.angle), std::end(point.angle), winkel.begin());
-    seitAbstand = point.side_distance;
+    copy(connection.name, anschluss.Name);
+    copy(connection.flow.position, anschluss.PosAN);
+    copy(connection.flow.offset, anschluss.OffsetAN);
+    copy(connection.flow.angle, anschluss.WinkelAN);
+    copy(connection.flow.side_distance, anschluss.SeitAbstandAN);
+    copy(connection.ret.position, anschluss.PosRI);
+    copy(connection.ret.offset, anschluss.OffsetRI);
+    copy(connection.ret.angle, anschluss.WinkelRI);
+    copy(connection.ret.side_distance, anschluss.SeitAbstandRI);
+    copy(connection.crossing_distance, anschluss.KreuzAbstand);
+    copy(connection.crossing_kind, anschluss.KreuzTyp);
+    copy(connection.wall_distance, anschluss.WandAbstand);
+    copy(connection.flow_text, anschluss.AnschlussAN);
+    copy(connection.return_text, anschluss.AnschlussRI);
+    copy(connection.flow_graphic, anschluss.GrafikAN);
+    copy(connection.return_graphic, anschluss.GrafikRI);
 }
 
 } // namespace
@@ -55,30 +172,14 @@ void CopyPoint(const radsel_point& point, ConnVector& position, ConnVector& offs
 radsel_radiator ToC(const HK_DATEN_VDI3805& daten)
 {
     radsel_radiator radiator = {};
-    radiator.height = daten.Hoehe;
-    radiator.depth = daten.Tiefe;
-    radiator.length = daten.Laenge;
-    radiator.output_en442 = daten.LeistungEN442;
-    radiator.output = daten.Leistung;
-    radiator.sections = daten.Elemente;
-    radiator.form = static_cast<int>(std::char_traits<wchar_t>::to_int_type(daten.Bauart));
-    radiator.exponent = daten.Exponent;
-    radiator.water = daten.Inhalt;
+    EachFieldOfRadiator(CToC(), radiator, daten);
     return radiator;
 }
 
 HK_DATEN_VDI3805 FromC(const radsel_radiator& radiator)
 {
     HK_DATEN_VDI3805 daten;
-    daten.Hoehe = radiator.height;
-    daten.Tiefe = radiator.depth;
-    daten.Laenge = radiator.length;
-    daten.LeistungEN442 = radiator.output_en442;
-    daten.Leistung = radiator.output;
-    daten.Elemente = radiator.sections;
-    daten.Bauart = static_cast<wchar_t>(radiator.form);
-    daten.Exponent = radiator.exponent;
-    daten.Inhalt = radiator.water;
+    EachFieldOfRadiator(CFromC(), radiator, daten);
     return daten;
 }
 
@@ -98,140 +199,33 @@ void FromC(const radsel_row& record, HK_VDI3805_TYP& row)
 
 void ToC(const HK_DATEN_VDI3805_UEBERGABE& uebergabe, radsel_request& request)
 {
-    WriteField(request.maker, uebergabe.Hersteller);
-    WriteField(request.kind, uebergabe.Art);
-    WriteField(request.product, uebergabe.Produkt);
-    request.output = uebergabe.Leistung;
-    request.min_output = uebergabe.LeistungMin;
-    request.max_output = uebergabe.LeistungMax;
-    request.tolerance = uebergabe.Toleranz;
-    request.min_length = uebergabe.LaengeMin;
-    request.max_length = uebergabe.LaengeMax;
-    request.min_height = uebergabe.HoeheMin;
-    request.max_height = uebergabe.HoeheMax;
-    request.min_depth = uebergabe.TiefeMin;
-    request.max_depth = uebergabe.TiefeMax;
-    request.supply_temperature = uebergabe.Vorlauf;
-    request.return_temperature = uebergabe.Ruecklauf;
-    request.room_temperature = uebergabe.Raumtemperatur;
-    request.factor = uebergabe.Umrechnungsfaktor;
-    WriteField(request.room, uebergabe.Raumname);
-    request.room_demand = uebergabe.RaumBedarf;
-    request.room_covered = uebergabe.RaumGedeckt;
-    request.reread = uebergabe.NeuLesen;
-    WriteField(request.type_name, uebergabe.TypName);
-    request.chosen = ToC(uebergabe.Daten);
+    EachFieldOfRequest(CToC(), request, uebergabe);
 }
 
 void FromC(const radsel_request& request, HK_DATEN_VDI3805_UEBERGABE& uebergabe)
 {
-    uebergabe.Hersteller = ReadField(request.maker);
-    uebergabe.Art = ReadField(request.kind);
-    uebergabe.Produkt = ReadField(request.product);
-    uebergabe.Leistung = request.output;
-    uebergabe.LeistungMin = request.min_output;
-    uebergabe.LeistungMax = request.max_output;
-    uebergabe.Toleranz = request.tolerance;
-    uebergabe.LaengeMin = request.min_length;
-    uebergabe.LaengeMax = request.max_length;
-    uebergabe.HoeheMin = request.min_height;
-    uebergabe.HoeheMax = request.max_height;
-    uebergabe.TiefeMin = request.min_depth;
-    uebergabe.TiefeMax = request.max_depth;
-    uebergabe.Vorlauf = request.supply_temperature;
-    uebergabe.Ruecklauf = request.return_temperature;
-    uebergabe.Raumtemperatur = request.room_temperature;
-    uebergabe.Umrechnungsfaktor = request.factor;
-    uebergabe.Raumname = ReadField(request.room);
-    uebergabe.RaumBedarf = request.room_demand;
-    uebergabe.RaumGedeckt = request.room_covered;
-    uebergabe.NeuLesen = request.reread;
-    uebergabe.TypName = ReadField(request.type_name);
-    uebergabe.Daten = FromC(request.chosen);
+    EachFieldOfRequest(CFromC(), request, uebergabe);
 }
 
 void ToC(const VDI3805_VENTIL_KV& ventil, radsel_valve& valve)
 {
-    WriteField(valve.maker, ventil.Hersteller);
-    WriteField(valve.number, ventil.VentilNr);
-    WriteField(valve.name, ventil.Bezeichnung);
-    WriteField(valve.main_group, ventil.Hauptgruppe);
-    WriteField(valve.group, ventil.Gruppe);
-    WriteField(valve.note, ventil.Zusatz);
-    valve.nominal_diameter = ventil.DN;
-    valve.presettable = ventil.Einstellbar;
-    valve.kind = ventil.VentilArt;
-    valve.type = ventil.VentilTyp;
-    valve.row_count = ventil.AnzahlKv;
-    valve.kvs = ventil.Kvs;
-    valve.max_pressure = ventil.DruckMax;
-    valve.value5 = ventil.Wert5;
-    valve.value6 = ventil.Wert6;
-    CopyTable(ventil.Xp, valve.proportional_band);
-    CopyTable(ventil.KvBypass, valve.bypass_kv);
-    CopyTable(ventil.KvHK, valve.radiator_kv);
-    CopyTable(ventil.AnteilHK, valve.radiator_share);
-    CopyTable(ventil.Kv, valve.kv);
-    CopyTable(ventil.KvsTab, valve.row_kvs);
-    CopyTable(ventil.Einstellung, valve.presetting);
+    EachFieldOfValve(CToC(), valve, ventil);
 }
 
 void FromC(const radsel_valve& valve, VDI3805_VENTIL_KV& ventil)
 {
-    ventil.Hersteller = ReadField(valve.maker);
-    ventil.VentilNr = ReadField(valve.number);
-    ventil.Bezeichnung = ReadField(valve.name);
-    ventil.Hauptgruppe = ReadField(valve.main_group);
-    ventil.Gruppe = ReadField(valve.group);
-    ventil.Zusatz = ReadField(valve.note);
-    ventil.DN = valve.nominal_diameter;
-    ventil.Einstellbar = valve.presettable;
-    ventil.VentilArt = valve.kind;
-    ventil.VentilTyp = valve.type;
-    ventil.AnzahlKv = std::clamp(valve.row_count, 0, RADSEL_MAX_KV);
-    ventil.Kvs = valve.kvs;
-    ventil.DruckMax = valve.max_pressure;
-    ventil.Wert5 = valve.value5;
-    ventil.Wert6 = valve.value6;
-    CopyTable(valve.proportional_band, ventil.Xp);
-    CopyTable(valve.bypass_kv, ventil.KvBypass);
-    CopyTable(valve.radiator_kv, ventil.KvHK);
-    CopyTable(valve.radiator_share, ventil.AnteilHK);
-    CopyTable(valve.kv, ventil.Kv);
-    CopyTable(valve.row_kvs, ventil.KvsTab);
-    CopyTable(valve.presetting, ventil.Einstellung);
+    EachFieldOfValve(CFromC(), valve, ventil);
+    ventil.AnzahlKv = std::clamp(ventil.AnzahlKv, 0, RADSEL_MAX_KV);
 }
 
 void ToC(const ConnValues& anschluss, radsel_connection& connection)
 {
-    WriteField(connection.name, anschluss.Name);
-    CopyPoint(anschluss.PosAN, anschluss.OffsetAN, anschluss.WinkelAN, anschluss.SeitAbstandAN,
-              connection.flow);
-    CopyPoint(anschluss.PosRI, anschluss.OffsetRI, anschluss.WinkelRI, anschluss.SeitAbstandRI,
-              connection.ret);
-    connection.crossing_distance = anschluss.KreuzAbstand;
-    connection.crossing_kind = anschluss.KreuzTyp;
-    connection.wall_distance = anschluss.WandAbstand;
-    WriteField(connection.flow_text, anschluss.AnschlussAN);
-    WriteField(connection.return_text, anschluss.AnschlussRI);
-    WriteField(connection.flow_graphic, anschluss.GrafikAN);
-    WriteField(connection.return_graphic, anschluss.GrafikRI);
+    EachFieldOfConnection(CToC(), connection, anschluss);
 }
 
 void FromC(const radsel_connection& connection, ConnValues& anschluss)
 {
-    anschluss.Name = ReadField(connection.name);
-    CopyPoint(connection.flow, anschluss.PosAN, anschluss.OffsetAN, anschluss.WinkelAN,
-              anschluss.SeitAbstandAN);
-    CopyPoint(connection.ret, anschluss.PosRI, anschluss.OffsetRI, anschluss.WinkelRI,
-              anschluss.SeitAbstandRI);
-    anschluss.KreuzAbstand = connection.crossing_distance;
-    anschluss.KreuzTyp = connection.crossing_kind;
-    anschluss.WandAbstand = connection.wall_distance;
-    anschluss.AnschlussAN = ReadField(connection.flow_text);
-    anschluss.AnschlussRI = ReadField(connection.return_text);
-    anschluss.GrafikAN = ReadField(connection.flow_graphic);
-    anschluss.GrafikRI = ReadField(connection.return_graphic);
+    EachFieldOfConnection(CFromC(), connection, anschluss);
 }
 
 radsel_row DefaultRow()
