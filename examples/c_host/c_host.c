@@ -44,6 +44,7 @@ static int get_text(void* user, int setting, char* buffer, size_t capacity)
 {
     const struct cad* cad = user;
     const char* text;
+    size_t length;
     switch (setting) {
     case RADSEL_VALVE_FOLDER:
         text = cad->valves;
@@ -57,10 +58,11 @@ static int get_text(void* user, int setting, char* buffer, size_t capacity)
     default:
         return RADSEL_NOTHING; /* the library's default */
     }
-    if (strlen(text) >= capacity) {
+    length = strlen(text);
+    if (length >= capacity) {
         return radsel_host_failure("the path is too long", NULL, 0);
     }
-    strcpy(buffer, text);
+    memcpy(buffer, text, length + 1);
     return RADSEL_OK;
 }
 
