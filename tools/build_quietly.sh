@@ -1,10 +1,9 @@
 #!/usr/bin/env bash
-# Configures and builds a target. On standard error it says how far it is: on a terminal one line that
+# Configures as a preset of CMakePresets.json says, and builds a target in its folder. On standard error it says how far it is: on a terminal one line that
 # moves, elsewhere a line for every quarter. What the tools say is shown only if they fail.
-#   tools/build_quietly.sh BUILD TARGET CMAKE-OPTION...
+#   tools/build_quietly.sh SOURCES PRESET TARGET
 set -euo pipefail
-build=$1 target=$2
-shift 2
+sources=$1 preset=$2 target=$3
 
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
@@ -30,7 +29,8 @@ show_progress() {
     [[ ! -t 2 || ${all:-0} -le $few ]] || printf '\n' >&2
 }
 
-if ! { cmake -B "$build" -G Ninja "$@" && cmake --build "$build" --target "$target"; } 2>&1 |
+cd "$sources"
+if ! { cmake --preset "$preset" && cmake --build --preset "$preset" --target "$target"; } 2>&1 |
     show_progress; then
     cat "$log" >&2
     exit 1

@@ -32,14 +32,14 @@ struct CToC
         field = own;
     }
 
-    template <class Number, std::size_t size>
-    void operator()(Number (&field)[size], const std::array<Number, size>& own) const
+    template <class Number, std::size_t Size>
+    void operator()(Number (&field)[Size], const std::array<Number, Size>& own) const
     {
         std::copy(own.begin(), own.end(), field);
     }
 
-    template <std::size_t size>
-    void operator()(char (&field)[size], const CString& own) const
+    template <std::size_t Size>
+    void operator()(char (&field)[Size], const CString& own) const
     {
         WriteField(field, own);
     }
@@ -59,14 +59,14 @@ struct CFromC
         own = field;
     }
 
-    template <class Number, std::size_t size>
-    void operator()(const Number (&field)[size], std::array<Number, size>& own) const
+    template <class Number, std::size_t Size>
+    void operator()(const Number (&field)[Size], std::array<Number, Size>& own) const
     {
         std::copy(std::begin(field), std::end(field), own.begin());
     }
 
-    template <std::size_t size>
-    void operator()(const char (&field)[size], CString& own) const
+    template <std::size_t Size>
+    void operator()(const char (&field)[Size], CString& own) const
     {
         own = ReadField(field);
     }

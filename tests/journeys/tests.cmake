@@ -10,6 +10,6 @@ set_target_properties(radsel_finder PROPERTIES AUTOMOC ON
 foreach(journey enter_key valve_dialog connection_dialog radiator_dialog small_screen workbench)
     add_test(NAME journey_${journey} COMMAND ${CMAKE_CURRENT_LIST_DIR}/${journey}_journey.sh
         $<TARGET_FILE:radsel_workbench> ${PROJECT_SOURCE_DIR}/data ${finder_folder})
-    set_tests_properties(journey_${journey} PROPERTIES TIMEOUT 180 ENVIRONMENT
+    set_tests_properties(journey_${journey} PROPERTIES TIMEOUT 180 COST 10 ENVIRONMENT
         LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/support/toolkit_leaks.txt)
 endforeach()
