@@ -1,9 +1,9 @@
 #include "reference_host/check/check_path.h"
 
-#include "platform/encoding.h"
 #include "platform/exception.h"
 #include "platform/format.h"
 #include "platform/path.h"
+#include "platform/system_error.h"
 #include "reference_host/check/check_texts.h"
 #include "reference_host/check/radiator_check.h"
 #include "reference_host/check/valve_check.h"
@@ -29,8 +29,7 @@ using CFolderPath = std::vector<fs::path>;
 
 void CannotRead(const fs::path& place, const std::error_code& error, CCheckReport& report)
 {
-    report.unreadable.push_back(
-        FormatFileFault({0, WideFromUtf8(error.message()), TextFromPath(place)}));
+    report.unreadable.push_back(FormatFileFault({0, ReasonOf(error), TextFromPath(place)}));
 }
 
 void CheckShortListFile(const CString& file, CCheckReport& report)
