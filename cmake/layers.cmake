@@ -8,6 +8,8 @@
 #
 #   TARGET name     another name than the folder's
 #   SHARED          a shared library, PROGRAM a program
+#   ARCHIVE         a static library that is installed: its objects are for every linker, and for the
+#                   optimiser of none
 #   PARTS sub...    subfolders that belong to the room
 #   TOOLKIT how     `inside`: only sources and parts know the toolkit, the room's headers do not;
 #                   `open`: the room's headers may show it. Without it the room is free of it.
@@ -58,7 +60,7 @@ function(radsel_is_left_out variable toolkit)
 endfunction()
 
 function(radsel_layer folder)
-    cmake_parse_arguments(room "SHARED;PROGRAM" "TARGET;TOOLKIT" "PARTS;USES;OFFERS;LINKS" ${ARGN})
+    cmake_parse_arguments(room "SHARED;PROGRAM;ARCHIVE" "TARGET;TOOLKIT" "PARTS;USES;OFFERS;LINKS" ${ARGN})
     set(kind STATIC)
     if(room_SHARED)
         set(kind SHARED)
@@ -123,6 +125,9 @@ function(radsel_layer folder)
     endif()
     if(NOT room_TOOLKIT STREQUAL none)
         set_target_properties(${target} PROPERTIES AUTOMOC ON)
+    endif()
+    if(room_ARCHIVE)
+        target_compile_options(${target} PRIVATE -fno-lto)
     endif()
     # A program's few sources are compiled quickly; its options differ from those of other programs.
     if(NOT room_PROGRAM)
