@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <iterator>
 #include <map>
+#include <set>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -81,8 +82,13 @@ void CheckFile(Checker check, const fs::path& file, CCheckReport& report)
 {
     const auto before = static_cast<std::ptrdiff_t>(report.findings.size());
     check(TextFromPath(file), report);
-    std::ranges::stable_sort(report.findings.begin() + before, report.findings.end(), {},
-                             &CFileFault::nLine);
+    const auto comesBefore = [](const CFileFault& a, const CFileFault& b) {
+        return a.nLine < b.nLine;
+    };
+    const auto found = report.findings.begin() + before;
+    const std::multiset<CFileFault, decltype(comesBefore)> sorted(found, report.findings.end(),
+                                                                  comesBefore);
+    std::ranges::copy(sorted, found);
 }
 
 /// Makers are told from each other by the names of their folders.
