@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
+constexpr mode_t kWriteBits = S_IWUSR | S_IWGRP | S_IWOTH;
 
 int FlagsOf(FileAccess access)
 {
@@ -35,7 +35,7 @@ int OpenDescriptor(const std::filesystem::path& file, FileAccess access)
         errno = S_ISDIR(status.st_mode) ? EISDIR : EACCES;
         return -1;
     }
-    if (access != FileAccess::read && (status.st_mode & kAnyWriteBit) == 0) {
+    if (access != FileAccess::read && (status.st_mode & kWriteBits) == 0) {
         errno = EACCES;
         return -1;
     }

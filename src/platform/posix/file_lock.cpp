@@ -17,7 +17,7 @@ namespace {
 
 /// Longer than anyone takes to replace a small file on a slow disk, shorter than anyone waits for a
 /// window that does not answer.
-constexpr std::chrono::seconds kPatience{5};
+constexpr std::chrono::seconds kLockPatience{5};
 constexpr std::chrono::microseconds kNap{500};
 
 int OpenFolderOf(const CString& path)
@@ -31,7 +31,7 @@ int OpenFolderOf(const CString& path)
 
 bool WaitForLock(int descriptor)
 {
-    const auto end = std::chrono::steady_clock::now() + kPatience;
+    const auto end = std::chrono::steady_clock::now() + kLockPatience;
     while (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
         const bool isHeld = errno == EWOULDBLOCK || errno == EINTR;
         if (!isHeld || std::chrono::steady_clock::now() >= end) {

@@ -12,7 +12,7 @@ namespace {
 
 /// Longer than anyone takes to replace a small file on a slow disk, shorter than anyone waits for a
 /// window that does not answer.
-constexpr DWORD kPatience = 5000; // ms
+constexpr DWORD kLockPatience = 5000; // ms
 
 std::optional<CFolderKey> FolderOf(const CString& path)
 {
@@ -57,7 +57,7 @@ CFileLock::~CFileLock()
 /// A program that ends while it holds the lock leaves it to the next one.
 bool CFileLock::Take(std::intptr_t lock)
 {
-    const DWORD answer = WaitForSingleObject(reinterpret_cast<HANDLE>(lock), kPatience);
+    const DWORD answer = WaitForSingleObject(reinterpret_cast<HANDLE>(lock), kLockPatience);
     if (answer != WAIT_OBJECT_0 && answer != WAIT_ABANDONED) {
         return false;
     }
