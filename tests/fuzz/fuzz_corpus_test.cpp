@@ -31,4 +31,4 @@ INSTANTIATE_TEST_SUITE_P(Targets, CFuzzCorpusTest,
                                          CFuzzTarget{"platzierung", RunPlatzierung, kFewer},
                                          CFuzzTarget{"settings", RunSettings, kFewer},
                                          CFuzzTarget{"def_file", RunDefFile, kFewer}),
-                         [](const auto& info) { return std::string(info.param.lpszName); });
+                         [](const auto& each) { return std::string(each.param.lpszName); });
