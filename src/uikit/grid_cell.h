@@ -39,6 +39,8 @@ public:
     /// Makes it a cell of data type text.
     void SetText(const CString& text);
     const CString& GetText() const { return m_text; }
+    /// The text, to be written in place. The data type stays as it is.
+    CString& EditText() { return m_text; }
 
     /// Decimals of SetNumber(), 0 to 9; 0 in a new cell.
     void SetDecimals(int decimals) { m_decimals = decimals; }
