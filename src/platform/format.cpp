@@ -32,7 +32,9 @@ std::optional<unsigned long long> InLastPlaces(double value, int decimals)
     if (!(scaled < kMostDigits)) {
         return std::nullopt;
     }
-    const auto whole = static_cast<long long>(scaled + 0.5);
+    // Cutting off rounds well enough: what lies near a half goes the long way.
+    const double raised = scaled + 0.5;
+    const auto whole = static_cast<long long>(raised);
     if (std::fabs(scaled - static_cast<double>(whole)) >= kCertain) {
         return std::nullopt;
     }

@@ -64,6 +64,8 @@ public:
     void SetTypeFlag(int flag) { m_typeFlag = flag; }
     int GetTypeFlag() const { return m_typeFlag; }
 
+    bool operator==(const CUGCell& other) const = default;
+
 private:
     CString m_text;
     int m_decimals = 0;

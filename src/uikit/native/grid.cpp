@@ -204,12 +204,12 @@ void CUGCtrl::BestFit(int first, int count, int rows, int narrowest)
     const int begin = qMax(first, 0);
     const int end = qMin(count, GetColumnCount());
     std::vector<int> widths(static_cast<std::size_t>(qMax(end, 0)));
-    // Row by row, as the cells lie in memory. Rows that follow each other mostly share texts.
+    // Row by row, as the cells lie in memory. Rows that follow each other mostly share cells.
     const CUGCell* above = nullptr;
     for (int row = -1; row < qMin(rows, GetRowCount()); ++row) {
         const CUGCell* const cells = m_cells->Find(0, row);
         for (int column = begin; column < end; ++column) {
-            if (row < 1 || cells[column].GetText() != above[column].GetText()) {
+            if (row < 1 || cells[column] != above[column]) {
                 int& width = widths[static_cast<std::size_t>(column)];
                 width = qMax(width, view->Paint().CellWidth(cells[column]) + kFitMargin);
             }
