@@ -34,6 +34,12 @@ constexpr double kNear = 16.0;
 /// A room in the middle of its wing.
 constexpr CRoomRef kMiddle{0, 110};
 
+const CBuilding& LargeFloor()
+{
+    static const CBuilding building = MakeLargeFloor(kRooms);
+    return building;
+}
+
 /// Needs an application.
 class CPlanRun
 {
@@ -46,7 +52,7 @@ public:
                         &valves);
     }
 
-    const CBuilding building = MakeLargeFloor(kRooms);
+    const CBuilding building = LargeFloor();
     CFloorScene scene;
 };
 
@@ -155,11 +161,12 @@ void FloorMeasured(benchmark::State& state)
     }
 }
 
-BENCHMARK(PanMeasured)->Name("plan_pan/measured")->Unit(benchmark::kMillisecond);
-BENCHMARK(PanMarkedMeasured)->Name("plan_pan_marked/measured")->Unit(benchmark::kMillisecond);
-BENCHMARK(PanNearMeasured)->Name("plan_pan_near/measured")->Unit(benchmark::kMillisecond);
-BENCHMARK(ZoomMeasured)->Name("plan_zoom/measured")->Unit(benchmark::kMillisecond);
-BENCHMARK(ChangeMeasured)->Name("plan_change/measured")->Unit(benchmark::kMillisecond);
-BENCHMARK(FloorMeasured)->Name("plan_floor/measured")->Unit(benchmark::kMillisecond);
+// A number of frames that is fixed, since each call makes a plan of its own.
+BENCHMARK(PanMeasured)->Name("plan_pan/measured")->Iterations(20);
+BENCHMARK(PanMarkedMeasured)->Name("plan_pan_marked/measured")->Iterations(20);
+BENCHMARK(PanNearMeasured)->Name("plan_pan_near/measured")->Iterations(20);
+BENCHMARK(ZoomMeasured)->Name("plan_zoom/measured")->Iterations(20);
+BENCHMARK(ChangeMeasured)->Name("plan_change/measured")->Iterations(50);
+BENCHMARK(FloorMeasured)->Name("plan_floor/measured")->Iterations(2);
 
 } // namespace

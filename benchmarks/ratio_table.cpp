@@ -1,6 +1,7 @@
 #include "benchmarks/ratio_table.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <functional>
 #include <iterator>
@@ -8,11 +9,24 @@
 
 namespace {
 
-double Median(std::vector<double> values)
+/// The value below which that part of the values lies.
+double Quantile(std::vector<double> values, double part)
 {
-    const auto middle = values.begin() + std::ssize(values) / 2;
-    std::ranges::nth_element(values, middle);
-    return *middle;
+    const auto last = static_cast<double>(values.size() - 1);
+    const auto place = values.begin() + std::lround(part * last);
+    std::ranges::nth_element(values, place);
+    return *place;
+}
+
+double Median(const std::vector<double>& values)
+{
+    return Quantile(values, 0.5);
+}
+
+/// Half the room that the middle half of the values takes, in percent of the median.
+double Spread(const std::vector<double>& values)
+{
+    return 50.0 * (Quantile(values, 0.75) - Quantile(values, 0.25)) / Median(values);
 }
 
 } // namespace
@@ -40,12 +54,12 @@ void CRatioReporter::ReportRuns(const std::vector<Run>& runs)
     }
 }
 
-double CRatioReporter::MedianRatio(const std::string& key) const
+std::vector<double> CRatioReporter::Ratios(const std::string& key) const
 {
     const std::vector<double>& floor = Times(key + "/floor");
     std::vector<double> ratios = Times(key + "/measured");
     std::ranges::transform(ratios, floor, ratios.begin(), std::divides());
-    return Median(std::move(ratios));
+    return ratios;
 }
 
 bool CRatioReporter::IsComplete(const RatioLine& line) const
@@ -58,39 +72,44 @@ bool CRatioReporter::IsComplete(const RatioLine& line) const
     return measured > 0 && (line.floor.empty() || rounds(line.key + "/floor") == measured);
 }
 
-bool CRatioReporter::PrintTable(const std::vector<RatioLine>& lines) const
+Outcome CRatioReporter::PrintTable(const std::vector<RatioLine>& lines) const
 {
-    std::printf("%-46s %-44s %14s %14s %7s %7s %8s\n", "what", "floor", "measured", "floor",
-                "ratio", "reach", "limit");
-    bool reached = !m_failed;
+    std::printf("%-46s %-34s %12s %12s %7s %7s %8s %8s\n", "what", "floor", "measured", "floor",
+                "ratio", "reach", "reach", "steady");
+    Outcome outcome = m_failed ? Outcome::failed : Outcome::reached;
     for (const RatioLine& line : lines) {
         if (!IsComplete(line)) {
             std::printf("%-46s not measured\n", line.what.c_str());
-            reached = false;
-            continue;
+            outcome = Outcome::failed;
+        } else if (!PrintLine(line)) {
+            outcome = std::max(outcome, Outcome::beyond);
         }
-        reached = PrintLine(line) && reached;
     }
-    return reached;
+    return outcome;
 }
 
 bool CRatioReporter::PrintLine(const RatioLine& line) const
 {
-    const double measured = Median(Times(line.key + "/measured"));
+    const std::vector<double>& times = Times(line.key + "/measured");
+    const double measured = Median(times);
     bool reached = true;
-    std::printf("%-46s %-44s %11.1f us ", line.what.c_str(), line.floor.c_str(), measured / 1.0e3);
+    double spread = Spread(times);
+    std::printf("%-46s %-34s %9.1f us ", line.what.c_str(), line.floor.c_str(), measured / 1.0e3);
     if (line.floor.empty()) {
-        std::printf("%14s %7s %7s", "", "", "");
+        std::printf("%12s %7s %7s", "", "", "");
     } else {
         const double floor = Median(Times(line.key + "/floor"));
-        const double ratio = MedianRatio(line.key);
-        reached = ratio <= line.reach;
-        std::printf("%11.1f us %6.2fx %6.2fx", floor / 1.0e3, ratio, line.reach);
+        const std::vector<double> ratios = Ratios(line.key);
+        reached = Median(ratios) <= line.reach;
+        spread = Spread(ratios);
+        std::printf("%9.1f us %6.2fx %6.2fx", floor / 1.0e3, Median(ratios), line.reach);
     }
     if (line.milliseconds > 0.0) {
         reached = reached && measured <= line.milliseconds * 1.0e6;
         std::printf(" %5.0f ms", line.milliseconds);
+    } else {
+        std::printf(" %8s", "");
     }
-    std::printf("%s\n", reached ? "" : "  missed");
+    std::printf(" +-%4.1f %%%s\n", spread, reached ? "" : "  beyond its reach");
     return reached;
 }

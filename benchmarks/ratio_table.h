@@ -8,7 +8,7 @@
 
 /// A line of the table: what is measured, against which floor, and the ratio to reach. The two
 /// benchmarks of a line are registered as "<key>/measured" and "<key>/floor". A line without a
-/// floor has an empty one and a limit in milliseconds alone.
+/// floor has an empty one and a reach in milliseconds alone.
 struct RatioLine
 {
     std::string key;
@@ -17,6 +17,16 @@ struct RatioLine
     double reach = 0.0;
     /// What the measured one may take by itself; 0 if nothing says so.
     double milliseconds = 0.0;
+};
+
+/// What a run came to.
+enum class Outcome
+{
+    reached,
+    /// A ratio or a time lies beyond its reach.
+    beyond,
+    /// A line was not measured, or a benchmark told of an error.
+    failed
 };
 
 /// Collects the times of a run, which measures both sides of each line in round after round, and
@@ -28,16 +38,17 @@ public:
     bool ReportContext(const Context& context) override;
     void ReportRuns(const std::vector<Run>& runs) override;
 
-    /// Prints the table, times as medians; false if a ratio or a time lies above what is to be
-    /// reached, if a line was not measured, or if a benchmark told of an error.
-    bool PrintTable(const std::vector<RatioLine>& lines) const;
+    /// Prints the table, times as medians, and marks what lies beyond its reach. The last column
+    /// tells how steady a line is: half of the rounds lie that near to the median.
+    Outcome PrintTable(const std::vector<RatioLine>& lines) const;
 
 private:
     /// False if a side of the line is missing in any round.
     bool IsComplete(const RatioLine& line) const;
+    /// False if the line is beyond its reach.
     bool PrintLine(const RatioLine& line) const;
     const std::vector<double>& Times(const std::string& name) const { return m_times.at(name); }
-    double MedianRatio(const std::string& key) const;
+    std::vector<double> Ratios(const std::string& key) const;
 
     /// CPU times of the rounds in nanoseconds by benchmark name.
     std::map<std::string, std::vector<double>> m_times;

@@ -22,10 +22,11 @@ constexpr double kMostDigits = 1e15;
 constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
 
 /// The size of the number in units of its last place. None where the product, which is rounded
-/// itself, lies so near a half that it might go to the other side of it than the number does.
-std::optional<long long> InLastPlaces(double value, int decimals)
+/// itself, lies so near a half that it might go to the other side of it than the number does: below
+/// the most digits it is off by a sixteenth at most.
+std::optional<unsigned long long> InLastPlaces(double value, int decimals)
 {
-    constexpr double kCertain = 0.25;
+    constexpr double kCertain = 0.5 - 1.0 / 16;
     if (decimals >= static_cast<int>(std::size(kPowersOfTen))) {
         return std::nullopt;
     }
@@ -33,26 +34,34 @@ std::optional<long long> InLastPlaces(double value, int decimals)
     if (!(scaled < kMostDigits)) {
         return std::nullopt;
     }
-    const double whole = std::nearbyint(scaled);
-    if (std::fabs(scaled - whole) >= kCertain) {
+    // Cutting off rounds well enough: what lies near a half goes the long way.
+    const double raised = scaled + 0.5;
+    const auto whole = static_cast<long long>(raised);
+    if (std::fabs(scaled - static_cast<double>(whole)) >= kCertain) {
         return std::nullopt;
     }
-    return static_cast<long long>(whole);
+    return static_cast<unsigned long long>(whole);
 }
 
-void AssignDigits(CString& text, long long lastPlaces, int decimals, bool isNegative)
+void AssignDigits(CString& text, unsigned long long lastPlaces, int decimals, bool isNegative)
 {
     // 15 digits, a sign and a point; a number of zeros where all of them are decimals.
     std::array<wchar_t, 20> buffer;
     wchar_t* const end = buffer.data() + buffer.size();
     wchar_t* first = end;
-    for (int digits = 0; lastPlaces != 0 || digits <= decimals; ++digits) {
-        if (digits == decimals && decimals > 0) {
-            *--first = L'.';
-        }
+    const auto putDigit = [&] {
         *--first = static_cast<wchar_t>(L'0' + lastPlaces % 10);
         lastPlaces /= 10;
+    };
+    for (int digits = 0; digits < decimals; ++digits) {
+        putDigit();
     }
+    if (decimals > 0) {
+        *--first = L'.';
+    }
+    do {
+        putDigit();
+    } while (lastPlaces != 0);
     if (isNegative) {
         *--first = L'-';
     }

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -37,19 +38,46 @@ bool IsPerSection(wchar_t bauart)
     return bauart == L'S' || bauart == L's';
 }
 
-bool Within(double low, double value, double high)
+/// Both ends inclusive.
+struct Range
 {
-    return low <= value && value <= high;
-}
+    double low;
+    double high;
 
-/// How far a value lies outside of a range.
-double Beyond(double low, double value, double high)
-{
-    if (Within(low, value, high)) {
-        return 0.0;
+    bool Holds(double value) const { return low <= value && value <= high; }
+
+    /// How far a value lies outside, infinite where one of the numbers is none.
+    double Beyond(double value) const
+    {
+        if (Holds(value)) {
+            return 0.0;
+        }
+        const double beyond = std::fmax(low - value, value - high);
+        return beyond > 0.0 ? beyond : std::numeric_limits<double>::infinity();
     }
-    const double beyond = std::fmax(low - value, value - high);
-    return beyond > 0.0 ? beyond : std::numeric_limits<double>::infinity();
+};
+
+/// What a catalogue row gives as a radiator.
+struct Outputs
+{
+    double sections;
+    double standard;
+    double design;
+};
+
+inline Outputs ComputeOutputs(const HK_DATEN_VDI3805& row, double factor)
+{
+    Outputs outputs{0.0, row.LeistungEN442, 0.0};
+    if (IsPerMetre(row.Bauart)) {
+        outputs.standard = row.LeistungEN442 * row.Laenge / kMillimetresPerMetre;
+    } else if (IsPerSection(row.Bauart)) {
+        outputs.sections = row.Elemente;
+        outputs.standard = row.LeistungEN442 * row.Elemente;
+    }
+    outputs.standard = WholeWatts(outputs.standard);
+    // From the rounded standard output, so that the two columns of a row agree with each other.
+    outputs.design = WholeWatts(outputs.standard * factor);
+    return outputs;
 }
 
 double BoundOrDerived(double bound, double derived)
@@ -96,6 +124,42 @@ private:
 };
 
 } // namespace
+
+struct CHKVdi3805::RowTests
+{
+    Range height;
+    Range depth;
+    Range length;
+    /// None where output is left open.
+    std::optional<Range> output;
+
+    bool PassesSize(const HK_VDI3805_TYP& row) const
+    {
+        return height.Holds(row.Daten.Hoehe) && depth.Holds(row.Daten.Tiefe) && PassesLength(row);
+    }
+
+    bool PassesLength(const HK_VDI3805_TYP& row) const
+    {
+        const double own = row.Daten.Laenge;
+        if (length.Holds(own)) {
+            return true;
+        }
+        // A series that ends below the range keeps its longest row, so that the user sees the
+        // nearest thing to a fit. The product's last row is not followed by a shorter one and gets
+        // no such chance.
+        const double next = row.pNext != nullptr ? row.pNext->Daten.Laenge : own;
+        return own > next && own < length.high;
+    }
+
+    bool PassesOutput(const HK_DATEN_VDI3805& row, double designOutput) const
+    {
+        if (output) {
+            return output->Holds(designOutput);
+        }
+        // A single section is no radiator as long as output is left open.
+        return !IsPerSection(row.Bauart) || row.Elemente > 1.0;
+    }
+};
 
 CHKVdi3805::CHKVdi3805(HK_DATEN_VDI3805_UEBERGABE* daten)
     : m_pDaten(daten),
@@ -195,13 +259,30 @@ void CHKVdi3805::FindPosition(double standardLeistung)
     m_pProdukt = FindProdukt(m_pArt, m_pDaten->Produkt);
 }
 
+CHKVdi3805::RowTests CHKVdi3805::Tests() const
+{
+    RowTests tests{{m_pDaten->HoeheMin - m_Toleranz, m_pDaten->HoeheMax + m_Toleranz},
+                   {m_pDaten->TiefeMin, m_pDaten->TiefeMax},
+                   {m_pDaten->LaengeMin, m_pDaten->LaengeMax},
+                   std::nullopt};
+    if (m_bLeistungFilter != 0) {
+        tests.output = {m_LeistungMin, m_LeistungMax};
+    }
+    return tests;
+}
+
 void CHKVdi3805::CollectRows()
 {
+    const RowTests tests = Tests();
+    const double factor = m_pDaten->Umrechnungsfaktor;
     int count = 0;
     HK_VDI3805_TYP* last = nullptr;
     for (const HK_VDI3805_TYP* row = m_pProdukt->pTyp; row != nullptr; row = row->pNext) {
-        const Outputs outputs = ComputeOutputs(row->Daten);
-        if (m_bAlle == 0 && !PassesTests(*row, outputs.design)) {
+        if (m_bAlle == 0 && !tests.PassesSize(*row)) {
+            continue;
+        }
+        const Outputs outputs = ComputeOutputs(row->Daten, factor);
+        if (m_bAlle == 0 && !tests.PassesOutput(row->Daten, outputs.design)) {
             continue;
         }
         if (++count > kMaxKatalogZeilen) {
@@ -219,59 +300,14 @@ void CHKVdi3805::CollectRows()
     }
 }
 
-CHKVdi3805::Outputs CHKVdi3805::ComputeOutputs(const HK_DATEN_VDI3805& row) const
-{
-    Outputs outputs{0.0, row.LeistungEN442, 0.0};
-    if (IsPerMetre(row.Bauart)) {
-        outputs.standard = row.LeistungEN442 * row.Laenge / kMillimetresPerMetre;
-    } else if (IsPerSection(row.Bauart)) {
-        outputs.sections = row.Elemente;
-        outputs.standard = row.LeistungEN442 * row.Elemente;
-    }
-    outputs.standard = WholeWatts(outputs.standard);
-    // From the rounded standard output, so that the two columns of a row agree with each other.
-    outputs.design = WholeWatts(outputs.standard * m_pDaten->Umrechnungsfaktor);
-    return outputs;
-}
-
-bool CHKVdi3805::PassesTests(const HK_VDI3805_TYP& row, double designOutput) const
-{
-    const HK_DATEN_VDI3805& size = row.Daten;
-    return Within(m_pDaten->HoeheMin - m_Toleranz, size.Hoehe, m_pDaten->HoeheMax + m_Toleranz) &&
-           Within(m_pDaten->TiefeMin, size.Tiefe, m_pDaten->TiefeMax) && PassesLength(row) &&
-           PassesOutput(size, designOutput);
-}
-
 CHKVdi3805::CVerfehlung CHKVdi3805::Verfehlung(const HK_VDI3805_TYP& row) const
 {
+    const RowTests tests = Tests();
     const HK_DATEN_VDI3805& size = row.Daten;
-    const double leistung = ComputeOutputs(size).design;
-    return {Beyond(m_pDaten->HoeheMin - m_Toleranz, size.Hoehe, m_pDaten->HoeheMax + m_Toleranz),
-            Beyond(m_pDaten->TiefeMin, size.Tiefe, m_pDaten->TiefeMax),
-            PassesLength(row) ? 0.0 : Beyond(m_pDaten->LaengeMin, size.Laenge, m_pDaten->LaengeMax),
-            !PassesOutput(size, leistung), leistung};
-}
-
-bool CHKVdi3805::PassesLength(const HK_VDI3805_TYP& row) const
-{
-    const double length = row.Daten.Laenge;
-    if (Within(m_pDaten->LaengeMin, length, m_pDaten->LaengeMax)) {
-        return true;
-    }
-    // A series that ends below the range keeps its longest row, so that the user sees the nearest
-    // thing to a fit. The product's last row is not followed by a shorter one and gets no such
-    // chance.
-    const double nextLength = row.pNext != nullptr ? row.pNext->Daten.Laenge : length;
-    return length > nextLength && length < m_pDaten->LaengeMax;
-}
-
-bool CHKVdi3805::PassesOutput(const HK_DATEN_VDI3805& row, double designOutput) const
-{
-    if (m_bLeistungFilter != 0) {
-        return Within(m_LeistungMin, designOutput, m_LeistungMax);
-    }
-    // A single section is no radiator as long as output is left open.
-    return !IsPerSection(row.Bauart) || row.Elemente > 1.0;
+    const double leistung = ComputeOutputs(size, m_pDaten->Umrechnungsfaktor).design;
+    return {tests.height.Beyond(size.Hoehe), tests.depth.Beyond(size.Tiefe),
+            tests.PassesLength(row) ? 0.0 : tests.length.Beyond(size.Laenge),
+            !tests.PassesOutput(size, leistung), leistung};
 }
 
 int CHKVdi3805::BesteAuswahl()

@@ -96,23 +96,15 @@ public:
     void SetErsterLauf(bool ersterLauf) { m_bErsterLauf = ersterLauf ? 1 : 0; }
 
 private:
-    /// What a catalogue row gives as a radiator.
-    struct Outputs
-    {
-        double sections;
-        double standard;
-        double design;
-    };
+    /// What a row has to pass. A pass over a whole catalogue takes it out of the records once.
+    struct RowTests;
 
     void UpdateLeistungsBand();
     void PutRowsAside();
     HK_VDI3805_TYP* NewRow();
     void FindPosition(double standardLeistung);
     void CollectRows();
-    Outputs ComputeOutputs(const HK_DATEN_VDI3805& row) const;
-    bool PassesTests(const HK_VDI3805_TYP& row, double designOutput) const;
-    bool PassesLength(const HK_VDI3805_TYP& row) const;
-    bool PassesOutput(const HK_DATEN_VDI3805& row, double designOutput) const;
+    RowTests Tests() const;
 
     HK_VDI3805_TYP* m_pErgebnis = nullptr;
     /// Rows of an earlier pass, for the next one: a dialog runs a pass with each key, and making

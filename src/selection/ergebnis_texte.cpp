@@ -3,6 +3,8 @@
 #include "platform/format.h"
 #include "platform/number_scan.h"
 
+#include <bit>
+#include <cstdint>
 #include <iterator>
 #include <string_view>
 
@@ -94,12 +96,25 @@ CString SpaltenTooltip(int spalte)
     return IsSpalte(spalte) ? ErgebnisText(kSpaltenTexte[spalte].tooltip) : CString();
 }
 
-void ZellTexte(const HK_VDI3805_TYP& zeile, ErgebnisTexte& texte)
+void ZellText(const HK_VDI3805_TYP& zeile, int spalte, CString& text)
 {
-    texte[0] = zeile.Name;
-    for (std::size_t i = 0; i < std::size(kZahlen); ++i) {
-        AssignFixed(texte[i + 1], zeile.Daten.*kZahlen[i].wert, kZahlen[i].stellen);
+    if (spalte == 0) {
+        text = zeile.Name;
+    } else {
+        const CZahlenSpalte& zahl = kZahlen[spalte - 1];
+        AssignFixed(text, zeile.Daten.*zahl.wert, zahl.stellen);
     }
+}
+
+bool HabenDenselbenWert(const HK_VDI3805_TYP& eine, const HK_VDI3805_TYP& andere, int spalte)
+{
+    if (spalte == 0) {
+        return eine.Name == andere.Name;
+    }
+    // By their bits: zeros of both signs are equal but have different texts.
+    const auto wert = kZahlen[spalte - 1].wert;
+    return std::bit_cast<std::uint64_t>(eine.Daten.*wert) ==
+           std::bit_cast<std::uint64_t>(andere.Daten.*wert);
 }
 
 int VergleicheZellen(const CErgebnisZelle& erste, const CErgebnisZelle& zweite, bool absteigend)

@@ -3,8 +3,6 @@
 #include "frame/handover.h"
 #include "platform/text.h"
 
-#include <array>
-
 /// Columns of the result grid. Column 0 is text, all others are numbers.
 inline constexpr int kErgebnisSpalten = 8;
 
@@ -17,8 +15,6 @@ inline constexpr int kSpalteLeistung = 5;
 /// Row that addresses the headings.
 inline constexpr int kErgebnisKopf = -1;
 
-using ErgebnisTexte = std::array<CString, kErgebnisSpalten>;
-
 /// Texts of the grid by number: 1 the caption of its message, 2 to 8 and 17 the headings, 9 to 15
 /// and 18 the tooltips, 16 the message. A number outside 1 to 18 gives an empty text.
 CString ErgebnisText(int nummer);
@@ -27,9 +23,13 @@ CString ErgebnisText(int nummer);
 CString SpaltenTitel(int spalte);
 CString SpaltenTooltip(int spalte);
 
-/// Cell texts of a result row: whole numbers, but for the water content, which has one decimal. The
-/// grid keeps nothing else, so that what is sorted and selected by is what the user sees.
-void ZellTexte(const HK_VDI3805_TYP& zeile, ErgebnisTexte& texte);
+/// Makes `text` what a column of the grid (0 to 7) shows of a result row: whole numbers, but for
+/// the water content, which has one decimal. The grid keeps nothing else, so that what is sorted
+/// and selected by is what the user sees.
+void ZellText(const HK_VDI3805_TYP& zeile, int spalte, CString& text);
+
+/// True if that column shows two rows by the same value, and hence by the same text.
+bool HabenDenselbenWert(const HK_VDI3805_TYP& eine, const HK_VDI3805_TYP& andere, int spalte);
 
 enum class ZellArt
 {

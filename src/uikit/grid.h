@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 
 /// Parts of a grid.
 enum class GridSection
@@ -62,8 +63,9 @@ public:
     int GetColumnCount() const;
     int GetRowCount() const;
 
-    /// Adds a row of empty cells at the end.
-    void AppendRow();
+    /// Adds a row at the end with copies of these cells from the left; further ones are empty, and
+    /// what is too much is left out.
+    void AppendRow(std::span<const CUGCell> cells = {});
     /// False if there is no such row.
     bool DeleteRow(int row);
 

@@ -39,6 +39,8 @@ public:
     /// Makes it a cell of data type text.
     void SetText(const CString& text);
     const CString& GetText() const { return m_text; }
+    /// The text, to be written in place. The data type stays as it is.
+    CString& EditText() { return m_text; }
 
     /// Decimals of SetNumber(), 0 to 9; 0 in a new cell.
     void SetDecimals(int decimals) { m_decimals = decimals; }
@@ -61,6 +63,8 @@ public:
     /// A value that means something to the cell type: kSortArrowAscending or kSortArrowDescending.
     void SetTypeFlag(int flag) { m_typeFlag = flag; }
     int GetTypeFlag() const { return m_typeFlag; }
+
+    bool operator==(const CUGCell& other) const = default;
 
 private:
     CString m_text;

@@ -48,6 +48,11 @@ CHKAuswahlVdi3805Grid::CHKAuswahlVdi3805Grid(CHKAuswahlVdi3805Dlg& dialog)
     : m_pDialog(&dialog), m_strTitel(ErgebnisText(kTextTitel))
 {
     m_Sortierung.fill(true);
+    for (CUGCell& zelle : m_zeile) {
+        zelle.SetDataType(GridDataType::number);
+        zelle.SetAlignment(GridAlign::right);
+    }
+    m_zeile.front().Clear();
 }
 
 CHKAuswahlVdi3805Grid::~CHKAuswahlVdi3805Grid() = default;
@@ -204,25 +209,22 @@ void CHKAuswahlVdi3805Grid::Erweitern()
 
 void CHKAuswahlVdi3805Grid::ZeilenEinfuegen()
 {
-    ErgebnisTexte texte;
     for (const HK_VDI3805_TYP* zeile = Kriterien().m_pVdi->GetErgebnis(); zeile != nullptr;
          zeile = zeile->pNext) {
-        ZellTexte(*zeile, texte);
-        FuegeZeileHinzu(texte);
+        FuegeZeileHinzu(*zeile);
         ++m_nZeilen;
     }
 }
 
-void CHKAuswahlVdi3805Grid::FuegeZeileHinzu(const ErgebnisTexte& texte)
+/// Rows that follow each other mostly have the same sizes, whose texts stand in the cells already.
+void CHKAuswahlVdi3805Grid::FuegeZeileHinzu(const HK_VDI3805_TYP& zeile)
 {
-    AppendRow();
-    const int zeile = GetRowCount() - 1;
     for (int spalte = 0; spalte < kErgebnisSpalten; ++spalte) {
-        m_zelle.SetText(texte[static_cast<std::size_t>(spalte)]);
-        m_zelle.SetDataType(spalte > 0 ? GridDataType::number : GridDataType::text);
-        m_zelle.SetAlignment(spalte > 0 ? GridAlign::right : GridAlign::left);
-        SetCell(spalte, zeile, m_zelle);
+        if (zeile.pPrev == nullptr || !HabenDenselbenWert(*zeile.pPrev, zeile, spalte)) {
+            ZellText(zeile, spalte, m_zeile[static_cast<std::size_t>(spalte)].EditText());
+        }
     }
+    AppendRow(m_zeile);
 }
 
 void CHKAuswahlVdi3805Grid::ZeilenLeeren()

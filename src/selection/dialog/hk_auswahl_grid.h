@@ -66,7 +66,7 @@ private:
     int BesteOderErweiterte();
     void Erweitern();
     void ZeilenEinfuegen();
-    void FuegeZeileHinzu(const ErgebnisTexte& texte);
+    void FuegeZeileHinzu(const HK_VDI3805_TYP& zeile);
     void SetzeKopf();
     void SetzeSortPfeile();
     void ZeigeRichtung(int spalte, bool aufsteigend);
@@ -82,8 +82,8 @@ private:
     CString m_strTitel;
     /// Cell type of headings that show a direction.
     int m_nSortPfeil = kGridSortArrowType;
-    /// One cell for all writes of a rebuild, so that writing a cell allocates no memory.
-    CUGCell m_zelle;
+    /// The cells of one row for all rows of a rebuild, so that writing them allocates no memory.
+    std::array<CUGCell, kErgebnisSpalten> m_zeile;
     /// Beside the grid's own font, for cells of figures in columns and of signs.
     CFont m_festeSchrift;
     CFont m_symbolSchrift;

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -82,9 +83,9 @@ int CUGCtrl::GetRowCount() const
     return m_cells->GetRowCount();
 }
 
-void CUGCtrl::AppendRow()
+void CUGCtrl::AppendRow(std::span<const CUGCell> cells)
 {
-    m_cells->AppendRow();
+    m_cells->AppendRow(cells);
 }
 
 bool CUGCtrl::DeleteRow(int row)
@@ -200,11 +201,23 @@ void CUGCtrl::BestFit(int first, int count, int rows, int narrowest)
     }
     const int inside = view->contentsRect().width();
     const int widest = inside > 0 ? inside : kWidthBeforeLayout;
-    for (int column = qMax(first, 0); column < qMin(count, GetColumnCount()); ++column) {
-        int width = 0;
-        for (int row = -1; row < qMin(rows, GetRowCount()); ++row) {
-            width = qMax(width, view->Paint().CellWidth(*m_cells->Find(column, row)) + kFitMargin);
+    const int begin = qMax(first, 0);
+    const int end = qMin(count, GetColumnCount());
+    std::vector<int> widths(static_cast<std::size_t>(qMax(end, 0)));
+    // Row by row, as the cells lie in memory. Rows that follow each other mostly share cells.
+    const CUGCell* above = nullptr;
+    for (int row = -1; row < qMin(rows, GetRowCount()); ++row) {
+        const CUGCell* const cells = m_cells->Find(0, row);
+        for (int column = begin; column < end; ++column) {
+            if (row < 1 || cells[column] != above[column]) {
+                int& width = widths[static_cast<std::size_t>(column)];
+                width = qMax(width, view->Paint().CellWidth(cells[column]) + kFitMargin);
+            }
         }
+        above = cells;
+    }
+    for (int column = begin; column < end; ++column) {
+        const int width = widths[static_cast<std::size_t>(column)];
         view->setColumnWidth(column, qMax(qMin(width, widest), narrowest));
     }
 }

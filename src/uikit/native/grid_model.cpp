@@ -60,13 +60,15 @@ void CGridModel::SetColumnCount(int count)
     endResetModel();
 }
 
-void CGridModel::AppendRow()
+void CGridModel::AppendRow(std::span<const CUGCell> cells)
 {
     if (m_cells.size() < At(m_count + 1)) {
         MakeRoom();
     }
     ++m_count;
-    std::for_each(Row(m_count - 1), Row(m_count), [](CUGCell& cell) { cell.Clear(); });
+    const auto given = cells.first(std::min(cells.size(), m_heading.size()));
+    const auto rest = std::copy(given.begin(), given.end(), Row(m_count - 1));
+    std::for_each(rest, Row(m_count), [](CUGCell& cell) { cell.Clear(); });
     TellViews();
 }
 

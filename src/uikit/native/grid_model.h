@@ -5,6 +5,7 @@
 #include <QAbstractTableModel>
 
 #include <functional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -23,12 +24,14 @@ public:
     int GetColumnCount() const { return static_cast<int>(m_heading.size()); }
     int GetRowCount() const { return m_count; }
 
-    /// Adds a row of empty cells at the end.
-    void AppendRow();
+    /// Adds a row at the end with copies of these cells from the left; further ones are empty, and
+    /// what is too much is left out.
+    void AppendRow(std::span<const CUGCell> cells = {});
     /// False if there is no such row.
     bool DeleteRow(int row);
 
-    /// Null outside the grid. The pointer holds until rows or columns come or go.
+    /// Null outside the grid. The pointer holds until rows or columns come or go; the other cells
+    /// of the row stand beside it.
     const CUGCell* Find(int column, int row) const
     {
         if (column < 0 || column >= GetColumnCount() || row < -1 || row >= m_count) {

@@ -6,11 +6,14 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <string>
 
 namespace {
 
 constexpr std::size_t kMostWidths = 20000;
+constexpr double kNotNumeric = std::numeric_limits<double>::quiet_NaN();
 
 Qt::Alignment AlignmentOf(GridAlign align)
 {
@@ -51,7 +54,7 @@ void CGridPaint::SetFont(const QFont& font)
     m_padding = qRound(m_metrics.height() / 4.0);
     m_arrowRoom = qRound(m_metrics.height() * 0.8);
     m_widths.clear();
-    m_numeric.fill(-1.0);
+    m_numeric.fill(kNotNumeric);
     // Digits are of one width and do not kern in the fonts of user interfaces.
     for (const char16_t c : std::u16string_view(u"0123456789.-")) {
         m_numeric[c] = m_metrics.horizontalAdvance(QChar(c));
@@ -64,14 +67,14 @@ void CGridPaint::SetBack(const QColor& back, bool highlight)
     m_highlight = highlight;
 }
 
-/// Below 0 for a text with other characters than numbers have.
+/// No number for a text with other characters than numbers have.
 double CGridPaint::NumericWidth(std::wstring_view text) const
 {
     double width = 0.0;
     for (const wchar_t c : text) {
         const std::size_t code = std::char_traits<wchar_t>::to_int_type(c);
-        if (code >= m_numeric.size() || m_numeric[code] < 0.0) {
-            return -1.0;
+        if (code >= m_numeric.size()) {
+            return kNotNumeric;
         }
         width += m_numeric[code];
     }
@@ -83,22 +86,23 @@ double CGridPaint::WidestLine(std::wstring_view text)
     double widest = 0.0;
     for (std::size_t begin = 0; begin < text.size();) {
         const std::size_t end = std::min(text.find(L'\n', begin), text.size());
-        widest = std::max(widest, ShapedWidth(CString(text.substr(begin, end - begin))));
+        widest = std::max(widest, ShapedWidth(text.substr(begin, end - begin)));
         begin = end + 1;
     }
     return widest;
 }
 
-double CGridPaint::ShapedWidth(const CString& line)
+double CGridPaint::ShapedWidth(std::wstring_view line)
 {
-    if (m_widths.size() > kMostWidths) {
+    const auto known = m_widths.find(line);
+    if (known != m_widths.end()) {
+        return known->second;
+    }
+    if (m_widths.size() >= kMostWidths) {
         m_widths.clear();
     }
-    const auto [entry, isNew] = m_widths.try_emplace(line, 0.0);
-    if (isNew) {
-        entry->second = m_metrics.horizontalAdvance(ToNative(line));
-    }
-    return entry->second;
+    const CString text(line);
+    return m_widths[text] = m_metrics.horizontalAdvance(ToNative(text));
 }
 
 /// What a cell keeps free of its text. An arrow has its room on both sides of a centred text, which
@@ -115,7 +119,7 @@ QMargins CGridPaint::MarginsOf(const CUGCell& cell) const
 int CGridPaint::CellWidth(const CUGCell& cell)
 {
     double widest = NumericWidth(cell.GetText());
-    if (widest < 0.0) {
+    if (std::isnan(widest)) {
         widest = WidestLine(cell.GetText());
     }
     if (widest == 0.0 && !HasArrow(cell)) {

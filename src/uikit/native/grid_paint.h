@@ -8,6 +8,7 @@
 #include <QStyledItemDelegate>
 
 #include <array>
+#include <functional>
 #include <string_view>
 #include <unordered_map>
 
@@ -35,9 +36,15 @@ public:
                const QModelIndex& index) const override;
 
 private:
+    /// Finds a text without a copy of it.
+    struct TextHash : std::hash<std::wstring_view>
+    {
+        using is_transparent = void;
+    };
+
     double NumericWidth(std::wstring_view text) const;
     double WidestLine(std::wstring_view text);
-    double ShapedWidth(const CString& line);
+    double ShapedWidth(std::wstring_view line);
     QMargins MarginsOf(const CUGCell& cell) const;
     void DrawArrow(QPainter& painter, const QRect& rect, int flag) const;
 
@@ -50,8 +57,8 @@ private:
     int m_arrowRoom = 0;
     QColor m_back;
     bool m_highlight = true;
-    /// Widths of the characters that numbers consist of, by their codes; below 0 for all others.
+    /// Widths of the characters that numbers consist of, by their codes; no number for all others.
     std::array<double, 128> m_numeric;
     /// Shaping a text costs more than all else in a rebuild, and rows mostly repeat their texts.
-    std::unordered_map<CString, double> m_widths;
+    std::unordered_map<CString, double, TextHash, std::equal_to<>> m_widths;
 };

@@ -15,10 +15,18 @@ TEST(ErgebnisTexteTest, CellsShowWholeMillimetresAndWattsAndOneDecimalOfLitres)
     row.Daten.LeistungEN442 = 1700.0;
     row.Daten.Leistung = 850.0;
     row.Daten.Inhalt = 6.25;
-    ErgebnisTexte texte;
-    ZellTexte(row, texte);
-    EXPECT_EQ(texte,
-              (ErgebnisTexte{L"22", L"600", L"102", L"1000", L"1700", L"850", L"0", L"6.2"}));
+    const CString texte[] = {L"22", L"600", L"102", L"1000", L"1700", L"850", L"0", L"6.2"};
+    for (int spalte = 0; spalte < kErgebnisSpalten; ++spalte) {
+        CString text = L"?";
+        ZellText(row, spalte, text);
+        EXPECT_EQ(text, texte[spalte]);
+        EXPECT_TRUE(HabenDenselbenWert(row, row, spalte));
+    }
+    HK_VDI3805_TYP other = row;
+    other.Name = L"21";
+    other.Daten.Elemente = -0.0;
+    EXPECT_FALSE(HabenDenselbenWert(row, other, 0));
+    EXPECT_FALSE(HabenDenselbenWert(row, other, 6)) << "shown as -0";
 }
 
 TEST(ErgebnisTexteTest, CellsAreOrderedByTheArtOfTheFirst)

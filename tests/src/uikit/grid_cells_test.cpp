@@ -5,9 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <numeric>
 #include <random>
+#include <span>
 #include <stdexcept>
 #include <vector>
 
@@ -134,6 +136,23 @@ TEST(GridCells, RowsComeAndGoAsInAPlainList)
         ASSERT_EQ(ColumnOf(*rows, 0), wanted) << "step " << step;
     }
     EXPECT_FALSE(rows->DeleteRow(-1));
+}
+
+TEST(GridCells, ARowComesWithTheCellsGiven)
+{
+    const auto rows = RowsOf({7});
+    rows->DeleteRow(0);
+    std::array<CUGCell, 3> cells;
+    for (CUGCell& cell : cells) {
+        cell.SetText(L"5");
+    }
+    for (const std::size_t given : {0U, 1U, 3U}) {
+        rows->AppendRow(std::span(cells).first(given));
+        for (const int column : {0, 1}) {
+            const CUGCell* const cell = rows->Find(column, rows->GetRowCount() - 1);
+            EXPECT_EQ(*cell, static_cast<std::size_t>(column) < given ? cells[0] : CUGCell());
+        }
+    }
 }
 
 /// What views are told must fit what they then read, or they read beyond the rows.

@@ -346,6 +346,11 @@ TEST_F(GridTest, BestFitTakesTheWidestCellAndTwoPixels)
     SetText(1, 2, L"Kompakt");
     EXPECT_EQ(fitted(2), padded("1234"));
     EXPECT_EQ(fitted(9), padded("Kompakt"));
+    CUGCell arrow;
+    m_grid->GetCell(1, 0, arrow);
+    arrow.SetCellType(kGridSortArrowType);
+    m_grid->SetCell(1, 1, arrow);
+    EXPECT_GT(fitted(2), padded("1234")) << "the same text, and an arrow beside it";
     SetText(1, -1, L"a\nHeizkörper\nb");
     EXPECT_EQ(fitted(3), padded("Heizkörper"));
     EXPECT_EQ(m_grid->GetColumnWidth(0), 41);

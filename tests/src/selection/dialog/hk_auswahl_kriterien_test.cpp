@@ -360,9 +360,10 @@ public:
         fresh.Filtern();
         std::vector<Zeile> expected;
         for (const auto* row = fresh.GetErgebnis(); row != nullptr; row = row->pNext) {
-            ErgebnisTexte texte;
-            ZellTexte(*row, texte);
-            expected.emplace_back(texte.begin(), texte.end());
+            Zeile& zeile = expected.emplace_back(kErgebnisSpalten);
+            for (int spalte = 0; spalte < kErgebnisSpalten; ++spalte) {
+                ZellText(*row, spalte, zeile[static_cast<std::size_t>(spalte)]);
+            }
         }
         ASSERT_EQ(GitterZeilen(m_user), expected);
         const int row = Gitter(m_user).currentIndex().row();
