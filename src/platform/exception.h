@@ -5,9 +5,18 @@
 #include <exception>
 #include <string>
 
+/// Marks an exception that one library throws and another catches. With GCC's standard library a
+/// class is known again by its name; with clang's by the address of its description, of which then
+/// no library may have one of its own.
+#ifdef _LIBCPP_VERSION
+#define RADSEL_THROWN __attribute__((type_visibility("default")))
+#else
+#define RADSEL_THROWN
+#endif
+
 /// Base of the framework's exceptions: those that a dialog's message loop reports to the user
 /// instead of letting them end the program.
-class CException : public std::exception
+class RADSEL_THROWN CException : public std::exception
 {
 public:
     explicit CException(CString message);
@@ -23,7 +32,7 @@ private:
 };
 
 /// An argument that an operation cannot take: above all an index outside an array.
-class CInvalidArgException : public CException
+class RADSEL_THROWN CInvalidArgException : public CException
 {
 public:
     CInvalidArgException();
@@ -34,7 +43,7 @@ public:
 };
 
 /// A file operation that failed.
-class CFileException : public CException
+class RADSEL_THROWN CFileException : public CException
 {
 public:
     enum class Cause
@@ -64,7 +73,7 @@ private:
 };
 
 /// An archive that cannot be read: cut short, damaged, of another class or of a later version.
-class CArchiveException : public CException
+class RADSEL_THROWN CArchiveException : public CException
 {
 public:
     enum class Cause

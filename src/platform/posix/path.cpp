@@ -73,7 +73,9 @@ fs::path FindFile(const CString& path, std::error_code& error)
 {
     error.clear();
     fs::path resolved = Resolve(path, error);
-    if (error) {
+    // An empty path names no file; libraries differ in whether its canonical form is the current
+    // folder.
+    if (error || resolved.empty()) {
         return resolved;
     }
     fs::path real = fs::weakly_canonical(resolved, error);

@@ -176,7 +176,7 @@ QRect Followed(const Part& part, const std::vector<Followers>& rules, const QSiz
         rules, [id](const Followers& f) { return id >= f.firstId && id <= f.lastId; });
     const auto [x, y] =
         rule == rules.end() ? std::pair(kStays, kStays) : std::pair(rule->x, rule->y);
-    const auto share = [](double part, int whole) { return static_cast<int>(part * whole); };
+    const auto share = [](double portion, int whole) { return static_cast<int>(portion * whole); };
     return part.place.adjusted(share(x.near, growth.width()), share(y.near, growth.height()),
                                share(x.far, growth.width()), share(y.far, growth.height()));
 }

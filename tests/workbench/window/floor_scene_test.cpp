@@ -20,10 +20,10 @@ using Radiators = std::vector<CRadiatorRef>;
 class FloorScene : public testing::Test, public CPlanWindowTest
 {
 protected:
-    void ExpectMarks(const Rooms& rooms, const Radiators& radiators) const
+    void ExpectMarks(const Rooms& markedRooms, const Radiators& markedRadiators) const
     {
-        EXPECT_EQ(scene.GetMarkedRooms(), rooms);
-        EXPECT_EQ(scene.GetMarkedRadiators(), radiators);
+        EXPECT_EQ(scene.GetMarkedRooms(), markedRooms);
+        EXPECT_EQ(scene.GetMarkedRadiators(), markedRadiators);
     }
 };
 
