@@ -1,6 +1,6 @@
 // Prints what has to be fast as ratios to a floor that is measured right after it, in several
-// rounds. All times are CPU time. What lies beyond its reach is marked; with --strict the exit code
-// tells it too.
+// rounds and for each line in a process of its own. All times are CPU time. What lies beyond its
+// reach is marked; with --strict the exit code tells it too.
 
 #include "benchmarks/ratio_table.h"
 #include "benchmarks/valve_file.h"
@@ -9,9 +9,14 @@
 #include "tests/support/temp_folder.h"
 #include "tools/pretended_screen.h"
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
+#include <memory>
 #include <regex>
 #include <string>
 #include <vector>
@@ -60,17 +65,36 @@ bool IsNamed(const std::vector<RatioLine>& lines, const std::string& key)
 }
 
 /// A time that has no floor to be compared with is far from its reach, and fewer rounds tell it.
-void RunRounds(const std::vector<RatioLine>& lines, CRatioReporter& reporter)
+void RunRounds(const RatioLine& line, CRatioReporter& reporter)
 {
-    constexpr int kRounds = 9;
-    constexpr int kRoundsWithoutFloor = 3;
-    for (int round = 0; round < kRounds; ++round) {
-        for (const RatioLine& line : lines) {
-            if (!line.floor.empty() || round < kRoundsWithoutFloor) {
-                benchmark::RunSpecifiedBenchmarks(&reporter,
-                                                  "^" + line.key + "/(measured|floor)(/|$)");
-            }
-        }
+    const int rounds = line.floor.empty() ? 3 : 9;
+    for (int round = 0; round < rounds; ++round) {
+        benchmark::RunSpecifiedBenchmarks(&reporter, "^" + line.key + "/(measured|floor)(/|$)");
+    }
+}
+
+/// Runs some work in a process of its own, so that what it leaves of the memory tears that of no
+/// other. False if it said so or did not come to its end.
+bool RunApart(const std::function<bool()>& work)
+{
+    std::fflush(stdout);
+    const pid_t child = fork();
+    if (child == 0) {
+        std::exit(work() ? EXIT_SUCCESS : EXIT_FAILURE);
+    }
+    int status = 0;
+    return child > 0 && waitpid(child, &status, 0) == child && status == EXIT_SUCCESS;
+}
+
+void RunLine(const RatioLine& line, CRatioReporter& reporter)
+{
+    const std::unique_ptr<std::FILE, decltype(&std::fclose)> times(std::tmpfile(), &std::fclose);
+    const bool isDone = times && RunApart([&] {
+                            RunRounds(line, reporter);
+                            return reporter.WriteTimes(*times);
+                        });
+    if (isDone) {
+        reporter.ReadTimes(*times);
     }
 }
 
@@ -129,11 +153,12 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
 
-    // Memory first, while the process has not grown yet: a child inherits that of its parent.
-    const bool filesReached = !IsNamed(lines, "valve_file") || PrintValveFiles();
-
+    const bool filesReached = !IsNamed(lines, "valve_file") || RunApart(PrintValveFiles);
     CRatioReporter reporter;
-    RunRounds(lines, reporter);
+    reporter.ReportContext({});
+    for (const RatioLine& line : lines) {
+        RunLine(line, reporter);
+    }
     const Outcome outcome = reporter.PrintTable(lines);
     const bool isReached = filesReached && outcome == Outcome::reached;
     return outcome == Outcome::failed || (isStrict && !isReached) ? EXIT_FAILURE : EXIT_SUCCESS;

@@ -1,6 +1,7 @@
 #include "benchmarks/ratio_table.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdio>
 #include <functional>
@@ -51,6 +52,26 @@ void CRatioReporter::ReportRuns(const std::vector<Run>& runs)
             m_times[run.run_name.function_name].push_back(
                 run.GetAdjustedCPUTime() * 1.0e9 / benchmark::GetTimeUnitMultiplier(run.time_unit));
         }
+    }
+}
+
+bool CRatioReporter::WriteTimes(std::FILE& file) const
+{
+    for (const auto& [name, times] : m_times) {
+        for (const double time : times) {
+            std::fprintf(&file, "%s %.17g\n", name.c_str(), time);
+        }
+    }
+    return !m_failed && std::fflush(&file) == 0;
+}
+
+void CRatioReporter::ReadTimes(std::FILE& file)
+{
+    std::rewind(&file);
+    std::array<char, 100> name;
+    double time = 0.0;
+    while (std::fscanf(&file, "%99s %lf", name.data(), &time) == 2) {
+        m_times[name.data()].push_back(time);
     }
 }
 

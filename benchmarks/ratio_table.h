@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
 #include <map>
 #include <string>
 #include <vector>
@@ -37,6 +38,12 @@ class CRatioReporter : public benchmark::BenchmarkReporter
 public:
     bool ReportContext(const Context& context) override;
     void ReportRuns(const std::vector<Run>& runs) override;
+
+    /// Hands times over from the process that has measured them. False if a benchmark told of an
+    /// error or the file cannot be written.
+    bool WriteTimes(std::FILE& file) const;
+    /// Takes over what WriteTimes() has written.
+    void ReadTimes(std::FILE& file);
 
     /// Prints the table, times as medians, and marks what lies beyond its reach. The last column
     /// tells how steady a line is: half of the rounds lie that near to the median.

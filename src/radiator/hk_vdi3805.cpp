@@ -226,12 +226,11 @@ void CHKVdi3805::UpdateLeistungsBand()
 
 void CHKVdi3805::PutRowsAside()
 {
-    HK_VDI3805_TYP** end = &m_pErgebnis;
-    while (*end != nullptr) {
-        end = &(*end)->pNext;
+    if (m_pErgebnis != nullptr) {
+        m_pLetzte->pNext = m_pFrei;
+        m_pFrei = std::exchange(m_pErgebnis, nullptr);
+        m_pLetzte = nullptr;
     }
-    *end = m_pFrei;
-    m_pFrei = std::exchange(m_pErgebnis, nullptr);
 }
 
 HK_VDI3805_TYP* CHKVdi3805::NewRow()
@@ -276,7 +275,6 @@ void CHKVdi3805::CollectRows()
     const RowTests tests = Tests();
     const double factor = m_pDaten->Umrechnungsfaktor;
     int count = 0;
-    HK_VDI3805_TYP* last = nullptr;
     for (const HK_VDI3805_TYP* row = m_pProdukt->pTyp; row != nullptr; row = row->pNext) {
         if (m_bAlle == 0 && !tests.PassesSize(*row)) {
             continue;
@@ -291,9 +289,9 @@ void CHKVdi3805::CollectRows()
         HK_VDI3805_TYP* const result = NewRow();
         *result = *row;
         result->pNext = nullptr;
-        result->pPrev = last;
-        (last != nullptr ? last->pNext : m_pErgebnis) = result;
-        last = result;
+        result->pPrev = m_pLetzte;
+        (m_pLetzte != nullptr ? m_pLetzte->pNext : m_pErgebnis) = result;
+        m_pLetzte = result;
         result->Daten.Leistung = outputs.design;
         result->Daten.LeistungEN442 = outputs.standard;
         result->Daten.Elemente = outputs.sections;

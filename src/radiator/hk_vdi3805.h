@@ -107,6 +107,8 @@ private:
     RowTests Tests() const;
 
     HK_VDI3805_TYP* m_pErgebnis = nullptr;
+    /// Last result row.
+    HK_VDI3805_TYP* m_pLetzte = nullptr;
     /// Rows of an earlier pass, for the next one: a dialog runs a pass with each key, and making
     /// thousands of rows takes longer than filling them.
     HK_VDI3805_TYP* m_pFrei = nullptr;
