@@ -264,7 +264,7 @@ bool CVentVdiKatalog::NimmGruppe(const Satz& satz)
     const Satz::Benannt benannt = satz.LiesBenannt();
     VENT_VDI3805_GRUPPE* const gruppe = Append(AktHauptgruppe->Gruppen, AktGruppe);
     satz.LegeAb(*gruppe, benannt);
-    gruppe->Bereich = {&m_zeilen, satz.index + 1, satz.index + 1};
+    gruppe->Bereich = {&m_zeilen, satz.index + 1};
     return true;
 }
 
@@ -277,7 +277,7 @@ bool CVentVdiKatalog::NimmDaten(const Satz& satz)
         m_pOhneZusatz = AktGruppe;
         m_bHatDatensatz = true;
     }
-    Zaehle(AktGruppe->Daten, satz);
+    AktGruppe->Daten.Zaehle();
     return true;
 }
 
@@ -294,7 +294,7 @@ bool CVentVdiKatalog::NimmZusatz(const Satz& satz)
         m_pOhneZusatz->Bereich.zusatzDanach = AktGruppe;
     }
     m_pOhneZusatz = nullptr;
-    Zaehle(AktGruppe->Zusaetze, satz);
+    AktGruppe->Zusaetze.Zaehle();
     return true;
 }
 
@@ -307,25 +307,18 @@ bool CVentVdiKatalog::NimmNummerierten(const Satz& satz)
     satz.Feld(1);
     switch (SatzVon(satz.art)) {
     case VentilSatz::antrieb:
-        Zaehle(AktGruppe->Antriebe, satz);
+        AktGruppe->Antriebe.Zaehle();
         break;
     case VentilSatz::bauform:
-        Zaehle(AktGruppe->Bauformen, satz);
+        AktGruppe->Bauformen.Zaehle();
         break;
     case VentilSatz::werkstoff:
-        Zaehle(AktGruppe->Werkstoffe, satz);
+        AktGruppe->Werkstoffe.Zaehle();
         break;
     default:
-        Zaehle(AktGruppe->Artikel, satz);
+        AktGruppe->Artikel.Zaehle();
     }
     return true;
-}
-
-template <class Node>
-void CVentVdiKatalog::Zaehle(CVentilListe<Node>& liste, const Satz& satz)
-{
-    liste.Zaehle();
-    AktGruppe->Bereich.bis = satz.index + 1;
 }
 
 bool PruefeSatzende(const CString& zeile, int zeilenNr, bool melden)

@@ -94,8 +94,6 @@ private:
     bool NimmDaten(const Satz& satz);
     bool NimmZusatz(const Satz& satz);
     bool NimmNummerierten(const Satz& satz);
-    template <class Node>
-    void Zaehle(CVentilListe<Node>& liste, const Satz& satz);
 
     CVentilZeilen m_zeilen;
     // The last node of each kind.

@@ -10,15 +10,15 @@
 
 namespace {
 
-int Nummer(const CLineText& zeile)
+int Nummer(const CLineText& zeile, VentilSatzart art)
 {
-    const auto feld = SucheFeld(zeile, 1);
+    const auto feld = CSatzFelder(zeile, art).Naechstes();
     return feld ? _wtoi(feld->Widen()) : 0;
 }
 
 void Fuelle(VENT_VDI3805_DATEN& daten, const CLineText& zeile, VentilSatzart art)
 {
-    daten.Nummer = Nummer(zeile);
+    daten.Nummer = Nummer(zeile, art);
     daten.Satzart = NameVon(art);
     daten.Zeile = CVentilText(zeile);
 }
@@ -28,23 +28,26 @@ void Fuelle(VENT_VDI3805_ZUSATZ& zusatz, const CLineText& zeile, VentilSatzart /
     zusatz.Zeile = CVentilText(zeile);
 }
 
-void Fuelle(VENT_VDI3805_TEXT& text, const CLineText& zeile, VentilSatzart /*art*/)
+void Fuelle(VENT_VDI3805_TEXT& text, const CLineText& zeile, VentilSatzart art)
 {
-    text.Nummer = Nummer(zeile);
+    text.Nummer = Nummer(zeile, art);
     text.Zeile = CVentilText(zeile);
 }
 
-void Fuelle(VENT_VDI3805_ARTIKEL& artikel, const CLineText& zeile, VentilSatzart /*art*/)
+void Fuelle(VENT_VDI3805_ARTIKEL& artikel, const CLineText& zeile, VentilSatzart art)
 {
-    CSatzFelder felder(zeile);
-    felder.Naechstes();
-    for (CVentilText* const text : {&artikel.TgaNr, &artikel.BestellNr, &artikel.Datanorm,
-                                    &artikel.Text4, &artikel.Bezeichnung}) {
+    CSatzFelder felder(zeile, art);
+    if (const auto ident = felder.Naechstes()) {
+        // Digits have no umlauts to repair.
+        LeseIdent(ident->Widen(), artikel.Ident);
+        artikel.TgaNr = CVentilText(*ident);
+    }
+    for (CVentilText* const text :
+         {&artikel.BestellNr, &artikel.Datanorm, &artikel.Text4, &artikel.Bezeichnung}) {
         if (const auto feld = felder.Naechstes()) {
             *text = CVentilText(*feld);
         }
     }
-    LeseIdent(CString(artikel.TgaNr), artikel.Ident);
 }
 
 /// Lets each data set of a group name the first additional record that followed it. For the last
@@ -75,22 +78,19 @@ void Verknuepfe(const VENT_VDI3805_GRUPPE& gruppe, VENT_VDI3805_DATEN* knoten)
 template <class Node>
 std::unique_ptr<Node[]> Lies(const VENT_VDI3805_GRUPPE& gruppe, VentilSatz satz, int anzahl)
 {
-    auto knoten = std::make_unique<Node[]>(static_cast<std::size_t>(anzahl));
+    const auto ende = static_cast<std::size_t>(anzahl);
+    auto knoten = std::make_unique<Node[]>(ende);
     const VentilBereich& bereich = gruppe.Bereich;
-    Node* letzter = nullptr;
-    for (int i = bereich.von; i < bereich.bis; ++i) {
-        const VentilSatzart art = bereich.zeilen->Art(i);
-        if (SatzVon(art) != satz) {
-            continue;
+    int index = bereich.von;
+    for (std::size_t i = 0; i < ende; ++i, ++index) {
+        index = bereich.zeilen->Suche(satz, index);
+        Node& neuer = knoten[i];
+        neuer.ZeilenNr = index + 1;
+        Fuelle(neuer, bereich.zeilen->Zeile(index), bereich.zeilen->Art(index));
+        if (i > 0) {
+            neuer.Prev = &knoten[i - 1];
+            knoten[i - 1].Next = &neuer;
         }
-        Node* const neuer = letzter == nullptr ? knoten.get() : letzter + 1;
-        neuer->ZeilenNr = i + 1;
-        Fuelle(*neuer, bereich.zeilen->Zeile(i), art);
-        if (letzter != nullptr) {
-            neuer->Prev = letzter;
-            letzter->Next = neuer;
-        }
-        letzter = neuer;
     }
     if constexpr (std::is_same_v<Node, VENT_VDI3805_DATEN>) {
         Verknuepfe(gruppe, knoten.get());

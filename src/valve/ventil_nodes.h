@@ -79,13 +79,12 @@ struct VENT_VDI3805_ARTIKEL
     VENT_VDI3805_ARTIKEL* Next = nullptr;
 };
 
-/// Where the records of a group stand in the file: from a line to the one before another, counted
-/// from 0. Records of other kinds may stand between them.
+/// Where the records of a group stand in the file: from a line on, counted from 0. Each list knows
+/// how many of them are its own.
 struct VentilBereich
 {
     const CVentilZeilen* zeilen = nullptr;
     int von = 0;
-    int bis = 0;
     /// The later group that has the first additional record behind this group's last data set, if
     /// that is none of this group's own.
     const VENT_VDI3805_GRUPPE* zusatzDanach = nullptr;

@@ -81,6 +81,14 @@ std::wstring_view NameVon(VentilSatzart art)
     return kBekannte[art].name;
 }
 
+CSatzFelder::CSatzFelder(const CLineText& zeile, VentilSatzart art)
+    : m_zeile(zeile), m_beginn(NameVon(art).size())
+{
+    if (m_beginn < zeile.GetSize() && zeile[m_beginn] == kTrenner) {
+        ++m_beginn;
+    }
+}
+
 std::optional<CLineText> CSatzFelder::Naechstes()
 {
     if (m_beginn >= m_zeile.GetSize() || m_zeile[m_beginn] == L'\n') {
@@ -117,4 +125,12 @@ std::size_t ZaehleFelder(const CLineText& zeile)
 CVentilZeilen::CVentilZeilen(std::shared_ptr<const CLineBlock> zeilen) : m_zeilen(std::move(zeilen))
 {
     m_arten.reserve(static_cast<std::size_t>(Anzahl()));
+}
+
+int CVentilZeilen::Suche(VentilSatz satz, int index) const
+{
+    while (kBekannte[Art(index)].satz != satz) {
+        ++index;
+    }
+    return index;
 }

@@ -42,6 +42,9 @@ class CSatzFelder
 public:
     explicit CSatzFelder(const CLineText& zeile) : m_zeile(zeile) {}
 
+    /// From field 1 on, since what field 0 is is known.
+    CSatzFelder(const CLineText& zeile, VentilSatzart art);
+
     /// Nothing behind the last one.
     std::optional<CLineText> Naechstes();
 
@@ -70,6 +73,9 @@ public:
     /// Tells the kind of the next line.
     void NimmArt(VentilSatzart art) { m_arten.push_back(art); }
     VentilSatzart Art(int index) const { return m_arten[static_cast<std::size_t>(index)]; }
+
+    /// The next record of a kind from a line on; there must be one.
+    int Suche(VentilSatz satz, int index) const;
 
 private:
     std::shared_ptr<const CLineBlock> m_zeilen;
