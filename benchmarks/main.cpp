@@ -25,19 +25,24 @@ using namespace reference_host;
 
 namespace {
 
-/// The parse must not be more than linear in the size; the last figure has a limit of its own.
+/// The parse must not be more than linear in the size; the memory of a loaded file has a limit of
+/// its own. Nodes that somebody looks at come on top: their links alone take as much as a third of
+/// the lines that they tell of.
 bool PrintValveFiles()
 {
-    constexpr double kLargestMemory = 3.0;
+    constexpr double kLargestMemory = 1.3;
     constexpr std::size_t kMegabyte = 1'000'000;
     constexpr std::size_t kSizes[] = {10, 50, 100};
     double worst = 0.0;
     std::printf("valve file to nodes, by size\n");
     for (const std::size_t megabytes : kSizes) {
         CValveFile file(megabytes * kMegabyte);
-        const double memory = MeasurePeakMemory(file);
+        const double memory = MeasurePeakMemory(file, NodesSeen::groups);
         worst = std::max(worst, memory);
-        std::printf("%5zu MB   peak memory %.2f x the widened text\n", megabytes, memory);
+        std::printf("%5zu MB   peak memory %.2f x the file loaded, %.2f x with all articles seen, "
+                    "%.2f x with all nodes\n",
+                    megabytes, memory, MeasurePeakMemory(file, NodesSeen::articles),
+                    MeasurePeakMemory(file, NodesSeen::all));
     }
     for (const std::size_t megabytes : kSizes) {
         CValveFile file(megabytes * kMegabyte);
@@ -45,7 +50,7 @@ bool PrintValveFiles()
         std::printf("%5zu MB %8.0f ms %8.2f ms/MB\n", megabytes, milliseconds,
                     milliseconds / static_cast<double>(megabytes));
     }
-    std::printf("peak memory is to stay under %.1f x%s\n", kLargestMemory,
+    std::printf("peak memory of a loaded file is to stay under %.1f x%s\n", kLargestMemory,
                 worst <= kLargestMemory ? "" : "  missed");
     std::printf("\n");
     return worst <= kLargestMemory;
@@ -110,7 +115,7 @@ int main(int argc, char** argv)
          1.1},
         {"filter_taken", "filter pass, 2,000 rows taken", "assigning 2,000 rows to fresh ones",
          1.2},
-        {"valve_file", "valve file of 50 MB to nodes", "read, find line ends, widen", 4.0},
+        {"valve_file", "valve file of 50 MB to nodes", "read, find line ends, widen", 1.5},
         {"valve_fetch", "second fetch of a cached valve pair", "copying the two records", 1.2},
         {"dialog_keystroke", "keystroke to repainted grid, 2,000 rows", "painting the same rows",
          1.4, 8.0},

@@ -2,7 +2,7 @@
 
 #include "host/host_prefs.h"
 #include "tests/support/setting_override.h"
-#include "valve/ventil_katalog.h"
+#include <benchmark/benchmark.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -63,7 +63,38 @@ void Load(CVentVdiKatalog& katalog, const CValveFile& file, const CString& maker
     }
 }
 
+template <class Node>
+void LookAtList(const Node* node)
+{
+    for (; node != nullptr; node = node->Next) {
+        benchmark::DoNotOptimize(node);
+    }
+}
+
+void LookAtRest(const VENT_VDI3805_GRUPPE& gruppe)
+{
+    LookAtList(gruppe.Daten.Erster());
+    LookAtList(gruppe.Zusaetze.Erster());
+    for (const auto* const texts : {&gruppe.Antriebe, &gruppe.Bauformen, &gruppe.Werkstoffe}) {
+        LookAtList(texts->Erster());
+    }
+}
+
 } // namespace
+
+void LookAt(const CVentVdiKatalog& katalog, NodesSeen seen)
+{
+    for (const auto* haupt = katalog.ErsteHauptgruppe; haupt != nullptr; haupt = haupt->Next) {
+        for (const auto* gruppe = haupt->Gruppen; gruppe != nullptr; gruppe = gruppe->Next) {
+            if (seen != NodesSeen::groups) {
+                LookAtList(gruppe->Artikel.Erster());
+            }
+            if (seen == NodesSeen::all) {
+                LookAtRest(*gruppe);
+            }
+        }
+    }
+}
 
 void ForgetLines(const CString& path)
 {
@@ -86,7 +117,7 @@ CString CValveFile::NextMaker()
     return CString(name.begin(), name.end());
 }
 
-double MeasurePeakMemory(CValveFile& file)
+double MeasurePeakMemory(CValveFile& file, NodesSeen seen)
 {
     int channel[2];
     if (pipe(channel) != 0) {
@@ -100,6 +131,7 @@ double MeasurePeakMemory(CValveFile& file)
         getrusage(RUSAGE_SELF, &before);
         CVentVdiKatalog katalog;
         Load(katalog, file, maker);
+        LookAt(katalog, seen);
         getrusage(RUSAGE_SELF, &after);
         const double bytes = 1024.0 * static_cast<double>(after.ru_maxrss - before.ru_maxrss);
         const bool written = write(channel[1], &bytes, sizeof bytes) == sizeof bytes;
@@ -112,7 +144,7 @@ double MeasurePeakMemory(CValveFile& file)
     close(channel[0]);
     close(channel[1]);
     waitpid(child, nullptr, 0);
-    return bytes / (static_cast<double>(file.Bytes()) * sizeof(wchar_t));
+    return bytes / static_cast<double>(file.Bytes());
 }
 
 double MeasureLoad(CValveFile& file)
@@ -121,6 +153,7 @@ double MeasureLoad(CValveFile& file)
     CVentVdiKatalog katalog;
     const std::clock_t start = std::clock();
     Load(katalog, file, maker);
+    LookAt(katalog, NodesSeen::all);
     const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
     ForgetLines(katalog.DateiPfad);
     return seconds;

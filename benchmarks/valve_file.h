@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/temp_folder.h"
+#include "valve/ventil_katalog.h"
 
 #include <cstddef>
 #include <string>
@@ -26,11 +27,22 @@ private:
     int m_makers = 0;
 };
 
-/// Peak of the resident memory while the file becomes nodes, in multiples of its widened text.
-/// Measured in a process of its own.
-double MeasurePeakMemory(CValveFile& file);
+/// Which nodes of a loaded file somebody has looked at: they are made at that moment.
+enum class NodesSeen
+{
+    groups,
+    articles,
+    all
+};
 
-/// Seconds of CPU time that the file takes to become nodes.
+/// Looks at nodes of the tree.
+void LookAt(const CVentVdiKatalog& katalog, NodesSeen seen);
+
+/// Peak of the resident memory while the file is loaded and looked at, in multiples of its own
+/// size. Measured in a process of its own.
+double MeasurePeakMemory(CValveFile& file, NodesSeen seen);
+
+/// Seconds of CPU time that the file takes to become nodes, all of them.
 double MeasureLoad(CValveFile& file);
 
 /// Gives up what the host's cache holds of a file.

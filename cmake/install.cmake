@@ -60,7 +60,7 @@ foreach(folder frame host)
         COMPONENT development FILES_MATCHING PATTERN *.h)
 endforeach()
 set(radsel_platform_headers archive array bitmap byte_stream color exception export object text
-    encoding file file_replacement format number_scan path)
+    encoding file file_replacement format line_block line_text number_scan path)
 list(TRANSFORM radsel_platform_headers PREPEND ${PROJECT_SOURCE_DIR}/src/platform/)
 list(TRANSFORM radsel_platform_headers APPEND .h)
 install(FILES ${radsel_platform_headers} DESTINATION ${radsel_header_folder}/platform

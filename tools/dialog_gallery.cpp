@@ -32,7 +32,7 @@ CString SampleValve(const CString& maker, bool bypass)
     const VENT_VDI3805_ARTIKEL* found = nullptr;
     for (const auto* haupt = katalog.ErsteHauptgruppe; haupt != nullptr; haupt = haupt->Next) {
         for (const auto* gruppe = haupt->Gruppen; gruppe != nullptr; gruppe = gruppe->Next) {
-            for (const auto* a = gruppe->Artikel; a != nullptr; a = a->Next) {
+            for (const VENT_VDI3805_ARTIKEL* a = gruppe->Artikel; a != nullptr; a = a->Next) {
                 if (HatBypass(*a) == bypass && (found == nullptr || !bypass)) {
                     found = a;
                 }

@@ -136,7 +136,8 @@ void AddValves(const VENT_VDI3805_HAUPTGRUPPE* first, radsel_valves& list)
     for (const auto* main = first; main != nullptr; main = main->Next) {
         for (const auto* group = main->Gruppen; group != nullptr; group = group->Next) {
             list.groups.push_back({main->Name, group->Name});
-            for (const auto* valve = group->Artikel; valve != nullptr; valve = valve->Next) {
+            for (const VENT_VDI3805_ARTIKEL* valve = group->Artikel; valve != nullptr;
+                 valve = valve->Next) {
                 list.valves.push_back({valve->TgaNr, valve->Bezeichnung, list.groups.size() - 1});
             }
         }

@@ -1,24 +1,47 @@
 #include "common/cached_lines.h"
 
 #include "common/text_file.h"
-#include "host/host_prefs.h"
+#include "host/line_block_cache.h"
 #include "platform/file.h"
 
-bool ReadCachedLines(const CString& path, CStringArray& lines, std::uint64_t largest)
-{
-    CSettingsCache& cache = *lmGetCacheObject();
-    if (cache.IsFileInCache(path)) {
-        cache.GetCacheArray(path, lines);
-        return true;
-    }
+namespace {
 
-    lines.RemoveAll();
-    CFile file;
-    if (!file.Open(path, CFile::modeRead | CFile::shareDenyWrite) || file.GetLength() > largest) {
-        return false;
+using Block = std::shared_ptr<const CLineBlock>;
+
+Block TakeFromCache(const CSettingsCache& cache, const CLineBlockCache* blocks, const CString& path)
+{
+    if (blocks != nullptr) {
+        return blocks->GetCacheBlock(path);
     }
+    CStringArray lines;
+    cache.GetCacheArray(path, lines);
+    return std::make_shared<const CLineBlock>(lines);
+}
+
+Block ReadIntoCache(CFile& file, CSettingsCache& cache, CLineBlockCache* blocks,
+                    const CString& path)
+{
+    if (blocks != nullptr) {
+        return blocks->AddBlockToCache(path, ReadLineBlock(file));
+    }
+    CStringArray lines;
     ReadTextLines(file, lines, -1);
     file.Close();
     cache.AddFileToCache(path, lines, false);
-    return true;
+    return std::make_shared<const CLineBlock>(lines);
+}
+
+} // namespace
+
+Block ReadCachedLines(const CString& path, std::uint64_t largest, CSettingsCache& cache)
+{
+    auto* const blocks = dynamic_cast<CLineBlockCache*>(&cache);
+    if (cache.IsFileInCache(path)) {
+        return TakeFromCache(cache, blocks, path);
+    }
+    CFile file;
+    if (!file.Open(path, CFile::modeRead | CFile::shareDenyWrite) || file.GetLength() > largest) {
+        return nullptr;
+    }
+    return ReadIntoCache(file, cache, blocks, path);
 }

@@ -4,11 +4,14 @@
 #include "platform/file_limits.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstdint>
+#include <cstring>
 #include <functional>
-#include <iterator>
+#include <limits>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -25,10 +28,73 @@ constexpr char16_t kByteOrderMark = 0xFEFF;
 static_assert(std::endian::native == std::endian::little,
               "UTF-16 is read and written as it lies in memory");
 
-template <class Char>
-bool IsLineEnd(Char c)
+/// Where the line ends of a chunk stand. The whole chunk is marked first, by a loop that compilers
+/// turn into one of many characters at a time; what is then looked at is eight places a step.
+class CLineEnds
 {
-    return c == '\r' || c == '\n';
+public:
+    template <class Char>
+    explicit CLineEnds(std::span<const Char> chunk)
+        : m_size(chunk.size()), m_marks(chunk.size() + sizeof(std::uint64_t))
+    {
+        // Into a place of its own, which the compiler knows to be none of the chunk's.
+        std::array<std::uint8_t, 64> step;
+        std::size_t start = 0;
+        for (; start + step.size() <= m_size; start += step.size()) {
+            const Char* const text = chunk.data() + start;
+            for (std::size_t i = 0; i < step.size(); ++i) {
+                step[i] = MarkOf(text[i]);
+            }
+            std::memcpy(m_marks.data() + start, step.data(), step.size());
+        }
+        std::transform(chunk.begin() + static_cast<std::ptrdiff_t>(start), chunk.end(),
+                       m_marks.begin() + static_cast<std::ptrdiff_t>(start), MarkOf<Char>);
+    }
+
+    /// The first one from a place on; the size of the chunk if there is none.
+    std::size_t Find(std::size_t from) const
+    {
+        for (; from < m_size; from += sizeof(std::uint64_t)) {
+            std::uint64_t marks = 0;
+            std::memcpy(&marks, m_marks.data() + from, sizeof marks);
+            if (marks != 0) {
+                return from + static_cast<std::size_t>(std::countr_zero(marks)) / 8;
+            }
+        }
+        return m_size;
+    }
+
+    bool IsAt(std::size_t place) const { return m_marks[place] != 0; }
+
+private:
+    template <class Char>
+    static std::uint8_t MarkOf(Char c)
+    {
+        return static_cast<std::uint8_t>((c == '\r') | (c == '\n'));
+    }
+
+    std::size_t m_size;
+    std::vector<std::uint8_t> m_marks;
+};
+
+/// Hands the pieces of a chunk to `take`, and with each whether a line ends behind it. A pair of
+/// line ends counts once. False if `take` gave false, which ends it.
+template <class Char, class Take>
+bool CutChunk(std::span<const Char> chunk, Take take)
+{
+    const CLineEnds ends(chunk);
+    std::size_t position = 0;
+    while (position < chunk.size()) {
+        const std::size_t end = ends.Find(position);
+        if (!take(chunk.subspan(position, end - position), end < chunk.size())) {
+            return false;
+        }
+        position = end + 1;
+        if (position < chunk.size() && ends.IsAt(position)) {
+            ++position;
+        }
+    }
+    return true;
 }
 
 void AppendRun(CString& line, std::span<const std::uint8_t> run)
@@ -51,22 +117,10 @@ public:
     template <class Char>
     bool Take(std::span<const Char> chunk)
     {
-        auto position = chunk.begin();
-        while (position != chunk.end()) {
-            const auto end = std::find_if(position, chunk.end(), IsLineEnd<Char>);
-            AppendRun(m_line, std::span<const Char>(position, end));
-            if (end == chunk.end()) {
-                break;
-            }
-            position = std::next(end);
-            if (position != chunk.end() && IsLineEnd(*position)) {
-                ++position;
-            }
-            if (!EndLine()) {
-                return false;
-            }
-        }
-        return true;
+        return CutChunk(chunk, [this](std::span<const Char> piece, bool isEnd) {
+            AppendRun(m_line, piece);
+            return !isEnd || EndLine();
+        });
     }
 
     /// What stands behind the last line end.
@@ -106,28 +160,34 @@ void ReadWideLines(CFile& file, CLineCutter& cutter)
     }
 }
 
+/// In a last chunk that is not full, a final blank stands for the line end that would save the last
+/// line.
+void RescueLastLine(std::span<std::uint8_t> bytes, std::size_t lastChunk)
+{
+    if (lastChunk > 0 && bytes.back() == ' ') {
+        bytes.back() = '\n';
+    }
+}
+
 void ReadNarrowLines(CFile& file, CLineCutter& cutter)
 {
     std::vector<std::uint8_t> buffer(kNarrowChunk);
     bool more = true;
     while (more) {
         const std::size_t count = file.Read(buffer.data(), kNarrowChunk);
-        // A final blank stands for the line end that would save the last line.
-        if (count > 0 && count < kNarrowChunk && buffer[count - 1] == ' ') {
-            buffer[count - 1] = '\n';
-        }
+        RescueLastLine(std::span(buffer).first(count), count % kNarrowChunk);
         more = count > 0 && cutter.Take(std::span<const std::uint8_t>(buffer.data(), count));
     }
 }
 
-/// Makes room for the lines of a whole file at once. Too much costs address space only, since
-/// memory that is never touched is never there; too little makes the array grow once more.
-void ReserveFor(const CFile& file, CStringArray& lines)
+/// How many lines a whole file may have, to make room for them at once. Too much costs address
+/// space only, since memory that is never touched is never there; too little makes the room grow
+/// once more.
+std::size_t ExpectedLines(std::uint64_t fileLength)
 {
     constexpr std::uint64_t kShortLine = 32;
     constexpr std::uint64_t kMostLines = 1 << 24;
-    const std::uint64_t expected = std::min(file.GetLength() / kShortLine, kMostLines);
-    lines.Reserve(lines.GetSize() + static_cast<int>(expected));
+    return static_cast<std::size_t>(std::min(fileLength / kShortLine, kMostLines));
 }
 
 /// Returns what stands behind the last line end.
@@ -141,6 +201,44 @@ CString ReadLines(CFile& file, CStringArray& lines, int wideLimit, int narrowLim
         ReadNarrowLines(file, cutter);
     }
     return cutter.TakeRest();
+}
+
+/// All bytes from the position of the file to its end, wherever that is by then.
+std::vector<std::uint8_t> ReadBytes(CFile& file)
+{
+    // One more than there are, so that the end shows in the first reading.
+    std::vector<std::uint8_t> bytes(static_cast<std::size_t>(file.GetLength()) + 1);
+    std::size_t count = file.Read(bytes.data(), bytes.size());
+    while (count == bytes.size()) {
+        bytes.resize(count + kNarrowChunk);
+        count += file.Read(bytes.data() + count, kNarrowChunk);
+    }
+    bytes.resize(count);
+    return bytes;
+}
+
+/// Moves the lines together, so that nothing stands between them.
+CLineBlock CutNarrowLines(std::vector<std::uint8_t> bytes)
+{
+    if (bytes.size() > std::numeric_limits<std::uint32_t>::max()) {
+        throw std::length_error("more text than a block of lines holds");
+    }
+    RescueLastLine(bytes, bytes.size() % kNarrowChunk);
+    std::vector<std::uint32_t> ends;
+    ends.reserve(ExpectedLines(bytes.size()));
+    std::size_t place = 0;
+    for (std::size_t start = 0; start < bytes.size(); start += kNarrowChunk) {
+        const std::span<const std::uint8_t> rest = std::span(bytes).subspan(start);
+        CutChunk(rest.first(std::min(rest.size(), kNarrowChunk)), [&](auto piece, bool isEnd) {
+            std::memmove(bytes.data() + place, piece.data(), piece.size());
+            place += piece.size();
+            if (isEnd) {
+                ends.push_back(static_cast<std::uint32_t>(place));
+            }
+            return true;
+        });
+    }
+    return {std::move(bytes), std::move(ends)};
 }
 
 /// Collects text for a file, so that short lines do not cost a system call each.
@@ -196,13 +294,23 @@ bool IsElementOf(const CStringArray& array, const CString& text)
 int ReadTextLines(CFile& file, CStringArray& lines, int limit, CString* rest)
 {
     if (limit == -1) {
-        ReserveFor(file, lines);
+        lines.Reserve(lines.GetSize() + static_cast<int>(ExpectedLines(file.GetLength())));
     }
     CString dropped = ReadLines(file, lines, limit, -1);
     if (rest != nullptr) {
         *rest = std::move(dropped);
     }
     return lines.GetSize();
+}
+
+CLineBlock ReadLineBlock(CFile& file)
+{
+    if (!ReadByteOrderMark(file)) {
+        return CutNarrowLines(ReadBytes(file));
+    }
+    CStringArray lines;
+    ReadTextLines(file, lines, -1);
+    return CLineBlock(lines);
 }
 
 int ReadTextFile(const CString& path, CStringArray& lines, unsigned flags, int limit)

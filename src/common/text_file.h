@@ -2,6 +2,7 @@
 
 #include "platform/array.h"
 #include "platform/file.h"
+#include "platform/line_block.h"
 #include "platform/text.h"
 
 #include <cstdint>
@@ -20,8 +21,13 @@
 /// written again. Exceptions of the file pass through.
 int ReadTextLines(CFile& file, CStringArray& lines, int limit, CString* rest = nullptr);
 
-/// Opens the file with `flags` and does the same. 0 if it cannot be opened or is larger than a list
-/// may be.
+/// The lines that ReadTextLines() appends without a limit, as one block: those of 8-bit text in the
+/// bytes in which they stand in the file. Raises std::length_error beyond what a block holds.
+/// Exceptions of the file pass through.
+CLineBlock ReadLineBlock(CFile& file);
+
+/// Opens the file with `flags` and does what ReadTextLines() does. 0 if it cannot be opened or is
+/// larger than a list may be.
 int ReadTextFile(const CString& path, CStringArray& lines, unsigned flags, int limit);
 
 /// The first line that ReadTextFile() would give, reading no chunk beyond the one in which it ends.

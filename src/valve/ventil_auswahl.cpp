@@ -26,7 +26,8 @@ VentilStelle SucheArtikel(VENT_VDI3805_HAUPTGRUPPE* erste, const CString& bezeic
 {
     for (auto* haupt = erste; haupt != nullptr; haupt = haupt->Next) {
         for (auto* gruppe = haupt->Gruppen; gruppe != nullptr; gruppe = gruppe->Next) {
-            for (auto* artikel = gruppe->Artikel; artikel != nullptr; artikel = artikel->Next) {
+            for (VENT_VDI3805_ARTIKEL* artikel = gruppe->Artikel; artikel != nullptr;
+                 artikel = artikel->Next) {
                 if (artikel->Bezeichnung == bezeichnung) {
                     return {haupt, gruppe, artikel};
                 }

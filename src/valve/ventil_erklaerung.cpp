@@ -39,7 +39,8 @@ int FindArticle(const CVentVdiKatalog& katalog, const CString& ventilNr)
 {
     for (const auto* haupt = katalog.ErsteHauptgruppe; haupt != nullptr; haupt = haupt->Next) {
         for (const auto* gruppe = haupt->Gruppen; gruppe != nullptr; gruppe = gruppe->Next) {
-            for (const auto* artikel = gruppe->Artikel; artikel; artikel = artikel->Next) {
+            for (const VENT_VDI3805_ARTIKEL* artikel = gruppe->Artikel; artikel;
+                 artikel = artikel->Next) {
                 if (artikel->TgaNr == ventilNr) {
                     return artikel->ZeilenNr;
                 }

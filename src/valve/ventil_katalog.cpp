@@ -27,26 +27,6 @@ constexpr wchar_t kDateiName[] = L"ha.tga";
 /// Stands for a fourth head field that the line does not have.
 constexpr wchar_t kNoKopf4[] = L"  ";
 
-/// Frees a list from its head on, one node after the other.
-template <class Node>
-void FreeList(Node*& head)
-{
-    while (head != nullptr) {
-        delete std::exchange(head, head->Next);
-    }
-}
-
-void FreeGruppe(VENT_VDI3805_GRUPPE* gruppe)
-{
-    FreeList(gruppe->Daten);
-    FreeList(gruppe->Zusaetze);
-    FreeList(gruppe->Artikel);
-    FreeList(gruppe->Antriebe);
-    FreeList(gruppe->Bauformen);
-    FreeList(gruppe->Werkstoffe);
-    delete gruppe;
-}
-
 /// Puts a new node at the end of a list whose last node is `last`; of an empty list it becomes the
 /// head.
 template <class Node>
@@ -63,30 +43,6 @@ Node* Append(Node*& head, Node*& last)
     return node;
 }
 
-wchar_t KorrigiertesZeichen(wchar_t c)
-{
-    switch (c) {
-    case 0x81:
-        return L'ü';
-    case 0x84:
-    case 0x201E:
-        return L'ä';
-    case 0x8E:
-        return L'Ä';
-    case 0x94:
-    case 0x201D:
-        return L'ö';
-    case 0x99:
-        return L'Ö';
-    case 0x9A:
-        return L'Ü';
-    case 0xE1:
-        return L'ß';
-    default:
-        return c;
-    }
-}
-
 void Melde(bool melden, const CString& text)
 {
     if (melden) {
@@ -98,33 +54,42 @@ void Melde(bool melden, const CString& text)
 
 struct CVentVdiKatalog::Satz
 {
-    CString& zeile;
-    int zeilenNr;
+    CLineText zeile;
+    int index;
+    VentilSatzart art;
     const CString& dateiPfad;
-    const std::vector<std::wstring_view>& felder;
-
-    std::size_t Anzahl() const { return felder.size(); }
 
     /// A field that the line must have.
-    std::wstring_view Feld(std::size_t index) const
+    CVentilText Feld(std::size_t feld) const
     {
-        if (index >= felder.size()) {
+        const auto gefunden = SucheFeld(zeile, feld);
+        if (!gefunden) {
             throw CInvalidArgException(FormatFileFault(
-                {zeilenNr, DescribeMissingFields(felder[0], felder.size(), index + 1),
+                {index + 1, DescribeMissingFields(NameVon(art), ZaehleFelder(zeile), feld + 1),
                  TextFromPath(ResolvePath(dateiPfad))}));
         }
-        return felder[index];
+        return CVentilText(*gefunden);
     }
 
-    CString Text(std::size_t index) const { return CString(Feld(index)); }
-    int Zahl(std::size_t index) const { return _wtoi(Feld(index)); }
-
-    /// Hands the line over to its node; the fields are gone afterwards.
-    template <class Node>
-    void LegeAb(Node& node)
+    /// What a node with a name tells; the line must have it.
+    struct Benannt
     {
-        node.ZeilenNr = zeilenNr;
-        node.Zeile = std::move(zeile);
+        int nummer;
+        CVentilText name;
+    };
+    Benannt LiesBenannt() const
+    {
+        const int nummer = _wtoi(CString(Feld(1)));
+        return {nummer, Feld(2)};
+    }
+
+    template <class Node>
+    void LegeAb(Node& node, const Benannt& benannt) const
+    {
+        node.Nummer = benannt.nummer;
+        node.Name = benannt.name;
+        node.Zeile = CVentilText(zeile);
+        node.ZeilenNr = index + 1;
     }
 };
 
@@ -173,22 +138,20 @@ bool CVentVdiKatalog::LeseNeuesFormat()
 bool CVentVdiKatalog::LeseDatei()
 {
     Leeren();
-    CStringArray lines;
-    if (!ReadCachedLines(DateiPfad, lines, kLargestValveFile)) {
+    auto zeilen = ReadCachedLines(DateiPfad, kLargestValveFile);
+    if (zeilen == nullptr) {
         return false;
     }
-    int zeilenNr = 0;
-    for (CString& zeile : lines) {
-        ++zeilenNr;
-        if (PruefeVentilzeilen && !PruefeSatzende(zeile, zeilenNr, false)) {
-            continue;
-        }
-        if (!NimmZeile(zeile, zeilenNr)) {
+    m_zeilen = CVentilZeilen(std::move(zeilen));
+    for (int i = 0; i < m_zeilen.Anzahl(); ++i) {
+        const CLineText zeile = m_zeilen.Zeile(i);
+        const bool skipped = PruefeVentilzeilen && !PruefeSatzende(zeile.Widen(), i + 1, false);
+        const VentilSatzart art = skipped ? VentilSatzart{0} : BestimmeSatzart(zeile);
+        m_zeilen.NimmArt(art);
+        if (!NimmSatz({zeile, i, art, DateiPfad})) {
             Leeren();
             return false;
         }
-        // What no node has taken over makes room for the nodes to come.
-        CString().swap(zeile);
     }
     return true;
 }
@@ -239,163 +202,122 @@ void CVentVdiKatalog::Leeren()
 {
     while (ErsteHauptgruppe != nullptr) {
         while (ErsteHauptgruppe->Gruppen != nullptr) {
-            VENT_VDI3805_GRUPPE* const gruppe = ErsteHauptgruppe->Gruppen;
-            ErsteHauptgruppe->Gruppen = gruppe->Next;
-            FreeGruppe(gruppe);
+            delete std::exchange(ErsteHauptgruppe->Gruppen, ErsteHauptgruppe->Gruppen->Next);
         }
         delete std::exchange(ErsteHauptgruppe, ErsteHauptgruppe->Next);
     }
     AnzahlHauptgruppen = 0;
     AktHauptgruppe = nullptr;
-    AktGruppe = nullptr;
-    AktArtikel = nullptr;
-    AktDaten = Akt700 = nullptr;
-    AktZusatz = nullptr;
-    AktAntrieb = AktBauform = AktWerkstoff = nullptr;
+    AktGruppe = m_pOhneZusatz = nullptr;
+    m_bHatDatensatz = false;
+    Akt700 = nullptr;
+    m_zeilen = {};
 }
 
-/// False if the line is a record that has no parent to stand under.
-bool CVentVdiKatalog::NimmZeile(CString& zeile, int zeilenNr)
+/// False if the record has no parent to stand under. The nodes below a group are made when somebody
+/// looks at them; what spoils one of them shows here.
+bool CVentVdiKatalog::NimmSatz(const Satz& satz)
 {
-    KorrigiereUmlaute(zeile);
-    m_felder.clear();
-    SplitFields(m_felder, zeile, kSeparator);
-    if (m_felder.empty()) {
+    switch (SatzVon(satz.art)) {
+    case VentilSatz::unbekannt:
         return true;
-    }
-    Satz satz{zeile, zeilenNr, DateiPfad, m_felder};
-    return NimmSatz(satz);
-}
-
-bool CVentVdiKatalog::NimmSatz(Satz& satz)
-{
-    const std::wstring_view art = satz.Feld(0);
-    if (art == L"010") {
+    case VentilSatz::kopf:
         NimmKopf(satz);
-    } else if (art == L"100") {
+        return true;
+    case VentilSatz::hauptgruppe:
         NimmHauptgruppe(satz);
-    } else if (art == L"110") {
+        return true;
+    case VentilSatz::gruppe:
         return NimmGruppe(satz);
-    } else if (art == L"700" || art == L"710.01" || art == L"710.02" || art == L"710.03" ||
-               art == L"710.04" || art == L"710.05") {
+    case VentilSatz::daten:
         return NimmDaten(satz);
-    } else if (art == L"720.01" || art == L"720.02" || art == L"720.03") {
+    case VentilSatz::zusatz:
         return NimmZusatz(satz);
-    } else if (art == L"800") {
-        return NimmArtikel(satz);
-    } else if (art == L"160") {
-        return NimmText(satz, &VENT_VDI3805_GRUPPE::Antriebe, AktAntrieb);
-    } else if (art == L"200") {
-        return NimmText(satz, &VENT_VDI3805_GRUPPE::Bauformen, AktBauform);
-    } else if (art == L"400") {
-        return NimmText(satz, &VENT_VDI3805_GRUPPE::Werkstoffe, AktWerkstoff);
+    default:
+        return NimmNummerierten(satz);
     }
-    return true;
 }
 
 void CVentVdiKatalog::NimmKopf(const Satz& satz)
 {
-    NormDatum = satz.Text(1);
-    HerstellerName = satz.Text(2);
-    AusfuehrungDatum = satz.Text(3);
-    Kopf4 = satz.Anzahl() > 4 ? satz.Text(4) : kNoKopf4;
+    NormDatum = satz.Feld(1);
+    HerstellerName = satz.Feld(2);
+    AusfuehrungDatum = satz.Feld(3);
+    Kopf4 = ZaehleFelder(satz.zeile) > 4 ? CString(satz.Feld(4)) : kNoKopf4;
     // Not emptied first: a second load appends to what the first one left.
     HerstellerKurz += HerstellerName.substr(0, HerstellerName.find_first_of(L"; "));
     HerstellerKurzKopie = HerstellerKurz;
 }
 
-void CVentVdiKatalog::NimmHauptgruppe(Satz& satz)
+void CVentVdiKatalog::NimmHauptgruppe(const Satz& satz)
 {
-    const int nummer = satz.Zahl(1);
-    CString name = satz.Text(2);
-    VENT_VDI3805_HAUPTGRUPPE* const haupt = Append(ErsteHauptgruppe, AktHauptgruppe);
+    const Satz::Benannt benannt = satz.LiesBenannt();
+    satz.LegeAb(*Append(ErsteHauptgruppe, AktHauptgruppe), benannt);
     ++AnzahlHauptgruppen;
-    haupt->Nummer = nummer;
-    haupt->Name = std::move(name);
-    satz.LegeAb(*haupt);
 }
 
-bool CVentVdiKatalog::NimmGruppe(Satz& satz)
+bool CVentVdiKatalog::NimmGruppe(const Satz& satz)
 {
     if (AktHauptgruppe == nullptr) {
         return false;
     }
-    const int nummer = satz.Zahl(1);
-    CString name = satz.Text(2);
+    const Satz::Benannt benannt = satz.LiesBenannt();
     VENT_VDI3805_GRUPPE* const gruppe = Append(AktHauptgruppe->Gruppen, AktGruppe);
-    gruppe->Nummer = nummer;
-    gruppe->Name = std::move(name);
-    satz.LegeAb(*gruppe);
+    satz.LegeAb(*gruppe, benannt);
+    gruppe->Bereich = {&m_zeilen, satz.index + 1};
     return true;
 }
 
-bool CVentVdiKatalog::NimmDaten(Satz& satz)
+bool CVentVdiKatalog::NimmDaten(const Satz& satz)
 {
     if (AktGruppe == nullptr) {
         return false;
     }
-    VENT_VDI3805_DATEN* const daten = Append(AktGruppe->Daten, AktDaten);
-    const std::size_t artLaenge = satz.Feld(0).size();
-    if (satz.Anzahl() > 1) {
-        daten->Nummer = satz.Zahl(1);
+    if (NameVon(satz.art) == L"700") {
+        m_pOhneZusatz = AktGruppe;
+        m_bHatDatensatz = true;
     }
-    satz.LegeAb(*daten);
-    daten->Satzart = std::wstring_view(daten->Zeile).substr(0, artLaenge);
-    if (daten->Satzart == L"700") {
-        Akt700 = daten;
-    }
+    AktGruppe->Daten.Zaehle();
     return true;
 }
 
-bool CVentVdiKatalog::NimmZusatz(Satz& satz)
+bool CVentVdiKatalog::NimmZusatz(const Satz& satz)
 {
-    if (satz.Feld(0) == L"720.01") {
+    if (NameVon(satz.art) == L"720.01") {
         // The value is of no use here, but a line without it is no record of this type.
         satz.Feld(8);
     }
-    if (AktGruppe == nullptr || Akt700 == nullptr) {
+    if (AktGruppe == nullptr || !m_bHatDatensatz) {
         return false;
     }
-    VENT_VDI3805_ZUSATZ* const zusatz = Append(AktGruppe->Zusaetze, AktZusatz);
-    if (Akt700->Zusatz == nullptr) {
-        Akt700->Zusatz = zusatz;
+    if (m_pOhneZusatz != nullptr && m_pOhneZusatz != AktGruppe) {
+        m_pOhneZusatz->Bereich.zusatzDanach = AktGruppe;
     }
-    satz.LegeAb(*zusatz);
+    m_pOhneZusatz = nullptr;
+    AktGruppe->Zusaetze.Zaehle();
     return true;
 }
 
-bool CVentVdiKatalog::NimmArtikel(const Satz& satz)
+/// An article or a text.
+bool CVentVdiKatalog::NimmNummerierten(const Satz& satz)
 {
     if (AktGruppe == nullptr) {
         return false;
     }
-    const std::wstring_view tgaNr = satz.Feld(1);
-    VENT_VDI3805_ARTIKEL* const artikel = Append(AktGruppe->Artikel, AktArtikel);
-    LeseIdent(tgaNr, artikel->Ident);
-    artikel->TgaNr = tgaNr;
-    CString* const texts[] = {&artikel->BestellNr, &artikel->Datanorm, &artikel->Text4,
-                              &artikel->Bezeichnung};
-    std::size_t feld = 2;
-    for (CString* const text : texts) {
-        if (feld < satz.Anzahl()) {
-            *text = satz.Feld(feld);
-        }
-        ++feld;
+    satz.Feld(1);
+    switch (SatzVon(satz.art)) {
+    case VentilSatz::antrieb:
+        AktGruppe->Antriebe.Zaehle();
+        break;
+    case VentilSatz::bauform:
+        AktGruppe->Bauformen.Zaehle();
+        break;
+    case VentilSatz::werkstoff:
+        AktGruppe->Werkstoffe.Zaehle();
+        break;
+    default:
+        AktGruppe->Artikel.Zaehle();
     }
-    artikel->ZeilenNr = satz.zeilenNr;
-    return true;
-}
-
-bool CVentVdiKatalog::NimmText(Satz& satz, VENT_VDI3805_TEXT* VENT_VDI3805_GRUPPE::*liste,
-                               VENT_VDI3805_TEXT*& letzter)
-{
-    if (AktGruppe == nullptr) {
-        return false;
-    }
-    const int nummer = satz.Zahl(1);
-    VENT_VDI3805_TEXT* const text = Append(AktGruppe->*liste, letzter);
-    text->Nummer = nummer;
-    satz.LegeAb(*text);
     return true;
 }
 
@@ -410,15 +332,6 @@ bool PruefeSatzende(const CString& zeile, int zeilenNr, bool melden)
     }
     Melde(melden, L"Blank am Satzende von Satz  " + FormatInt(zeilenNr) + L" ");
     return false;
-}
-
-void KorrigiereUmlaute(CString& zeile)
-{
-    for (wchar_t& c : zeile) {
-        if (c > 0x80) {
-            c = KorrigiertesZeichen(c);
-        }
-    }
 }
 
 void LeseIdent(std::wstring_view text, VentIdent& ident)

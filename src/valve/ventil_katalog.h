@@ -6,7 +6,6 @@
 
 #include <cstddef>
 #include <string_view>
-#include <vector>
 
 /// Makes the reader skip lines that PruefeSatzende refuses. As lines arrive without their line end,
 /// that would be every line: leave it off.
@@ -80,44 +79,34 @@ protected:
     void Bewerte(const VENT_VDI3805_ARTIKEL& artikel, const VENT_VDI3805_DATEN& daten,
                  VDI3805_VENTIL_KV& ventil) const;
 
-    /// While a file is read, the last node whose type is "700". Free for use afterwards, until the
-    /// next load.
+    /// The data set that a user of the tree is at; null after each load.
     VENT_VDI3805_DATEN* Akt700 = nullptr;
 
 private:
-    /// A line on its way into the tree: the fields are views into the text.
+    /// A record on its way into the tree.
     struct Satz;
 
     void Leeren();
-    bool NimmZeile(CString& zeile, int zeilenNr);
-    bool NimmSatz(Satz& satz);
+    bool NimmSatz(const Satz& satz);
     void NimmKopf(const Satz& satz);
-    void NimmHauptgruppe(Satz& satz);
-    bool NimmGruppe(Satz& satz);
-    bool NimmDaten(Satz& satz);
-    bool NimmZusatz(Satz& satz);
-    bool NimmArtikel(const Satz& satz);
-    bool NimmText(Satz& satz, VENT_VDI3805_TEXT* VENT_VDI3805_GRUPPE::*liste,
-                  VENT_VDI3805_TEXT*& letzter);
+    void NimmHauptgruppe(const Satz& satz);
+    bool NimmGruppe(const Satz& satz);
+    bool NimmDaten(const Satz& satz);
+    bool NimmZusatz(const Satz& satz);
+    bool NimmNummerierten(const Satz& satz);
 
+    CVentilZeilen m_zeilen;
     // The last node of each kind.
     VENT_VDI3805_HAUPTGRUPPE* AktHauptgruppe = nullptr;
     VENT_VDI3805_GRUPPE* AktGruppe = nullptr;
-    VENT_VDI3805_ARTIKEL* AktArtikel = nullptr;
-    VENT_VDI3805_DATEN* AktDaten = nullptr;
-    VENT_VDI3805_ZUSATZ* AktZusatz = nullptr;
-    VENT_VDI3805_TEXT* AktAntrieb = nullptr;
-    VENT_VDI3805_TEXT* AktBauform = nullptr;
-    VENT_VDI3805_TEXT* AktWerkstoff = nullptr;
-    std::vector<std::wstring_view> m_felder;
+    /// The group of the last data set, until an additional record has followed that.
+    VENT_VDI3805_GRUPPE* m_pOhneZusatz = nullptr;
+    bool m_bHatDatensatz = false;
 };
 
 /// False if the line does not end in ";" and a line feed, or has fewer than two characters.
 /// `melden` shows which of the two in a message box.
 bool PruefeSatzende(const CString& zeile, int zeilenNr, bool melden);
-
-/// Replaces the foreign characters that the umlauts of a DOS code page have become.
-void KorrigiereUmlaute(CString& zeile);
 
 /// Splits an ident text into its groups: 15 of two digits, one of four, one of two. A text of fewer
 /// than 16 characters leaves them alone; a group that stands at or behind the end of the text, or

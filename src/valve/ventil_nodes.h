@@ -1,13 +1,17 @@
 #pragma once
 
-#include "platform/text.h"
+#include "valve/ventil_liste.h"
+#include "valve/ventil_satz.h"
+#include "valve/ventil_text.h"
 
 #include <array>
 #include <string_view>
 
 /// The tree of one valve file: doubly linked lists in file order, the first Prev and the last Next
 /// null. Nodes belong to the CVentVdiKatalog that read them and die with it or when it reads the
-/// next file.
+/// next file. What they tell stands in the bytes of the file, which the tree keeps: texts are views
+/// of them, and the lists of a group are made when somebody asks for them. As looking makes them,
+/// a tree is for one thread at a time.
 
 /// The 17 groups of an article's ident text.
 using VentIdent = std::array<short, 17>;
@@ -25,7 +29,7 @@ enum VentIdentGruppe
 /// An additional record ("720.01" to "720.03").
 struct VENT_VDI3805_ZUSATZ
 {
-    CString Zeile;
+    CVentilText Zeile;
     int ZeilenNr = 0;
     VENT_VDI3805_ZUSATZ* Prev = nullptr;
     VENT_VDI3805_ZUSATZ* Next = nullptr;
@@ -38,27 +42,23 @@ struct VENT_VDI3805_DATEN
 {
     /// Number of the data set or of the row; 0 if the line has no such field.
     int Nummer = 0;
-    /// Record type as it stands in the file: a view into Zeile, so that nodes are not to be copied.
+    int ZeilenNr = 0;
+    /// Record type as it stands in the file.
     std::wstring_view Satzart;
     /// The whole line; its other fields are split out when a valve is evaluated.
-    CString Zeile;
-    int ZeilenNr = 0;
+    CVentilText Zeile;
     /// For a "700": the first additional record that followed it.
     VENT_VDI3805_ZUSATZ* Zusatz = nullptr;
     VENT_VDI3805_DATEN* Prev = nullptr;
     VENT_VDI3805_DATEN* Next = nullptr;
-
-    VENT_VDI3805_DATEN() = default;
-    VENT_VDI3805_DATEN(const VENT_VDI3805_DATEN&) = delete;
-    VENT_VDI3805_DATEN& operator=(const VENT_VDI3805_DATEN&) = delete;
 };
 
 /// A numbered text: actuation ("160"), body form ("200") or material ("400").
 struct VENT_VDI3805_TEXT
 {
     int Nummer = 0;
-    CString Zeile;
     int ZeilenNr = 0;
+    CVentilText Zeile;
     VENT_VDI3805_TEXT* Prev = nullptr;
     VENT_VDI3805_TEXT* Next = nullptr;
 };
@@ -67,31 +67,43 @@ struct VENT_VDI3805_TEXT
 struct VENT_VDI3805_ARTIKEL
 {
     /// Ident text of 36 digits: the valve's key.
-    CString TgaNr;
-    CString BestellNr;
-    CString Datanorm;
-    CString Text4;
+    CVentilText TgaNr;
+    CVentilText BestellNr;
+    CVentilText Datanorm;
+    CVentilText Text4;
     /// The name that is shown.
-    CString Bezeichnung;
+    CVentilText Bezeichnung;
     int ZeilenNr = 0;
     VentIdent Ident = {};
     VENT_VDI3805_ARTIKEL* Prev = nullptr;
     VENT_VDI3805_ARTIKEL* Next = nullptr;
 };
 
+/// Where the records of a group stand in the file: from a line on, counted from 0. Each list knows
+/// how many of them are its own.
+struct VentilBereich
+{
+    const CVentilZeilen* zeilen = nullptr;
+    int von = 0;
+    /// The later group that has the first additional record behind this group's last data set, if
+    /// that is none of this group's own.
+    const VENT_VDI3805_GRUPPE* zusatzDanach = nullptr;
+};
+
 /// A group of valves ("110").
 struct VENT_VDI3805_GRUPPE
 {
     int Nummer = 0;
-    CString Name;
-    CString Zeile;
+    CVentilText Name;
+    CVentilText Zeile;
     int ZeilenNr = 0;
-    VENT_VDI3805_ARTIKEL* Artikel = nullptr;
-    VENT_VDI3805_DATEN* Daten = nullptr;
-    VENT_VDI3805_ZUSATZ* Zusaetze = nullptr;
-    VENT_VDI3805_TEXT* Antriebe = nullptr;
-    VENT_VDI3805_TEXT* Bauformen = nullptr;
-    VENT_VDI3805_TEXT* Werkstoffe = nullptr;
+    VentilBereich Bereich;
+    CVentilListe<VENT_VDI3805_ARTIKEL> Artikel{*this, VentilSatz::artikel};
+    CVentilListe<VENT_VDI3805_DATEN> Daten{*this, VentilSatz::daten};
+    CVentilListe<VENT_VDI3805_ZUSATZ> Zusaetze{*this, VentilSatz::zusatz};
+    CVentilListe<VENT_VDI3805_TEXT> Antriebe{*this, VentilSatz::antrieb};
+    CVentilListe<VENT_VDI3805_TEXT> Bauformen{*this, VentilSatz::bauform};
+    CVentilListe<VENT_VDI3805_TEXT> Werkstoffe{*this, VentilSatz::werkstoff};
     VENT_VDI3805_GRUPPE* Prev = nullptr;
     VENT_VDI3805_GRUPPE* Next = nullptr;
 };
@@ -100,8 +112,8 @@ struct VENT_VDI3805_GRUPPE
 struct VENT_VDI3805_HAUPTGRUPPE
 {
     int Nummer = 0;
-    CString Name;
-    CString Zeile;
+    CVentilText Name;
+    CVentilText Zeile;
     int ZeilenNr = 0;
     VENT_VDI3805_GRUPPE* Gruppen = nullptr;
     VENT_VDI3805_HAUPTGRUPPE* Prev = nullptr;

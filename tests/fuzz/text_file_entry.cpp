@@ -29,6 +29,7 @@ void RunTextFile(std::span<const std::uint8_t> bytes)
     folder.WriteBytes("in.txt", std::string(bytes.begin(), bytes.end()));
     const CString in = folder.Path("in.txt");
     const CStringArray lines = LinesIn(in);
+    Require(BlockIn(in) == lines, "a block has the same lines");
     CString first;
     const bool hasFirst = ReadFirstLine(in, first, bytes.size());
     Require(hasFirst == !lines.IsEmpty(), "a file of any lines has a first one");

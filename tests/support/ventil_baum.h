@@ -22,6 +22,12 @@ void ForEachNode(const Node* head, Take take)
     }
 }
 
+template <class Node, class Take>
+void ForEachNode(const CVentilListe<Node>& list, Take take)
+{
+    ForEachNode<Node>(list.Erster(), take);
+}
+
 /// Hands each article with its group to `take`.
 template <class Take>
 void ForEachArtikel(const CVentVdiKatalog& katalog, Take take)

@@ -196,7 +196,8 @@ HTREEITEM CVentVdiDlg::FuelleGruppen(const VENT_VDI3805_HAUPTGRUPPE& haupt, HTRE
     for (const auto* gruppe = haupt.Gruppen; gruppe != nullptr; gruppe = gruppe->Next) {
         HTREEITEM mitte = m_baum.InsertItem(gruppe->Name, bildGruppe, bildGruppe, oben);
         m_baum.SetItemData(mitte, ebeneGruppe);
-        for (const auto* artikel = gruppe->Artikel; artikel != nullptr; artikel = artikel->Next) {
+        for (const VENT_VDI3805_ARTIKEL* artikel = gruppe->Artikel; artikel != nullptr;
+             artikel = artikel->Next) {
             HTREEITEM item =
                 m_baum.InsertItem(artikel->Bezeichnung, bildArtikel, bildArtikel, mitte);
             m_baum.SetItemData(item, ebeneArtikel);

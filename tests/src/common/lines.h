@@ -21,3 +21,14 @@ inline CStringArray LinesIn(const CString& path)
     ReadTextFile(path, lines, CFile::modeRead, -1);
     return lines;
 }
+
+/// The same, read as a block.
+inline CStringArray BlockIn(const CString& path)
+{
+    CStringArray lines;
+    CFile file;
+    if (file.Open(path, CFile::modeRead)) {
+        ReadLineBlock(file).CopyTo(lines);
+    }
+    return lines;
+}

@@ -44,6 +44,7 @@ protected:
         m_folder.WriteBytes("file.txt", bytes);
         const int count = ReadTextFile(m_folder.Path("file.txt"), lines, CFile::modeRead, limit);
         EXPECT_EQ(count, lines.GetSize());
+        EXPECT_EQ(BlockIn(m_folder.Path("file.txt")), LinesIn(m_folder.Path("file.txt")));
         return lines;
     }
 

@@ -13,10 +13,10 @@
 namespace {
 
 template <class Node>
-std::string Zeilen(char mark, const Node* head)
+std::string Zeilen(char mark, const CVentilListe<Node>& list)
 {
     std::string text;
-    ForEachNode(head,
+    ForEachNode(list,
                 [&](const Node& node) { text += mark + std::to_string(node.ZeilenNr) + ' '; });
     return text;
 }
@@ -130,6 +130,20 @@ TEST_F(CVentVdiKatalogTest, ATreeHasANodeForEachKnownRecordInFileOrder)
         SCOPED_TRACE(what);
         EXPECT_TRUE(Lade(records));
         EXPECT_EQ(Bild(katalog), bild);
+    }
+}
+
+TEST_F(CVentVdiKatalogTest, ANodeIsTheSameHoweverOneComesToIt)
+{
+    const std::string records = kGruppe + "700;1|710.01;1|110;3;C|720.02|720.03";
+    for (const bool fromBelow : {true, false}) {
+        ASSERT_TRUE(Lade(records));
+        const VENT_VDI3805_GRUPPE& first = *katalog.ErsteHauptgruppe->Gruppen;
+        const VENT_VDI3805_GRUPPE& second = *first.Next;
+        const VENT_VDI3805_ZUSATZ* const seen = fromBelow ? second.Zusaetze.Erster() : nullptr;
+        EXPECT_EQ(first.Daten->Zusatz, second.Zusaetze.Erster());
+        EXPECT_TRUE(seen == nullptr || seen == second.Zusaetze);
+        EXPECT_EQ(first.Daten->Next->Prev, first.Daten.Erster());
     }
 }
 
