@@ -1,4 +1,4 @@
-#include "module/call_check.h"
+#include "module/silent/call_check.h"
 
 #ifdef RADSEL_CHECKS
 
