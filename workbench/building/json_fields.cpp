@@ -5,6 +5,7 @@
 #include "platform/file_limits.h"
 #include "platform/format.h"
 #include "platform/whole_file.h"
+#include "workbench/building/character.h"
 #include "workbench/building/json_reader.h"
 #include "workbench/building/printable.h"
 
@@ -48,7 +49,7 @@ CFileFault FaultAt(const CString& path, std::string_view bytes, std::size_t offs
     const auto line = std::count(before.begin(), before.end(), '\n') + 1;
     const std::string_view start = before.substr(before.rfind('\n') + 1);
     CFileFault fault(static_cast<int>(line), message, path);
-    fault.nColumn = static_cast<int>(WideFromUtf8(start).size()) + 1;
+    fault.nColumn = static_cast<int>(LengthOf(WideFromUtf8(start))) + 1;
     return fault;
 }
 
@@ -76,7 +77,7 @@ CString CJsonFields::Text(const char* name)
     if (std::ranges::all_of(text, IsBlank)) {
         Fail(FromAscii(name), L"il testo è vuoto");
     }
-    if (text.size() > kLongestText) {
+    if (LengthOf(text) > kLongestText) {
         Fail(FromAscii(name), L"il testo è troppo lungo");
     }
     if (std::ranges::any_of(text, IsControl)) {

@@ -1,6 +1,7 @@
 #include "workbench/building/json_writer.h"
 
 #include "platform/encoding.h"
+#include "workbench/building/character.h"
 #include "workbench/building/json_value.h"
 
 #include <array>
@@ -45,23 +46,18 @@ void AppendCharacter(CString& text, wchar_t c)
     }
 }
 
-/// Whether a character stands there in two units, as it does where a unit has no more than 16 bits.
-bool IsPair(const CString& text, std::size_t place)
-{
-    return sizeof(wchar_t) == 2 && place + 1 < text.size() &&
-           IsWithin(text[place], 0xd800, 0xdbff) && IsWithin(text[place + 1], 0xdc00, 0xdfff);
-}
-
 /// The characters with codes for those that no file may hold.
 std::string Coded(const CString& text)
 {
     CString coded;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (IsPair(text, i)) {
-            coded.append(text, i++, 2);
-        } else {
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t places = CharacterAt(text, i).nPlaces;
+        if (places == 1) {
             AppendCharacter(coded, text[i]);
+        } else {
+            coded.append(text, i, places);
         }
+        i += places;
     }
     return Utf8FromWide(coded);
 }

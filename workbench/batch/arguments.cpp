@@ -1,4 +1,4 @@
-#include "workbench/program/arguments.h"
+#include "workbench/batch/arguments.h"
 
 #include "platform/number_scan.h"
 

@@ -1,8 +1,8 @@
-#include "workbench/building/json_time.h"
+#include "workbench/keeping/json_time.h"
 
 #include "workbench/building/json_fields.h"
 #include "workbench/building/json_writer.h"
-#include "workbench/building/qt_text.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <QDateTime>
 

@@ -1,4 +1,4 @@
-#include "workbench/building/building_lock.h"
+#include "workbench/keeping/building_lock.h"
 
 #include "tests/support/temp_folder.h"
 

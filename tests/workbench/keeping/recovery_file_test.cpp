@@ -1,4 +1,4 @@
-#include "workbench/plan/recovery_file.h"
+#include "workbench/keeping/recovery_file.h"
 
 #include "platform/exception.h"
 #include "tests/src/platform/thrown.h"

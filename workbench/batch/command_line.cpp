@@ -1,9 +1,9 @@
-#include "workbench/program/command_line.h"
+#include "workbench/batch/command_line.h"
 
 #include "platform/encoding.h"
+#include "workbench/batch/console.h"
 #include "workbench/building/json_fields.h"
 #include "workbench/plan/module_call.h"
-#include "workbench/program/console.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -148,14 +148,20 @@ private:
     CArguments m_result;
 };
 
-ExitCode Run(const CCommandLine& line, std::ostream& out, std::ostream& err)
+ExitCode Run(const CProgram& program, const CCommandLine& line, std::ostream& out,
+             std::ostream& err)
 {
+    const auto command = std::ranges::find(program.runs, line.command.id, &CCommandRun::id);
+    if (command == program.runs.end()) {
+        throw CArgumentException(TextOf(line.command) +
+                                 L" apre una finestra, che soltanto radsel_workbench ha");
+    }
     for (const COption* option : line.command.options) {
         if (option->use) {
             option->use(line.arguments);
         }
     }
-    return line.command.run(line.arguments, out, err);
+    return command->run(line.arguments, out, err);
 }
 
 } // namespace
@@ -166,11 +172,12 @@ CCommandLine ParseCommandLine(const std::vector<CString>& arguments, bool hasScr
     return {command, CArgumentReader(arguments, command).Read()};
 }
 
-ExitCode RunCommandLine(const std::vector<CString>& arguments, bool hasScreen, std::ostream& out,
-                        std::ostream& err)
+ExitCode RunCommandLine(const CProgram& program, const std::vector<CString>& arguments,
+                        bool hasScreen, std::ostream& out, std::ostream& err)
 {
+    SetProgramName(program.name);
     try {
-        return Run(ParseCommandLine(arguments, hasScreen), out, err);
+        return Run(program, ParseCommandLine(arguments, hasScreen), out, err);
     } catch (const CArgumentException& error) {
         return Report(err, error.GetErrorMessage() + L" (--help mostra le opzioni)",
                       ExitCode::wrongArguments);

@@ -1,7 +1,7 @@
-#include "workbench/program/asked_building.h"
+#include "workbench/batch/asked_building.h"
 
+#include "workbench/batch/arguments.h"
 #include "workbench/building/building_json.h"
-#include "workbench/program/arguments.h"
 
 namespace workbench {
 

@@ -1,4 +1,4 @@
-#include "workbench/program/connection_list.h"
+#include "workbench/batch/connection_list.h"
 
 #include "frame/conn_values.h"
 #include "host/host_fittings.h"
@@ -7,8 +7,8 @@
 #include "platform/file_fault.h"
 #include "platform/format.h"
 #include "reference_host/files/short_list_check.h"
+#include "workbench/batch/arguments.h"
 #include "workbench/building/user_text.h"
-#include "workbench/program/arguments.h"
 
 #include <cmath>
 #include <cstddef>

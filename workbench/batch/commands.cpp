@@ -1,15 +1,7 @@
-#include "workbench/program/commands.h"
+#include "workbench/batch/commands.h"
 
 #include "reference_host/prefs/host_settings.h"
-#include "workbench/program/batch.h"
-#include "workbench/program/connection_list.h"
-#include "workbench/program/connection_run.h"
-#include "workbench/program/help_run.h"
-#include "workbench/program/host_folders.h"
-#include "workbench/program/radiator_run.h"
-#include "workbench/program/tree_run.h"
-#include "workbench/program/valve_run.h"
-#include "workbench/program/window_run.h"
+#include "workbench/batch/host_folders.h"
 
 namespace workbench {
 
@@ -76,41 +68,31 @@ std::span<const CCommand> GetCommands()
         {nullptr,
          {},
          {&kBuilding, &kSample, &kCatalogues, &kValveCatalogues, &kWorkplace},
-         RunWindow,
          CommandId::window},
         {L"--batch",
          {},
          {&kBuilding, &kSample, &kCatalogues, &kValveCatalogues, &kSystem, &kRoom, &kValves,
           &kCsvPlain, &kOutput, &kSave},
-         RunBatch,
          CommandId::batch},
         {L"--radiator-dialog",
          {&CArguments::strRoom},
          {&kBuilding, &kSample, &kCatalogues, &kValveCatalogues, &kSystem, &kRoom, &kWorkplace},
-         RunRadiatorDialog,
          CommandId::radiatorDialog},
-        {L"--tree-dialog",
-         {},
-         {&kCatalogues, &kSystem, &kWorkplace},
-         RunTreeDialog,
-         CommandId::treeDialog},
+        {L"--tree-dialog", {}, {&kCatalogues, &kSystem, &kWorkplace}, CommandId::treeDialog},
         {L"--connection-dialog",
          {},
          {&kValveCatalogues, &kWorkplace, &kSuperUser},
-         RunConnectionDialog,
          CommandId::connectionDialog},
         {L"--valve-dialog",
          {&CArguments::strMaker, &CArguments::strValveNumber},
          {&kValveCatalogues, &kWorkplace},
-         RunValveDialog,
          CommandId::valveDialog},
         {L"--list-connections",
          {&CArguments::strConnectionList},
          {&kWorkplace},
-         RunConnectionList,
          CommandId::listConnections},
-        {L"--help", {}, {}, ShowHelp, CommandId::help, true},
-        {L"--version", {}, {}, ShowVersion, CommandId::version, true},
+        {L"--help", {}, {}, CommandId::help, true},
+        {L"--version", {}, {}, CommandId::version, true},
     };
     return commands;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/text.h"
-#include "workbench/program/exit_code.h"
+#include "workbench/batch/exit_code.h"
 
 #include <iosfwd>
 
@@ -9,11 +9,9 @@ namespace workbench {
 
 struct CArguments;
 
-/// Tells every command and option, and the exit codes.
-CString GetHelpText();
-
-/// Shows the help text on `out`.
-ExitCode ShowHelp(const CArguments& arguments, std::ostream& out, std::ostream& err);
+/// Tells every command and option, and the exit codes: those of a program with windows, or those of
+/// one without any.
+CString GetHelpText(bool hasWindows);
 
 /// Shows the program's name and version on `out`.
 ExitCode ShowVersion(const CArguments& arguments, std::ostream& out, std::ostream& err);

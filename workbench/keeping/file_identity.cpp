@@ -1,4 +1,4 @@
-#include "workbench/building/file_identity.h"
+#include "workbench/keeping/file_identity.h"
 
 #include "platform/path.h"
 #include "workbench/building/json_fields.h"

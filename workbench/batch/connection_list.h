@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/text.h"
-#include "workbench/program/exit_code.h"
+#include "workbench/batch/exit_code.h"
 
 #include <iosfwd>
 

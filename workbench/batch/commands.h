@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/text.h"
-#include "workbench/program/arguments.h"
-#include "workbench/program/exit_code.h"
+#include "workbench/batch/arguments.h"
+#include "workbench/batch/exit_code.h"
 
 #include <iosfwd>
 #include <span>
@@ -40,7 +40,7 @@ enum class CommandId
     version,
 };
 
-/// One of the things that the program does.
+/// One of the things that the workbench does, whichever of its programs does them.
 struct CCommand
 {
     /// What the user types; null for the window, which opens where no command is typed.
@@ -50,15 +50,31 @@ struct CCommand
     /// The options that the command uses. Another one that was given is an error, unless all
     /// commands accept it.
     std::vector<const COption*> options;
-    /// Errors that end the command are raised or go to the second stream.
-    ExitCode (*run)(const CArguments& arguments, std::ostream& out, std::ostream& err);
     CommandId id;
     /// The command only tells something: it goes before any other command on the line and accepts
     /// every option without using it.
     bool onlyTells = false;
 };
 
-/// Every command of the program, and with them every option.
+/// Every command, and with them every option.
 std::span<const CCommand> GetCommands();
+
+/// How a program does what a command asks for. Errors that end it are raised or go to the second
+/// stream.
+struct CCommandRun
+{
+    CommandId id;
+    ExitCode (*run)(const CArguments& arguments, std::ostream& out, std::ostream& err);
+};
+
+/// A program with these commands.
+struct CProgram
+{
+    /// Stands in front of its messages.
+    const wchar_t* name;
+    /// The commands that it can run. The others need windows that it does not have, and are
+    /// refused.
+    std::span<const CCommandRun> runs;
+};
 
 } // namespace workbench

@@ -1,12 +1,12 @@
-#include "workbench/building/building_lock.h"
+#include "workbench/keeping/building_lock.h"
 
 #include "platform/encoding.h"
 #include "platform/file_bytes.h"
-#include "workbench/building/file_identity.h"
 #include "workbench/building/json_fields.h"
-#include "workbench/building/json_time.h"
 #include "workbench/building/json_writer.h"
-#include "workbench/building/qt_text.h"
+#include "workbench/keeping/file_identity.h"
+#include "workbench/keeping/json_time.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <QSysInfo>
 

@@ -1,4 +1,4 @@
-#include "workbench/plan/recovery_file.h"
+#include "workbench/keeping/recovery_file.h"
 
 #include "platform/exception.h"
 #include "platform/format.h"
@@ -6,8 +6,8 @@
 #include "platform/path.h"
 #include "workbench/building/building_json.h"
 #include "workbench/building/json_fields.h"
-#include "workbench/building/json_time.h"
 #include "workbench/building/json_writer.h"
+#include "workbench/keeping/json_time.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "workbench/program/console.h"
+#include "workbench/batch/console.h"
 
 #include "platform/encoding.h"
 
@@ -6,9 +6,29 @@
 
 namespace workbench {
 
+namespace {
+
+CString& Name()
+{
+    static CString name;
+    return name;
+}
+
+} // namespace
+
+void SetProgramName(const CString& name)
+{
+    Name() = name;
+}
+
+const CString& GetProgramName()
+{
+    return Name();
+}
+
 ExitCode Report(std::ostream& err, const CString& message, ExitCode code)
 {
-    err << Utf8FromWide(L"radsel_workbench: " + message) << '\n';
+    err << Utf8FromWide(GetProgramName() + L": " + message) << '\n';
     return code;
 }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/text.h"
+
 #include <filesystem>
 #include <optional>
+#include <vector>
 
 namespace workbench {
 
@@ -31,5 +34,9 @@ std::optional<std::filesystem::path> InstalledDataFolder();
 /// installed with the program count, if any were. Data root and working place are then a folder of
 /// the user's own, since dialogs write to them.
 void UseInstalledData();
+
+/// Does so, and gives the arguments that stand in for what the user of an installed program leaves
+/// out.
+std::vector<CString> InstalledDefaults();
 
 } // namespace workbench

@@ -1,8 +1,8 @@
-#include "workbench/schedule/schedule_xlsx.h"
+#include "workbench/workbook/schedule_xlsx.h"
 
 #include "workbench/schedule/schedule_columns.h"
 #include "workbench/schedule/text_columns.h"
-#include "workbench/schedule/workbook.h"
+#include "workbench/workbook/workbook.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/text.h"
-#include "workbench/program/commands.h"
+#include "workbench/batch/commands.h"
 
 #include <iosfwd>
 #include <vector>
@@ -23,9 +23,9 @@ struct CCommandLine
 /// is missing or makes no sense.
 CCommandLine ParseCommandLine(const std::vector<CString>& arguments, bool hasScreen);
 
-/// The whole program behind its main function: reads the arguments, puts the options that the
+/// The whole of a program behind its main function: reads the arguments, puts the options that the
 /// command uses into force for the process, and runs it. Errors that end it go to `err`.
-ExitCode RunCommandLine(const std::vector<CString>& arguments, bool hasScreen, std::ostream& out,
-                        std::ostream& err);
+ExitCode RunCommandLine(const CProgram& program, const std::vector<CString>& arguments,
+                        bool hasScreen, std::ostream& out, std::ostream& err);
 
 } // namespace workbench

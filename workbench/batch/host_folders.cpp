@@ -1,4 +1,4 @@
-#include "workbench/program/host_folders.h"
+#include "workbench/batch/host_folders.h"
 
 #include "host/host_prefs.h"
 #include "platform/encoding.h"
@@ -8,7 +8,7 @@
 #include "platform/path.h"
 #include "platform/whole_file.h"
 #include "reference_host/prefs/host_settings.h"
-#include "workbench/program/arguments.h"
+#include "workbench/batch/arguments.h"
 
 #include <cstdlib>
 #include <system_error>
@@ -156,6 +156,16 @@ void UseInstalledData()
     }
     const fs::path own = OwnWorkplace();
     SetUnlessSet("TGA_DATA_SINGLE", own.empty() ? *data / "root" : own);
+}
+
+std::vector<CString> InstalledDefaults()
+{
+    UseInstalledData();
+    const auto data = InstalledDataFolder();
+    if (!data) {
+        return {};
+    }
+    return {L"--sample", TextFromPath(*data / "buildings" / "villa-dei-tigli.json")};
 }
 
 } // namespace workbench

@@ -1,4 +1,4 @@
-#include "workbench/schedule/workbook.h"
+#include "workbench/workbook/workbook.h"
 
 #include "platform/encoding.h"
 #include "platform/exception.h"

@@ -1,13 +1,29 @@
-#include "workbench/program/help_run.h"
+#include "workbench/batch/help_run.h"
 
 #include "platform/encoding.h"
-#include "workbench/program/console.h"
+#include "workbench/batch/console.h"
 
 namespace workbench {
 
-CString GetHelpText()
+namespace {
+
+/// Which programs tell a part of the text.
+enum class Teller
 {
-    return LR"(Sceglie un corpo scaldante per ogni locale di un edificio e le sue valvole di mandata e di ritorno,
+    both,
+    windows,
+    noWindows,
+};
+
+struct CPart
+{
+    Teller teller;
+    const wchar_t* text;
+};
+
+constexpr CPart kParts[] = {
+    {Teller::both,
+     LR"(Sceglie un corpo scaldante per ogni locale di un edificio e le sue valvole di mandata e di ritorno,
 dai cataloghi dei produttori.
 
 Opzioni:
@@ -22,18 +38,28 @@ Opzioni:
   --valves           mostra anche le tabelle kv delle valvole
   --csv-plain        scrive il CSV per i programmi: punto decimale, nessun segno di codifica, codici
                      senza formule; senza l'opzione è per un foglio di calcolo in italiano
-  --output DIR       cartella dei risultati: corpi-scaldanti.csv, corpi-scaldanti.xlsx,
+)"},
+    {Teller::windows,
+     LR"(  --output DIR       cartella dei risultati: corpi-scaldanti.csv, corpi-scaldanti.xlsx,
                      corpi-scaldanti.json, progetto.pdf con piante e distinta, pianta.dxf
-  --save FILE        scrive l'edificio con i corpi scaldanti scelti
+)"},
+    {Teller::noWindows,
+     LR"(  --output DIR       cartella dei risultati: corpi-scaldanti.csv e corpi-scaldanti.json
+)"},
+    {Teller::both, LR"(  --save FILE        scrive l'edificio con i corpi scaldanti scelti
   --list-connections [FILE]
                      mostra in parole un elenco di tipi di attacco (Vent.txt) e nient'altro;
                      senza FILE quello della radice dei dati
-  --valve-dialog [PRODUTTORE [NUMERO]]
+)"},
+    {Teller::windows, LR"(  --valve-dialog [PRODUTTORE [NUMERO]]
                      apre la finestra di scelta delle valvole e mostra la valvola scelta;
                      si apre sul produttore (nome della sua cartella) e sulla valvola con questo
                      NumeroTGA, se indicati
-  --workplace DIR    cartella del posto di lavoro: posizione delle finestre e aiuti attivi
-  --connection-dialog [--superuser]
+)"},
+    {Teller::both,
+     LR"(  --workplace DIR    cartella del posto di lavoro: posizione delle finestre e aiuti attivi
+)"},
+    {Teller::windows, LR"(  --connection-dialog [--superuser]
                      apre la finestra di attacco e valvole accanto a una pianta con tre corpi
                      scaldanti e mostra quanto confermato; con --superuser la finestra si può
                      espandere
@@ -42,9 +68,15 @@ Opzioni:
                      mostra quello scelto
   --tree-dialog      apre la scelta di un prodotto dall'albero dei cataloghi e lo mostra; valgono
                      --catalogues e --system
-  --batch            calcola senza finestre; senza quest'opzione e con uno schermo si apre il
+)"},
+    {Teller::windows,
+     LR"(  --batch            calcola senza finestre; senza quest'opzione e con uno schermo si apre il
                      programma con la pianta dell'edificio
-  --version          mostra il nome e la versione del programma
+)"},
+    {Teller::noWindows,
+     LR"(  --batch            calcola, come fa il programma anche senza quest'opzione
+)"},
+    {Teller::both, LR"(  --version          mostra il nome e la versione del programma
   --help             mostra questo testo
 
 I percorsi relativi partono dalla cartella corrente. Un'opzione ripetuta vale come scritta per ultima.
@@ -58,19 +90,27 @@ Codici di uscita:
   4  catalogo, file di valvole o disegno di blocchi danneggiato o illeggibile; il resto è calcolato
      ugualmente
   5  risultati non scrivibili
-  6  finestra annullata
+)"},
+    {Teller::windows, LR"(  6  finestra annullata
   7  nessuno schermo per mostrare la finestra
-)";
-}
+)"},
+};
 
-ExitCode ShowHelp(const CArguments& /*arguments*/, std::ostream& out, std::ostream& err)
+} // namespace
+
+CString GetHelpText(bool hasWindows)
 {
-    return Show(GetHelpText(), ExitCode::ok, out, err);
+    CString text;
+    for (const CPart& part : kParts) {
+        const Teller only = hasWindows ? Teller::windows : Teller::noWindows;
+        text += part.teller == Teller::both || part.teller == only ? part.text : L"";
+    }
+    return text;
 }
 
 ExitCode ShowVersion(const CArguments& /*arguments*/, std::ostream& out, std::ostream& err)
 {
-    return Show(L"radsel_workbench " + WideFromUtf8(RADSEL_VERSION) + L"\n", ExitCode::ok, out,
+    return Show(GetProgramName() + L" " + WideFromUtf8(RADSEL_VERSION) + L"\n", ExitCode::ok, out,
                 err);
 }
 
