@@ -4,12 +4,16 @@
 #
 # makes the target radsel_valve_dialog of all sources of that folder. A room that uses another may
 # include it and all that the other may include. A folder without sources makes an interface target.
+# Without RADSEL_TOOLKIT a room that knows the toolkit has no target, nor has one that uses such a room.
 #
 #   TARGET name     another name than the folder's
 #   SHARED          a shared library, PROGRAM a program
+#   ARCHIVE         a static library that is installed: its objects are for every linker, and for the
+#                   optimiser of none
 #   PARTS sub...    subfolders that belong to the room
 #   TOOLKIT how     `inside`: only sources and parts know the toolkit, the room's headers do not;
 #                   `open`: the room's headers may show it. Without it the room is free of it.
+#   ONLY_WITH option  without that option the room has no target either
 #   OFFERS room...  rooms whose functions a shared library passes on as its own
 #   LINKS lib...    libraries that are bound in without being included as a room
 #
@@ -40,8 +44,24 @@ function(radsel_make_target target folder kind)
     endif()
 endfunction()
 
+function(radsel_is_left_out variable toolkit only_with)
+    set(left_out FALSE)
+    if((only_with AND NOT ${only_with}) OR NOT (RADSEL_TOOLKIT OR toolkit STREQUAL none))
+        set(left_out TRUE)
+    endif()
+    if(NOT RADSEL_TOOLKIT OR NOT RADSEL_WORKBENCH)
+        foreach(room ${ARGN})
+            radsel_target_of(${room} target)
+            if(NOT TARGET ${target})
+                set(left_out TRUE)
+            endif()
+        endforeach()
+    endif()
+    set(${variable} ${left_out} PARENT_SCOPE)
+endfunction()
+
 function(radsel_layer folder)
-    cmake_parse_arguments(room "SHARED;PROGRAM" "TARGET;TOOLKIT" "PARTS;USES;OFFERS;LINKS" ${ARGN})
+    cmake_parse_arguments(room "SHARED;PROGRAM;ARCHIVE" "TARGET;TOOLKIT;ONLY_WITH" "PARTS;USES;OFFERS;LINKS" ${ARGN})
     set(kind STATIC)
     if(room_SHARED)
         set(kind SHARED)
@@ -55,7 +75,16 @@ function(radsel_layer folder)
     if(room_TARGET)
         set_property(GLOBAL PROPERTY RADSEL_TARGET_${folder} ${room_TARGET})
     endif()
+    list(JOIN room_USES " " uses)
+    list(JOIN room_OFFERS " " offers)
+    string(STRIP "${folder} toolkit=${room_TOOLKIT} ${uses} ${offers}" line)
+    set_property(GLOBAL APPEND PROPERTY RADSEL_LAYERS "${line}")
+
     radsel_target_of(${folder} target)
+    radsel_is_left_out(left_out ${room_TOOLKIT} "${room_ONLY_WITH}" ${room_USES} ${room_OFFERS})
+    if(left_out)
+        return()
+    endif()
     set(parts ${room_PARTS})
     list(TRANSFORM parts APPEND /*.cpp)
     radsel_make_target(${target} ${folder} ${kind} ${parts})
@@ -81,16 +110,13 @@ function(radsel_layer folder)
     endif()
     target_include_directories(${target} ${include_reach} ${roots})
 
-    set(line "${folder} toolkit=${room_TOOLKIT}")
     foreach(used ${room_USES})
         radsel_target_of(${used} used_target)
         target_link_libraries(${target} ${reach} ${used_target})
-        string(APPEND line " ${used}")
     endforeach()
     foreach(offered ${room_OFFERS})
         radsel_target_of(${offered} offered_target)
         target_link_libraries(${target} PRIVATE $<LINK_LIBRARY:WHOLE_ARCHIVE,${offered_target}>)
-        string(APPEND line " ${offered}")
     endforeach()
     target_link_libraries(${target} ${reach} ${room_LINKS})
     if(room_TOOLKIT STREQUAL inside)
@@ -101,6 +127,9 @@ function(radsel_layer folder)
     if(NOT room_TOOLKIT STREQUAL none)
         set_target_properties(${target} PROPERTIES AUTOMOC ON)
     endif()
+    if(room_ARCHIVE)
+        target_compile_options(${target} PRIVATE -fno-lto)
+    endif()
     # A program's few sources are compiled quickly; its options differ from those of other programs.
     if(NOT room_PROGRAM)
         if(room_TOOLKIT STREQUAL none)
@@ -109,7 +138,6 @@ function(radsel_layer folder)
             radsel_precompile(${target} toolkit)
         endif()
     endif()
-    set_property(GLOBAL APPEND PROPERTY RADSEL_LAYERS "${line}")
 endfunction()
 
 function(radsel_write_layers file)

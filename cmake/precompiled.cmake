@@ -6,7 +6,8 @@
 #
 # The first target with a header compiles it, the others take it from there. A program's sources are
 # compiled otherwise than a library's, and those of a folder with RADSEL_PRECOMPILED_APART otherwise
-# than those of others, so that they cannot share one.
+# than those of others, so that they cannot share one. Nor can what is optimised when it is linked and
+# what is not.
 set(RADSEL_PRECOMPILED_DIR ${CMAKE_CURRENT_LIST_DIR}/precompiled)
 
 function(radsel_precompile target header)
@@ -17,6 +18,12 @@ function(radsel_precompile target header)
     set(shared_by libraries)
     if(type STREQUAL EXECUTABLE)
         set(shared_by programs)
+    endif()
+    if(CMAKE_INTERPROCEDURAL_OPTIMIZATION OR CMAKE_CXX_FLAGS MATCHES "-flto")
+        get_target_property(options ${target} COMPILE_OPTIONS)
+        if("-fno-lto" IN_LIST options)
+            string(APPEND shared_by _compiled_whole)
+        endif()
     endif()
     set(property RADSEL_PRECOMPILED_${header}_${shared_by}_${RADSEL_PRECOMPILED_APART})
     get_property(first GLOBAL PROPERTY ${property})

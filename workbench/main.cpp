@@ -1,5 +1,5 @@
-#include "platform/encoding.h"
 #include "platform/environment.h"
+#include "platform/program_arguments.h"
 #include "workbench/batch/command_line.h"
 #include "workbench/batch/host_folders.h"
 #include "workbench/program/workbench_program.h"
@@ -20,9 +20,10 @@ bool HasScreen()
 
 int main(int argc, char* argv[])
 {
+    WriteOutputUnchanged();
     std::vector<CString> arguments = InstalledDefaults();
-    for (int i = 1; i < argc; ++i) {
-        arguments.push_back(WideFromUtf8(argv[i]));
+    for (const CString& argument : ProgramArguments(argc, argv)) {
+        arguments.push_back(argument);
     }
     return static_cast<int>(
         RunCommandLine(GetWorkbench(), arguments, HasScreen(), std::cout, std::cerr));

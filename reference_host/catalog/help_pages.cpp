@@ -1,13 +1,11 @@
 #include "reference_host/catalog/help_pages.h"
 
 #include "host/host_catalog.h"
-#include "platform/encoding.h"
+#include "platform/detached_program.h"
+#include "platform/loaded_library.h"
 #include "platform/message.h"
 #include "platform/path.h"
-#include "reference_host/catalog/detached_program.h"
 #include "reference_host/prefs/host_settings.h"
-
-#include <dlfcn.h>
 
 #include <string>
 #include <system_error>
@@ -24,12 +22,9 @@ namespace fs = std::filesystem;
 fs::path LibraryFolder()
 {
     static const char here = 0;
-    Dl_info info{};
-    if (dladdr(&here, &info) == 0 || info.dli_fname == nullptr) {
-        return {};
-    }
+    const CString file = CLoadedLibrary(&here).File();
     std::error_code error;
-    return fs::canonical(info.dli_fname, error).parent_path();
+    return file.empty() ? fs::path() : FindFile(file, error).parent_path();
 }
 
 std::vector<fs::path> HelpFolders()
@@ -63,6 +58,12 @@ void Tell(const CString& text)
     }
 }
 
+bool OpenPage(const fs::path& page)
+{
+    const CString program = GetHostSetting(kSettingHelpProgram, CString());
+    return program.empty() ? OpenDocument(page) : StartDetached(program, TextFromPath(page));
+}
+
 } // namespace
 
 std::optional<fs::path> FindHelpPage(unsigned dialogId)
@@ -91,8 +92,7 @@ using namespace reference_host;
 void ShowPDF(unsigned dialogId, int /*art*/)
 {
     const std::optional<fs::path> page = FindHelpPage(dialogId);
-    const CString program = GetHostSetting(kSettingHelpProgram, L"xdg-open");
-    if (page && !StartDetached(Utf8FromWide(program), page->string())) {
+    if (page && !OpenPage(*page)) {
         const CString kind = page->extension() == ".pdf" ? L"PDF" : L"HTML";
         Tell(L"La pagina della guida non si apre: manca un programma per i file " + kind +
              L".\nSi trova in " + TextFromPath(*page));

@@ -1,9 +1,9 @@
 #include "reference_host/check/check_path.h"
 
-#include "platform/encoding.h"
 #include "platform/exception.h"
 #include "platform/format.h"
 #include "platform/path.h"
+#include "platform/system_error.h"
 #include "reference_host/check/check_texts.h"
 #include "reference_host/check/radiator_check.h"
 #include "reference_host/check/valve_check.h"
@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <iterator>
 #include <map>
+#include <set>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -29,8 +30,7 @@ using CFolderPath = std::vector<fs::path>;
 
 void CannotRead(const fs::path& place, const std::error_code& error, CCheckReport& report)
 {
-    report.unreadable.push_back(
-        FormatFileFault({0, WideFromUtf8(error.message()), TextFromPath(place)}));
+    report.unreadable.push_back(FormatFileFault({0, ReasonOf(error), TextFromPath(place)}));
 }
 
 void CheckShortListFile(const CString& file, CCheckReport& report)
@@ -82,8 +82,13 @@ void CheckFile(Checker check, const fs::path& file, CCheckReport& report)
 {
     const auto before = static_cast<std::ptrdiff_t>(report.findings.size());
     check(TextFromPath(file), report);
-    std::ranges::stable_sort(report.findings.begin() + before, report.findings.end(), {},
-                             &CFileFault::nLine);
+    const auto comesBefore = [](const CFileFault& a, const CFileFault& b) {
+        return a.nLine < b.nLine;
+    };
+    const auto found = report.findings.begin() + before;
+    const std::multiset<CFileFault, decltype(comesBefore)> sorted(found, report.findings.end(),
+                                                                  comesBefore);
+    std::ranges::copy(sorted, found);
 }
 
 /// Makers are told from each other by the names of their folders.

@@ -1,8 +1,8 @@
 #include "reference_host/prefs/host_settings.h"
 
-#include "platform/environment.h"
 #include "platform/file_lock.h"
 #include "platform/path.h"
+#include "platform/user_folder.h"
 #include "reference_host/prefs/settings_file.h"
 
 #include <filesystem>
@@ -59,16 +59,8 @@ bool IsStorable(const CString& key, const CString& value)
 
 std::optional<CString> ConfigurationFolder()
 {
-    const std::optional<CString> chosen = GetEnvironment(L"XDG_CONFIG_HOME");
-    // A relative folder would make the settings depend on where the program was started.
-    if (chosen && chosen->starts_with(L'/')) {
-        return JoinPath(*chosen, L"radsel");
-    }
-    const std::optional<CString> home = GetEnvironment(L"HOME");
-    if (home && home->starts_with(L'/')) {
-        return JoinPath(*home, L".config\\radsel");
-    }
-    return std::nullopt;
+    const std::optional<CString> folder = UserSettingsFolder();
+    return folder ? std::optional(JoinPath(*folder, L"radsel")) : std::nullopt;
 }
 
 CString GetHostSetting(const CString& key, const CString& fallback)

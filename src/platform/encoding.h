@@ -24,13 +24,16 @@ inline void AppendCp1252(CString& text, std::span<const std::uint8_t> bytes)
 }
 #endif
 
-/// The code page 1252 bytes of a text; a character outside the code page becomes "?".
+/// The byte of a character in code page 1252, "?" for one that is not in it.
+char Cp1252FromCodePoint(char32_t c);
+
+/// The code page 1252 bytes of a text, one for each character.
 std::string Cp1252FromWide(const CString& text);
 
-/// Appends UTF-16 code units to `text`. A surrogate pair becomes one character; a surrogate without
-/// its partner stays as a character of its own, so that nothing is lost on the way back.
-/// If the last character of `text` is a high surrogate and `units` begins with a low one, the two
-/// join: text may arrive in pieces cut anywhere.
+/// Appends UTF-16 code units to `text`. A surrogate pair becomes the one code point that it stands
+/// for; a surrogate without its partner stays as a character of its own, so that nothing is lost on
+/// the way back. If the last character of `text` is a high surrogate and `units` begins with a low
+/// one, the two join: text may arrive in pieces cut anywhere.
 void AppendUtf16(CString& text, std::u16string_view units);
 
 /// The UTF-16 code units of a text. A value beyond U+10FFFF becomes U+FFFD.

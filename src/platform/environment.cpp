@@ -1,8 +1,5 @@
 #include "platform/environment.h"
 
-#include "platform/encoding.h"
-
-#include <cstdlib>
 #include <utility>
 
 namespace {
@@ -18,8 +15,7 @@ std::optional<CString> Read(const CString& name)
     if (const EnvironmentReader reader = CurrentReader()) {
         return reader(name);
     }
-    const char* const value = std::getenv(Utf8FromWide(name).c_str());
-    return value != nullptr ? std::optional<CString>(WideFromUtf8(value)) : std::nullopt;
+    return ReadSystemEnvironment(name);
 }
 
 } // namespace

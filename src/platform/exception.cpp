@@ -1,9 +1,9 @@
 #include "platform/exception.h"
 
 #include "platform/encoding.h"
+#include "platform/system_error.h"
 
 #include <cerrno>
-#include <system_error>
 #include <utility>
 
 namespace {
@@ -12,13 +12,16 @@ CString FileMessage(int osError, const CString& fileName)
 {
     CString message = fileName;
     if (osError != 0) {
-        message += L": " + WideFromUtf8(std::generic_category().message(osError));
+        message += L": " + ReasonOf(osError);
     }
     return message;
 }
 
 CFileException::Cause CauseOf(int osError)
 {
+    if (IsDiskFull(osError)) {
+        return CFileException::Cause::diskFull;
+    }
     switch (osError) {
     case ENOENT:
         return CFileException::Cause::fileNotFound;
@@ -31,10 +34,6 @@ CFileException::Cause CauseOf(int osError)
     case EROFS:
     case EISDIR:
         return CFileException::Cause::accessDenied;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-        return CFileException::Cause::diskFull;
     case EIO:
         return CFileException::Cause::hardIO;
     default:

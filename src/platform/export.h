@@ -14,8 +14,23 @@
 #endif
 
 /// Marks what the module exports: the thirteen functions of frame/entry_points.h and
-/// frame/lumo_error.h.
+/// frame/lumo_error.h. On Windows who calls them takes them from the library; who has the module
+/// inside says so by RADSEL_INSIDE.
+///
+/// HOST_API marks what one of the host's libraries offers to others. On Windows its own sources are
+/// compiled with RADSEL_BUILDS_HOST.
+#ifndef _WIN32
 #define RADSEL_API __attribute__((visibility("default")))
-
-/// Marks what one of the host's libraries offers to others.
 #define HOST_API __attribute__((visibility("default")))
+#else
+#ifdef RADSEL_INSIDE
+#define RADSEL_API __declspec(dllexport)
+#else
+#define RADSEL_API __declspec(dllimport)
+#endif
+#ifdef RADSEL_BUILDS_HOST
+#define HOST_API __declspec(dllexport)
+#else
+#define HOST_API
+#endif
+#endif

@@ -1,22 +1,17 @@
 #include "platform/file.h"
 
-#include "platform/encoding.h"
+#include "platform/descriptor.h"
 #include "platform/exception.h"
 #include "platform/file_bytes.h"
 #include "platform/path.h"
+#include "platform/system_error.h"
 
 #include <cerrno>
-#include <system_error>
 #include <utility>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace {
 
 constexpr unsigned kAccessMask = CFile::modeWrite | CFile::modeReadWrite;
-constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
 
 } // namespace
 
@@ -38,7 +33,7 @@ bool CFile::Open(const CString& path, unsigned flags)
     m_path = path;
     std::error_code error;
     m_target = FindFile(path, error);
-    m_openError = error.value();
+    m_openError = ErrnoOf(error);
     if (error) {
         return false;
     }
@@ -47,21 +42,12 @@ bool CFile::Open(const CString& path, unsigned flags)
 
 bool CFile::OpenExisting(unsigned flags)
 {
-    int access = O_RDONLY;
+    FileAccess access = FileAccess::read;
     if ((flags & kAccessMask) != 0) {
-        access = (flags & modeReadWrite) != 0 ? O_RDWR : O_WRONLY;
+        access = (flags & modeReadWrite) != 0 ? FileAccess::readWrite : FileAccess::write;
     }
-    struct stat status = {};
-    if (stat(m_target.c_str(), &status) != 0) {
-        m_openError = errno;
-    } else if (!S_ISREG(status.st_mode)) {
-        m_openError = S_ISDIR(status.st_mode) ? EISDIR : EACCES;
-    } else if (access != O_RDONLY && (status.st_mode & kAnyWriteBit) == 0) {
-        m_openError = EACCES;
-    } else {
-        m_descriptor = open(m_target.c_str(), access | O_CLOEXEC);
-        m_openError = IsOpen() ? 0 : errno;
-    }
+    m_descriptor = OpenDescriptor(m_target, access);
+    m_openError = IsOpen() ? 0 : errno;
     return IsOpen();
 }
 
@@ -84,7 +70,7 @@ std::size_t CFile::Read(void* buffer, std::size_t count)
     auto* bytes = static_cast<char*>(buffer);
     std::size_t total = 0;
     while (total < count) {
-        const ssize_t got = read(m_descriptor, bytes + total, count - total);
+        const std::ptrdiff_t got = ReadDescriptor(m_descriptor, bytes + total, count - total);
         if (got == 0) {
             break;
         }
@@ -106,41 +92,35 @@ void CFile::Write(const void* buffer, std::size_t count)
 
 void CFile::Seek(std::uint64_t position)
 {
-    if (lseek(m_descriptor, static_cast<off_t>(position), SEEK_SET) < 0) {
+    static_cast<void>(Checked(SeekDescriptor(m_descriptor, static_cast<std::int64_t>(position))));
+}
+
+std::uint64_t CFile::Checked(std::int64_t value) const
+{
+    if (value < 0) {
         Fail(errno);
     }
+    return static_cast<std::uint64_t>(value);
 }
 
 std::uint64_t CFile::SeekToEnd()
 {
-    const off_t end = lseek(m_descriptor, 0, SEEK_END);
-    if (end < 0) {
-        Fail(errno);
-    }
-    return static_cast<std::uint64_t>(end);
+    return Checked(SeekDescriptorToEnd(m_descriptor));
 }
 
 std::uint64_t CFile::GetPosition() const
 {
-    const off_t position = lseek(m_descriptor, 0, SEEK_CUR);
-    if (position < 0) {
-        Fail(errno);
-    }
-    return static_cast<std::uint64_t>(position);
+    return Checked(PositionOfDescriptor(m_descriptor));
 }
 
 std::uint64_t CFile::GetLength() const
 {
-    struct stat status = {};
-    if (fstat(m_descriptor, &status) != 0) {
-        Fail(errno);
-    }
-    return static_cast<std::uint64_t>(status.st_size);
+    return Checked(LengthOfDescriptor(m_descriptor));
 }
 
 void CFile::SetLength(std::uint64_t length)
 {
-    if (ftruncate(m_descriptor, static_cast<off_t>(length)) != 0) {
+    if (!SetLengthOfDescriptor(m_descriptor, static_cast<std::int64_t>(length))) {
         Fail(errno);
     }
 }
@@ -156,8 +136,8 @@ void CFile::Close()
             Abort();
             Fail(error);
         }
-        close(std::exchange(m_descriptor, -1));
-    } else if (close(std::exchange(m_descriptor, -1)) != 0) {
+        CloseDescriptor(std::exchange(m_descriptor, -1));
+    } else if (!CloseDescriptor(std::exchange(m_descriptor, -1))) {
         Fail(errno);
     }
 }
@@ -166,6 +146,6 @@ void CFile::Abort() noexcept
 {
     m_replacement.Drop();
     if (IsOpen()) {
-        close(std::exchange(m_descriptor, -1));
+        CloseDescriptor(std::exchange(m_descriptor, -1));
     }
 }

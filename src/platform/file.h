@@ -83,6 +83,8 @@ private:
     bool OpenExisting(unsigned flags);
     bool OpenCreated(unsigned flags);
     [[noreturn]] void Fail(int osError) const;
+    /// The value, or the failure that one below 0 stands for.
+    std::uint64_t Checked(std::int64_t value) const;
 
     int m_descriptor = -1;
     int m_openError = 0;

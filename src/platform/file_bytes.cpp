@@ -1,14 +1,14 @@
 #include "platform/file_bytes.h"
 
+#include "platform/descriptor.h"
+
 #include <array>
 #include <cerrno>
-
-#include <unistd.h>
 
 bool WriteAll(int descriptor, const char* bytes, std::size_t count)
 {
     while (count != 0) {
-        const ssize_t written = write(descriptor, bytes, count);
+        const std::ptrdiff_t written = WriteDescriptor(descriptor, bytes, count);
         if (written < 0) {
             if (errno == EINTR) {
                 continue;
@@ -24,9 +24,9 @@ bool WriteAll(int descriptor, const char* bytes, std::size_t count)
 bool ReadAll(int descriptor, std::string& bytes)
 {
     std::array<char, 65536> buffer;
-    ssize_t count = 0;
+    std::ptrdiff_t count = 0;
     do {
-        count = read(descriptor, buffer.data(), buffer.size());
+        count = ReadDescriptor(descriptor, buffer.data(), buffer.size());
         if (count > 0) {
             bytes.append(buffer.data(), static_cast<std::size_t>(count));
         }

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "platform/held_folders.h"
 #include "platform/text.h"
 
-#include <sys/types.h>
+#include <cstdint>
 
 /// Keeps other processes that ask for the lock of the same file waiting from its making to its end,
 /// which is between the reading of a store and its replacement; what they store meanwhile would be
@@ -13,7 +14,8 @@
 /// one process it may be taken again while it is held. No lock is waited for longer than some
 /// seconds, lest a process that was stopped stop all others; then, and where a folder cannot be
 /// locked, the work goes on without it. Across machines it holds where the file system carries the
-/// locks of folders. Never hold it while a dialog is open.
+/// locks of folders, which none does on Windows. The thread that made it ends it. Never hold it
+/// while a dialog is open.
 class CFileLock
 {
 public:
@@ -25,9 +27,11 @@ public:
     CFileLock& operator=(const CFileLock&) = delete;
 
 private:
-    void Take();
+    bool Take(std::intptr_t lock);
 
-    int m_descriptor = -1;
-    dev_t m_device = 0;
-    ino_t m_inode = 0;
+    static constexpr std::intptr_t kNone = -1;
+
+    /// What the system knows the lock by; none where there is nothing to hold.
+    std::intptr_t m_lock = kNone;
+    CFolderKey m_folder;
 };

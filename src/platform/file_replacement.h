@@ -26,7 +26,7 @@ public:
     void Drop() noexcept;
 
 private:
-    int OpenBeside(const struct stat* old);
+    int OpenBeside();
     int Fail(int descriptor);
 
     std::filesystem::path m_target;

@@ -1,5 +1,7 @@
 #include "platform/format.h"
 
+#include "platform/decimal.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -107,7 +109,7 @@ CString FormatPlain(double value)
     char* const last = first + buffer.size();
     const auto digits = std::to_chars(first, last, value, std::chars_format::scientific, kDecimals);
     double rounded = value;
-    std::from_chars(first, digits.ptr, rounded);
+    FromChars(first, digits.ptr, rounded);
     const auto result = std::to_chars(first, last, rounded, std::chars_format::fixed);
     return Widen(first, result.ptr);
 }

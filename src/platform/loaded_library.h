@@ -22,6 +22,5 @@ public:
 
 private:
     CString m_file;
-    CString m_loadedAs;
     const void* m_base = nullptr;
 };

@@ -1,7 +1,8 @@
 #include "platform/number_scan.h"
 
+#include "platform/decimal.h"
+
 #include <algorithm>
-#include <charconv>
 #include <limits>
 #include <string>
 
@@ -33,7 +34,7 @@ bool TakeSign(std::wstring_view text, std::size_t& position)
     return text[position++] == L'-';
 }
 
-/// The unsigned number at the start of a text in the form that std::from_chars reads, and what
+/// The unsigned number at the start of a text in the form that FromChars reads, and what
 /// decides between "too large" and "too small" when the value does not fit a double.
 struct Decimal
 {
@@ -109,7 +110,7 @@ double ToDouble(const Decimal& number)
     }
     double value = 0.0;
     const char* const first = number.digits.data();
-    const auto result = std::from_chars(first, first + number.digits.size(), value);
+    const auto result = FromChars(first, first + number.digits.size(), value);
     if (result.ec != std::errc::result_out_of_range) {
         return value;
     }

@@ -4,8 +4,8 @@
 
 #include <string>
 
-/// Wide text of the module: a value, one code point per wchar_t. Files convert at their border
-/// (encoding.h); nothing here depends on the locale of the process.
+/// Wide text of the module: a value, one code point per wchar_t, or UTF-16 where that has 16 bits.
+/// Files convert at their border (encoding.h); nothing depends on the locale of the process.
 using CString = std::wstring;
 
 /// Lower-case form of one character. Covers ASCII, Latin-1, Latin Extended-A, Greek and Cyrillic,

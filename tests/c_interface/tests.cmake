@@ -6,7 +6,8 @@ function(radsel_c_program target)
     set_target_properties(${target} PROPERTIES
         C_STANDARD 99 C_STANDARD_REQUIRED ON C_EXTENSIONS OFF LINKER_LANGUAGE CXX)
     target_compile_options(${target}
-        PRIVATE $<$<COMPILE_LANGUAGE:C>:-Wall -Wextra -Wpedantic -Wconversion -Werror>)
+        PRIVATE $<$<COMPILE_LANGUAGE:C>:-Wall -Wextra -Wpedantic -Wconversion -Wshadow>
+        $<$<AND:$<COMPILE_LANGUAGE:C>,$<BOOL:${RADSEL_WERROR}>>:-Werror>)
     target_link_libraries(${target} PRIVATE radsel_c)
 endfunction()
 

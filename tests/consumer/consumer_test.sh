@@ -75,7 +75,7 @@ fi
 export CXX=$compiler include=$prefix/include/radsel
 compiles_alone() {
     echo "#include \"$1\"" |
-        "$CXX" -std=c++17 -Wall -Wextra -Wpedantic -Wconversion -Werror -fsyntax-only \
+        "$CXX" -std=c++17 -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -fsyntax-only \
             -I "$include" -x c++ - || { echo "$1 does not compile alone" && false; }
 }
 export -f compiles_alone
@@ -152,7 +152,7 @@ sized() {
 # The skeleton, as somebody copies it.
 cp -r "$prefix/share/doc/radsel/examples/host" "$work/copied"
 quietly "$cmake" -S "$work/copied" -B "$work/skeleton" -DCMAKE_PREFIX_PATH="$prefix" \
-    -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags -Wall -Wextra -Wpedantic -Wconversion -Werror"
+    -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror"
 quietly "$cmake" --build "$work/skeleton"
 "$here/skeleton_test.sh" "$work/skeleton/cad" "$prefix/share/radsel" \
     "$work/consumer/libconfirm_dialogs.so"

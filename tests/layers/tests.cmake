@@ -6,6 +6,11 @@ foreach(program radsel_logic_tests radsel_check radsel_batch)
         ${CMAKE_CURRENT_LIST_DIR}/toolkit_free_test.sh $<TARGET_FILE:${program}>)
 endforeach()
 
+# Without the toolkit there is no whole host to link with.
+if(NOT RADSEL_TOOLKIT)
+    return()
+endif()
+
 # Every room's library links whole with what its line names and the five libraries of a host, a room
 # of the workbench with the module as well. The linker is the test: a function that is missing ends
 # the build.

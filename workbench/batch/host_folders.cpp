@@ -1,16 +1,16 @@
 #include "workbench/batch/host_folders.h"
 
 #include "host/host_prefs.h"
-#include "platform/encoding.h"
 #include "platform/environment.h"
 #include "platform/exception.h"
 #include "platform/message.h"
 #include "platform/path.h"
+#include "platform/program_file.h"
+#include "platform/system_error.h"
 #include "platform/whole_file.h"
 #include "reference_host/prefs/host_settings.h"
 #include "workbench/batch/arguments.h"
 
-#include <cstdlib>
 #include <system_error>
 #include <utility>
 
@@ -20,6 +20,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const wchar_t* kDataRoot = L"TGA_DATA_SINGLE";
+
 /// Raises CArgumentException, with `what` in front and the system's reason where it has one, if the
 /// path is that of no folder.
 void RequireFolder(const CString& what, const CString& path)
@@ -27,18 +29,17 @@ void RequireFolder(const CString& what, const CString& path)
     std::error_code error;
     const fs::file_type type = fs::status(ResolvePath(path), error).type();
     if (type == fs::file_type::none) {
-        throw CArgumentException(what + L" non si può leggere: " + path + L": " +
-                                 WideFromUtf8(error.message()));
+        throw CArgumentException(what + L" non si può leggere: " + path + L": " + ReasonOf(error));
     }
     if (type != fs::file_type::directory) {
         throw CArgumentException(what + L" non esiste: " + path);
     }
 }
 
-void SetUnlessSet(const char* variable, const fs::path& value)
+void SetUnlessSet(const CString& variable, const fs::path& value)
 {
-    if (!GetEnvironment(WideFromUtf8(variable))) {
-        setenv(variable, value.c_str(), 1);
+    if (!GetEnvironment(variable)) {
+        SetSystemEnvironment(variable, TextFromPath(value));
     }
 }
 
@@ -65,7 +66,7 @@ void CopyMissing(const fs::path& from, const fs::path& to)
 /// Where the working place cannot be filled the installed lists are read.
 void DoWithoutWorkplace(const fs::path& lists, const fs::path& own, const CString& reason)
 {
-    setenv("TGA_DATA_SINGLE", lists.c_str(), 1);
+    SetSystemEnvironment(kDataRoot, TextFromPath(lists));
     WriteMessage({L"radsel",
                   L"La cartella " + TextFromPath(own) +
                       L" non è scrivibile: elenchi e posizioni delle finestre non si "
@@ -80,15 +81,14 @@ void FillOwnWorkplace()
 {
     const std::optional<fs::path> data = InstalledDataFolder();
     const fs::path own = OwnWorkplace();
-    if (!data || own.empty() ||
-        GetEnvironment(L"TGA_DATA_SINGLE") != std::optional(TextFromPath(own))) {
+    if (!data || own.empty() || GetEnvironment(kDataRoot) != std::optional(TextFromPath(own))) {
         return;
     }
     try {
         CopyMissing(*data / "root", own);
         CopyMissing(*data / "workplace", own);
     } catch (const fs::filesystem_error& error) {
-        DoWithoutWorkplace(*data / "root", own, WideFromUtf8(error.code().message()));
+        DoWithoutWorkplace(*data / "root", own, ReasonOf(error.code()));
     } catch (const CFileException& error) {
         DoWithoutWorkplace(*data / "root", own, error.GetErrorMessage());
     }
@@ -134,8 +134,7 @@ void RequireValveFolder()
 std::optional<fs::path> InstalledDataFolder()
 {
     std::error_code error;
-    const fs::path program = fs::read_symlink("/proc/self/exe", error);
-    const fs::path data = (program.parent_path() / RADSEL_WAY_TO_DATA).lexically_normal();
+    const fs::path data = (ProgramFile().parent_path() / RADSEL_WAY_TO_DATA).lexically_normal();
     return fs::is_directory(data / "catalogues", error) ? std::optional(data) : std::nullopt;
 }
 
@@ -145,17 +144,17 @@ void UseInstalledData()
     if (!data) {
         return;
     }
-    const std::pair<const char*, const char*> places[] = {
-        {"RADSEL_HKDIR", "catalogues"},
-        {"RADSEL_VEDIR", "valves"},
-        {"RADSEL_HKBLOCKDIR", "drawing/heizkoerper.dxf"},
-        {"RADSEL_VEBLOCKDIR", "drawing/ventile.dxf"},
+    const std::pair<const wchar_t*, const char*> places[] = {
+        {L"RADSEL_HKDIR", "catalogues"},
+        {L"RADSEL_VEDIR", "valves"},
+        {L"RADSEL_HKBLOCKDIR", "drawing/heizkoerper.dxf"},
+        {L"RADSEL_VEBLOCKDIR", "drawing/ventile.dxf"},
     };
     for (const auto& [variable, place] : places) {
         SetUnlessSet(variable, *data / place);
     }
     const fs::path own = OwnWorkplace();
-    SetUnlessSet("TGA_DATA_SINGLE", own.empty() ? *data / "root" : own);
+    SetUnlessSet(kDataRoot, own.empty() ? *data / "root" : own);
 }
 
 std::vector<CString> InstalledDefaults()

@@ -2,6 +2,7 @@
 
 #include "platform/exception.h"
 #include "platform/path.h"
+#include "platform/system_error.h"
 #include "platform/whole_file.h"
 
 #include <cstddef>
@@ -15,7 +16,7 @@ CResultFolder::CResultFolder(const CString& path) : m_strPath(path)
     std::error_code error;
     std::filesystem::create_directories(ResolvePath(path), error);
     if (error) {
-        throw CFileException::FromErrno(error.value(), path);
+        throw CFileException::FromErrno(ErrnoOf(error), path);
     }
 }
 

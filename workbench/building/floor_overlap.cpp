@@ -88,7 +88,7 @@ std::optional<CFloorOverlap> FindOverlap(const std::vector<CFloorRect>& rects, d
     std::iota(order.begin(), order.end(), std::size_t(0));
     // What is no larger than the overlap allowed never lies too far over another.
     std::erase_if(order, [&](std::size_t i) { return OverlapOf(rects[i], rects[i]) <= allowed; });
-    std::ranges::stable_sort(order, {}, [&](std::size_t i) { return rects[i].x; });
+    std::ranges::sort(order, {}, [&](std::size_t i) { return std::pair(rects[i].x, i); });
 
     CSweepLine line(rects, allowed);
     for (const std::size_t index : order) {

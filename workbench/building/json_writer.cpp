@@ -35,8 +35,8 @@ bool NeedsCode(wchar_t c)
 void AppendCharacter(CString& text, wchar_t c)
 {
     constexpr std::wstring_view shortCodes = L"\b\f\n\r\t";
-    if (const std::size_t code = shortCodes.find(c); code != shortCodes.npos) {
-        text += {L'\\', L"bfnrt"[code]};
+    if (const std::size_t place = shortCodes.find(c); place != shortCodes.npos) {
+        text += {L'\\', L"bfnrt"[place]};
     } else if (NeedsCode(c)) {
         std::array<wchar_t, 8> code;
         std::swprintf(code.data(), code.size(), L"\\u%04x", static_cast<unsigned>(c));

@@ -1,10 +1,10 @@
 #include "workbench/dxf/dxf_screen.h"
 
+#include "platform/decimal.h"
 #include "platform/encoding.h"
 #include "platform/format.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <initializer_list>
 #include <optional>
@@ -60,7 +60,7 @@ std::optional<NUMBER> ParseNumber(std::string_view text)
         text.remove_prefix(1);
     }
     NUMBER value{};
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    const auto [end, error] = FromChars(text.data(), text.data() + text.size(), value);
     if (error != std::errc() || end != text.data() + text.size()) {
         return std::nullopt;
     }

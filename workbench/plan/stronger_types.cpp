@@ -4,6 +4,7 @@
 #include "workbench/plan/room_selection.h"
 
 #include <algorithm>
+#include <map>
 #include <tuple>
 #include <utility>
 
@@ -61,15 +62,14 @@ std::vector<CRadiatorProduct> FindStrongerTypes(const std::vector<CRadiatorWish>
     }
     const CRadiatorProduct& own = wishes.front().produkt;
     const double present = CapacityOf(own.strProdukt, wishes).leistung;
-    std::vector<std::pair<CCapacity, CRadiatorProduct>> stronger;
+    // By depth and output; equal ones stay in the order of the catalogue.
+    std::multimap<std::tuple<double, double>, CRadiatorProduct> stronger;
     for (const CString& name : ProductsOfKind(own)) {
         if (const CCapacity capacity = CapacityOf(name, wishes); capacity.leistung > present) {
-            stronger.push_back({capacity, {own.strHersteller, own.strArt, name}});
+            stronger.emplace(std::tuple(capacity.tiefe, capacity.leistung),
+                             CRadiatorProduct{own.strHersteller, own.strArt, name});
         }
     }
-    std::ranges::stable_sort(stronger, {}, [](const auto& entry) {
-        return std::tuple(entry.first.tiefe, entry.first.leistung);
-    });
     std::vector<CRadiatorProduct> products;
     for (auto& [capacity, produkt] : stronger) {
         products.push_back(std::move(produkt));

@@ -43,13 +43,14 @@ std::vector<CLeftWork> ReadLeftWork(const CPlanDocument& document, QStringList& 
         for (auto& file : document.RecoveryFile()->TakeLeft()) {
             tryTo([&] {
                 if (auto work = file->Read()) {
-                    left.push_back({std::move(file), *std::move(work)});
+                    const auto later = std::ranges::upper_bound(
+                        left, work->nTime, std::greater(),
+                        [](const CLeftWork& each) { return each.work.nTime; });
+                    left.insert(later, CLeftWork{std::move(file), *std::move(work)});
                 }
             });
         }
     });
-    std::ranges::stable_sort(left, std::greater(),
-                             [](const CLeftWork& each) { return each.work.nTime; });
     return left;
 }
 

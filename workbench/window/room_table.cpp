@@ -49,10 +49,10 @@ void CRoomRows::Show(const CBuilding& building)
     beginResetModel();
     m_rooms.clear();
     for (const CRoomRef& ref : AllRooms(building)) {
-        const CRoom& room = RoomOf(building, ref);
-        m_rooms.push_back({ref, ToQt(building.floors[ref.nFloor].strName), ToQt(room.strName),
-                           room.bedarf, CoveredOf(room), RemainderOf(room),
-                           workbench::CoverageOf(building, room), StateOf(building, room)});
+        const CRoom& shown = RoomOf(building, ref);
+        m_rooms.push_back({ref, ToQt(building.floors[ref.nFloor].strName), ToQt(shown.strName),
+                           shown.bedarf, CoveredOf(shown), RemainderOf(shown),
+                           workbench::CoverageOf(building, shown), StateOf(building, shown)});
     }
     endResetModel();
 }

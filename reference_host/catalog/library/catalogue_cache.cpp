@@ -4,20 +4,10 @@
 #include "platform/file_limits.h"
 #include "platform/path.h"
 #include "platform/whole_file.h"
-#include "reference_host/catalog/library/file_state.h"
 
 namespace reference_host {
 
 namespace {
-std::optional<struct stat> StatusOf(const std::filesystem::path& path)
-{
-    struct stat status = {};
-    if (stat(path.c_str(), &status) != 0) {
-        return std::nullopt;
-    }
-    return status;
-}
-
 CCatalogueCache::CResult ReadCatalogue(const std::filesystem::path& path)
 {
     try {
@@ -36,10 +26,10 @@ const CCatalogueCache::CResult& CCatalogueCache::Get(const std::filesystem::path
 {
     CEntry& entry = m_entries[path];
     // Taken before the reading, so that a change during it shows next time.
-    const std::optional<struct stat> status = StatusOf(path);
-    if (!status || !entry.status || !IsSameState(*status, *entry.status)) {
+    const std::optional<CFileState> state = StateOf(path);
+    if (!state || state != entry.state) {
         entry.result = ReadCatalogue(path);
-        entry.status = status;
+        entry.state = state;
     }
     return entry.result;
 }

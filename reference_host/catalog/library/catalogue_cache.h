@@ -1,9 +1,8 @@
 #pragma once
 
+#include "platform/file_state.h"
 #include "platform/text.h"
 #include "reference_host/catalog/reader/catalogue_file.h"
-
-#include <sys/stat.h>
 
 #include <filesystem>
 #include <map>
@@ -26,7 +25,7 @@ private:
     struct CEntry
     {
         /// The file as it stood when it was read.
-        std::optional<struct stat> status;
+        std::optional<CFileState> state;
         CResult result;
     };
 

@@ -1,9 +1,8 @@
 #include "reference_host/catalog/library/catalogue_folder.h"
 
-#include "platform/encoding.h"
 #include "platform/folder_name.h"
 #include "platform/path.h"
-#include "reference_host/catalog/library/file_state.h"
+#include "platform/system_error.h"
 
 #include <algorithm>
 #include <system_error>
@@ -21,7 +20,7 @@ constexpr int kLifePerEffort = 10;
 
 CFileFault FaultOf(const std::filesystem::path& path, const std::error_code& error)
 {
-    return {0, L"non si può leggere: " + WideFromUtf8(error.message()), TextFromPath(path)};
+    return {0, L"non si può leggere: " + ReasonOf(error), TextFromPath(path)};
 }
 
 void TakeFolder(CManufacturerListing& listing, const CString& folder, CString name)
@@ -50,12 +49,6 @@ void SortByName(std::vector<CString>& names)
     std::ranges::sort(keys);
     std::ranges::transform(keys, names.begin(), [](auto& key) { return std::move(key.second); });
 }
-
-std::optional<struct stat> StatusOf(const CString& folder)
-{
-    struct stat status = {};
-    return stat(ResolvePath(folder).c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
-}
 } // namespace
 
 CManufacturerListing ListManufacturers(const CString& folder)
@@ -80,9 +73,9 @@ CManufacturerListing ListManufacturers(const CString& folder)
 
 const CManufacturerListing& CManufacturerCache::Get(const CString& folder)
 {
-    const std::optional<struct stat> status = StatusOf(folder);
-    const bool holds = status && m_status && folder == m_strFolder &&
-                       IsSameState(*status, *m_status) && Clock::now() < m_outdatedAt;
+    const std::optional<CFileState> state = StateOf(ResolvePath(folder));
+    const bool holds =
+        state && state == m_state && folder == m_strFolder && Clock::now() < m_outdatedAt;
     if (!holds) {
         m_strFolder = folder;
         const Clock::time_point start = Clock::now();
@@ -91,7 +84,7 @@ const CManufacturerListing& CManufacturerCache::Get(const CString& folder)
         m_outdatedAt =
             end + std::max<Clock::duration>(kShortestLife, kLifePerEffort * (end - start));
         const bool isSound = !m_listing.fault && m_listing.unreadable.empty();
-        m_status = isSound ? status : std::nullopt;
+        m_state = isSound ? state : std::nullopt;
     }
     return m_listing;
 }

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "platform/file_fault.h"
+#include "platform/file_state.h"
 #include "platform/text.h"
-
-#include <sys/stat.h>
 
 #include <chrono>
 #include <filesystem>
@@ -46,7 +45,7 @@ private:
 
     CString m_strFolder;
     CManufacturerListing m_listing;
-    std::optional<struct stat> m_status;
+    std::optional<CFileState> m_state;
     Clock::time_point m_outdatedAt;
 };
 

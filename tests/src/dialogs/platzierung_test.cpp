@@ -141,7 +141,7 @@ TEST_F(Platzierung, OpacityIsTakenFromTheLineWithinItsLimits)
         }
         CFesterDialog dialog(kFest);
         dialog.m_alpha = before;
-        Open(dialog, [&, after = after] { EXPECT_EQ(dialog.GetAlpha(), after); });
+        Open(dialog, [&, expected = after] { EXPECT_EQ(dialog.GetAlpha(), expected); });
         EXPECT_EQ(dialog.m_alpha, after);
     }
 }

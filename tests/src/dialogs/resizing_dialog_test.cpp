@@ -102,7 +102,7 @@ TEST_F(ResizingDialog, OnlyEdgesThatCanMoveShowTheSizingPointer)
     for (const auto& [wide, high, left, bottom, corner] : cases) {
         SCOPED_TRACE(testing::Message() << wide << high);
         CProbeDialog dialog([w = wide, h = high](CProbeDialog& d) { d.GroesseErlauben(w, h); });
-        Run(dialog, [&, left = left, bottom = bottom, corner = corner] {
+        Run(dialog, [&, atLeft = left, atBottom = bottom, atCorner = corner] {
             QWidget& window = dialog.Native();
             const auto pointerAt = [&window](int x, int y) {
                 QTest::mouseMove(&window, QPoint(x, y));
@@ -110,9 +110,9 @@ TEST_F(ResizingDialog, OnlyEdgesThatCanMoveShowTheSizingPointer)
             };
             const int x = window.width() - 1;
             const int y = window.height() - 1;
-            EXPECT_EQ(pointerAt(0, y / 2), left);
-            EXPECT_EQ(pointerAt(x / 2, y), bottom);
-            EXPECT_EQ(pointerAt(x, y), corner);
+            EXPECT_EQ(pointerAt(0, y / 2), atLeft);
+            EXPECT_EQ(pointerAt(x / 2, y), atBottom);
+            EXPECT_EQ(pointerAt(x, y), atCorner);
         });
     }
 }
@@ -157,16 +157,16 @@ TEST_F(ResizingDialog, ControlsFollowByTheirAnchors)
 
 TEST_F(ResizingDialog, SizesStayWithinTheirLimits)
 {
-    for (const auto& [x, y] :
+    for (const auto& [wide, high] :
          {std::pair(true, true), {false, true}, {true, false}, {false, false}}) {
-        CProbeDialog dialog([x = x, y = y](CProbeDialog& d) { d.GroesseErlauben(x, y); });
-        Run(dialog, [&, x = x, y = y] {
+        CProbeDialog dialog([w = wide, h = high](CProbeDialog& d) { d.GroesseErlauben(w, h); });
+        Run(dialog, [&, w = wide, h = high] {
             const CSize least = dialog.Size();
             dialog.Grow(-20, -30);
             EXPECT_EQ(dialog.Size(), least);
             dialog.Grow(50, 40);
-            EXPECT_EQ(dialog.Size(), (CSize{least.cx + (x ? 50 : 0), least.cy + (y ? 40 : 0)}));
-            EXPECT_EQ(dialog.Native().findChild<QSizeGrip*>()->isVisible(), x || y);
+            EXPECT_EQ(dialog.Size(), (CSize{least.cx + (w ? 50 : 0), least.cy + (h ? 40 : 0)}));
+            EXPECT_EQ(dialog.Native().findChild<QSizeGrip*>()->isVisible(), w || h);
         });
     }
 }

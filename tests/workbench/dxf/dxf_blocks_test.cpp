@@ -203,11 +203,11 @@ TEST(DxfBlocks, BrokenFilesSayWhereTheyBreak)
         {entity("0 TEXT|50 1e10|"), 18},
         {entity("0 CIRCLE|40 0|"), 15},
     };
-    for (const auto& [text, line] : cases) {
+    for (const auto& [text, nLine] : cases) {
         const auto parsed = Parse(text);
         const auto* const fault = std::get_if<CFileFault>(&parsed);
         ASSERT_NE(fault, nullptr) << text;
-        EXPECT_EQ(fault->nLine, line) << text;
+        EXPECT_EQ(fault->nLine, nLine) << text;
         EXPECT_FALSE(fault->strMessage.empty());
     }
 }

@@ -1,4 +1,4 @@
-#include "platform/encoding.h"
+#include "platform/program_arguments.h"
 #include "workbench/batch/batch.h"
 #include "workbench/batch/command_line.h"
 #include "workbench/batch/connection_list.h"
@@ -49,9 +49,10 @@ constexpr CProgram kProgram{L"radsel_batch", kRuns};
 
 int main(int argc, char* argv[])
 {
+    WriteOutputUnchanged();
     std::vector<CString> arguments = InstalledDefaults();
-    for (int i = 1; i < argc; ++i) {
-        arguments.push_back(WideFromUtf8(argv[i]));
+    for (const CString& argument : ProgramArguments(argc, argv)) {
+        arguments.push_back(argument);
     }
     return static_cast<int>(RunCommandLine(kProgram, arguments, false, std::cout, std::cerr));
 }

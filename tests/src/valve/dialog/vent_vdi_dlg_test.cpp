@@ -252,8 +252,8 @@ TEST_F(CVentVdiDlgTest, TheCheckBoxHasNoSay)
     Schreibe("Alfa", kAlfa);
     for (const auto& [path, einstellbar] :
          {std::pair{kPfadA, 1}, {Pfad{L"Termostatiche", L"Serie B", L"Doppia due"}, 0}}) {
-        const auto ventil = Waehle([&, path = path](CDialogUser& user) {
-            user.ChooseInTree(kBaum, path);
+        const auto ventil = Waehle([&, chosen = path](CDialogUser& user) {
+            user.ChooseInTree(kBaum, chosen);
             const bool before = user.IsChecked(kEinstellbar);
             dynamic_cast<QAbstractButton&>(user.Widget(kEinstellbar)).click();
             EXPECT_NE(user.IsChecked(kEinstellbar), before);

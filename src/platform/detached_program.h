@@ -1,12 +1,13 @@
 #pragma once
 
-#include <string>
+#include "platform/text.h"
 
-namespace reference_host {
+#include <filesystem>
 
 /// Starts a program, found along PATH, with one argument. The program outlives this process and
 /// leaves nothing behind in it when it ends. False if it cannot be started, or ends at once with an
 /// exit code other than 0; as long as it runs on, that is waited for during a second.
-bool StartDetached(const std::string& program, const std::string& argument);
+bool StartDetached(const CString& program, const CString& argument);
 
-} // namespace reference_host
+/// Opens a document with the program that the user has for its kind. False if there is none.
+bool OpenDocument(const std::filesystem::path& document);

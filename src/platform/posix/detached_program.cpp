@@ -1,13 +1,15 @@
-#include "reference_host/catalog/detached_program.h"
+#include "platform/detached_program.h"
+
+#include "platform/encoding.h"
+#include "platform/path.h"
+
+#include <cerrno>
+#include <string>
 
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
-
-#include <cerrno>
-
-namespace reference_host {
 
 namespace {
 
@@ -48,13 +50,13 @@ bool Fails(int reports)
 
 } // namespace
 
-bool StartDetached(const std::string& program, const std::string& argument)
+bool StartDetached(const CString& program, const CString& argument)
 {
     std::string shell = "sh";
     std::string option = "-c";
     std::string watch = kWatch;
-    std::string name = program;
-    std::string value = argument;
+    std::string name = Utf8FromWide(program);
+    std::string value = Utf8FromWide(argument);
     char* const arguments[] = {shell.data(), option.data(), watch.data(),
                                name.data(),  value.data(),  nullptr};
     int ends[2];
@@ -75,4 +77,7 @@ bool StartDetached(const std::string& program, const std::string& argument)
     return !fails;
 }
 
-} // namespace reference_host
+bool OpenDocument(const std::filesystem::path& document)
+{
+    return StartDetached(L"xdg-open", TextFromPath(document));
+}

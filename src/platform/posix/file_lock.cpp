@@ -5,11 +5,8 @@
 #include <cerrno>
 #include <chrono>
 #include <filesystem>
-#include <mutex>
-#include <set>
 #include <system_error>
 #include <thread>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -22,35 +19,6 @@ namespace {
 /// window that does not answer.
 constexpr std::chrono::seconds kPatience{5};
 constexpr std::chrono::microseconds kNap{500};
-
-/// The folders whose locks this process holds: the system would let it wait for itself.
-class CHeldFolders
-{
-public:
-    using Folder = std::pair<dev_t, ino_t>;
-
-    bool Add(const Folder& folder)
-    {
-        const std::lock_guard guard(m_guard);
-        return m_folders.insert(folder).second;
-    }
-
-    void Remove(const Folder& folder)
-    {
-        const std::lock_guard guard(m_guard);
-        m_folders.erase(folder);
-    }
-
-private:
-    std::mutex m_guard;
-    std::set<Folder> m_folders;
-};
-
-CHeldFolders& HeldFolders()
-{
-    static CHeldFolders folders;
-    return folders;
-}
 
 int OpenFolderOf(const CString& path)
 {
@@ -78,33 +46,36 @@ bool WaitForLock(int descriptor)
 
 CFileLock::CFileLock(const CString& path)
 {
-    m_descriptor = OpenFolderOf(path);
-    if (m_descriptor >= 0) {
-        Take();
+    const int descriptor = OpenFolderOf(path);
+    if (descriptor >= 0 && !Take(descriptor)) {
+        close(descriptor);
     }
 }
 
 CFileLock::~CFileLock()
 {
-    if (m_descriptor >= 0) {
-        HeldFolders().Remove({m_device, m_inode});
-        close(m_descriptor);
+    if (m_lock != kNone) {
+        ReleaseFolder(m_folder);
+        close(static_cast<int>(m_lock));
     }
 }
 
-/// Gives the descriptor up where there is nothing to hold.
-void CFileLock::Take()
+/// False where there is nothing to hold.
+bool CFileLock::Take(std::intptr_t lock)
 {
+    const int descriptor = static_cast<int>(lock);
     struct stat status = {};
-    if (fstat(m_descriptor, &status) == 0) {
-        m_device = status.st_dev;
-        m_inode = status.st_ino;
-        if (HeldFolders().Add({m_device, m_inode})) {
-            if (WaitForLock(m_descriptor)) {
-                return;
-            }
-            HeldFolders().Remove({m_device, m_inode});
-        }
+    if (fstat(descriptor, &status) != 0) {
+        return false;
     }
-    close(std::exchange(m_descriptor, -1));
+    m_folder = {status.st_dev, status.st_ino};
+    if (!HoldFolder(m_folder)) {
+        return false;
+    }
+    if (!WaitForLock(descriptor)) {
+        ReleaseFolder(m_folder);
+        return false;
+    }
+    m_lock = lock;
+    return true;
 }

@@ -1,0 +1,8 @@
+#include "platform/system_error.h"
+
+#include <cerrno>
+
+bool IsDiskFull(int osError)
+{
+    return osError == ENOSPC || osError == EDQUOT || osError == EFBIG;
+}

@@ -1,0 +1,23 @@
+#include "platform/file_state.h"
+
+#include <sys/stat.h>
+
+namespace {
+
+std::int64_t Nanoseconds(const timespec& time)
+{
+    constexpr std::int64_t kASecond = 1'000'000'000;
+    return static_cast<std::int64_t>(time.tv_sec) * kASecond + time.tv_nsec;
+}
+
+} // namespace
+
+std::optional<CFileState> StateOf(const std::filesystem::path& path)
+{
+    struct stat status = {};
+    if (stat(path.c_str(), &status) != 0) {
+        return std::nullopt;
+    }
+    return CFileState{status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
+                      Nanoseconds(status.st_mtim), Nanoseconds(status.st_ctim)};
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/text.h"
+
+#include <system_error>
+
+/// The errno that a failure of the system comes to, 0 for none. Systems number their failures
+/// otherwise than the C library does; those that it has no number for keep their own.
+int ErrnoOf(const std::error_code& error);
+
+/// Why something failed, for the user; the same words on every system.
+CString ReasonOf(const std::error_code& error);
+CString ReasonOf(int osError);
+
+/// Whether an errno says that there is no room left on the disk, or not for this user or file.
+bool IsDiskFull(int osError);
