@@ -5,7 +5,7 @@
 #   reference_host  the five libraries of the reference host, in a folder that no loader searches,
 #                   so that they serve those only who name them
 #   workbench       the program
-#   tools           radsel_check
+#   tools           radsel_check, radsel_batch
 #   python          the Python package
 #   data            sample catalogues, building, blocks and lists; help pages
 #   development     what the programmer of another host needs
@@ -120,6 +120,7 @@ endfunction()
 if(TARGET radsel_check)
     radsel_install_program(radsel_check tools)
 endif()
+radsel_install_program(radsel_batch tools)
 if(RADSEL_WORKBENCH)
     radsel_install_program(radsel_workbench workbench)
     install(FILES ${PROJECT_SOURCE_DIR}/packaging/radsel_workbench.desktop

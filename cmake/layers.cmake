@@ -13,6 +13,7 @@
 #   PARTS sub...    subfolders that belong to the room
 #   TOOLKIT how     `inside`: only sources and parts know the toolkit, the room's headers do not;
 #                   `open`: the room's headers may show it. Without it the room is free of it.
+#   ONLY_WITH option  without that option the room has no target either
 #   OFFERS room...  rooms whose functions a shared library passes on as its own
 #   LINKS lib...    libraries that are bound in without being included as a room
 #
@@ -43,12 +44,12 @@ function(radsel_make_target target folder kind)
     endif()
 endfunction()
 
-function(radsel_is_left_out variable toolkit)
+function(radsel_is_left_out variable toolkit only_with)
     set(left_out FALSE)
-    if(NOT RADSEL_TOOLKIT)
-        if(NOT toolkit STREQUAL none)
-            set(left_out TRUE)
-        endif()
+    if((only_with AND NOT ${only_with}) OR NOT (RADSEL_TOOLKIT OR toolkit STREQUAL none))
+        set(left_out TRUE)
+    endif()
+    if(NOT RADSEL_TOOLKIT OR NOT RADSEL_WORKBENCH)
         foreach(room ${ARGN})
             radsel_target_of(${room} target)
             if(NOT TARGET ${target})
@@ -60,7 +61,7 @@ function(radsel_is_left_out variable toolkit)
 endfunction()
 
 function(radsel_layer folder)
-    cmake_parse_arguments(room "SHARED;PROGRAM;ARCHIVE" "TARGET;TOOLKIT" "PARTS;USES;OFFERS;LINKS" ${ARGN})
+    cmake_parse_arguments(room "SHARED;PROGRAM;ARCHIVE" "TARGET;TOOLKIT;ONLY_WITH" "PARTS;USES;OFFERS;LINKS" ${ARGN})
     set(kind STATIC)
     if(room_SHARED)
         set(kind SHARED)
@@ -80,7 +81,7 @@ function(radsel_layer folder)
     set_property(GLOBAL APPEND PROPERTY RADSEL_LAYERS "${line}")
 
     radsel_target_of(${folder} target)
-    radsel_is_left_out(left_out ${room_TOOLKIT} ${room_USES} ${room_OFFERS})
+    radsel_is_left_out(left_out ${room_TOOLKIT} "${room_ONLY_WITH}" ${room_USES} ${room_OFFERS})
     if(left_out)
         return()
     endif()

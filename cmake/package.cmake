@@ -156,10 +156,13 @@ if(python IN_LIST components)
 endif()
 if(tools IN_LIST components)
     radsel_package(tools radsel-tools SECTION science DEPENDS radsel-reference-host
+        RECOMMENDS radsel-data
         SUMMARY "selection of radiators and valves for CAD programs - tools"
         TEXT
 "radsel_check tells what is wrong in catalogues of radiators and valves and in
-lists of connection types, as the module radsel would read them.")
+lists of connection types, as the module radsel would read them. radsel_batch
+chooses the radiators and valves of a building and writes the schedule as CSV
+and JSON, on machines without a screen or its libraries.")
 endif()
 
 include(CPack)

@@ -3,10 +3,10 @@
 #include "reference_host/prefs/host_settings.h"
 #include "tools/large_floor.h"
 #include "workbench/building/building_json.h"
-#include "workbench/building/qt_text.h"
 #include "workbench/building/radiator_records.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/plan/sizing.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/floor_scene.h"
 
 #include <QCoreApplication>

@@ -8,7 +8,7 @@
 #include "c_interface/records/texts.h"
 #include "host/host_catalog.h"
 #include "host/host_prefs.h"
-#include "module/resource_context.h"
+#include "module/silent/resource_context.h"
 #include "platform/encoding.h"
 #include "platform/folder.h"
 #include "platform/path.h"

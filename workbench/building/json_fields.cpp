@@ -5,9 +5,9 @@
 #include "platform/file_limits.h"
 #include "platform/format.h"
 #include "platform/whole_file.h"
+#include "workbench/building/character.h"
+#include "workbench/building/json_reader.h"
 #include "workbench/building/printable.h"
-
-#include <QJsonDocument>
 
 #include <algorithm>
 #include <cerrno>
@@ -15,6 +15,7 @@
 #include <limits>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace workbench {
 
@@ -30,14 +31,9 @@ CString FromAscii(const char* text)
     return {text, text + std::string_view(text).size()};
 }
 
-bool IsBlank(wchar_t c)
+bool IsFinite(const CJsonValue& value)
 {
-    return QChar::isSpace(static_cast<char32_t>(c));
-}
-
-bool IsFinite(const QJsonValue& value)
-{
-    return value.isDouble() && std::isfinite(value.toDouble());
+    return value.IsNumber() && std::isfinite(value.AsDouble());
 }
 
 [[noreturn]] void Raise(const CFileFault& fault)
@@ -46,65 +42,33 @@ bool IsFinite(const QJsonValue& value)
 }
 
 /// The fault stands at an offset in bytes.
-CFileFault FaultAt(const CString& path, const std::string& bytes, int offset,
+CFileFault FaultAt(const CString& path, std::string_view bytes, std::size_t offset,
                    const CString& message)
 {
-    const std::string_view before(bytes.data(),
-                                  std::min(bytes.size(), static_cast<std::size_t>(offset)));
+    const std::string_view before = bytes.substr(0, offset);
     const auto line = std::count(before.begin(), before.end(), '\n') + 1;
     const std::string_view start = before.substr(before.rfind('\n') + 1);
     CFileFault fault(static_cast<int>(line), message, path);
-    fault.nColumn = static_cast<int>(WideFromUtf8(start).size()) + 1;
+    fault.nColumn = static_cast<int>(LengthOf(WideFromUtf8(start))) + 1;
     return fault;
-}
-
-CString DescribeParseError(QJsonParseError::ParseError error)
-{
-    switch (error) {
-    case QJsonParseError::UnterminatedObject:
-    case QJsonParseError::UnterminatedArray:
-    case QJsonParseError::UnterminatedString:
-        return L"il testo si interrompe: manca una chiusura o una virgola";
-    case QJsonParseError::MissingNameSeparator:
-        return L"mancano i due punti dopo il nome del campo";
-    case QJsonParseError::MissingValueSeparator:
-        return L"manca una virgola tra due valori";
-    case QJsonParseError::IllegalNumber:
-    case QJsonParseError::TerminationByNumber:
-        return L"numero scritto male";
-    case QJsonParseError::IllegalEscapeSequence:
-        return L"sequenza di escape non valida";
-    case QJsonParseError::IllegalUTF8String:
-        return L"il testo non è UTF-8";
-    case QJsonParseError::MissingObject:
-        return L"manca un valore";
-    case QJsonParseError::DeepNesting:
-        return L"troppi livelli annidati";
-    case QJsonParseError::GarbageAtEnd:
-        return L"testo in più dopo la fine";
-    default:
-        return L"non è JSON valido";
-    }
 }
 
 } // namespace
 
-CString TextFromJson(const QString& text)
+CJsonFields::CJsonFields(std::shared_ptr<const CJsonObject> object, const CString& file,
+                         const CString& place)
+    : m_object(std::move(object)), m_strFile(file), m_strPlace(place), m_known{"note"}
 {
-    const std::u16string units = text.toStdU16String();
-    CString wide;
-    AppendUtf16(wide, units);
-    return wide;
 }
 
-CJsonFields::CJsonFields(const QJsonObject& object, const CString& file, const CString& place)
-    : m_object(object), m_strFile(file), m_strPlace(place), m_known{"note"}
+bool CJsonFields::Has(const char* name) const
 {
+    return m_object->Find(name) != nullptr;
 }
 
 bool CJsonFields::TakeNull(const char* name)
 {
-    return Has(name) && Take(name).isNull();
+    return Has(name) && Take(name).IsNull();
 }
 
 CString CJsonFields::Text(const char* name)
@@ -113,7 +77,7 @@ CString CJsonFields::Text(const char* name)
     if (std::ranges::all_of(text, IsBlank)) {
         Fail(FromAscii(name), L"il testo è vuoto");
     }
-    if (text.size() > kLongestText) {
+    if (LengthOf(text) > kLongestText) {
         Fail(FromAscii(name), L"il testo è troppo lungo");
     }
     if (std::ranges::any_of(text, IsControl)) {
@@ -124,11 +88,11 @@ CString CJsonFields::Text(const char* name)
 
 CString CJsonFields::ForeignText(const char* name)
 {
-    const QJsonValue value = Take(name);
-    if (!value.isString()) {
+    const CString* const text = Take(name).GetText();
+    if (!text) {
         Fail(FromAscii(name), L"atteso un testo");
     }
-    return TextFromJson(value.toString());
+    return *text;
 }
 
 CString CJsonFields::ForeignTextOr(const char* name)
@@ -138,11 +102,11 @@ CString CJsonFields::ForeignTextOr(const char* name)
 
 double CJsonFields::Number(const char* name, double min, double max)
 {
-    const QJsonValue value = Take(name);
-    if (!value.isDouble()) {
+    const CJsonValue& value = Take(name);
+    if (!value.IsNumber()) {
         Fail(FromAscii(name), L"atteso un numero");
     }
-    const double number = value.toDouble();
+    const double number = value.AsDouble();
     if (!(number >= min && number <= max)) {
         Fail(FromAscii(name), FormatExact(number) + L" è fuori dall'intervallo da " +
                                   FormatPlain(min) + L" a " + FormatPlain(max));
@@ -171,54 +135,50 @@ int CJsonFields::Integer(const char* name, int min, int max)
 
 std::array<double, 3> CJsonFields::Vector(const char* name)
 {
-    const QJsonArray list = Take(name).toArray();
+    const CJsonList* const list = Take(name).GetList();
     std::array<double, 3> vector = {};
-    if (list.size() != static_cast<qsizetype>(vector.size()) ||
-        !std::all_of(list.begin(), list.end(), IsFinite)) {
+    if (!list || list->size() != vector.size() || !std::ranges::all_of(*list, IsFinite)) {
         Fail(FromAscii(name), L"atteso un elenco [ ] di tre numeri");
     }
-    std::transform(list.begin(), list.end(), vector.begin(),
-                   [](const QJsonValue& value) { return value.toDouble(); });
+    std::ranges::transform(*list, vector.begin(), &CJsonValue::AsDouble);
     return vector;
 }
 
 CJsonFields CJsonFields::Object(const char* name)
 {
-    const QJsonValue value = Take(name);
-    if (!value.isObject()) {
+    const CJsonObject* const object = Take(name).GetObject();
+    if (!object) {
         Fail(FromAscii(name), L"atteso un oggetto { }");
     }
-    return {value.toObject(), m_strFile, m_strPlace};
+    return Within(*object, m_strPlace);
 }
 
 std::vector<CJsonFields> CJsonFields::Objects(const char* name, const CString& what,
                                               bool mayBeEmpty)
 {
-    const QJsonValue value = Take(name);
-    const QJsonArray list = value.toArray();
-    if (!value.isArray() || (list.isEmpty() && !mayBeEmpty) ||
-        !std::all_of(list.begin(), list.end(),
-                     [](const QJsonValue& item) { return item.isObject(); })) {
+    const CJsonList* const list = Take(name).GetList();
+    if (!list || (list->empty() && !mayBeEmpty) ||
+        !std::ranges::all_of(*list, &CJsonValue::GetObject)) {
         Fail(FromAscii(name), mayBeEmpty ? L"atteso un elenco [ ] di oggetti"
                                          : L"atteso un elenco [ ] di almeno un oggetto");
     }
     const CString place = m_strPlace.empty() ? what : m_strPlace + L", " + what;
     std::vector<CJsonFields> objects;
-    objects.reserve(static_cast<std::size_t>(list.size()));
-    for (qsizetype i = 0; i < list.size(); ++i) {
-        objects.emplace_back(list[i].toObject(), m_strFile, place + L" " + FormatInt(i + 1));
+    objects.reserve(list->size());
+    for (const CJsonValue& item : *list) {
+        const auto number = static_cast<long long>(objects.size()) + 1;
+        objects.push_back(Within(*item.GetObject(), place + L" " + FormatInt(number)));
     }
     return objects;
 }
 
 void CJsonFields::RefuseUnknown() const
 {
-    for (auto field = m_object.begin(); field != m_object.end(); ++field) {
-        const QString name = field.key();
+    for (const auto& [name, value] : *m_object) {
         if (std::ranges::none_of(m_known, [&name](std::string_view known) {
-                return name == QLatin1String(known.data(), qsizetype(known.size()));
+                return std::ranges::equal(name, known);
             })) {
-            Fail(TextFromJson(name), L"campo sconosciuto");
+            Fail(name, L"campo sconosciuto");
         }
     }
 }
@@ -229,14 +189,19 @@ void CJsonFields::Fail(const CString& name, const CString& what) const
     Raise({0, place + L"campo \"" + name + L"\": " + what, m_strFile});
 }
 
-QJsonValue CJsonFields::Take(const char* name)
+const CJsonValue& CJsonFields::Take(const char* name)
 {
-    const auto field = m_object.constFind(QLatin1String(name));
-    if (field == m_object.constEnd()) {
+    const CJsonValue* const value = m_object->Find(name);
+    if (!value) {
         Fail(FromAscii(name), L"manca");
     }
     m_known.emplace_back(name);
-    return field.value();
+    return *value;
+}
+
+CJsonFields CJsonFields::Within(const CJsonObject& object, const CString& place) const
+{
+    return {std::shared_ptr<const CJsonObject>(m_object, &object), m_strFile, place};
 }
 
 std::string ReadJsonBytes(const CString& path)
@@ -258,16 +223,17 @@ void WriteJsonBytes(const CString& path, const std::string& bytes)
 
 CJsonFields ParseJson(const std::string& bytes, const CString& path)
 {
-    QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(
-        QByteArray::fromRawData(bytes.data(), qsizetype(bytes.size())), &error);
-    if (error.error != QJsonParseError::NoError) {
-        Raise(FaultAt(path, bytes, error.offset, DescribeParseError(error.error)));
+    std::shared_ptr<const CJsonValue> value;
+    try {
+        value = std::make_shared<const CJsonValue>(ReadJson(bytes));
+    } catch (const CJsonException& error) {
+        Raise(FaultAt(path, bytes, error.GetOffset(), error.GetErrorMessage()));
     }
-    if (!document.isObject()) {
+    const CJsonObject* const object = value->GetObject();
+    if (!object) {
         Raise({0, L"atteso un oggetto { } al livello più alto", path});
     }
-    return {document.object(), path, {}};
+    return {std::shared_ptr<const CJsonObject>(value, object), path, {}};
 }
 
 CJsonFields ReadJsonFile(const CString& path)

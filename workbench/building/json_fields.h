@@ -3,15 +3,16 @@
 #include "platform/exception.h"
 #include "platform/text.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
-
 #include <array>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace workbench {
+
+class CJsonObject;
+class CJsonValue;
 
 /// Content of a file that is not what its format asks for. The message names file, place and field.
 class CContentException : public CException
@@ -27,13 +28,14 @@ class CJsonFields
 {
 public:
     /// `place` says in which part of the file the object stands, as messages show it; may be empty.
-    CJsonFields(const QJsonObject& object, const CString& file, const CString& place);
+    CJsonFields(std::shared_ptr<const CJsonObject> object, const CString& file,
+                const CString& place);
 
     /// From here on messages name this place.
     void SetPlace(const CString& place) { m_strPlace = place; }
     const CString& GetPlace() const { return m_strPlace; }
 
-    bool Has(const char* name) const { return m_object.contains(QLatin1String(name)); }
+    bool Has(const char* name) const;
 
     /// True if the field is there and stands for nothing; it then counts as asked for.
     bool TakeNull(const char* name);
@@ -74,14 +76,18 @@ public:
     void RefuseUnknown() const;
 
     /// The object as it stands in the file.
-    const QJsonObject& GetObject() const { return m_object; }
+    const CJsonObject& GetObject() const { return *m_object; }
 
     [[noreturn]] void Fail(const CString& name, const CString& what) const;
 
 private:
-    QJsonValue Take(const char* name);
+    const CJsonValue& Take(const char* name);
 
-    QJsonObject m_object;
+    /// Fields of an object within this one.
+    CJsonFields Within(const CJsonObject& object, const CString& place) const;
+
+    /// Never null. It shares the whole value of the file.
+    std::shared_ptr<const CJsonObject> m_object;
     CString m_strFile;
     CString m_strPlace;
     std::vector<std::string_view> m_known;
@@ -102,8 +108,5 @@ CJsonFields ParseJson(const std::string& bytes, const CString& path);
 /// The object of a JSON file. A file that cannot be opened or is no JSON object raises
 /// CContentException, the latter with line and column of the place where reading stopped.
 CJsonFields ReadJsonFile(const CString& path);
-
-/// The text of a JSON value with every code unit that the file has, unpaired surrogates included.
-CString TextFromJson(const QString& text);
 
 } // namespace workbench

@@ -2,81 +2,103 @@
 
 #include "platform/encoding.h"
 #include "workbench/building/json_fields.h"
+#include "workbench/building/json_reader.h"
 #include "workbench/building/json_writer.h"
 
-#include <QJsonDocument>
+#include <string_view>
+#include <vector>
 
 namespace workbench {
 
 namespace {
 
-constexpr QLatin1String kNote("note");
+constexpr const char* kNote = "note";
+constexpr const wchar_t* kNoteName = L"note";
 
-bool HasOwnNotes(const QString& field)
+using Notes = std::vector<const CJsonValue*>;
+
+bool HasOwnNotes(const CString& field)
 {
-    return field == QLatin1String("floors") || field == QLatin1String("rooms");
+    return field == L"floors" || field == L"rooms";
 }
 
-void AppendNotesWithin(const QJsonObject& object, QJsonArray& notes);
+void AppendNotesWithin(const CJsonObject& object, Notes& notes);
 
-void AppendNotes(const QJsonValue& value, QJsonArray& notes)
+void AppendNotes(const CJsonValue& value, Notes& notes)
 {
-    if (value.isObject()) {
-        const QJsonObject object = value.toObject();
-        if (object.contains(kNote)) {
-            notes.append(object.value(kNote));
+    if (const CJsonObject* const object = value.GetObject()) {
+        if (const CJsonValue* const note = object->Find(kNote)) {
+            notes.push_back(note);
         }
-        AppendNotesWithin(object, notes);
-        return;
-    }
-    for (const auto& item : value.toArray()) {
-        AppendNotes(item, notes);
+        AppendNotesWithin(*object, notes);
+    } else if (const CJsonList* const list = value.GetList()) {
+        for (const CJsonValue& item : *list) {
+            AppendNotes(item, notes);
+        }
     }
 }
 
-void AppendNotesWithin(const QJsonObject& object, QJsonArray& notes)
+void AppendNotesWithin(const CJsonObject& object, Notes& notes)
 {
-    for (auto field = object.begin(); field != object.end(); ++field) {
-        const QJsonValue value = field.value();
-        if ((value.isObject() || value.isArray()) && field.key() != kNote &&
-            !HasOwnNotes(field.key())) {
+    for (const auto& [name, value] : object) {
+        if (name != kNoteName && !HasOwnNotes(name)) {
             AppendNotes(value, notes);
         }
     }
 }
 
-CString FormatValue(const QJsonValue& value)
+/// The object's own note, or its items where it is a list.
+Notes OwnNotes(const CJsonValue* own)
 {
-    CJsonWriter writer({.bDense = true});
-    writer.Value(nullptr, value);
+    Notes notes;
+    if (own && own->GetList()) {
+        for (const CJsonValue& item : *own->GetList()) {
+            notes.push_back(&item);
+        }
+    } else if (own) {
+        notes.push_back(own);
+    }
+    return notes;
+}
+
+CString TakeLine(CJsonWriter& writer)
+{
     std::string text = writer.Take();
     text.pop_back();
     return WideFromUtf8(text);
 }
 
-QJsonArray Joined(const QJsonValue& own, const QJsonArray& others)
+CString FormatValue(const CJsonValue& value)
 {
-    QJsonArray list = own.toArray();
-    if (!own.isArray() && !own.isUndefined()) {
-        list.append(own);
+    CJsonWriter writer({.bDense = true});
+    writer.Value(nullptr, value);
+    return TakeLine(writer);
+}
+
+CString FormatList(const Notes& notes)
+{
+    CJsonWriter writer({.bDense = true});
+    writer.BeginList(nullptr);
+    for (const CJsonValue* const note : notes) {
+        writer.Value(nullptr, *note);
     }
-    for (const auto& note : others) {
-        list.append(note);
-    }
-    return list;
+    writer.End();
+    return TakeLine(writer);
 }
 
 } // namespace
 
 CString NoteOf(const CJsonFields& fields)
 {
-    const QJsonValue own = fields.GetObject().value(kNote);
-    QJsonArray others;
+    const CJsonValue* const own = fields.GetObject().Find(kNote);
+    Notes others;
     AppendNotesWithin(fields.GetObject(), others);
-    if (!others.isEmpty()) {
-        return FormatValue(Joined(own, others));
+    if (!others.empty()) {
+        Notes all = OwnNotes(own);
+        all.insert(all.end(), others.begin(), others.end());
+        return FormatList(all);
     }
-    return own.isUndefined() ? CString() : FormatValue(own);
+    return own ? FormatValue(*own) : CString();
 }
 
 void WriteNote(CJsonWriter& writer, const CString& note)
@@ -84,14 +106,14 @@ void WriteNote(CJsonWriter& writer, const CString& note)
     if (note.empty()) {
         return;
     }
-    const QJsonArray items =
-        QJsonDocument::fromJson(QByteArray::fromStdString(Utf8FromWide(note))).array();
-    if (items.isEmpty()) {
-        writer.Raw(kNote.data(), note);
+    const bool isList = note.starts_with(L'[') && note != L"[]";
+    if (!isList) {
+        writer.Raw(kNote, note);
         return;
     }
-    writer.BeginList(kNote.data());
-    for (const auto& item : items) {
+    const CJsonValue list = ReadJson(Utf8FromWide(note));
+    writer.BeginList(kNote);
+    for (const CJsonValue& item : *list.GetList()) {
         writer.Raw(nullptr, FormatValue(item));
     }
     writer.End();

@@ -1,9 +1,8 @@
 #include "workbench/building/json_writer.h"
 
 #include "platform/encoding.h"
-#include "workbench/building/json_fields.h"
-
-#include <QVariant>
+#include "workbench/building/character.h"
+#include "workbench/building/json_value.h"
 
 #include <array>
 #include <charconv>
@@ -47,28 +46,46 @@ void AppendCharacter(CString& text, wchar_t c)
     }
 }
 
+/// The characters with codes for those that no file may hold.
+std::string Coded(const CString& text)
+{
+    CString coded;
+    for (std::size_t i = 0; i < text.size();) {
+        const std::size_t places = CharacterAt(text, i).nPlaces;
+        if (places == 1) {
+            AppendCharacter(coded, text[i]);
+        } else {
+            coded.append(text, i, places);
+        }
+        i += places;
+    }
+    return Utf8FromWide(coded);
+}
+
 std::string Quoted(const CString& text)
 {
-    CString quoted = L"\"";
+    CString marked;
     for (const wchar_t c : text) {
         if (c == L'"' || c == L'\\') {
-            quoted += L'\\';
+            marked += L'\\';
         }
-        AppendCharacter(quoted, c);
+        marked += c;
     }
-    return Utf8FromWide(quoted + L"\"");
+    return '"' + Coded(marked) + '"';
 }
 
 } // namespace
 
 void CJsonWriter::BeginObject(const char* name, Layout layout)
 {
-    Begin(name, false, layout);
+    Lead(name);
+    Begin(false, layout);
 }
 
 void CJsonWriter::BeginList(const char* name, Layout layout)
 {
-    Begin(name, true, layout);
+    Lead(name);
+    Begin(true, layout);
 }
 
 void CJsonWriter::End()
@@ -92,6 +109,11 @@ void CJsonWriter::Text(const char* name, const CString& text)
 void CJsonWriter::Number(const char* name, double number)
 {
     Lead(name);
+    AppendNumber(number);
+}
+
+void CJsonWriter::AppendNumber(double number)
+{
     const double size = std::abs(number);
     if (size == 0.0 || !std::isfinite(number)) {
         m_text += '0';
@@ -111,55 +133,46 @@ void CJsonWriter::Null(const char* name)
     m_text += "null";
 }
 
-void CJsonWriter::Value(const char* name, const QJsonValue& value)
+void CJsonWriter::Value(const char* name, const CJsonValue& value)
 {
-    switch (value.type()) {
-    case QJsonValue::Object: {
-        BeginObject(name);
-        const QJsonObject object = value.toObject();
-        for (auto field = object.begin(); field != object.end(); ++field) {
-            Value(field.key().toUtf8().constData(), field.value());
+    Lead(name);
+    Append(value);
+}
+
+void CJsonWriter::Append(const CJsonValue& value)
+{
+    if (const CJsonObject* const object = value.GetObject()) {
+        Begin(false, Layout::lines);
+        for (const auto& [name, field] : *object) {
+            Lead();
+            m_text += Quoted(name) + (m_style.bDense ? ":" : ": ");
+            Append(field);
         }
         End();
-        break;
-    }
-    case QJsonValue::Array:
-        BeginList(name);
-        for (const auto& item : value.toArray()) {
-            Value(nullptr, item);
+    } else if (const CJsonList* const list = value.GetList()) {
+        Begin(true, Layout::lines);
+        for (const CJsonValue& item : *list) {
+            Lead();
+            Append(item);
         }
         End();
-        break;
-    case QJsonValue::String:
-        Text(name, TextFromJson(value.toString()));
-        break;
-    case QJsonValue::Double:
-        if (value.toVariant().metaType() == QMetaType::fromType<qlonglong>()) {
-            // Not every whole number of a reader is a double.
-            Lead(name);
-            m_text += std::to_string(value.toInteger());
-        } else {
-            Number(name, value.toDouble());
-        }
-        break;
-    case QJsonValue::Bool:
-        Lead(name);
-        m_text += value.toBool() ? "true" : "false";
-        break;
-    default:
-        Null(name);
-        break;
+    } else if (const CString* const text = value.GetText()) {
+        m_text += Quoted(*text);
+    } else if (const std::int64_t* const integer = value.GetInteger()) {
+        m_text += std::to_string(*integer);
+    } else if (const double* const number = value.GetDouble()) {
+        AppendNumber(*number);
+    } else if (const bool* const truth = value.GetTruth()) {
+        m_text += *truth ? "true" : "false";
+    } else {
+        m_text += "null";
     }
 }
 
 void CJsonWriter::Raw(const char* name, const CString& json)
 {
     Lead(name);
-    CString text;
-    for (const wchar_t c : json) {
-        AppendCharacter(text, c);
-    }
-    m_text += Utf8FromWide(text);
+    m_text += Coded(json);
 }
 
 std::string CJsonWriter::Take()
@@ -168,9 +181,8 @@ std::string CJsonWriter::Take()
     return std::exchange(m_text, {});
 }
 
-void CJsonWriter::Begin(const char* name, bool list, Layout layout)
+void CJsonWriter::Begin(bool list, Layout layout)
 {
-    Lead(name);
     const bool line =
         m_style.bDense || layout == Layout::line || (!m_levels.empty() && m_levels.back().bLine);
     m_levels.push_back({list, line, true});
@@ -183,7 +195,8 @@ void CJsonWriter::BreakLine()
     m_text.append(m_style.nIndent * m_levels.size(), ' ');
 }
 
-void CJsonWriter::Lead(const char* name)
+/// Parts a value from what stands before it.
+void CJsonWriter::Lead()
 {
     if (!m_levels.empty()) {
         CLevel& level = m_levels.back();
@@ -197,6 +210,11 @@ void CJsonWriter::Lead(const char* name)
             m_text += ' ';
         }
     }
+}
+
+void CJsonWriter::Lead(const char* name)
+{
+    Lead();
     if (name) {
         m_text += '"';
         m_text += name;

@@ -2,13 +2,13 @@
 
 #include "platform/text.h"
 
-#include <QJsonValue>
-
 #include <cstddef>
 #include <string>
 #include <vector>
 
 namespace workbench {
+
+class CJsonValue;
 
 /// Writes JSON for people and for comparing line by line: fields stay in the order in which they
 /// come, an object has a line a field, and small ones stand on a line of their own.
@@ -55,7 +55,7 @@ public:
     void Null(const char* name);
 
     /// A value with all that is in it, the fields of an object by their names.
-    void Value(const char* name, const QJsonValue& value);
+    void Value(const char* name, const CJsonValue& value);
 
     /// A value that is JSON already.
     void Raw(const char* name, const CString& json);
@@ -71,9 +71,12 @@ private:
         bool bEmpty = true;
     };
 
-    void Begin(const char* name, bool list, Layout layout);
+    void Begin(bool list, Layout layout);
     void BreakLine();
     void Lead(const char* name);
+    void Lead();
+    void Append(const CJsonValue& value);
+    void AppendNumber(double number);
 
     CStyle m_style;
     std::string m_text;

@@ -1,17 +1,18 @@
 #include "workbench/building/project_json.h"
 
+#include "platform/number_scan.h"
 #include "workbench/building/json_fields.h"
 #include "workbench/building/json_writer.h"
-#include "workbench/building/qt_text.h"
 
-#include <QDate>
+#include <algorithm>
+#include <chrono>
+#include <string_view>
 
 namespace workbench {
 
 namespace {
 
 constexpr const char* kProject = "project";
-constexpr const char* kDate = "date";
 
 struct CField
 {
@@ -23,8 +24,27 @@ constexpr CField kFields[] = {
     {"client", &CProject::strClient},
     {"designer", &CProject::strDesigner},
     {"number", &CProject::strNumber},
-    {kDate, &CProject::strDate},
+    {"date", &CProject::strDate},
 };
+
+/// True for a day of the calendar in ten characters, "2026-03-01".
+bool IsDate(const CString& text)
+{
+    constexpr std::wstring_view kForm = L"0000-00-00";
+    const auto fits = [](wchar_t c, wchar_t form) {
+        return form == L'0' ? c >= L'0' && c <= L'9' : c == form;
+    };
+    if (!std::ranges::equal(text, kForm, fits)) {
+        return false;
+    }
+    const auto part = [&text](std::size_t first, std::size_t count) {
+        return static_cast<unsigned>(_wtoi(std::wstring_view(text).substr(first, count)));
+    };
+    const std::chrono::year_month_day day(std::chrono::year(static_cast<int>(part(0, 4))),
+                                          std::chrono::month(part(5, 2)),
+                                          std::chrono::day(part(8, 2)));
+    return day.ok() && day.year() > std::chrono::year(0);
+}
 
 } // namespace
 
@@ -41,9 +61,8 @@ CProject ReadProject(CJsonFields& building)
         }
     }
     fields.RefuseUnknown();
-    const QString date = ToQt(project.strDate);
-    if (!date.isEmpty() && QDate::fromString(date, Qt::ISODate).toString(Qt::ISODate) != date) {
-        fields.Fail(FromQt(kDate), L"attesa una data come \"2026-03-01\"");
+    if (!project.strDate.empty() && !IsDate(project.strDate)) {
+        fields.Fail(L"date", L"attesa una data come \"2026-03-01\"");
     }
     return project;
 }

@@ -4,6 +4,8 @@
 #include "platform/encoding.h"
 #include "platform/file_fault.h"
 #include "platform/format.h"
+#include "workbench/batch/connection_list.h"
+#include "workbench/batch/console.h"
 #include "workbench/building/user_text.h"
 #include "workbench/drawing/beside_window.h"
 #include "workbench/drawing/drawing_blocks.h"
@@ -11,8 +13,6 @@
 #include "workbench/drawing/sample_plan.h"
 #include "workbench/drawing/scene_drawer.h"
 #include "workbench/plan/module_call.h"
-#include "workbench/program/connection_list.h"
-#include "workbench/program/console.h"
 #include "workbench/program/dialog_run.h"
 #include "workbench/schedule/text_columns.h"
 

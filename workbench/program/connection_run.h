@@ -2,7 +2,7 @@
 
 #include "frame/conn_values.h"
 #include "frame/ventil_kv.h"
-#include "workbench/program/exit_code.h"
+#include "workbench/batch/exit_code.h"
 
 #include <iosfwd>
 

@@ -3,8 +3,8 @@
 #include "host_defaults/dialogs/dialog_parts.h"
 #include "host_defaults/dialogs/qt_application.h"
 #include "reference_host/catalog/help_pages.h"
-#include "workbench/building/qt_text.h"
-#include "workbench/program/exit_code.h"
+#include "workbench/batch/exit_code.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <QMessageBox>
 

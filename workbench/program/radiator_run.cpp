@@ -1,13 +1,13 @@
 #include "workbench/program/radiator_run.h"
 
 #include "platform/format.h"
+#include "workbench/batch/arguments.h"
+#include "workbench/batch/asked_building.h"
+#include "workbench/batch/console.h"
+#include "workbench/batch/host_folders.h"
 #include "workbench/drawing/drawing_blocks.h"
 #include "workbench/drawing/scene_drawer.h"
-#include "workbench/program/arguments.h"
-#include "workbench/program/asked_building.h"
-#include "workbench/program/console.h"
 #include "workbench/program/dialog_run.h"
-#include "workbench/program/host_folders.h"
 #include "workbench/window/module_calls.h"
 
 #include <QGraphicsScene>

@@ -6,9 +6,9 @@
 #include "host/host_prefs.h"
 #include "platform/format.h"
 #include "reference_host/catalog/catalogue_errors.h"
+#include "workbench/batch/arguments.h"
+#include "workbench/batch/console.h"
 #include "workbench/plan/module_call.h"
-#include "workbench/program/arguments.h"
-#include "workbench/program/console.h"
 #include "workbench/program/dialog_run.h"
 
 namespace workbench {

@@ -3,11 +3,11 @@
 #include "frame/entry_points.h"
 #include "frame/ventil_kv.h"
 #include "platform/format.h"
+#include "workbench/batch/arguments.h"
+#include "workbench/batch/console.h"
+#include "workbench/batch/host_folders.h"
 #include "workbench/plan/module_call.h"
-#include "workbench/program/arguments.h"
-#include "workbench/program/console.h"
 #include "workbench/program/dialog_run.h"
-#include "workbench/program/host_folders.h"
 #include "workbench/schedule/text_columns.h"
 
 namespace workbench {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/program/exit_code.h"
+#include "workbench/batch/exit_code.h"
 
 #include <iosfwd>
 

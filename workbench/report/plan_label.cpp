@@ -1,7 +1,7 @@
 #include "workbench/report/plan_label.h"
 
-#include "workbench/building/qt_text.h"
 #include "workbench/report/plan_legend.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #include "workbench/report/plan_legend.h"
 
-#include "workbench/building/qt_text.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <QPainterPath>
 #include <QTransform>

@@ -1,9 +1,9 @@
 #include "workbench/report/plan_pdf.h"
 
 #include "platform/whole_file.h"
-#include "workbench/building/qt_text.h"
 #include "workbench/report/plan_picture.h"
 #include "workbench/report/plan_tables.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <QBuffer>
 #include <QImage>

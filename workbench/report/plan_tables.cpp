@@ -1,8 +1,8 @@
 #include "workbench/report/plan_tables.h"
 
-#include "workbench/building/qt_text.h"
 #include "workbench/report/plan_picture.h"
 #include "workbench/schedule/schedule_columns.h"
+#include "workbench/toolkit/qt_text.h"
 
 namespace workbench {
 

@@ -1,19 +1,19 @@
 #pragma once
 
+#include "workbench/building/json_value.h"
 #include "workbench/schedule/columns.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
+#include <utility>
 
 namespace workbench {
 
 /// A text or a number as JSON; anything else is null.
-QJsonValue JsonOf(const CCell& cell);
+CJsonValue JsonOf(const CCell& cell);
 
 /// Gives an object what the columns of a part say of a line, under their names. An empty cell has
 /// no field.
 template <class LINE, class SUM>
-void InsertValues(QJsonObject& object, const std::vector<CColumn<LINE, SUM>>& columns,
+void InsertValues(CJsonObject& object, const std::vector<CColumn<LINE, SUM>>& columns,
                   JsonPart part, const LINE& line)
 {
     for (const auto& column : columns) {
@@ -22,21 +22,21 @@ void InsertValues(QJsonObject& object, const std::vector<CColumn<LINE, SUM>>& co
         }
         const CCell cell = column.ValueOf(line);
         if (!std::holds_alternative<std::monostate>(cell)) {
-            object.insert(column.JsonName(), JsonOf(cell));
+            object.Insert(column.JsonName(), JsonOf(cell));
         }
     }
 }
 
 /// A list of items as objects of what their columns say.
 template <class LINE, class SUM>
-QJsonArray MakeItemsJson(const std::vector<LINE>& items,
-                         const std::vector<CColumn<LINE, SUM>>& columns)
+CJsonList MakeItemsJson(const std::vector<LINE>& items,
+                        const std::vector<CColumn<LINE, SUM>>& columns)
 {
-    QJsonArray list;
+    CJsonList list;
     for (const LINE& item : items) {
-        QJsonObject object;
+        CJsonObject object;
         InsertValues(object, columns, JsonPart::item, item);
-        list.append(object);
+        list.push_back(std::move(object));
     }
     return list;
 }

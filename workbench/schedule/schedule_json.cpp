@@ -1,10 +1,12 @@
 #include "workbench/schedule/schedule_json.h"
 
 #include "workbench/building/json_writer.h"
-#include "workbench/building/qt_text.h"
 #include "workbench/schedule/json_values.h"
 #include "workbench/schedule/schedule_columns.h"
 #include "workbench/schedule/valve_json.h"
+
+#include <utility>
+#include <variant>
 
 namespace workbench {
 
@@ -15,21 +17,21 @@ constexpr int kFormatVersion = 1;
 constexpr CJsonWriter::CStyle kStyle{.nIndent = 4, .bOpenEmpty = true};
 
 /// What the columns say in this part of a room.
-void InsertPart(QJsonObject& object, JsonPart part, const CScheduleLine& line)
+void InsertPart(CJsonObject& object, JsonPart part, const CScheduleLine& line)
 {
     InsertValues(object, ScheduleColumns(), part, line);
 }
 
-void InsertValves(QJsonObject& object, const CRoomValves& ventile)
+void InsertValves(CJsonObject& object, const CRoomValves& ventile)
 {
-    if (const QJsonObject valves = MakeValvesJson(ventile); !valves.isEmpty()) {
-        object.insert("valves", valves);
+    if (CJsonObject valves = MakeValvesJson(ventile); !valves.IsEmpty()) {
+        object.Insert("valves", std::move(valves));
     }
 }
 
-QJsonObject MakeRadiator(const CScheduleLine& line)
+CJsonObject MakeRadiator(const CScheduleLine& line)
 {
-    QJsonObject object;
+    CJsonObject object;
     InsertPart(object, JsonPart::radiator, line);
     if (line.row.bErster) {
         InsertPart(object, JsonPart::firstRadiator, line);
@@ -37,92 +39,101 @@ QJsonObject MakeRadiator(const CScheduleLine& line)
     return object;
 }
 
-QJsonObject MakeFurther(const CScheduleLine& line)
+CJsonObject MakeFurther(const CScheduleLine& line)
 {
-    QJsonObject object;
+    CJsonObject object;
     InsertPart(object, JsonPart::product, line);
-    object.insert("radiator", MakeRadiator(line));
+    object.Insert("radiator", MakeRadiator(line));
     InsertValves(object, line.row.ventile);
     return object;
 }
 
-QJsonObject MakeRoom(const CScheduleLine& line)
+CJsonObject MakeRoom(const CScheduleLine& line)
 {
-    QJsonObject object;
+    CJsonObject object;
     InsertPart(object, JsonPart::room, line);
     InsertPart(object, JsonPart::product, line);
     if (line.row.outcome.radiator) {
-        object.insert(line.row.HasRadiator() ? "radiator" : "nearest", MakeRadiator(line));
+        object.Insert(line.row.HasRadiator() ? "radiator" : "nearest", MakeRadiator(line));
     }
     InsertValves(object, line.row.ventile);
     return object;
 }
 
-QJsonObject MakeTotals(const CScheduleTotals& totals)
+CJsonObject MakeTotals(const CScheduleTotals& totals)
 {
-    QJsonObject object;
+    CJsonObject object;
     for (const CScheduleColumn& column : ScheduleColumns()) {
         const CCell cell = column.TotalOf({totals, {}, {}, {}});
         if (column.JsonName() && std::holds_alternative<double>(cell)) {
-            object.insert(column.JsonName(), JsonOf(cell));
+            object.Insert(column.JsonName(), JsonOf(cell));
         }
     }
     return object;
 }
 
 /// The rooms of a floor; rows of one room follow each other.
-QJsonArray MakeRooms(const CScheduleFloor& floor)
+CJsonList MakeRooms(const CScheduleFloor& floor)
 {
     const auto lineOf = [&floor](const CScheduleRow& row) {
         return CScheduleLine{floor.strName, row, {}, true};
     };
     const std::vector<CScheduleRow>& rows = floor.rows;
-    QJsonArray rooms;
+    CJsonList rooms;
     for (auto row = rows.begin(); row != rows.end();) {
-        QJsonObject room = MakeRoom(lineOf(*row));
-        QJsonArray further;
+        CJsonObject room = MakeRoom(lineOf(*row));
+        CJsonList further;
         for (++row; row != rows.end() && !row->bErster; ++row) {
-            further.append(MakeFurther(lineOf(*row)));
+            further.push_back(MakeFurther(lineOf(*row)));
         }
-        if (!further.isEmpty()) {
-            room.insert("furtherRadiators", further);
+        if (!further.empty()) {
+            room.Insert("furtherRadiators", std::move(further));
         }
-        rooms.append(room);
+        rooms.push_back(std::move(room));
     }
     return rooms;
 }
 
-QJsonObject MakeFloor(const CScheduleFloor& floor)
+CJsonObject MakeFloor(const CScheduleFloor& floor)
 {
-    return {{"name", ToQt(floor.strName)},
-            {"rooms", MakeRooms(floor)},
-            {"totals", MakeTotals(floor.totals)}};
+    CJsonObject object;
+    object.Insert("name", floor.strName);
+    object.Insert("rooms", MakeRooms(floor));
+    object.Insert("totals", MakeTotals(floor.totals));
+    return object;
+}
+
+CJsonObject MakeSystem(const CHeatingSystem& system)
+{
+    CJsonObject object;
+    object.Insert("supply", system.vorlauf);
+    object.Insert("return", system.ruecklauf);
+    return object;
 }
 
 } // namespace
 
 std::string FormatScheduleJson(const CSchedule& schedule)
 {
-    QJsonArray floors;
+    CJsonList floors;
     for (const CScheduleFloor& floor : schedule.floors) {
-        floors.append(MakeFloor(floor));
+        floors.push_back(MakeFloor(floor));
     }
-    const QJsonObject system = {{"supply", schedule.system.vorlauf},
-                                {"return", schedule.system.ruecklauf}};
     const CValveBill bill = MakeValveBill(schedule);
-    QJsonObject root = {
-        {"version", kFormatVersion},
-        {"building", ToQt(schedule.strBuilding)},
-        {"system", system},
-        {"floors", floors},
-        {"totals", MakeTotals(schedule.totals)},
-        {"radiators", MakeItemsJson(MakeRadiatorBill(schedule).items, RadiatorBillColumns())},
-        {"valves", MakeItemsJson(bill.items, BillColumns())}};
+    CJsonObject root;
+    root.Insert("version", kFormatVersion);
+    root.Insert("building", schedule.strBuilding);
+    root.Insert("system", MakeSystem(schedule.system));
+    root.Insert("floors", std::move(floors));
+    root.Insert("totals", MakeTotals(schedule.totals));
+    root.Insert("radiators",
+                MakeItemsJson(MakeRadiatorBill(schedule).items, RadiatorBillColumns()));
+    root.Insert("valves", MakeItemsJson(bill.items, BillColumns()));
     if (bill.nMissing > 0) {
-        root.insert("valvesMissing", bill.nMissing);
+        root.Insert("valvesMissing", bill.nMissing);
     }
     CJsonWriter writer(kStyle);
-    writer.Value(nullptr, root);
+    writer.Value(nullptr, std::move(root));
     return writer.Take();
 }
 

@@ -1,6 +1,7 @@
 #include "workbench/schedule/text_columns.h"
 
 #include "platform/format.h"
+#include "workbench/building/character.h"
 #include "workbench/building/printable.h"
 #include "workbench/building/user_text.h"
 
@@ -17,8 +18,8 @@ constexpr int kGapWidth = 2;
 
 struct CharRange
 {
-    wchar_t first;
-    wchar_t last;
+    char32_t first;
+    char32_t last;
 };
 
 constexpr CharRange kJoining[] = {{0x0300, 0x036f}, {0x1ab0, 0x1aff}, {0x1dc0, 0x1dff},
@@ -29,13 +30,13 @@ constexpr CharRange kWide[] = {{0x1100, 0x115f}, {0x2e80, 0xa4cf},   {0xac00, 0x
                                {0xffe0, 0xffe6}, {0x1f300, 0x1faff}, {0x20000, 0x3fffd}};
 
 template <std::size_t N>
-bool IsAmong(wchar_t c, const CharRange (&ranges)[N])
+bool IsAmong(char32_t c, const CharRange (&ranges)[N])
 {
     return std::any_of(std::begin(ranges), std::end(ranges),
                        [c](const CharRange& range) { return c >= range.first && c <= range.last; });
 }
 
-int CharWidth(wchar_t c)
+int CharWidth(char32_t c)
 {
     if (IsAmong(c, kJoining)) {
         return 0;
@@ -49,17 +50,26 @@ CString WithoutEndBlanks(CString text)
     return text;
 }
 
+/// How much of the text the characters are that take no more than so many places on a screen.
+std::size_t CountWithin(const CString& text, int width)
+{
+    std::size_t count = 0;
+    while (count < text.size()) {
+        const CCharacter character = CharacterAt(text, count);
+        width -= CharWidth(character.code);
+        if (width < 0) {
+            break;
+        }
+        count += character.nPlaces;
+    }
+    return count;
+}
+
 /// How many characters of the text fit, up to the last blank among them if there is one behind
 /// `start`.
 std::size_t FittingCharacters(const CString& text, std::size_t start)
 {
-    std::size_t count = 0;
-    for (int used = 0; count < text.size(); ++count) {
-        used += CharWidth(text[count]);
-        if (used > kMostPlaces) {
-            break;
-        }
-    }
+    const std::size_t count = CountWithin(text, kMostPlaces);
     if (count == text.size()) {
         return count;
     }
@@ -103,8 +113,13 @@ CString NumberText(const CNumberForm& form, double value)
 
 int GetDisplayWidth(const CString& text)
 {
-    return std::accumulate(text.begin(), text.end(), 0,
-                           [](int sum, wchar_t c) { return sum + CharWidth(c); });
+    int width = 0;
+    for (std::size_t i = 0; i < text.size();) {
+        const CCharacter character = CharacterAt(text, i);
+        width += CharWidth(character.code);
+        i += character.nPlaces;
+    }
+    return width;
 }
 
 CString ShortenToWidth(const CString& text, int width)
@@ -112,16 +127,7 @@ CString ShortenToWidth(const CString& text, int width)
     if (GetDisplayWidth(text) <= width) {
         return text;
     }
-    CString result;
-    int used = 1;
-    for (const wchar_t c : text) {
-        used += CharWidth(c);
-        if (used > width) {
-            break;
-        }
-        result += c;
-    }
-    return result + L'…';
+    return text.substr(0, CountWithin(text, width - 1)) + L'…';
 }
 
 CString PadToWidth(const CString& text, int width, bool right)

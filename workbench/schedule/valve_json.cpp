@@ -1,90 +1,95 @@
 #include "workbench/schedule/valve_json.h"
 
-#include "workbench/building/qt_text.h"
 #include "workbench/schedule/json_values.h"
 #include "workbench/schedule/schedule_columns.h"
 
 #include <cstddef>
+#include <utility>
+#include <variant>
 
 namespace workbench {
 
 namespace {
 
 /// Machines get a code that does not change with the user's language.
-QString StatusCode(ValveStatus status)
+const wchar_t* StatusCode(ValveStatus status)
 {
     switch (status) {
     case ValveStatus::none:
-        return QStringLiteral("none");
+        return L"none";
     case ValveStatus::found:
-        return QStringLiteral("found");
+        return L"found";
     case ValveStatus::notFound:
-        return QStringLiteral("notFound");
+        return L"notFound";
     case ValveStatus::badFile:
-        return QStringLiteral("badFile");
+        return L"badFile";
     }
     return {};
 }
 
-QJsonObject MakeKvRow(const CKvLine& line)
+CJsonObject MakeKvRow(const CKvLine& line)
 {
-    QJsonObject row;
-    InsertValues(row, KvColumns(), JsonPart::item, line);
-    for (QJsonValueRef value : row) {
-        value = DecimalOf(static_cast<float>(value.toDouble()));
+    CJsonObject row;
+    for (const auto& column : KvColumns()) {
+        const CCell cell = column.ValueOf(line);
+        const auto* const value = std::get_if<double>(&cell);
+        if (value && column.GetJsonPart() == JsonPart::item) {
+            row.Insert(column.JsonName(), DecimalOf(static_cast<float>(*value)));
+        }
     }
     return row;
 }
 
-QJsonArray MakeKvRows(const VDI3805_VENTIL_KV& ventil)
+CJsonList MakeKvRows(const VDI3805_VENTIL_KV& ventil)
 {
-    QJsonArray rows;
+    CJsonList rows;
     for (std::size_t i = 0; i < static_cast<std::size_t>(ventil.AnzahlKv); ++i) {
-        rows.append(MakeKvRow({ventil, i}));
+        rows.push_back(MakeKvRow({ventil, i}));
     }
     return rows;
 }
 
-void InsertRecord(QJsonObject& object, const VDI3805_VENTIL_KV& ventil)
+void InsertRecord(CJsonObject& object, const VDI3805_VENTIL_KV& ventil)
 {
-    object.insert("name", ToQt(ventil.Bezeichnung));
-    object.insert("mainGroup", ToQt(ventil.Hauptgruppe));
-    object.insert("group", ToQt(ventil.Gruppe));
-    object.insert("kind", ventil.VentilArt);
-    object.insert("bypass", ventil.VentilTyp == 1);
-    object.insert("adjustable", ventil.Einstellbar != 0);
-    object.insert("DN", ventil.DN);
-    object.insert("kvs", DecimalOf(ventil.Kvs));
-    object.insert("value5", DecimalOf(ventil.Wert5));
-    object.insert("value6", DecimalOf(ventil.Wert6));
-    object.insert("pressureMax", DecimalOf(ventil.DruckMax));
-    object.insert("text", ToQt(ventil.Zusatz));
-    object.insert("rows", MakeKvRows(ventil));
+    object.Insert("name", ventil.Bezeichnung);
+    object.Insert("mainGroup", ventil.Hauptgruppe);
+    object.Insert("group", ventil.Gruppe);
+    object.Insert("kind", ventil.VentilArt);
+    object.Insert("bypass", ventil.VentilTyp == 1);
+    object.Insert("adjustable", ventil.Einstellbar != 0);
+    object.Insert("DN", ventil.DN);
+    object.Insert("kvs", DecimalOf(ventil.Kvs));
+    object.Insert("value5", DecimalOf(ventil.Wert5));
+    object.Insert("value6", DecimalOf(ventil.Wert6));
+    object.Insert("pressureMax", DecimalOf(ventil.DruckMax));
+    object.Insert("text", ventil.Zusatz);
+    object.Insert("rows", MakeKvRows(ventil));
 }
 
-void InsertValve(QJsonObject& object, const QString& name, const CValveOutcome& valve)
+void InsertValve(CJsonObject& object, const char* name, const CValveOutcome& valve)
 {
     if (valve.status == ValveStatus::none) {
         return;
     }
-    QJsonObject result = {{"status", StatusCode(valve.status)},
-                          {"maker", ToQt(valve.ventil.Hersteller)},
-                          {"number", ToQt(valve.ventil.VentilNr)}};
+    CJsonObject result;
+    result.Insert("status", StatusCode(valve.status));
+    result.Insert("maker", valve.ventil.Hersteller);
+    result.Insert("number", valve.ventil.VentilNr);
     if (valve.status == ValveStatus::found) {
         InsertRecord(result, valve.ventil);
     } else {
-        result.insert("note", ToQt(valve.strNote));
+        result.Insert("note", valve.strNote);
     }
-    object.insert(name, result);
+    object.Insert(name, std::move(result));
 }
 
 } // namespace
 
-QJsonObject MakeValvesJson(const CRoomValves& valves)
+CJsonObject MakeValvesJson(const CRoomValves& valves)
 {
-    QJsonObject object;
-    InsertValve(object, QStringLiteral("supply"), valves.vorlauf);
-    InsertValve(object, QStringLiteral("return"), valves.ruecklauf);
+    CJsonObject object;
+    InsertValve(object, "supply", valves.vorlauf);
+    InsertValve(object, "return", valves.ruecklauf);
     return object;
 }
 

@@ -2,11 +2,11 @@
 
 #include "frame/entry_points.h"
 #include "host/host_prefs.h"
-#include "platform/encoding.h"
 #include "platform/exception.h"
 #include "platform/file_fault.h"
 #include "platform/folder_name.h"
 #include "platform/path.h"
+#include "platform/system_error.h"
 #include "reference_host/files/valve_file_check.h"
 #include "workbench/plan/module_call.h"
 #include "workbench/plan/new_radiator.h"
@@ -74,8 +74,7 @@ CValveOutcome ExplainSilence(const CValveKey& key)
         std::error_code error;
         const fs::file_type type = fs::status(ResolvePath(place), error).type();
         if (type == fs::file_type::none) {
-            return MakeFaulty(key,
-                              {0, L"non si può leggere: " + WideFromUtf8(error.message()), place});
+            return MakeFaulty(key, {0, L"non si può leggere: " + ReasonOf(error), place});
         }
         if (type == fs::file_type::not_found) {
             return MakeMissing(key, ValveStatus::notFound,

@@ -7,17 +7,16 @@
 #include "platform/path.h"
 #include "platform/whole_file.h"
 #include "reference_host/prefs/host_settings.h"
-#include "workbench/building/file_identity.h"
 #include "workbench/building/json_fields.h"
-#include "workbench/building/qt_text.h"
 #include "workbench/drawing/drawing_blocks.h"
+#include "workbench/keeping/file_identity.h"
 #include "workbench/plan/catalogue_check.h"
 #include "workbench/report/plan_dxf.h"
 #include "workbench/report/plan_pdf.h"
 #include "workbench/schedule/schedule_csv.h"
 #include "workbench/schedule/schedule_json.h"
-#include "workbench/schedule/schedule_xlsx.h"
 #include "workbench/schedule/valve_check.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/kept_window.h"
 #include "workbench/window/plan_document.h"
 #include "workbench/window/prompts.h"
@@ -25,6 +24,7 @@
 #include "workbench/window/recovery_offer.h"
 #include "workbench/window/room_dialog.h"
 #include "workbench/window/waiting.h"
+#include "workbench/workbook/schedule_xlsx.h"
 
 #include <QDir>
 

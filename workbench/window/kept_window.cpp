@@ -2,7 +2,7 @@
 
 #include "platform/path.h"
 #include "reference_host/prefs/host_settings.h"
-#include "workbench/building/qt_text.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <QMainWindow>
 

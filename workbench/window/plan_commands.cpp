@@ -1,10 +1,10 @@
 #include "workbench/window/plan_commands.h"
 
-#include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/module_call.h"
 #include "workbench/plan/placement.h"
 #include "workbench/plan/sizing.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/module_calls.h"
 #include "workbench/window/plan_document.h"
 #include "workbench/window/plan_texts.h"

@@ -2,9 +2,9 @@
 
 #include "platform/exception.h"
 #include "workbench/building/building_json.h"
-#include "workbench/building/file_identity.h"
 #include "workbench/building/json_fields.h"
-#include "workbench/building/qt_text.h"
+#include "workbench/keeping/file_identity.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <chrono>
 #include <utility>

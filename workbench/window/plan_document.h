@@ -1,8 +1,8 @@
 #pragma once
 
-#include "workbench/building/building_lock.h"
+#include "workbench/keeping/building_lock.h"
+#include "workbench/keeping/recovery_file.h"
 #include "workbench/plan/plan_history.h"
-#include "workbench/plan/recovery_file.h"
 
 #include <QObject>
 #include <QTimer>

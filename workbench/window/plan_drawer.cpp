@@ -1,7 +1,7 @@
 #include "workbench/window/plan_drawer.h"
 
-#include "workbench/building/qt_text.h"
 #include "workbench/plan/confirmed_connection.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <set>
 

@@ -1,7 +1,7 @@
 #include "workbench/window/plan_texts.h"
 
-#include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/coverage_look.h"
 
 #include <QStringList>

@@ -1,7 +1,7 @@
 #include "workbench/window/project_dialog.h"
 
 #include "workbench/building/printable.h"
-#include "workbench/building/qt_text.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <QDate>
 #include <QDialogButtonBox>

@@ -1,10 +1,10 @@
 #include "workbench/window/recovery_offer.h"
 
 #include "platform/exception.h"
-#include "workbench/building/file_identity.h"
-#include "workbench/building/json_time.h"
-#include "workbench/building/qt_text.h"
-#include "workbench/plan/recovery_file.h"
+#include "workbench/keeping/file_identity.h"
+#include "workbench/keeping/json_time.h"
+#include "workbench/keeping/recovery_file.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/plan_document.h"
 #include "workbench/window/prompts.h"
 

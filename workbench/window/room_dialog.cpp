@@ -1,7 +1,7 @@
 #include "workbench/window/room_dialog.h"
 
 #include "workbench/building/printable.h"
-#include "workbench/building/qt_text.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/decimal_box.h"
 
 #include <QComboBox>

@@ -1,6 +1,6 @@
 #include "workbench/window/room_table.h"
 
-#include "workbench/building/qt_text.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/coverage_look.h"
 #include "workbench/window/plan_texts.h"
 

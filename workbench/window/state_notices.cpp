@@ -1,8 +1,8 @@
 #include "workbench/window/state_notices.h"
 
-#include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/plan_edit.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <utility>
 

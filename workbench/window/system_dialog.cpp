@@ -1,8 +1,8 @@
 #include "workbench/window/system_dialog.h"
 
 #include "reference_host/files/system_list_file.h"
-#include "workbench/building/qt_text.h"
 #include "workbench/plan/coverage.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/decimal_box.h"
 #include "workbench/window/plan_commands.h"
 #include "workbench/window/plan_texts.h"

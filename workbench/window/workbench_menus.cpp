@@ -1,9 +1,9 @@
 // The commands of the window: one table, out of which come menus, tool bar and context menus, and
 // what each needs to be of use.
 
-#include "workbench/building/qt_text.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/plan/placement.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/command_icons.h"
 #include "workbench/window/floor_scene.h"
 #include "workbench/window/message_pane.h"

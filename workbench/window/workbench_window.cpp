@@ -1,10 +1,10 @@
 #include "workbench/window/workbench_window.h"
 
-#include "workbench/building/qt_text.h"
 #include "workbench/drawing/beside_window.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/plan/placement.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/floor_scene.h"
 #include "workbench/window/kept_window.h"
 #include "workbench/window/message_pane.h"

@@ -8,7 +8,7 @@
 #include "host/host_identity.h"
 #include "host/host_prefs.h"
 #include "module/radsel_app.h"
-#include "module/resource_context.h"
+#include "module/silent/resource_context.h"
 
 #include <gtest/gtest.h>
 

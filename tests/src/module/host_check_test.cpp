@@ -1,4 +1,4 @@
-#include "module/host_check.h"
+#include "module/silent/host_check.h"
 
 #include <gtest/gtest.h>
 

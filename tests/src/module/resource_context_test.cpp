@@ -1,6 +1,6 @@
 #include "module/font_occ_manager.h"
 #include "module/radsel_app.h"
-#include "module/resource_context.h"
+#include "module/silent/resource_context.h"
 #include "uikit/application.h"
 
 #include <gtest/gtest.h>

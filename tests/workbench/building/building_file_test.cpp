@@ -65,7 +65,7 @@ TEST_F(BuildingFileTest, TheSampleIsWrittenAsItStands)
 TEST_F(BuildingFileTest, ANoteOfAnyKindIsWrittenAsItWasRead)
 {
     const std::string note =
-        R"({"a":[1,true,null,-0.25],"b":"x\n\"y\"","c":9007199254740993,"d":{}})";
+        R"({"a":[1,true,null,-0.25],"b":"x\n\"y\"","c":9007199254740993,"d\\\"":{}})";
     const CBuilding building =
         Read(Replaced(kPlan, "\"name\": \"Uno\",", "\"name\": \"Uno\", \"note\": " + note + ","));
     const std::string written = FormatBuilding(building);

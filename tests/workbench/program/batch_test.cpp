@@ -1,4 +1,4 @@
-#include "workbench/program/command_line.h"
+#include "workbench/batch/command_line.h"
 
 #include "common/text_file.h"
 #include "platform/encoding.h"
@@ -7,6 +7,7 @@
 #include "tests/support/temp_folder.h"
 #include "workbench/building/building_json.h"
 #include "workbench/dxf/dxf_blocks.h"
+#include "workbench/program/workbench_program.h"
 #include "workbench/schedule/text_columns.h"
 
 #include <QJsonArray>
@@ -55,7 +56,7 @@ protected:
         arguments.insert(arguments.end(), more.begin(), more.end());
         m_out.str({});
         m_err.str({});
-        return RunCommandLine(arguments, false, m_out, m_err);
+        return RunCommandLine(GetWorkbench(), arguments, false, m_out, m_err);
     }
 
     QJsonValue ReadJson() const

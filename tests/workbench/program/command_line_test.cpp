@@ -1,7 +1,8 @@
-#include "workbench/program/command_line.h"
+#include "workbench/batch/command_line.h"
 
 #include "tests/src/platform/thrown.h"
-#include "workbench/program/help_run.h"
+#include "workbench/batch/help_run.h"
+#include "workbench/program/workbench_program.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +28,7 @@ CommandId CommandOf(const std::vector<CString>& arguments, bool hasScreen)
 std::multiset<CString> NamesInHelp()
 {
     std::multiset<CString> names;
-    std::wistringstream lines(GetHelpText());
+    std::wistringstream lines(GetHelpText(true));
     for (CString line; std::getline(lines, line);) {
         if (line.starts_with(L"  --")) {
             names.insert(line.substr(2, line.find(L' ', 2) - 2));
@@ -129,7 +130,8 @@ TEST(CommandLine, ARunWithoutItsBuildingIsRefused)
 {
     std::ostringstream out;
     std::ostringstream err;
-    EXPECT_EQ(RunCommandLine({L"--valves"}, false, out, err), ExitCode::wrongArguments);
+    EXPECT_EQ(RunCommandLine(GetWorkbench(), {L"--valves"}, false, out, err),
+              ExitCode::wrongArguments);
     EXPECT_NE(err.str().find("--building FILE"), std::string::npos) << err.str();
 }
 

@@ -1,4 +1,4 @@
-#include "workbench/program/connection_list.h"
+#include "workbench/batch/connection_list.h"
 
 #include "common/text_file.h"
 #include "tests/src/common/lines.h"

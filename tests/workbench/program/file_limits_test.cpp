@@ -9,9 +9,9 @@
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/test_liste.h"
+#include "workbench/batch/connection_list.h"
 #include "workbench/building/json_fields.h"
 #include "workbench/dxf/dxf_blocks.h"
-#include "workbench/program/connection_list.h"
 #include "workbench/schedule/valve_selection.h"
 
 #include <gtest/gtest.h>

@@ -1,11 +1,14 @@
 #include "platform/encoding.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
+#include "workbench/building/json_writer.h"
 #include "workbench/schedule/json_values.h"
 #include "workbench/schedule/schedule_columns.h"
 #include "workbench/schedule/schedule_csv.h"
 #include "workbench/schedule/valve_json.h"
 #include "workbench/schedule/valve_text.h"
+
+#include <QJsonDocument>
 
 #include <gtest/gtest.h>
 
@@ -33,6 +36,14 @@ const std::string kPlain = "020000000000000000000000000000000100";
 const std::string kBypass = "010000000000000000000000000000000200";
 const std::string kArticles = "800;" + kPlain + ";PT-15;;;Termostatica;\n" // line 10
                               + "800;" + kBypass + ";PB-15;;;Monotubo;\n";
+
+/// The value as a reader of others finds it in a file.
+QJsonDocument Written(const CJsonValue& value)
+{
+    CJsonWriter writer;
+    writer.Value(nullptr, value);
+    return QJsonDocument::fromJson(QByteArray::fromStdString(writer.Take()));
+}
 
 /// The module remembers the last valve by maker and number, so every maker here has a name of his
 /// own.
@@ -207,16 +218,16 @@ TEST_F(ValveTest, ScheduleShowsNamesTablesAndTheBill)
     EXPECT_EQ(std::count(total.begin(), total.end(), L';'),
               std::count(heading.begin(), heading.end(), L';'));
 
-    const QJsonObject json = MakeValvesJson(both);
+    const QJsonDocument json = Written(MakeValvesJson(both));
     EXPECT_EQ(json["supply"]["number"].toString().toStdString(), kPlain);
     EXPECT_EQ(json["supply"]["kvs"].toDouble(), 0.88);
     EXPECT_EQ(json["supply"]["rows"][0]["presetting"].toDouble(), 3.5);
     EXPECT_EQ(json["return"]["rows"][1]["radiatorPercent"].toDouble(), 25.0);
     EXPECT_EQ(json["return"]["text"].toString(), "note");
-    const QJsonObject jsonOfLost = MakeValvesJson(lost);
+    const QJsonDocument jsonOfLost = Written(MakeValvesJson(lost));
     EXPECT_EQ(jsonOfLost["supply"]["status"].toString(), "notFound");
-    EXPECT_TRUE(MakeValvesJson({}).isEmpty());
-    const QJsonArray bill = MakeItemsJson(MakeValveBill(schedule).items, BillColumns());
+    EXPECT_TRUE(MakeValvesJson({}).IsEmpty());
+    const QJsonDocument bill = Written(MakeItemsJson(MakeValveBill(schedule).items, BillColumns()));
     EXPECT_EQ(bill[1]["count"].toInt(), 2);
 }
 

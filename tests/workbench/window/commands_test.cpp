@@ -2,7 +2,7 @@
 
 #include "tests/workbench/window/plan_window.h"
 #include "tests/workbench/window/workbench_fixture.h"
-#include "workbench/building/qt_text.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/message_pane.h"
 
 #include <QCheckBox>

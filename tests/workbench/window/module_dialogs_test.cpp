@@ -5,8 +5,8 @@
 #include "tests/workbench/window/module_user.h"
 #include "tests/workbench/window/workbench_fixture.h"
 #include "tools/make_building_samples.h"
-#include "workbench/building/qt_text.h"
 #include "workbench/plan/plan_edit.h"
+#include "workbench/toolkit/qt_text.h"
 
 #include <QMessageBox>
 #include <QProgressDialog>

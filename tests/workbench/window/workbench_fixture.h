@@ -4,8 +4,8 @@
 
 #include "platform/encoding.h"
 #include "workbench/building/building_json.h"
-#include "workbench/building/file_identity.h"
 #include "workbench/drawing/drawing_blocks.h"
+#include "workbench/keeping/file_identity.h"
 #include "workbench/plan/coverage.h"
 #include "workbench/window/floor_scene.h"
 

@@ -2,8 +2,8 @@
 
 #include "tests/workbench/window/workbench_fixture.h"
 #include "tools/make_building_samples.h"
-#include "workbench/building/qt_text.h"
 #include "workbench/drawing/plan_view.h"
+#include "workbench/toolkit/qt_text.h"
 #include "workbench/window/plan_texts.h"
 
 #include <QCheckBox>
