@@ -33,7 +33,9 @@ int Nachkommastellen(const CString& zahl)
 
 void ListeLeeren(CAuswahlListe& liste)
 {
-    while (liste.Loeschen(0)) {
+    // From the end, so that no entry moves up.
+    for (int i = liste.Anzahl() - 1; i >= 0; --i) {
+        liste.Loeschen(i);
     }
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <unordered_set>
 #include <utility>
 
 namespace workbench {
@@ -63,9 +64,10 @@ void CBlockLibrary::Read(const CString& path)
 std::vector<CString> CBlockLibrary::GetNames() const
 {
     std::vector<CString> names;
+    std::unordered_set<CString> known;
     for (const CDxfDrawing& drawing : m_drawings) {
         for (const CDxfBlock& block : drawing.blocks) {
-            if (Find(block.strName).pBlock == &block) {
+            if (known.insert(ToLower(block.strName)).second) {
                 names.push_back(block.strName);
             }
         }

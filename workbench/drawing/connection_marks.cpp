@@ -14,6 +14,7 @@ std::vector<CConnectionMark> ConnectionMarksOf(TGA_LIST& record)
     const int count =
         lmGet_K_APUNKT_BLOCK_Wc(record.Attribute, punkte.data(), &record.Trafo, TgaGewerk(0), L"");
     std::vector<CConnectionMark> marks;
+    CStandingMarks standing;
     for (std::size_t i = 0; i < static_cast<std::size_t>(count) / 2; ++i) {
         const LM_APUNKT& punkt = punkte[i];
         const auto color = static_cast<COLORREF>(lmGetGewerkColor(punkt.Gewerk));
@@ -23,7 +24,8 @@ std::vector<CConnectionMark> ConnectionMarksOf(TGA_LIST& record)
                              punkt.Wert,
                              QColor(GetRValue(color), GetGValue(color), GetBValue(color)),
                              punkt.Gewerk == kGewerkRuecklauf};
-        mark.punkt = PlaceBeside(mark, marks);
+        mark.punkt = standing.PlaceBeside(mark);
+        standing.Add(mark);
         marks.push_back(mark);
     }
     return marks;

@@ -42,13 +42,11 @@ QPointF StepAside(const CConnectionMark& mark)
                            : QPointF(-mark.richtung.y(), mark.richtung.x()) * width;
 }
 
-bool Covers(const CConnectionMark& mark, const std::vector<CConnectionMark>& standing)
+bool Covers(const CConnectionMark& mark, const CConnectionMark& other)
 {
-    return std::ranges::any_of(standing, [&](const CConnectionMark& other) {
-        return IsUpright(mark) == IsUpright(other) &&
-               Distance(mark.punkt, other.punkt) < 0.5 * WidthOfSymbol(mark) &&
-               Distance(mark.richtung, other.richtung) < 0.5;
-    });
+    return IsUpright(mark) == IsUpright(other) &&
+           Distance(mark.punkt, other.punkt) < 0.5 * WidthOfSymbol(mark) &&
+           Distance(mark.richtung, other.richtung) < 0.5;
 }
 
 QPainterPath LineBetween(const QPointF& from, const QPointF& to)
@@ -128,12 +126,41 @@ double WidthOfSymbol(const CConnectionMark& mark)
     return IsUpright(mark) ? 2.0 * kRingRadius : kHeadWidth;
 }
 
-QPointF PlaceBeside(CConnectionMark mark, const std::vector<CConnectionMark>& standing)
+CStandingMarks::Cell CStandingMarks::CellOf(const QPointF& place)
+{
+    // As wide as a symbol, so that what covers it stands in a cell beside its own at most.
+    constexpr double kSide = kHeadWidth;
+    return {std::llround(place.x() / kSide), std::llround(place.y() / kSide)};
+}
+
+void CStandingMarks::Add(const CConnectionMark& mark)
+{
+    m_cells[CellOf(mark.punkt)].push_back(mark);
+}
+
+bool CStandingMarks::IsCovered(const CConnectionMark& mark) const
+{
+    const auto [x, y] = CellOf(mark.punkt);
+    for (std::int64_t column = x - 1; column <= x + 1; ++column) {
+        for (std::int64_t row = y - 1; row <= y + 1; ++row) {
+            const auto cell = m_cells.find({column, row});
+            if (cell != m_cells.end() &&
+                std::ranges::any_of(cell->second, [&](const CConnectionMark& other) {
+                    return Covers(mark, other);
+                })) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+QPointF CStandingMarks::PlaceBeside(CConnectionMark mark) const
 {
     const QPointF step = StepAside(mark);
     const QPointF place = mark.punkt;
     for (int i = 0; i < kMostSteps; ++i, mark.punkt += step) {
-        if (!Covers(mark, standing)) {
+        if (!IsCovered(mark)) {
             return mark.punkt;
         }
     }

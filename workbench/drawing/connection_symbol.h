@@ -3,6 +3,9 @@
 #include <QColor>
 #include <QGraphicsItem>
 
+#include <cstdint>
+#include <map>
+#include <utility>
 #include <vector>
 
 namespace workbench {
@@ -32,8 +35,25 @@ QGraphicsItem* MakeConnectionSymbol(const CConnectionMark& mark);
 /// Width of a symbol across its direction, in metres.
 double WidthOfSymbol(const CConnectionMark& mark);
 
-/// Where the mark's symbol stands so that it does not cover one of those that stand already: in its
-/// place, or a few widths beside.
-QPointF PlaceBeside(CConnectionMark mark, const std::vector<CConnectionMark>& standing);
+/// Symbols that stand in a plan already. Looking among them takes no longer the more there are, as
+/// long as they do not stand in one place.
+class CStandingMarks
+{
+public:
+    void Add(const CConnectionMark& mark);
+    void Clear() { m_cells.clear(); }
+
+    /// Where the mark's symbol stands so that it does not cover one of these: in its place, or a
+    /// few widths beside.
+    QPointF PlaceBeside(CConnectionMark mark) const;
+
+private:
+    using Cell = std::pair<std::int64_t, std::int64_t>;
+
+    static Cell CellOf(const QPointF& place);
+    bool IsCovered(const CConnectionMark& mark) const;
+
+    std::map<Cell, std::vector<CConnectionMark>> m_cells;
+};
 
 } // namespace workbench

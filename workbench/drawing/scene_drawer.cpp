@@ -99,7 +99,7 @@ void CSceneDrawer::ClearPreview()
     }
     m_previews.clear();
     m_open.reset();
-    m_marks.clear();
+    m_marks.Clear();
 }
 
 void CSceneDrawer::BeginPreview()
@@ -128,9 +128,9 @@ void CSceneDrawer::DrawConnectionPoint(const double punkt[3], const double richt
     CConnectionMark mark{{punkt[0], punkt[1]}, {richtung[0], richtung[1]},
                          richtung[2],          wert,
                          ColorFrom(farbe),     ruecklauf};
-    mark.punkt = PlaceBeside(mark, m_marks);
+    mark.punkt = m_marks.PlaceBeside(mark);
     MakeConnectionSymbol(mark)->setParentItem(m_open.get());
-    m_marks.push_back(mark);
+    m_marks.Add(mark);
 }
 
 } // namespace workbench

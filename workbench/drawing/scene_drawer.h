@@ -69,7 +69,7 @@ private:
     /// The open preview, not in the scene yet; owned.
     std::unique_ptr<QGraphicsObject> m_open;
     /// What stands in the open preview and those before it.
-    std::vector<CConnectionMark> m_marks;
+    CStandingMarks m_marks;
 };
 
 } // namespace workbench

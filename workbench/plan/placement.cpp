@@ -58,14 +58,15 @@ CString Millimetres(double value)
     return FormatNumber(value) + L" mm";
 }
 
-/// The narrowest free place of the kind that the row fits.
-std::optional<std::size_t> FindNarrowest(const CRoom& room, PlaceKind kind,
-                                         const CClearance& clearance, const HK_DATEN_VDI3805& daten)
+/// The narrowest of the places that is of the kind and that the row fits.
+std::optional<std::size_t> FindNarrowest(const CRoom& room, const std::vector<std::size_t>& places,
+                                         PlaceKind kind, const CClearance& clearance,
+                                         const HK_DATEN_VDI3805& daten)
 {
     std::optional<std::size_t> found;
-    for (std::size_t i = 0; i < room.plaetze.size(); ++i) {
+    for (const std::size_t i : places) {
         const CRadiatorPlace& place = room.plaetze[i];
-        if (place.art == kind && !IsTaken(room, i) && FitsPlace(room, place, clearance, daten) &&
+        if (place.art == kind && FitsPlace(room, place, clearance, daten) &&
             (!found || place.breite < room.plaetze[*found].breite)) {
             found = i;
         }
@@ -138,12 +139,12 @@ bool FitsPlace(const CRoom& room, const CRadiatorPlace& place, const CClearance&
 std::optional<std::size_t> FindFreePlace(const CRoom& room, const CClearance& clearance,
                                          const HK_DATEN_VDI3805& daten)
 {
+    const std::vector<std::size_t> free = FreePlaces(room);
     for (const PlaceKind kind : {PlaceKind::window, PlaceKind::wall}) {
-        if (const auto place = FindNarrowest(room, kind, clearance, daten)) {
+        if (const auto place = FindNarrowest(room, free, kind, clearance, daten)) {
             return place;
         }
     }
-    const std::vector<std::size_t> free = FreePlaces(room);
     return free.empty() ? std::nullopt : std::optional(free.front());
 }
 
@@ -156,9 +157,15 @@ bool IsTaken(const CRoom& room, std::size_t place)
 
 std::vector<std::size_t> FreePlaces(const CRoom& room)
 {
+    std::vector<bool> taken(room.plaetze.size());
+    for (const CPlacedRadiator& radiator : room.heizkoerper) {
+        if (radiator.nPlatz < taken.size()) {
+            taken[radiator.nPlatz] = true;
+        }
+    }
     std::vector<std::size_t> places;
-    for (std::size_t i = 0; i < room.plaetze.size(); ++i) {
-        if (!IsTaken(room, i)) {
+    for (std::size_t i = 0; i < taken.size(); ++i) {
+        if (!taken[i]) {
             places.push_back(i);
         }
     }

@@ -32,7 +32,8 @@ void CPlanHistory::Do(const CString& what, CBuilding next)
 
 bool CPlanHistory::Has(StateId id) const
 {
-    return std::ranges::find(m_states, id, &CState::nId) != m_states.end();
+    // Later states have higher numbers.
+    return std::ranges::binary_search(m_states, id, {}, &CState::nId);
 }
 
 bool CPlanHistory::IsReached(StateId id) const

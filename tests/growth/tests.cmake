@@ -1,0 +1,27 @@
+# How the work of each operation grows with its input, counted in instructions by callgrind, which
+# cannot run what the sanitizers have made, nor programs for Windows.
+if(RADSEL_SANITIZE OR WIN32)
+    return()
+endif()
+
+find_program(RADSEL_VALGRIND valgrind REQUIRED)
+find_path(RADSEL_VALGRIND_INCLUDE valgrind/callgrind.h REQUIRED)
+
+radsel_test_sources(growth_sources growth/*.cpp)
+add_executable(radsel_growth_tests ${growth_sources})
+target_include_directories(radsel_growth_tests SYSTEM PRIVATE ${RADSEL_VALGRIND_INCLUDE})
+target_link_libraries(radsel_growth_tests PRIVATE radsel_dialog_support workbench_program
+    reference_host_check radsel_sample_buildings radsel_sample_catalogues radsel_sample_valves
+    radsel_warnings)
+radsel_precompile(radsel_growth_tests toolkit_tests)
+
+# Each part by itself, so that they run side by side.
+foreach(part Readers Lists Dialogs Plan Window)
+    string(TOLOWER growth_${part} name)
+    set(counts ${CMAKE_CURRENT_BINARY_DIR}/${name}.counts)
+    add_test(NAME ${name} COMMAND ${RADSEL_VALGRIND} -q --tool=callgrind --collect-atstart=no
+        --callgrind-out-file=${counts} $<TARGET_FILE:radsel_growth_tests>
+        --gtest_filter=${part}/*)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;RADSEL_GROWTH_COUNTS=${counts}")
+endforeach()

@@ -1,0 +1,173 @@
+// The window of the workbench over a floor of many rooms: its docks, and what the user does there.
+
+#include "tests/growth/growth.h"
+
+#include "platform/encoding.h"
+#include "tests/support/environment_variable.h"
+#include "tests/support/setting_override.h"
+#include "tests/support/temp_folder.h"
+#include "tools/large_floor.h"
+#include "uikit/application.h"
+#include "workbench/drawing/plan_view.h"
+#include "workbench/window/floor_scene.h"
+#include "workbench/window/message_pane.h"
+#include "workbench/window/state_notices.h"
+#include "workbench/window/workbench_window.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
+
+using namespace reference_host;
+
+namespace workbench {
+
+namespace {
+
+CBuilding Floor(int size)
+{
+    CBuilding building = MakeLargeFloor(static_cast<std::size_t>(size));
+    building.floors.front().strName = L"Terra";
+    return building;
+}
+
+/// The building after a change to one room.
+CBuilding Changed(CBuilding building)
+{
+    CRoom room = RoomOf(building, {0, 0});
+    room.bedarf += 100.0;
+    ReplaceRoom(building, {0, 0}, std::move(room));
+    return building;
+}
+
+void Finish()
+{
+    QApplication::sendPostedEvents();
+}
+
+class CWindow
+{
+public:
+    explicit CWindow(int size)
+    {
+        EnsureApplication();
+        document.BeginNew(Floor(size));
+        CPrompts prompts;
+        prompts.ask = [](auto&&...) { return CPrompts::Answer::yes; };
+        prompts.tell = [](auto&&...) {};
+        window = std::make_unique<CWorkbenchWindow>(document, CDrawingBlocks(), prompts);
+        window->resize(1200, 800);
+        window->show();
+        Finish();
+    }
+
+    template <class T>
+    T& The(const char* name) const
+    {
+        return *window->findChild<T*>(name);
+    }
+
+    const CTempFolder folder;
+    CPlanDocument document{nullptr};
+    std::unique_ptr<CWorkbenchWindow> window;
+
+private:
+    CEnvironmentVariable m_config{"XDG_CONFIG_HOME", folder.Root().c_str()};
+    CSettingOverride m_catalogues{kSettingHKDir, WideFromUtf8(RADSEL_DATA_DIR "/catalogues")};
+    CSettingOverride m_valves{kSettingVEDir, folder.Path()};
+    CSettingOverride m_records{kSettingDefFolder, folder.Path()};
+    CSettingOverride m_local{kSettingLocalPath, folder.Path()};
+};
+
+/// What the user does, and what is painted for that.
+template <class STEP>
+void InWindow(int rooms, CWorkCount& count, STEP step)
+{
+    CWindow window(rooms);
+    count.Of([&] { step(window); });
+}
+
+void ChangeAndUndo(CWindow& window)
+{
+    window.document.Do(L"Modifica", Changed(window.document.Building()));
+    Finish();
+    window.document.Undo();
+    Finish();
+}
+
+void MarkAll(CWindow& window)
+{
+    QTest::keyClick(&window.The<CPlanView>("plan"), Qt::Key_A, Qt::ControlModifier);
+    Finish();
+}
+
+void WorkInList(CWindow& window)
+{
+    QTest::keyClicks(&window.The<QLineEdit>("find"), "x");
+    window.The<QTableView>("rooms").sortByColumn(2, Qt::DescendingOrder);
+    Finish();
+    window.The<QCheckBox>("openOnly").click();
+    Finish();
+}
+
+void TellRooms(int size, CWorkCount& count)
+{
+    EnsureApplication();
+    const CPlanHistory history(Floor(1));
+    CMessagePane pane;
+    std::vector<CNotice> notices;
+    for (int i = 0; i < size; ++i) {
+        notices.push_back({"Un radiatore non basta.", "Locale " + QString::number(1000 + i)});
+    }
+    count.Of([&] {
+        pane.Add(notices, history.GetCurrentId());
+        pane.ShowFor(history);
+    });
+}
+
+void NoticeStates(int size, CWorkCount& count)
+{
+    const CBuilding building = Floor(size);
+    CStateNotices states;
+    count.Of([&] {
+        states.TakeNew(building);
+        Require(states.TakeNew(building).empty());
+    });
+}
+
+void ShowFloor(int size, CWorkCount& count)
+{
+    EnsureApplication();
+    const CBuilding building = Floor(size);
+    const CBuilding changed = Changed(building);
+    CFloorScene scene;
+    CPlanView view(&scene);
+    view.resize(1200, 800);
+    count.Of([&] {
+        scene.ShowFloor(building, 0);
+        scene.ShowFloor(changed, 0);
+        scene.ShowFloor(building, 1);
+    });
+}
+
+} // namespace
+
+} // namespace workbench
+
+std::vector<CGrowthCase> WindowCases()
+{
+    using namespace workbench;
+    return {
+        {"Workbench", "rooms", 10,
+         [](int n, CWorkCount& c) { c.Of([n] { const CWindow window(n); }); }},
+        {"ChangeInTheWorkbench", "rooms", 10,
+         [](int n, CWorkCount& c) { InWindow(n, c, ChangeAndUndo); }},
+        {"MarkingAllRooms", "rooms", 40, [](int n, CWorkCount& c) { InWindow(n, c, MarkAll); }},
+        {"ListOfRooms", "rooms", 40, [](int n, CWorkCount& c) { InWindow(n, c, WorkInList); }},
+        {"DrawnFloor", "rooms", 10, ShowFloor},
+        {"WarningsOfRooms", "notices", 20, TellRooms},
+        {"NewWarnings", "rooms", 50, NoticeStates},
+    };
+}
