@@ -18,10 +18,13 @@ public:
     // Callers take it for the text that it stands for.
     operator CString() const; // NOLINT(google-explicit-constructor,hicpp-explicit-conversions)
 
+    // The names that they have in the text that it stands for.
+    // NOLINTBEGIN(readability-identifier-naming)
     std::size_t size() const { return m_text.GetSize(); }
     bool empty() const { return size() == 0; }
     CString substr(std::size_t position, std::size_t count = CString::npos) const;
     std::size_t find(std::wstring_view piece) const { return CString(*this).find(piece); }
+    // NOLINTEND(readability-identifier-naming)
 
     /// Compares without widening.
     friend bool operator==(const CVentilText& a, std::wstring_view b);
