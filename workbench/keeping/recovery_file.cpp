@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kVersion = 1;
+constexpr int kRecoveryVersion = 1;
 
 /// More programs than anyone runs at a time, and more crashes than anyone leaves alone.
 constexpr int kMostFiles = 1000;
@@ -94,7 +94,7 @@ int Lock(const CString& path)
 CRecovery ParseRecovery(const std::string& bytes, const CString& path)
 {
     CJsonFields fields = ParseJson(bytes, path);
-    fields.Integer("version", kVersion, kVersion);
+    fields.Integer("version", kRecoveryVersion, kRecoveryVersion);
     CRecovery recovery;
     recovery.strPath = fields.ForeignText("path");
     recovery.strFingerprint = fields.ForeignTextOr("saved");
@@ -109,7 +109,7 @@ std::string FormatRecovery(const CString& path, const CString& fingerprint,
 {
     CJsonWriter writer;
     writer.BeginObject(nullptr);
-    writer.Number("version", kVersion);
+    writer.Number("version", kRecoveryVersion);
     writer.Text("path", path);
     if (!fingerprint.empty()) {
         writer.Text("saved", fingerprint);
