@@ -50,7 +50,11 @@
 #include <stddef.h>
 #include <stdint.h>
 
-#if defined(__GNUC__)
+#if defined(_WIN32) && defined(RADSEL_C_BUILDS)
+#define RADSEL_C_API __declspec(dllexport)
+#elif defined(_WIN32)
+#define RADSEL_C_API __declspec(dllimport)
+#elif defined(__GNUC__)
 #define RADSEL_C_API __attribute__((visibility("default")))
 #else
 #define RADSEL_C_API

@@ -61,7 +61,7 @@ void Tell(const CString& text)
 bool OpenPage(const fs::path& page)
 {
     const CString program = GetHostSetting(kSettingHelpProgram, CString());
-    return program.empty() ? OpenDocument(page) : StartDetached(program, TextFromPath(page));
+    return program.empty() ? OpenDocument(page) : StartDetached(program, page);
 }
 
 } // namespace

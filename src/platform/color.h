@@ -2,8 +2,13 @@
 
 #include <cstdint>
 
-/// A colour as 0x00BBGGRR.
+/// A colour as 0x00BBGGRR: a number of 32 bits, which on Windows is the system's own type of that
+/// name.
+#ifdef _WIN32
+using COLORREF = unsigned long;
+#else
 using COLORREF = std::uint32_t;
+#endif
 
 /// A colour of its three parts, and these of a colour. The brackets around the names keep macros of
 /// the same names, which many systems have, out of the declarations.

@@ -45,7 +45,7 @@ void AskHost()
 void RunSettings(std::span<const std::uint8_t> bytes)
 {
     static const CTempFolder folder;
-    const CEnvironmentVariable config("XDG_CONFIG_HOME", folder.Root().c_str());
+    const CEnvironmentVariable config(kSettingsVariable, folder.Root().string().c_str());
     const std::string before(bytes.begin(), bytes.end());
     folder.WriteBytes("radsel/settings.txt", before);
     std::map<CString, CString> settings = AllSettings();

@@ -41,13 +41,24 @@ bool NamesToolkit(const std::string& line)
     return line.find('Q') != std::string::npos && std::regex_search(line, name);
 }
 
+/// True for a header or a macro that one kind of system has and another one has not.
+bool NamesSystem(const std::string& line)
+{
+    static const std::regex header("^<(sys/|arpa/|net|unistd|fcntl|dlfcn|link|poll|pwd|grp|spawn|"
+                                   "dirent|termios|windows|io\\.h|psapi|shellapi|shlobj|winsock)");
+    return std::regex_search(IncludedBy(line), header) ||
+           line.find("_WIN32") != std::string::npos || line.find("__linux__") != std::string::npos;
+}
+
 /// Holds the includes of a source tree against the table of its rooms, as the build writes it. A
 /// line of the table is the folder of a room, how it stands to the toolkit, and the rooms it uses:
 ///
 ///     src/dialogs toolkit=none src/uikit src/common
 ///
 /// A room may include itself, what it uses, and all that those may include. A file belongs to the
-/// room of the nearest folder above it. A fault names file and line and the rule that is broken.
+/// room of the nearest folder above it. What is free of the toolkit runs on every system, so that
+/// there only platform, and mostly its parts, may name one. A fault names file and line and the
+/// rule that is broken.
 class CLayerCheck
 {
 public:
@@ -80,7 +91,7 @@ public:
         }
         for (const std::string& house : houses) {
             for (const auto& entry : fs::recursive_directory_iterator(m_root / house)) {
-                const std::string kind = entry.path().extension();
+                const std::string kind = entry.path().extension().string();
                 if (kind == ".h" || kind == ".cpp") {
                     CheckFile(fs::relative(entry.path(), m_root));
                 }
@@ -143,6 +154,10 @@ private:
             const std::string place = file.generic_string() + ':' + std::to_string(number) + ": ";
             CheckInclude(place, line, *folder, room);
             CheckToolkit(place, line, *folder, room, open);
+            if (room.strToolkit == "toolkit=none" && *folder != "src/platform" &&
+                *folder != "c_interface" && NamesSystem(line)) {
+                m_faults.push_back(place + "only src/platform knows one system from another");
+            }
         }
     }
 

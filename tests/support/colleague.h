@@ -1,18 +1,18 @@
 #pragma once
 
-#include <gtest/gtest.h>
+#include <filesystem>
 
-#include <unistd.h>
-
-/// A user without special rights.
-inline constexpr uid_t kColleagueId = 12345;
-
-/// Makes the process that user for a while, where it is root; elsewhere it stays who it is.
+/// Makes the process a user without special rights for a while, where it is root; elsewhere it
+/// stays who it is. A test that needs one needs a system whose files belong to users by numbers.
 class CAsColleague
 {
 public:
-    CAsColleague() { EXPECT_EQ(geteuid() == 0 ? seteuid(kColleagueId) : 0, 0); }
-    ~CAsColleague() { EXPECT_EQ(seteuid(getuid()), 0); }
+    CAsColleague();
+    ~CAsColleague();
     CAsColleague(const CAsColleague&) = delete;
     CAsColleague& operator=(const CAsColleague&) = delete;
 };
+
+/// Gives him a file, where the process is root; the file keeps its group, or gets his.
+void GiveToColleague(const std::filesystem::path& file);
+void GiveToColleagueAndGroup(const std::filesystem::path& file);

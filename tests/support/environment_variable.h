@@ -1,34 +1,28 @@
 #pragma once
 
-#include <cstdlib>
+#include "platform/encoding.h"
+#include "platform/environment.h"
+
 #include <optional>
-#include <string>
+
+/// The variable with the folder below which the user's settings lie.
+extern const char* const kSettingsVariable;
 
 /// Sets or removes a variable of the real environment, which is the one that the host reads.
 class CEnvironmentVariable
 {
 public:
-    CEnvironmentVariable(const char* name, const char* value) : m_name(name)
+    CEnvironmentVariable(const char* name, const char* value)
+        : m_name(WideFromUtf8(name)), m_before(ReadSystemEnvironment(m_name))
     {
-        if (const char* before = std::getenv(name)) {
-            m_before = before;
-        }
-        Set(value);
+        SetSystemEnvironment(m_name,
+                             value != nullptr ? std::optional(WideFromUtf8(value)) : std::nullopt);
     }
-    ~CEnvironmentVariable() { Set(m_before ? m_before->c_str() : nullptr); }
+    ~CEnvironmentVariable() { SetSystemEnvironment(m_name, m_before); }
     CEnvironmentVariable(const CEnvironmentVariable&) = delete;
     CEnvironmentVariable& operator=(const CEnvironmentVariable&) = delete;
 
 private:
-    void Set(const char* value) const
-    {
-        if (value != nullptr) {
-            setenv(m_name, value, 1);
-        } else {
-            unsetenv(m_name);
-        }
-    }
-
-    const char* m_name;
-    std::optional<std::string> m_before;
+    CString m_name;
+    std::optional<CString> m_before;
 };

@@ -1,29 +1,18 @@
 #pragma once
 
-#include <csignal>
+#include <cstdint>
 
-#include <sys/resource.h>
-
-/// Lets no file of the process grow beyond a size, as a full disk would.
+/// Lets no file of the process grow beyond a size, as a full disk would, for the life of the
+/// object. A test that needs it needs a system that can.
 class CFileSizeLimit
 {
 public:
-    explicit CFileSizeLimit(rlim_t bytes)
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
-    }
-    ~CFileSizeLimit()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
+    explicit CFileSizeLimit(std::uint64_t bytes);
+    ~CFileSizeLimit();
     CFileSizeLimit(const CFileSizeLimit&) = delete;
     CFileSizeLimit& operator=(const CFileSizeLimit&) = delete;
 
 private:
-    rlimit m_before = {};
+    std::uint64_t m_before = 0;
     void (*m_handler)(int) = nullptr;
 };

@@ -17,7 +17,14 @@ public:
     /// program is not started.
     std::string WaitForPage() const;
 
+    /// A name for a folder with all that a shell would read and the system lets stand in names.
+    static const char* const kOddFolder;
+
+    /// True if this process has a child, running or ended, that it never asked for.
+    static bool HasLeftAChild();
+
 private:
     CSettingOverride m_program;
+    /// By which the program tells; what that is, each system has its own way.
     int m_pipe;
 };

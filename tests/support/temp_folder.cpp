@@ -4,19 +4,27 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <system_error>
+
+namespace {
+
+std::u8string FromUtf8(const std::string& name)
+{
+    return {name.begin(), name.end()};
+}
+
+} // namespace
 
 CTempFolder::CTempFolder()
 {
-    std::string name = (std::filesystem::temp_directory_path() / "radsel_test_XXXXXX").string();
-    if (!mkdtemp(name.data())) {
-        throw std::system_error(errno, std::generic_category(), name);
-    }
-    m_root = name;
+    std::random_device random;
+    do {
+        m_root =
+            std::filesystem::temp_directory_path() / ("radsel_test_" + std::to_string(random()));
+    } while (!std::filesystem::create_directory(m_root));
 }
 
 CTempFolder::~CTempFolder()
@@ -27,12 +35,12 @@ CTempFolder::~CTempFolder()
 
 CString CTempFolder::Path(const std::string& name) const
 {
-    return TextFromPath(name.empty() ? m_root : m_root / name);
+    return TextFromPath(name.empty() ? m_root : m_root / FromUtf8(name));
 }
 
 void CTempFolder::WriteBytes(const std::string& name, const std::string& bytes) const
 {
-    const std::filesystem::path path = m_root / name;
+    const std::filesystem::path path = m_root / FromUtf8(name);
     std::filesystem::create_directories(path.parent_path());
     std::ofstream file(path, std::ios::binary | std::ios::trunc);
     file << bytes;
@@ -42,12 +50,12 @@ void CTempFolder::WriteBytes(const std::string& name, const std::string& bytes) 
 
 std::string CTempFolder::ReadBytes(const std::string& name) const
 {
-    std::ifstream file(m_root / name, std::ios::binary);
-    EXPECT_TRUE(file) << m_root / name;
+    std::ifstream file(m_root / FromUtf8(name), std::ios::binary);
+    EXPECT_TRUE(file) << m_root / FromUtf8(name);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
 bool CTempFolder::Exists(const std::string& name) const
 {
-    return std::filesystem::exists(m_root / name);
+    return std::filesystem::exists(m_root / FromUtf8(name));
 }

@@ -1,7 +1,6 @@
 #include "platform/detached_program.h"
 
 #include "platform/encoding.h"
-#include "platform/path.h"
 
 #include <cerrno>
 #include <string>
@@ -50,13 +49,13 @@ bool Fails(int reports)
 
 } // namespace
 
-bool StartDetached(const CString& program, const CString& argument)
+bool StartDetached(const CString& program, const std::filesystem::path& argument)
 {
     std::string shell = "sh";
     std::string option = "-c";
     std::string watch = kWatch;
     std::string name = Utf8FromWide(program);
-    std::string value = Utf8FromWide(argument);
+    std::string value = argument.native();
     char* const arguments[] = {shell.data(), option.data(), watch.data(),
                                name.data(),  value.data(),  nullptr};
     int ends[2];
@@ -79,5 +78,5 @@ bool StartDetached(const CString& program, const CString& argument)
 
 bool OpenDocument(const std::filesystem::path& document)
 {
-    return StartDetached(L"xdg-open", TextFromPath(document));
+    return StartDetached(L"xdg-open", document);
 }

@@ -27,6 +27,13 @@ DWORD RightsOf(FileAccess access)
     return GENERIC_READ;
 }
 
+/// The system does not tell a folder that is a file from one that is missing.
+bool IsFile(const std::filesystem::path& path)
+{
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
 unsigned AtMost(std::size_t count)
 {
     return static_cast<unsigned>(std::min(count, kMostBytes));
@@ -39,6 +46,9 @@ int OpenDescriptor(const std::filesystem::path& file, FileAccess access)
     const DWORD attributes = GetFileAttributesW(file.c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) {
         SetErrno();
+        if (errno == ENOENT && IsFile(file.parent_path())) {
+            errno = ENOTDIR;
+        }
         return -1;
     }
     const bool isWritten = access != FileAccess::read;

@@ -29,9 +29,10 @@ CString Quoted(const CString& word)
 
 } // namespace
 
-bool StartDetached(const CString& program, const CString& argument)
+bool StartDetached(const CString& program, const std::filesystem::path& argument)
 {
-    CString line = Quoted(program) + L' ' + Quoted(argument);
+    const CString value = std::filesystem::path(argument).make_preferred().native();
+    CString line = Quoted(program) + L' ' + Quoted(value);
     STARTUPINFOW start = {};
     start.cb = sizeof start;
     PROCESS_INFORMATION started = {};

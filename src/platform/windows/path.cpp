@@ -38,7 +38,7 @@ fs::path NameOf(HANDLE handle)
 
 fs::path ResolvePath(const CString& path)
 {
-    return path;
+    return fs::path(path).make_preferred();
 }
 
 fs::path FindFile(const CString& path, std::error_code& error)

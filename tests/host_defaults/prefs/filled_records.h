@@ -81,7 +81,7 @@ RECORD Filled()
     for (int* count : fields.counts) {
         *count = -5;
     }
-    letter = L'\U0001F525';
+    letter = static_cast<wchar_t>(0x1F525);
     for (wchar_t* field : fields.letters) {
         *field = letter++;
     }

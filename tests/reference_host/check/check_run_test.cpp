@@ -43,7 +43,7 @@ std::string Lines(const std::string& text)
 /// The findings without the file in front and the count behind.
 std::string Findings(const CTempFolder& folder, const std::string& name, const CRun& run)
 {
-    const std::string file = folder.Root() / name;
+    const std::string file = Utf8FromWide(folder.Path(name));
     std::istringstream lines(run.out);
     std::string findings;
     for (std::string line; std::getline(lines, line);) {
@@ -230,17 +230,25 @@ TEST(CheckRun, FoldersAreLookedThroughAndMakersToldFromEachOther)
         Lines(kRadiators + "700;1;T;E;600;100;1000;1.3;5|710.01;1;600|710.01;2;800");
     folder.WriteBytes("Altovico/hk.tga", file);
     folder.WriteBytes("Nuovo/hk.tga", file);
-    CRun run = Check({folder.Path()});
+    const CRun run = Check({folder.Path()});
     EXPECT_EQ(run.out, "2 produttori di corpi scaldanti, 4 righe: nessun difetto\n");
     EXPECT_EQ(run.exit, CheckExit::clean);
+    EXPECT_EQ(Check({folder.Path("Altovico")}).exit, CheckExit::clean);
+}
 
+TEST(CheckRun, NamesThatAreNearlyTheSameAreToldAndALinkThatLeadsBackEnds)
+{
+    const CTempFolder folder;
+    const std::string file =
+        Lines(kRadiators + "700;1;T;E;600;100;1000;1.3;5|710.01;1;600|710.01;2;800");
+    folder.WriteBytes("Altovico/hk.tga", file);
+    folder.WriteBytes("Nuovo/hk.tga", file);
     folder.WriteBytes("nuovo /hk.tga", file);
-    run = Check({folder.Path()});
+    const CRun run = Check({folder.Path()});
     EXPECT_EQ(run.out,
-              std::string(folder.Root() / "nuovo ") +
+              Utf8FromWide(folder.Path("nuovo ")) +
                   ": il produttore \"nuovo \" si distingue da \"Nuovo\" solo per maiuscole o "
                   "spazi\n3 produttori di corpi scaldanti, 6 righe: 1 difetto\n");
-    EXPECT_EQ(Check({folder.Path("Altovico")}).exit, CheckExit::clean);
 
     // However deep, and once where a link leads back.
     folder.WriteBytes("1/2/3/4/5/6/7/8/Altovico/hk.tga", file);
@@ -287,6 +295,12 @@ TEST(CheckRun, WhatCannotBeLookedAtHasExitCodesOfItsOwn)
         EXPECT_TRUE(run.err.starts_with("radsel_check: ")) << run.err;
         EXPECT_EQ(run.out, "");
     }
+    EXPECT_EQ(Check({L"--help"}).exit, CheckExit::clean);
+}
+
+TEST(CheckRun, ALinkToNothingCannotBeRead)
+{
+    const CTempFolder folder;
     for (const char* const name : {"hk.tga", "ha.tga", "Vent.txt"}) {
         const std::filesystem::path link = folder.Root() / "rotto" / name;
         std::filesystem::create_directories(link.parent_path());
@@ -296,7 +310,6 @@ TEST(CheckRun, WhatCannotBeLookedAtHasExitCodesOfItsOwn)
                                                          ": No such file or directory\n");
         std::filesystem::remove(link);
     }
-    EXPECT_EQ(Check({L"--help"}).exit, CheckExit::clean);
 }
 
 } // namespace

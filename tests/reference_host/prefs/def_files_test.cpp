@@ -5,6 +5,7 @@
 #include "reference_host/prefs/lent_start.h"
 #include "tests/src/platform/archived.h"
 #include "tests/support/colleague.h"
+#include "tests/support/other_program.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
 
@@ -12,9 +13,6 @@
 
 #include <filesystem>
 #include <string>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 using namespace reference_host;
 
@@ -161,21 +159,21 @@ TEST_F(DefFiles, WhatCannotBeReadIsNotReplacedByWhatWasMadeUpInItsStead)
     EXPECT_TRUE(WriteDefFile_VDI6030START(&madeUp, false));
 }
 
+TEST(DISABLED_Other, ChangesStartValues)
+{
+    const CSettingOverride setting(kSettingDefFolder, PathOfOther());
+    VDI6030START theirs = *ReadDefFile_VDI6030START(false);
+    theirs.AbstandWand = 0.5;
+    theirs.Produkt = L"Tipo 33";
+    EXPECT_TRUE(WriteDefFile_VDI6030START(&theirs, false));
+}
+
 TEST_F(DefFiles, StartValuesThatAnotherProcessChangedMeanwhileStay)
 {
     VDI6030START start = SomeStart();
     ASSERT_TRUE(WriteDefFile_VDI6030START(&start, false));
     VDI6030START ours = *ReadDefFile_VDI6030START(false);
-    const pid_t other = fork();
-    if (other == 0) {
-        VDI6030START theirs = *ReadDefFile_VDI6030START(false);
-        theirs.AbstandWand = 0.5;
-        theirs.Produkt = L"Tipo 33";
-        _exit(WriteDefFile_VDI6030START(&theirs, false) ? 0 : 1);
-    }
-    int status = -1;
-    waitpid(other, &status, 0);
-    ASSERT_EQ(status, 0);
+    ASSERT_TRUE(COtherProgram("ChangesStartValues", m_folder.Path("new/folder")).Succeeds());
 
     ours.Anschluss.Name = L"Durchgang";
     ours.Hersteller = L"Altomonte";

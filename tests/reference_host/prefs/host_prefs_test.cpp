@@ -24,7 +24,7 @@ class HostSettings : public ::testing::Test
 {
 protected:
     CTempFolder m_folder;
-    CEnvironmentVariable m_config{"XDG_CONFIG_HOME", m_folder.Root().c_str()};
+    CEnvironmentVariable m_config{kSettingsVariable, m_folder.Root().string().c_str()};
     CEnvironmentVariable m_catalogues{"RADSEL_HKDIR", nullptr};
 };
 
@@ -102,7 +102,8 @@ TEST_F(HostSettings, AFileThatCannotBeWrittenStaysAsItWas)
 
     // A file where the folder should be.
     m_folder.WriteBytes("home", "");
-    const CEnvironmentVariable config("XDG_CONFIG_HOME", (m_folder.Root() / "home").c_str());
+    const CEnvironmentVariable config(kSettingsVariable,
+                                      (m_folder.Root() / "home").string().c_str());
     EXPECT_FALSE(StoreHostSetting(L"Key", L"2"));
     EXPECT_EQ(GetHostSetting(L"Key", L"fallback"), L"fallback");
 }
@@ -110,7 +111,7 @@ TEST_F(HostSettings, AFileThatCannotBeWrittenStaysAsItWas)
 TEST_F(HostSettings, WithoutAConfigurationFolderTheHomeFolderHoldsOne)
 {
     const CTempFolder home;
-    const CEnvironmentVariable homeVariable("HOME", home.Root().c_str());
+    const CEnvironmentVariable homeVariable("HOME", home.Root().string().c_str());
     for (const char* config : {static_cast<const char*>(nullptr), "", "relative/folder"}) {
         const CEnvironmentVariable configVariable("XDG_CONFIG_HOME", config);
         EXPECT_TRUE(StoreHostSetting(L"Key", L"1"));
@@ -245,7 +246,7 @@ TEST_F(HostSettings, RecordsLieBesideTheSettings)
     EXPECT_TRUE(WriteDefFile(&record, &HKAUSWAHL_UEBERGABE::GetThisClass(), L"HkAuswahl.def"));
     EXPECT_TRUE(m_folder.Exists("radsel/HkAuswahl.def"));
 
-    const CEnvironmentVariable noConfig("XDG_CONFIG_HOME", nullptr);
+    const CEnvironmentVariable noConfig(kSettingsVariable, nullptr);
     const CEnvironmentVariable noHome("HOME", nullptr);
     EXPECT_FALSE(WriteDefFile(&record, &HKAUSWAHL_UEBERGABE::GetThisClass(), L"HkAuswahl.def"));
 }

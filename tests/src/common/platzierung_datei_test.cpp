@@ -5,6 +5,8 @@
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
 #include <string>
 
@@ -24,9 +26,7 @@ TEST(PlatzierungDatei, OneThatCannotBeReadIsNotEmptied)
     folder.WriteBytes("posti.txt", places);
     const fs::path file = folder.Root() / "posti.txt";
     // The colleague may replace his file, but not read it.
-    if (geteuid() == 0) {
-        ASSERT_EQ(chown(file.c_str(), kColleagueId, getegid()), 0);
-    }
+    GiveToColleague(file);
     fs::permissions(folder.Root(), fs::perms(0777));
     fs::permissions(file, fs::perms(0222));
     {

@@ -113,9 +113,8 @@ TEST_F(KurzlisteTest, AMissingOrEmptyFileIsNoListAndAHalfPairRaises)
         LeseVentTxt(m_zustand, m_ansicht);
         ADD_FAILURE() << "no exception";
     } catch (const CInvalidArgException& fault) {
-        EXPECT_EQ(fault.GetErrorMessage(),
-                  WideFromUtf8((m_folder.Root() / "HEIZUNG" / "Vent.txt").string()) +
-                      L": riga 2: manca la riga del punto di ritorno");
+        EXPECT_EQ(fault.GetErrorMessage(), m_folder.Path("HEIZUNG/Vent.txt") +
+                                               L": riga 2: manca la riga del punto di ritorno");
     }
     EXPECT_EQ(m_ansicht.typen.texte, std::vector<CString>{L"a"});
 }

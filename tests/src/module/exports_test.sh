@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # The module offers exactly these functions with exactly these signatures, and nothing else, on every
 # system.
-#   exports_test.sh LIBRARY DEF-FILE
+#   exports_test.sh LIBRARY DEF-FILE FOLDER-OF-HEADERS
 set -euo pipefail
 export LC_ALL=C
 
@@ -32,3 +32,8 @@ diff <(echo "$expected") <(echo "$found")
 listed=$(sed '1,/^EXPORTS/d; s/^ *//' "$2" | sort)
 named=$(nm -D --defined-only --extern-only "$1" | sed -E 's/^[0-9a-f]+ [A-Za-z] //' | sort)
 diff <(echo "$listed") <(grep -vE '^(__asan_|__odr_asan|__ubsan_)' <<<"$named")
+
+# So is what the headers mark.
+marked=$(tr '\n' ' ' <"$3/entry_points.h" | cat - <(tr '\n' ' ' <"$3/lumo_error.h") |
+    grep -oE 'RADSEL_API [^(;]*\(' | sed -E 's/.*[ &*]([A-Za-z_0-9]+=?)\($/\1/' | sort)
+diff <(sed -E 's/\(.*//; s/.*:://' <<<"$expected" | sort) <(echo "$marked")

@@ -1,15 +1,13 @@
 #include "platform/file_lock.h"
 
 #include "platform/whole_file.h"
+#include "tests/support/other_program.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <string>
-
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -21,20 +19,28 @@ void CountUp(const CString& path, int times)
     }
 }
 
+constexpr int kTimes = 100;
+
+TEST(DISABLED_Other, CountsUp)
+{
+    CountUp(PathOfOther(), kTimes);
+}
+
+TEST(DISABLED_Other, TakesTheLock)
+{
+    const auto start = std::chrono::steady_clock::now();
+    const CFileLock lock(PathOfOther());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(4));
+}
+
 TEST(FileLock, WhatIsReadAndReplacedUnderItLosesNothing)
 {
-    constexpr int kTimes = 100;
     const CTempFolder folder;
     folder.WriteBytes("count.txt", "0");
     const CString path = folder.Path("count.txt");
-    const pid_t other = fork();
+    COtherProgram other("CountsUp", path);
     CountUp(path, kTimes);
-    if (other == 0) {
-        _exit(0);
-    }
-    int status = -1;
-    waitpid(other, &status, 0);
-    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(other.Succeeds());
     EXPECT_EQ(folder.ReadBytes("count.txt"), std::to_string(2 * kTimes));
 }
 
@@ -51,15 +57,7 @@ TEST(FileLock, NobodyWaitsForHimselfOrForWhatCannotBeLocked)
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(4));
 
     // All of it is given back.
-    const pid_t other = fork();
-    if (other == 0) {
-        alarm(4);
-        const CFileLock lock(folder.Path("a.txt"));
-        _exit(0);
-    }
-    int status = -1;
-    waitpid(other, &status, 0);
-    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(COtherProgram("TakesTheLock", folder.Path("a.txt")).Succeeds());
 }
 
 } // namespace

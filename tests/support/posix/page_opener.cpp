@@ -1,8 +1,11 @@
 #include "tests/support/page_opener.h"
 
+#include <cerrno>
+
 #include <fcntl.h>
 #include <poll.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace reference_host;
@@ -12,6 +15,8 @@ namespace {
 constexpr int kPatience = 30000; // ms, for a machine that is busy with other things
 
 } // namespace
+
+const char* const CPageOpener::kOddFolder = "con spazi; $(false) 'e' \"altro\"";
 
 CPageOpener::CPageOpener(const CTempFolder& folder)
     : m_program(kSettingHelpProgram, folder.Path("opener"))
@@ -38,4 +43,9 @@ std::string CPageOpener::WaitForPage() const
     }
     const ssize_t count = read(m_pipe, bytes, sizeof bytes);
     return {bytes, count > 0 ? static_cast<std::size_t>(count) : 0};
+}
+
+bool CPageOpener::HasLeftAChild()
+{
+    return waitpid(-1, nullptr, WNOHANG) >= 0 || errno != ECHILD;
 }

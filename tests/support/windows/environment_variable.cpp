@@ -1,0 +1,3 @@
+#include "tests/support/environment_variable.h"
+
+const char* const kSettingsVariable = "APPDATA";
