@@ -45,3 +45,5 @@ echo "Windows: ${passed:-0} tests passed, ${failed:-0} failed, $(tr ':' '\n' <<<
 # The program that looks through catalogues ends as it does elsewhere.
 wine "$build/bin/radsel_check.exe" "$here/data" >"$build/windows_check.txt"
 echo "Windows: radsel_check read the sample data."
+
+"$here/tools/windows_batch.sh" "$build/bin/radsel_batch.exe" "$build/batch"
