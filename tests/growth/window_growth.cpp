@@ -127,6 +127,17 @@ void TellRooms(int size, CWorkCount& count)
     });
 }
 
+void TellOneByOne(int size, CWorkCount& count)
+{
+    EnsureApplication();
+    CMessagePane pane;
+    count.Of([&] {
+        for (int i = 0; i < size; ++i) {
+            pane.Add({{"Un radiatore non basta.", "Locale " + QString::number(1000 + i)}}, {});
+        }
+    });
+}
+
 void NoticeStates(int size, CWorkCount& count)
 {
     const CBuilding building = Floor(size);
@@ -168,6 +179,7 @@ std::vector<CGrowthCase> WindowCases()
         {"ListOfRooms", "rooms", 40, [](int n, CWorkCount& c) { InWindow(n, c, WorkInList); }},
         {"DrawnFloor", "rooms", 10, ShowFloor},
         {"WarningsOfRooms", "notices", 20, TellRooms},
+        {"Messages", "messages", 20, TellOneByOne},
         {"NewWarnings", "rooms", 50, NoticeStates},
     };
 }

@@ -11,8 +11,10 @@ namespace workbench {
 
 namespace {
 
-/// Older ones go: nobody reads so many, and each keeps its lines.
+/// Older ones go: nobody reads so many, and each keeps its lines. A good many go at once, since the
+/// others are written anew then.
 constexpr std::size_t kMostMessages = 5000;
+constexpr std::size_t kMostKept = 4500;
 
 QString PlainLines(const QString& text)
 {
@@ -54,13 +56,17 @@ CMessagePane::CMessagePane(QWidget* parent) : QTextBrowser(parent)
 
 void CMessagePane::Add(const std::vector<CNotice>& notices, std::optional<StateId> state)
 {
+    const std::size_t first = m_entries.size();
     for (const CNotice& notice : notices) {
         m_entries.push_back({notice, state});
     }
     if (m_entries.size() > kMostMessages) {
-        m_entries.erase(m_entries.begin(), m_entries.end() - std::ptrdiff_t(kMostMessages));
+        m_entries.erase(m_entries.begin(), m_entries.end() - std::ptrdiff_t(kMostKept));
+        Rebuild();
+    } else if (!notices.empty()) {
+        append(ParagraphsFrom(first));
+        ShowLast();
     }
-    Rebuild();
 }
 
 void CMessagePane::ShowFor(const CPlanHistory& history)
@@ -78,16 +84,26 @@ void CMessagePane::ShowFor(const CPlanHistory& history)
     }
 }
 
-void CMessagePane::Rebuild()
+QString CMessagePane::ParagraphsFrom(std::size_t first) const
 {
     const QColor link = LinkColor(QGuiApplication::palette());
     QString html;
-    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+    for (std::size_t i = first; i < m_entries.size(); ++i) {
         if (m_entries[i].bShown) {
             html += ParagraphOf(m_entries[i].notice, i, link);
         }
     }
-    setHtml(html);
+    return html;
+}
+
+void CMessagePane::Rebuild()
+{
+    setHtml(ParagraphsFrom(0));
+    ShowLast();
+}
+
+void CMessagePane::ShowLast()
+{
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 

@@ -44,7 +44,9 @@ private:
         bool bShown = true;
     };
 
+    QString ParagraphsFrom(std::size_t first) const;
     void Rebuild();
+    void ShowLast();
     void Follow(const QUrl& link);
 
     std::vector<CEntry> m_entries;
