@@ -38,25 +38,6 @@ bool IsPerSection(wchar_t bauart)
     return bauart == L'S' || bauart == L's';
 }
 
-/// Both ends inclusive.
-struct Range
-{
-    double low;
-    double high;
-
-    bool Holds(double value) const { return low <= value && value <= high; }
-
-    /// How far a value lies outside, infinite where one of the numbers is none.
-    double Beyond(double value) const
-    {
-        if (Holds(value)) {
-            return 0.0;
-        }
-        const double beyond = std::fmax(low - value, value - high);
-        return beyond > 0.0 ? beyond : std::numeric_limits<double>::infinity();
-    }
-};
-
 /// What a catalogue row gives as a radiator.
 struct Outputs
 {
@@ -127,6 +108,25 @@ private:
 
 struct CHKVdi3805::RowTests
 {
+    /// Both ends inclusive.
+    struct Range
+    {
+        double low;
+        double high;
+
+        bool Holds(double value) const { return low <= value && value <= high; }
+
+        /// How far a value lies outside, infinite where one of the numbers is none.
+        double Beyond(double value) const
+        {
+            if (Holds(value)) {
+                return 0.0;
+            }
+            const double beyond = std::fmax(low - value, value - high);
+            return beyond > 0.0 ? beyond : std::numeric_limits<double>::infinity();
+        }
+    };
+
     Range height;
     Range depth;
     Range length;
