@@ -33,29 +33,25 @@ struct radsel_rows
     std::vector<radsel_row> rows;
 };
 
-namespace {
-
-struct CListedValve
-{
-    CString number;
-    CString name;
-    /// Place of the group among the groups of the list.
-    std::size_t group;
-};
-
-struct CListedGroup
-{
-    CString mainGroup;
-    CString group;
-};
-
-} // namespace
-
 struct radsel_valves
 {
+    struct CValve
+    {
+        CString number;
+        CString name;
+        /// Place of the group among the groups of the list.
+        std::size_t group;
+    };
+
+    struct CGroup
+    {
+        CString mainGroup;
+        CString group;
+    };
+
     CString maker;
-    std::vector<CListedGroup> groups;
-    std::vector<CListedValve> valves;
+    std::vector<CGroup> groups;
+    std::vector<CValve> valves;
 };
 
 namespace {
@@ -282,7 +278,7 @@ int radsel_valves_get(const radsel_valves* valves, size_t index, radsel_valve* v
             return Nothing("The list has no valve of that number.");
         }
         Require(valve, "valve");
-        const CListedValve& listed = valves->valves[index];
+        const radsel_valves::CValve& listed = valves->valves[index];
         radsel_valve record = DefaultValve();
         WriteField(record.maker, valves->maker);
         WriteField(record.number, listed.number);
