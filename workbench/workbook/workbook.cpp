@@ -1,8 +1,10 @@
 #include "workbench/workbook/workbook.h"
 
+#include "platform/descriptor.h"
 #include "platform/encoding.h"
 #include "platform/exception.h"
 #include "platform/path.h"
+#include "platform/temporary_places.h"
 #include "platform/whole_file.h"
 #include "workbench/building/printable.h"
 
@@ -11,12 +13,10 @@
 #include <algorithm>
 #include <cerrno>
 #include <cmath>
-#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <locale.h>
 #include <system_error>
-#include <unistd.h>
 
 namespace workbench {
 
@@ -98,14 +98,19 @@ public:
         if (error) {
             throw CFileException::FromErrno(error.value(), L"TMPDIR");
         }
-        m_strPath = (folder / "radsel-XXXXXX").string();
-        const int file = mkstemp(m_strPath.data());
+        std::filesystem::path place;
+        const int file = MakeUnusedPlace(folder, place);
         if (file < 0) {
-            throw CFileException::FromErrno(errno, Path());
+            throw CFileException::FromErrno(errno, TextFromPath(folder));
         }
-        close(file);
+        CloseDescriptor(file);
+        m_strPath = place.string();
     }
-    ~CTemporaryFile() { unlink(m_strPath.c_str()); }
+    ~CTemporaryFile()
+    {
+        std::error_code error;
+        std::filesystem::remove(m_strPath, error);
+    }
     CTemporaryFile(const CTemporaryFile&) = delete;
     CTemporaryFile& operator=(const CTemporaryFile&) = delete;
 
