@@ -302,7 +302,7 @@ void CountDistances(int size, CWorkCount& count)
 std::vector<CGrowthCase> DialogCases()
 {
     return {
-        {"SelectionDialog", "rows", 100, [](int n, CWorkCount& c) { CountSelection(n, 1, c); }},
+        {"SelectionDialog", "rows", 160, [](int n, CWorkCount& c) { CountSelection(n, 1, c); }},
         {"SelectionDialogOfADrawing", "layers, blocks and systems", 25,
          [](int n, CWorkCount& c) { CountSelection(1, n, c); }},
         {"TreeOfCatalogues", "kinds and makers", 15, CountTree},

@@ -27,9 +27,9 @@
 #include "workbench/schedule/schedule_csv.h"
 #include "workbench/schedule/schedule_json.h"
 #include "workbench/schedule/schedule_text.h"
-#include "workbench/schedule/schedule_xlsx.h"
 #include "workbench/schedule/valve_bill.h"
 #include "workbench/schedule/valve_text.h"
+#include "workbench/workbook/schedule_xlsx.h"
 
 #include <QDate>
 
@@ -400,7 +400,7 @@ std::vector<CGrowthCase> PlanCases()
              Format(n, c, [](const CSchedule& s) { return FormatValveBill(MakeValveBill(s)); });
          }},
         {"PlanAsDxf", "rooms", 10, ExportDxf},
-        {"PlanAsPdf", "rooms", 10, ExportPdf},
+        {"PlanAsPdf", "rooms", 5, ExportPdf},
         {"RadiatorsForTheModule", "radiators", 50, ListRadiators},
     };
 }

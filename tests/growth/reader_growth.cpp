@@ -185,7 +185,7 @@ void FindValve(int size, CWorkCount& count)
     const CValves valves(ValveFile(size, ValveEncoding::cp1252));
     CVentVdiKatalog katalog;
     Require(katalog.LadeHersteller(L"Prova"));
-    const auto* last = katalog.ErsteHauptgruppe->Gruppen->Artikel;
+    const VENT_VDI3805_ARTIKEL* last = katalog.ErsteHauptgruppe->Gruppen->Artikel;
     while (last->Next != nullptr) {
         last = last->Next;
     }

@@ -14,6 +14,8 @@ target_link_libraries(radsel_growth_tests PRIVATE radsel_dialog_support workbenc
     reference_host_check radsel_sample_buildings radsel_sample_catalogues radsel_sample_valves
     radsel_warnings)
 radsel_precompile(radsel_growth_tests toolkit_tests)
+# Each part has its own data under names that others use as well.
+set_target_properties(radsel_growth_tests PROPERTIES UNITY_BUILD OFF)
 
 # Each part by itself, so that they run side by side.
 foreach(part Readers Lists Dialogs Plan Window)

@@ -180,6 +180,6 @@ std::vector<CGrowthCase> WindowCases()
         {"DrawnFloor", "rooms", 10, ShowFloor},
         {"WarningsOfRooms", "notices", 20, TellRooms},
         {"Messages", "messages", 20, TellOneByOne},
-        {"NewWarnings", "rooms", 50, NoticeStates},
+        {"NewWarnings", "rooms", 100, NoticeStates},
     };
 }
