@@ -67,8 +67,10 @@ build_framework() { # OPTION...
 }
 
 build() { # NAME
-    local options=("-DCMAKE_BUILD_TYPE=$(build_type "$1")"
-        "-DCMAKE_CXX_COMPILER=$(cpp_compiler "$1")" "-DCMAKE_C_COMPILER=$(c_compiler "$1")")
+    # As an option the compiler of C is one too many where no C is compiled, and CMake warns.
+    local -x CC CXX
+    CC=$(c_compiler "$1") CXX=$(cpp_compiler "$1")
+    local options=("-DCMAKE_BUILD_TYPE=$(build_type "$1")")
     [[ $1 != *-lto ]] || options+=(-DCMAKE_INTERPROCEDURAL_OPTIMIZATION=ON)
     if [[ $1 == *-libcxx ]]; then
         build_framework "${options[@]}" || return
