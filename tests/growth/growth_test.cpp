@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <stdexcept>
 
 namespace {
@@ -21,6 +22,7 @@ constexpr double kMostADoubling = 2.3;
 /// reached the operation.
 constexpr double kLeastShare = 0.02;
 constexpr int kDoublings = 3;
+constexpr int kTries = 3;
 
 /// The sum of the instructions in what callgrind has written last, and away with that.
 std::uint64_t TakeTotals()
@@ -84,29 +86,46 @@ protected:
         GetParam().run(size, count);
         return static_cast<double>(count.GetInstructions());
     }
+
+    /// Counts once at each size; the doublings that take too much, in words, or nothing.
+    static std::string FindFault()
+    {
+        const CGrowthCase& growth = GetParam();
+        // What has to be done however little there is would hide how the rest grows.
+        const double fixed = Count(1);
+        std::ostringstream fault;
+        int size = growth.nSize;
+        double before = Count(size) - fixed;
+        std::printf("%-32s", growth.name);
+        for (int i = 0; i < kDoublings; ++i, size *= 2) {
+            const double after = Count(2 * size) - fixed;
+            std::printf("%7.2f", after / before);
+            if (!(after <= kMostADoubling * before)) {
+                fault << growth.name << " of " << size << " " << growth.unit << " takes "
+                      << long(before) << " instructions more than of one, of twice as many "
+                      << long(after) << "\n";
+            }
+            before = after;
+        }
+        std::printf("%13.0f and %9.0f for %d %s\n", fixed, before, size, growth.unit);
+        if (!(before >= kLeastShare * fixed)) {
+            fault << "its input does not matter to " << growth.name << "\n";
+        }
+        return fault.str();
+    }
 };
 
 TEST_P(Growth, StaysAtMostLinear)
 {
     ASSERT_TRUE(RUNNING_ON_VALGRIND) << "run by ctest, which starts it under callgrind";
-    const CGrowthCase& growth = GetParam();
     // What is done only once in a process.
     Count(1);
-    // What has to be done however little there is would hide how the rest grows.
-    const double fixed = Count(1);
-    int size = growth.nSize;
-    double before = Count(size) - fixed;
-    std::printf("%-32s", growth.name);
-    for (int i = 0; i < kDoublings; ++i, size *= 2) {
-        const double after = Count(2 * size) - fixed;
-        std::printf("%7.2f", after / before);
-        EXPECT_LE(after, kMostADoubling * before)
-            << growth.name << " of " << size << " " << growth.unit << " takes " << long(before)
-            << " instructions more than of one, of twice as many " << long(after);
-        before = after;
+    // Memory that is tidied up now and then adds to a count, but not at the same place three times.
+    std::string fault;
+    for (int i = 0; i < kTries && (i == 0 || !fault.empty()); ++i) {
+        fault = FindFault();
     }
-    std::printf("%13.0f and %9.0f for %d %s\n", fixed, before, size, growth.unit);
-    EXPECT_GE(before, kLeastShare * fixed) << "its input does not matter to " << growth.name;
+    EXPECT_EQ(fault, "");
 }
 
 std::string NameOf(const testing::TestParamInfo<CGrowthCase>& info)

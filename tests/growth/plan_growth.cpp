@@ -400,7 +400,7 @@ std::vector<CGrowthCase> PlanCases()
              Format(n, c, [](const CSchedule& s) { return FormatValveBill(MakeValveBill(s)); });
          }},
         {"PlanAsDxf", "rooms", 10, ExportDxf},
-        {"PlanAsPdf", "rooms", 5, ExportPdf},
+        {"PlanAsPdf", "rooms", 10, ExportPdf},
         {"RadiatorsForTheModule", "radiators", 50, ListRadiators},
     };
 }
