@@ -48,12 +48,17 @@ private:
     std::unordered_map<CString, std::shared_ptr<const CLineBlock>> m_files;
 };
 
+CLinesByPath& TheCache()
+{
+    static CLinesByPath cache;
+    return cache;
+}
+
 } // namespace
 
 CSettingsCache* lmGetCacheObject()
 {
-    static CLinesByPath cache;
-    return &cache;
+    return &TheCache();
 }
 
 } // namespace host_defaults
@@ -63,4 +68,10 @@ CSettingsCache::~CSettingsCache() = default;
 CSettingsCache* lmGetCacheObject()
 {
     return host_defaults::lmGetCacheObject();
+}
+
+CLineBlockCache* RadselLineBlocks(CSettingsCache* cache)
+{
+    auto& own = host_defaults::TheCache();
+    return cache == &own ? &own : nullptr;
 }

@@ -31,11 +31,16 @@ Block ReadIntoCache(CFile& file, CSettingsCache& cache, CLineBlockCache* blocks,
     return std::make_shared<const CLineBlock>(lines);
 }
 
+CLineBlockCache* BlocksOf(CSettingsCache& cache)
+{
+    return RadselLineBlocks != nullptr ? RadselLineBlocks(&cache) : nullptr;
+}
+
 } // namespace
 
 Block ReadCachedLines(const CString& path, std::uint64_t largest, CSettingsCache& cache)
 {
-    auto* const blocks = dynamic_cast<CLineBlockCache*>(&cache);
+    CLineBlockCache* const blocks = BlocksOf(cache);
     if (cache.IsFileInCache(path)) {
         return TakeFromCache(cache, blocks, path);
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/api.h"
+#include "host/host_prefs.h"
 #include "platform/line_block.h"
 #include "platform/text.h"
 
@@ -10,8 +11,8 @@
 /// and lends it out. The lines of a large catalogue are then in memory once and narrow, instead of
 /// once in the cache, once in the module, and on the way between them as an array of wide texts.
 ///
-/// The module looks whether the object that lmGetCacheObject() gives is of this class too
-/// (dynamic_cast). One that is not gets and gives arrays. Both classes tell of the same entries.
+/// The module asks the host for it by RadselLineBlocks(). A cache that is none gets and gives
+/// arrays. Both classes tell of the same entries.
 class HOST_API CLineBlockCache
 {
 public:
@@ -27,3 +28,8 @@ public:
     virtual std::shared_ptr<const CLineBlock> AddBlockToCache(const CString& path,
                                                               CLineBlock lines) = 0;
 };
+
+/// The cache, which lmGetCacheObject() has given, as one that lends blocks; null if it is none, as
+/// where a host has a cache of its own beside functions of another's. Optional: a host without this
+/// function has arrays.
+extern "C" HOST_OPTIONAL HOST_API CLineBlockCache* RadselLineBlocks(CSettingsCache* cache);

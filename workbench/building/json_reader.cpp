@@ -1,5 +1,6 @@
 #include "workbench/building/json_reader.h"
 
+#include "platform/decimal.h"
 #include "platform/encoding.h"
 
 #include <algorithm>
@@ -233,7 +234,7 @@ private:
             return integer;
         }
         double number = 0.0;
-        const auto read = std::from_chars(first, m_next, number);
+        const auto read = FromChars(first, m_next, number);
         if (read.ec != std::errc() || read.ptr != m_next) {
             Fail(kBadNumber);
         }

@@ -1,5 +1,7 @@
 #include "workbench/schedule/columns.h"
 
+#include "platform/decimal.h"
+
 #include <charconv>
 
 namespace workbench {
@@ -9,7 +11,7 @@ double DecimalOf(float value)
     char digits[32];
     const auto end = std::to_chars(digits, digits + sizeof digits, value);
     double result = 0.0;
-    std::from_chars(digits, end.ptr, result);
+    FromChars(digits, end.ptr, result);
     return result;
 }
 

@@ -1,5 +1,6 @@
 #include "workbench/schedule/schedule_csv.h"
 
+#include "platform/decimal.h"
 #include "platform/encoding.h"
 #include "platform/format.h"
 #include "workbench/building/printable.h"
@@ -36,7 +37,7 @@ bool IsNumber(const CString& text)
     const char* const first = ascii.data() + (ascii.starts_with('+') ? 1 : 0);
     const char* const last = ascii.data() + ascii.size();
     double value = 0.0;
-    const auto [end, error] = std::from_chars(first, last, value);
+    const auto [end, error] = FromChars(first, last, value);
     return error == std::errc() && end == last;
 }
 

@@ -6,8 +6,10 @@ namespace {
 
 std::int64_t Nanoseconds(const timespec& time)
 {
-    constexpr std::int64_t kASecond = 1'000'000'000;
-    return static_cast<std::int64_t>(time.tv_sec) * kASecond + time.tv_nsec;
+    // A key to compare, which wraps for times of other centuries.
+    constexpr std::uint64_t kASecond = 1'000'000'000;
+    return static_cast<std::int64_t>(static_cast<std::uint64_t>(time.tv_sec) * kASecond +
+                                     static_cast<std::uint64_t>(time.tv_nsec));
 }
 
 } // namespace

@@ -22,6 +22,18 @@ std::optional<CFolderKey> FolderOf(const CString& path)
     return state ? std::optional(CFolderKey{state->nDevice, state->nFile}) : std::nullopt;
 }
 
+/// A name that every user of the machine may hold, whoever made it first.
+HANDLE MakeMutex(const std::wstring& name)
+{
+    SECURITY_DESCRIPTOR everybody;
+    SECURITY_ATTRIBUTES attributes = {sizeof attributes, &everybody, FALSE};
+    if (InitializeSecurityDescriptor(&everybody, SECURITY_DESCRIPTOR_REVISION) == 0 ||
+        SetSecurityDescriptorDacl(&everybody, TRUE, nullptr, FALSE) == 0) {
+        return nullptr;
+    }
+    return CreateMutexW(&attributes, FALSE, name.c_str());
+}
+
 /// Folders cannot be locked here. What can is a name, and all users of the machine share it.
 std::wstring NameOf(const CFolderKey& folder)
 {
@@ -36,7 +48,7 @@ CFileLock::CFileLock(const CString& path)
     const std::optional<CFolderKey> folder = FolderOf(path);
     if (folder && HoldFolder(*folder)) {
         m_folder = *folder;
-        CHandle mutex(CreateMutexW(nullptr, FALSE, NameOf(*folder).c_str()));
+        CHandle mutex(MakeMutex(NameOf(*folder)));
         if (!mutex.IsValid() || !Take(reinterpret_cast<std::intptr_t>(mutex.Get()))) {
             ReleaseFolder(m_folder);
             return;

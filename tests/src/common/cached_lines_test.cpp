@@ -44,7 +44,8 @@ TEST(CachedLines, AFileIsReadOnceWhateverTheHostsCacheKeeps)
     const CTempFolder folder;
     const CString path = folder.Path("file.txt");
     CArrayCache arrays;
-    ASSERT_NE(dynamic_cast<CLineBlockCache*>(lmGetCacheObject()), nullptr);
+    ASSERT_NE(RadselLineBlocks(lmGetCacheObject()), nullptr);
+    ASSERT_EQ(RadselLineBlocks(&arrays), nullptr);
     for (CSettingsCache* const cache :
          {static_cast<CSettingsCache*>(&arrays), lmGetCacheObject()}) {
         folder.WriteBytes("file.txt", "nine bytes");
