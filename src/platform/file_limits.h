@@ -6,7 +6,9 @@
 
 /// The largest file of each kind, in bytes. All are far beyond what anybody delivers: they are
 /// there so that a wrong file, or one that never ends, is refused before it fills the memory. In
-/// memory a file takes up to eight times its size. docs/file-limits.md tells them to users.
+/// memory a file takes up to eight times its size; a building that consists of nothing but empty
+/// texts and lists, before it is refused, up to twenty-five times. docs/file-limits.md tells them
+/// to users.
 
 inline constexpr std::uint64_t kMegabyte = 1 << 20;
 
