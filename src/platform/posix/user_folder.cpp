@@ -5,7 +5,7 @@
 
 std::optional<CString> UserSettingsFolder()
 {
-    const std::optional<CString> chosen = GetEnvironment(L"XDG_CONFIG_HOME");
+    std::optional<CString> chosen = GetEnvironment(L"XDG_CONFIG_HOME");
     if (chosen && chosen->starts_with(L'/')) {
         return chosen;
     }
