@@ -361,6 +361,11 @@ std::vector<CGrowthCase> PlanCases()
              const CPlace place;
              RepairAll(Alike(n, 1, 3000.0), c);
          }},
+        {"RepairOfOneRoom", "windows", 4,
+         [](int n, CWorkCount& c) {
+             const CPlace place;
+             RepairAll(Alike(1, n, 1200.0 * n), c);
+         }},
         {"PlaceForARadiator", "windows", 20, PlaceInRoom},
         {"UndoAndRedo", "steps", 50, Undo},
         {"ChangeOfOneRoom", "rooms", 100, ChangeOne},
