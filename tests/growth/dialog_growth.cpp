@@ -302,11 +302,11 @@ void CountDistances(int size, CWorkCount& count)
 std::vector<CGrowthCase> DialogCases()
 {
     return {
-        {"SelectionDialog", "rows", 160, [](int n, CWorkCount& c) { CountSelection(n, 1, c); }},
+        {"SelectionDialog", "rows", 50, [](int n, CWorkCount& c) { CountSelection(n, 1, c); }},
         {"SelectionDialogOfADrawing", "layers, blocks and systems", 25,
          [](int n, CWorkCount& c) { CountSelection(1, n, c); }},
-        {"TreeOfCatalogues", "kinds and makers", 15, CountTree},
-        {"ValveDialog", "valves and makers", 30,
+        {"TreeOfCatalogues", "kinds and makers", 8, CountTree},
+        {"ValveDialog", "valves and makers", 24,
          [](int n, CWorkCount& c) {
              CValves valves(n);
              CountDialog(

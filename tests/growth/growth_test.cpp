@@ -87,31 +87,40 @@ protected:
         return static_cast<double>(count.GetInstructions());
     }
 
-    /// Counts once at each size; the doublings that take too much, in words, or nothing.
+    /// How much more the parts of the input behind the first take, for twice the input. What the
+    /// first takes counts as what has to be done however little there is.
+    static double GrowthOf(int size, double before, double after)
+    {
+        return 2.0 * (after / (2 * size - 1)) / (before / (size - 1));
+    }
+
+    /// Counts once at each size; the first doubling that takes too much, in words, or nothing.
     static std::string FindFault()
     {
         const CGrowthCase& growth = GetParam();
         // What has to be done however little there is would hide how the rest grows.
         const double fixed = Count(1);
-        std::ostringstream fault;
         int size = growth.nSize;
         double before = Count(size) - fixed;
         std::printf("%-32s", growth.name);
         for (int i = 0; i < kDoublings; ++i, size *= 2) {
             const double after = Count(2 * size) - fixed;
-            std::printf("%7.2f", after / before);
-            if (!(after <= kMostADoubling * before)) {
+            const double grown = GrowthOf(size, before, after);
+            std::printf("%7.2f", grown);
+            if (!(before > 0.0 && grown <= kMostADoubling)) {
+                std::printf("\n");
+                std::ostringstream fault;
                 fault << growth.name << " of " << size << " " << growth.unit << " takes "
                       << long(before) << " instructions more than of one, of twice as many "
-                      << long(after) << "\n";
+                      << long(after);
+                return fault.str();
             }
             before = after;
         }
         std::printf("%13.0f and %9.0f for %d %s\n", fixed, before, size, growth.unit);
-        if (!(before >= kLeastShare * fixed)) {
-            fault << "its input does not matter to " << growth.name << "\n";
-        }
-        return fault.str();
+        return before >= kLeastShare * fixed
+                   ? ""
+                   : std::string("its input does not matter to ") + growth.name;
     }
 };
 

@@ -1,12 +1,12 @@
 // What the workbench does with the rooms of a building, without its window.
 
+#include "tests/growth/floor.h"
 #include "tests/growth/growth.h"
 
 #include "platform/encoding.h"
 #include "reference_host/prefs/host_settings.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
-#include "tools/large_floor.h"
 #include "tools/make_building_samples.h"
 #include "uikit/application.h"
 #include "workbench/building/building_json.h"
@@ -73,14 +73,6 @@ private:
 std::size_t Count(int size)
 {
     return static_cast<std::size_t>(size);
-}
-
-/// Rooms with their radiators, all on one floor.
-CBuilding Floor(int size)
-{
-    CBuilding building = MakeLargeFloor(Count(size));
-    building.floors.front().strName = L"Terra";
-    return building;
 }
 
 /// The same rooms on floors of few.
@@ -364,10 +356,15 @@ std::vector<CGrowthCase> PlanCases()
              const CPlace place;
              SizeAll(Alike(n, 1, 750.0), c);
          }},
-        {"Repair", "rooms", 8,
+        {"Repair", "rooms", 4,
          [](int n, CWorkCount& c) {
              const CPlace place;
              RepairAll(Alike(n, 1, 3000.0), c);
+         }},
+        {"RepairOfOneRoom", "windows", 4,
+         [](int n, CWorkCount& c) {
+             const CPlace place;
+             RepairAll(Alike(1, n, 1200.0 * n), c);
          }},
         {"PlaceForARadiator", "windows", 20, PlaceInRoom},
         {"UndoAndRedo", "steps", 50, Undo},
@@ -379,11 +376,11 @@ std::vector<CGrowthCase> PlanCases()
         {"LayoutOfAFloor", "rooms", 50, LayOut},
         {"OverlapOfRooms", "rooms", 100, FindOverlaps},
         {"BuildingWritten", "rooms", 10, workbench::Write},
-        {"BuildingOfFloors", "rooms", 10, [](int n, CWorkCount& c) { Read(n, c, Tower(n)); }},
-        {"BuildingOfOneFloor", "rooms", 10, [](int n, CWorkCount& c) { Read(n, c, Floor(n)); }},
+        {"BuildingOfFloors", "rooms", 8, [](int n, CWorkCount& c) { Read(n, c, Tower(n)); }},
+        {"BuildingOfOneFloor", "rooms", 8, [](int n, CWorkCount& c) { Read(n, c, Floor(n)); }},
         {"RecoveryFile", "rooms", 8, Recover},
         {"Schedule", "rooms", 10, ScheduleValves},
-        {"ScheduleAsText", "rooms", 8,
+        {"ScheduleAsText", "rooms", 4,
          [](int n, CWorkCount& c) {
              Format(n, c, [](const CSchedule& s) { return FormatScheduleText(s, true); });
          }},
@@ -391,15 +388,15 @@ std::vector<CGrowthCase> PlanCases()
          [](int n, CWorkCount& c) {
              Format(n, c, [](const CSchedule& s) { return FormatScheduleCsv(s); });
          }},
-        {"ScheduleAsJson", "rooms", 8,
+        {"ScheduleAsJson", "rooms", 4,
          [](int n, CWorkCount& c) { Format(n, c, FormatScheduleJson); }},
-        {"ScheduleAsXlsx", "rooms", 10,
+        {"ScheduleAsXlsx", "rooms", 8,
          [](int n, CWorkCount& c) { Format(n, c, FormatScheduleXlsx); }},
         {"BillOfValves", "rooms", 10,
          [](int n, CWorkCount& c) {
              Format(n, c, [](const CSchedule& s) { return FormatValveBill(MakeValveBill(s)); });
          }},
-        {"PlanAsDxf", "rooms", 10, ExportDxf},
+        {"PlanAsDxf", "rooms", 8, ExportDxf},
         {"PlanAsPdf", "rooms", 10, ExportPdf},
         {"RadiatorsForTheModule", "radiators", 50, ListRadiators},
     };

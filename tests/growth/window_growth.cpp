@@ -1,12 +1,12 @@
 // The window of the workbench over a floor of many rooms: its docks, and what the user does there.
 
+#include "tests/growth/floor.h"
 #include "tests/growth/growth.h"
 
 #include "platform/encoding.h"
 #include "tests/support/environment_variable.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
-#include "tools/large_floor.h"
 #include "uikit/application.h"
 #include "workbench/drawing/plan_view.h"
 #include "workbench/window/floor_scene.h"
@@ -25,13 +25,6 @@ using namespace reference_host;
 namespace workbench {
 
 namespace {
-
-CBuilding Floor(int size)
-{
-    CBuilding building = MakeLargeFloor(static_cast<std::size_t>(size));
-    building.floors.front().strName = L"Terra";
-    return building;
-}
 
 /// The building after a change to one room.
 CBuilding Changed(CBuilding building)
@@ -171,7 +164,7 @@ std::vector<CGrowthCase> WindowCases()
 {
     using namespace workbench;
     return {
-        {"Workbench", "rooms", 10,
+        {"Workbench", "rooms", 5,
          [](int n, CWorkCount& c) { c.Of([n] { const CWindow window(n); }); }},
         {"ChangeInTheWorkbench", "rooms", 10,
          [](int n, CWorkCount& c) { InWindow(n, c, ChangeAndUndo); }},

@@ -30,6 +30,8 @@ struct CSizeLimits
     double laengeMax = 0.0;
     double tiefeMin = 0.0;
     double tiefeMax = 0.0;
+
+    bool operator==(const CSizeLimits&) const = default;
 };
 
 /// Stands for "no limit" on a depth.

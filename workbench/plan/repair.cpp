@@ -128,11 +128,28 @@ private:
         }
     }
 
+    /// The free places without those that are like one before: a search finds the same for both.
+    std::vector<std::size_t> UnlikeFreePlaces(const CRoom& room) const
+    {
+        std::vector<CSizeLimits> known;
+        std::vector<std::size_t> places = FreePlaces(room);
+        std::erase_if(places, [&](std::size_t place) {
+            const CSizeLimits limits =
+                LimitsOfPlace(room, room.plaetze[place], m_building.abstaende);
+            const bool isKnown = std::ranges::find(known, limits) != known.end();
+            if (!isKnown) {
+                known.push_back(limits);
+            }
+            return isKnown;
+        });
+        return places;
+    }
+
     /// The strongest of what fits the free places; where one is enough, the first that is.
     std::optional<CRadiatorChoice> FindForFreePlace(const CRoom& room)
     {
         std::optional<CRadiatorChoice> best;
-        for (const std::size_t place : FreePlaces(room)) {
+        for (const std::size_t place : UnlikeFreePlaces(room)) {
             const CRadiatorWish wish = WishForPlace(m_building, m_floor, room, place);
             auto found = SelectBest(wish);
             if (found && (!best || found->daten.Leistung > best->daten.Leistung)) {
