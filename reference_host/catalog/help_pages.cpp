@@ -22,9 +22,8 @@ namespace fs = std::filesystem;
 fs::path LibraryFolder()
 {
     static const char here = 0;
-    const CString file = CLoadedLibrary(&here).File();
     std::error_code error;
-    return file.empty() ? fs::path() : FindFile(file, error).parent_path();
+    return FollowLinks(CLoadedLibrary(&here).File(), error).parent_path();
 }
 
 std::vector<fs::path> HelpFolders()

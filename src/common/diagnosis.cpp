@@ -12,7 +12,7 @@ namespace {
 template <class Function>
 void* FindBeside(Function* function)
 {
-    return CLoadedLibrary(reinterpret_cast<const void*>(function)).Find(kHostDiagnosisFunction);
+    return CLoadedLibrary(function).Find(kHostDiagnosisFunction);
 }
 
 HostDiagnosisFunction Find()

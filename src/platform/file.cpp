@@ -67,20 +67,8 @@ void CFile::Fail(int osError) const
 
 std::size_t CFile::Read(void* buffer, std::size_t count)
 {
-    auto* bytes = static_cast<char*>(buffer);
-    std::size_t total = 0;
-    while (total < count) {
-        const std::ptrdiff_t got = ReadDescriptor(m_descriptor, bytes + total, count - total);
-        if (got == 0) {
-            break;
-        }
-        if (got > 0) {
-            total += static_cast<std::size_t>(got);
-        } else if (errno != EINTR) {
-            Fail(errno);
-        }
-    }
-    return total;
+    return static_cast<std::size_t>(
+        Checked(ReadUpTo(m_descriptor, static_cast<char*>(buffer), count)));
 }
 
 void CFile::Write(const void* buffer, std::size_t count)

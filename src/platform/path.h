@@ -16,6 +16,9 @@ std::filesystem::path ResolvePath(const CString& path);
 /// entered but not listed holds what is asked for by its exact name.
 std::filesystem::path FindFile(const CString& path, std::error_code& error);
 
+/// The same for a path in the system's own form, every name of which counts as it stands.
+std::filesystem::path FollowLinks(const std::filesystem::path& file, std::error_code& error);
+
 /// The text of a system path, with "/" as the separator.
 CString TextFromPath(const std::filesystem::path& path);
 

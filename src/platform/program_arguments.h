@@ -9,5 +9,5 @@
 std::vector<CString> ProgramArguments(int count, const char* const* values);
 
 /// Lets what goes to standard output and error leave as it is written, in UTF-8 and with "\n" as
-/// the end of a line. For the first lines of main().
+/// the end of a line, until the program ends. For the first lines of main().
 void WriteOutputUnchanged();

@@ -21,4 +21,5 @@ int OpenNameless();
 bool PutInPlace(int descriptor, const std::filesystem::path& file,
                 const std::filesystem::path& target);
 
-void RemoveFile(const std::filesystem::path& file) noexcept;
+/// What has it open may go on with it.
+bool RemoveFile(const std::filesystem::path& file) noexcept;

@@ -1,7 +1,10 @@
 #include "workbench/keeping/building_lock.h"
 
-#include "platform/encoding.h"
+#include "platform/descriptor.h"
 #include "platform/file_bytes.h"
+#include "platform/lock_file.h"
+#include "platform/replacement_steps.h"
+#include "platform/user_name.h"
 #include "workbench/building/json_fields.h"
 #include "workbench/building/json_writer.h"
 #include "workbench/keeping/file_identity.h"
@@ -14,12 +17,6 @@
 #include <ctime>
 #include <string>
 
-#include <fcntl.h>
-#include <pwd.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 namespace workbench {
 
 namespace {
@@ -29,21 +26,15 @@ constexpr int kVersion = 1;
 /// Programs that open and close the same building at the same moment get out of each other's way.
 constexpr int kMostTries = 100;
 
-/// A program that has not touched its lock for so many seconds has ended: some refreshments late.
-constexpr std::time_t kStaleAfter = 300;
+/// A program that has not touched its lock for so long has ended: some refreshments late.
+constexpr std::chrono::seconds kStaleAfter{300};
 
 /// No name of a user or a machine is that long.
-constexpr off_t kLargestLock = 4096;
+constexpr std::int64_t kLargestLock = 4096;
 
 CString ThisMachine()
 {
     return FromQt(QSysInfo::machineHostName());
-}
-
-CString ThisUser()
-{
-    const passwd* entry = getpwuid(geteuid());
-    return entry ? WideFromUtf8(entry->pw_name) : CString();
 }
 
 std::string FormatOwn()
@@ -51,7 +42,7 @@ std::string FormatOwn()
     CJsonWriter writer;
     writer.BeginObject(nullptr);
     writer.Number("version", kVersion);
-    writer.Text("user", ThisUser());
+    writer.Text("user", UserName());
     writer.Text("machine", ThisMachine());
     WriteTime(writer, "time", std::time(nullptr));
     writer.End();
@@ -75,45 +66,18 @@ CBuildingUser Parse(const std::string& bytes)
 /// Nothing for a file that nobody has written to yet.
 std::optional<CBuildingUser> ReadUser(int descriptor)
 {
-    struct stat status = {};
+    const std::int64_t length = LengthOfDescriptor(descriptor);
     std::string bytes;
-    if (fstat(descriptor, &status) != 0 || status.st_size > kLargestLock ||
-        !ReadAll(descriptor, bytes)) {
+    if (length < 0 || length > kLargestLock || !ReadAll(descriptor, bytes)) {
         return CBuildingUser();
     }
     return bytes.empty() ? std::nullopt : std::optional(Parse(bytes));
 }
 
-/// Another user's file can often be read only.
-int OpenLock(const std::filesystem::path& path, bool& writable)
-{
-    constexpr int kFlags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-    const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | kFlags, 0666);
-    writable = descriptor >= 0;
-    if (writable || errno != EACCES) {
-        return descriptor;
-    }
-    const int readable = open(path.c_str(), O_RDONLY | kFlags);
-    if (readable < 0 && errno == ENOENT) {
-        // There is no lock to be read, and none may be made.
-        errno = EACCES;
-    }
-    return readable;
-}
-
-/// False if the file was taken away, or another one took its place, after it was opened.
-bool IsStillThere(int descriptor, const std::filesystem::path& path)
-{
-    struct stat opened = {};
-    struct stat named = {};
-    return fstat(descriptor, &opened) == 0 && lstat(path.c_str(), &named) == 0 &&
-           opened.st_ino == named.st_ino && opened.st_dev == named.st_dev;
-}
-
 bool WasTouchedLately(int descriptor)
 {
-    struct stat status = {};
-    return fstat(descriptor, &status) == 0 && std::time(nullptr) - status.st_mtime < kStaleAfter;
+    const auto since = TimeSinceTouched(descriptor);
+    return since && *since < kStaleAfter;
 }
 
 /// Without locks, or where those of other machines do not show, the time alone tells.
@@ -127,7 +91,7 @@ bool MayBeHeld(int descriptor, bool locked, const std::optional<CBuildingUser>& 
 void WriteOwn(int descriptor)
 {
     const std::string own = FormatOwn();
-    if (ftruncate(descriptor, 0) == 0 && lseek(descriptor, 0, SEEK_SET) == 0) {
+    if (SetLengthOfDescriptor(descriptor, 0) && SeekDescriptor(descriptor, 0) == 0) {
         static_cast<void>(WriteAll(descriptor, own.data(), own.size()));
     }
 }
@@ -146,7 +110,9 @@ CString Describe(const CBuildingUser& user)
 CBuildingLock::CBuildingLock(const CString& building) : m_strBuilding(building)
 {
     const std::filesystem::path file = CanonicalPath(building);
-    m_path = file.parent_path() / ("." + file.filename().native() + ".radsel-lock");
+    m_path = file.parent_path() / ".";
+    m_path += file.filename();
+    m_path += ".radsel-lock";
     for (int i = 0; i < kMostTries; ++i) {
         if (Try()) {
             return;
@@ -158,10 +124,10 @@ CBuildingLock::CBuildingLock(const CString& building) : m_strBuilding(building)
 CBuildingLock::~CBuildingLock()
 {
     if (IsMine()) {
-        if (IsStillThere(m_descriptor, m_path)) {
-            unlink(m_path.c_str());
+        if (IsStillAt(m_descriptor, m_path)) {
+            RemoveFile(m_path);
         }
-        close(m_descriptor);
+        CloseDescriptor(m_descriptor);
     }
 }
 
@@ -169,25 +135,25 @@ CBuildingLock::~CBuildingLock()
 bool CBuildingLock::Try()
 {
     bool writable = false;
-    const int descriptor = OpenLock(m_path, writable);
+    const int descriptor = OpenLockFile(m_path, writable);
     if (descriptor < 0) {
         m_error = errno;
         return true;
     }
-    const bool locked = flock(descriptor, LOCK_EX | LOCK_NB) == 0;
-    const bool refused = !locked && errno == EWOULDBLOCK;
-    if (!refused && !IsStillThere(descriptor, m_path)) {
-        close(descriptor);
+    const LockAnswer lock = TakeLock(descriptor);
+    const bool refused = lock == LockAnswer::held;
+    if (!refused && !IsStillAt(descriptor, m_path)) {
+        CloseDescriptor(descriptor);
         return false;
     }
     const auto user = ReadUser(descriptor);
-    if (refused || MayBeHeld(descriptor, locked, user)) {
+    if (refused || MayBeHeld(descriptor, lock == LockAnswer::taken, user)) {
         m_other = user.value_or(CBuildingUser());
-        close(descriptor);
+        CloseDescriptor(descriptor);
         return true;
     }
-    if (!writable && unlink(m_path.c_str()) == 0) {
-        close(descriptor);
+    if (!writable && RemoveFile(m_path)) {
+        CloseDescriptor(descriptor);
         return false;
     }
     WriteOwn(descriptor);
@@ -211,7 +177,7 @@ CString CBuildingLock::GetMessage() const
 void CBuildingLock::Refresh() const
 {
     if (IsMine()) {
-        futimens(m_descriptor, nullptr);
+        TouchDescriptor(m_descriptor);
     }
 }
 

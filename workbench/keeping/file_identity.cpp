@@ -1,6 +1,7 @@
 #include "workbench/keeping/file_identity.h"
 
 #include "platform/path.h"
+#include "platform/write_protection.h"
 #include "workbench/building/json_fields.h"
 
 #include <QByteArray>
@@ -8,10 +9,6 @@
 
 #include <cerrno>
 #include <system_error>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace workbench {
 
@@ -62,12 +59,7 @@ bool HoldsOther(const CString& path, const CString& fingerprint)
 
 bool IsWriteProtected(const CString& path)
 {
-    constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
-    const fs::path file = ResolvePath(path);
-    struct stat status = {};
-    return stat(file.c_str(), &status) == 0 &&
-           ((status.st_mode & kAnyWriteBit) == 0 ||
-            faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0);
+    return ::IsWriteProtected(ResolvePath(path));
 }
 
 } // namespace workbench

@@ -1,9 +1,12 @@
 #include "workbench/keeping/recovery_file.h"
 
+#include "platform/descriptor.h"
 #include "platform/exception.h"
 #include "platform/format.h"
+#include "platform/lock_file.h"
 #include "platform/number_scan.h"
 #include "platform/path.h"
+#include "platform/system_error.h"
 #include "workbench/building/building_json.h"
 #include "workbench/building/json_fields.h"
 #include "workbench/building/json_writer.h"
@@ -15,10 +18,6 @@
 #include <filesystem>
 #include <system_error>
 #include <utility>
-
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
 
 namespace workbench {
 
@@ -67,7 +66,7 @@ std::vector<int> NumbersIn(const CString& folder)
         }
     }
     if (error) {
-        throw CFileException::FromErrno(error.value(), folder);
+        throw CFileException::FromErrno(ErrnoOf(error), folder);
     }
     std::ranges::sort(numbers);
     return numbers;
@@ -76,16 +75,17 @@ std::vector<int> NumbersIn(const CString& folder)
 /// A descriptor that holds the lock of the file; below 0 if another program holds it.
 int Lock(const CString& path)
 {
-    const int descriptor = open(ResolvePath(path).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    const int descriptor = OpenOwnLockFile(ResolvePath(path));
     if (descriptor < 0) {
         throw CFileException::FromErrno(errno, path);
     }
-    if (flock(descriptor, LOCK_EX | LOCK_NB) == 0) {
+    const LockAnswer lock = TakeLock(descriptor);
+    if (lock == LockAnswer::taken) {
         return descriptor;
     }
     const int error = errno;
-    close(descriptor);
-    if (error != EWOULDBLOCK) {
+    CloseDescriptor(descriptor);
+    if (lock == LockAnswer::none) {
         throw CFileException::FromErrno(error, path);
     }
     return -1;
@@ -127,14 +127,14 @@ CRecoveryFile::CRecoveryFile(const CString& folder) : m_strFolder(folder)
     std::error_code error;
     fs::create_directories(ResolvePath(folder), error);
     if (error) {
-        throw CFileException::FromErrno(error.value(), folder);
+        throw CFileException::FromErrno(ErrnoOf(error), folder);
     }
     for (int number = 1; number <= kMostFiles; ++number) {
         if (Take(number)) {
             if (IsMissing(m_strPath)) {
                 return;
             }
-            close(m_lock);
+            CloseDescriptor(m_lock);
         }
     }
     throw CFileException::FromErrno(EAGAIN, folder);
@@ -148,7 +148,7 @@ CRecoveryFile::CRecoveryFile(const CString& folder, int number) : m_strFolder(fo
 CRecoveryFile::~CRecoveryFile()
 {
     if (m_lock >= 0) {
-        close(m_lock);
+        CloseDescriptor(m_lock);
     }
 }
 
@@ -213,7 +213,7 @@ void CRecoveryFile::Remove() const
     std::error_code error;
     fs::remove(ResolvePath(m_strPath), error);
     if (error) {
-        throw CFileException::FromErrno(error.value(), m_strPath);
+        throw CFileException::FromErrno(ErrnoOf(error), m_strPath);
     }
 }
 

@@ -9,6 +9,7 @@
 #include "platform/encoding.h"
 #include "platform/loaded_library.h"
 #include "platform/message.h"
+#include "platform/path.h"
 
 #include <algorithm>
 #include <optional>
@@ -19,10 +20,10 @@ namespace {
 template <class Function>
 CHostFunction Loaded(const char* name, Function* function)
 {
-    const CLoadedLibrary library(reinterpret_cast<const void*>(function));
+    const CLoadedLibrary library(function);
     CHostFunction found;
     found.name = name;
-    found.file = library.File();
+    found.file = TextFromPath(library.File());
     if (void* const identity = library.Find(kHostIdentityFunction)) {
         found.identity = reinterpret_cast<HostIdentityFunction>(identity)();
     }

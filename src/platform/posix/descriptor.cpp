@@ -1,14 +1,10 @@
 #include "platform/descriptor.h"
 
+#include "platform/posix/status.h"
+
 #include <cerrno>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 namespace {
-
-constexpr mode_t kWriteBits = S_IWUSR | S_IWGRP | S_IWOTH;
 
 int FlagsOf(FileAccess access)
 {
@@ -35,7 +31,7 @@ int OpenDescriptor(const std::filesystem::path& file, FileAccess access)
         errno = S_ISDIR(status.st_mode) ? EISDIR : EACCES;
         return -1;
     }
-    if (access != FileAccess::read && (status.st_mode & kWriteBits) == 0) {
+    if (access != FileAccess::read && (status.st_mode & kAnyWriteBit) == 0) {
         errno = EACCES;
         return -1;
     }

@@ -1,7 +1,5 @@
 #include "platform/loaded_library.h"
 
-#include "platform/encoding.h"
-
 #include <dlfcn.h>
 #include <link.h>
 
@@ -11,7 +9,7 @@ CLoadedLibrary::CLoadedLibrary(const void* address)
     if (dladdr(address, &info) == 0) {
         return;
     }
-    m_file = WideFromUtf8(info.dli_fname);
+    m_file = info.dli_fname;
     m_base = info.dli_fbase;
 }
 
@@ -37,4 +35,10 @@ void* CLoadedLibrary::Find(const char* symbol) const
 void* CLoadedLibrary::FindAnywhere(const char* symbol)
 {
     return dlsym(RTLD_DEFAULT, symbol);
+}
+
+/// The linker has one address of a function for all libraries.
+const void* CLoadedLibrary::CodeOf(const void* function)
+{
+    return function;
 }

@@ -73,13 +73,19 @@ fs::path FindFile(const CString& path, std::error_code& error)
 {
     error.clear();
     fs::path resolved = Resolve(path, error);
+    return error ? resolved : FollowLinks(resolved, error);
+}
+
+fs::path FollowLinks(const fs::path& file, std::error_code& error)
+{
+    error.clear();
     // An empty path names no file; libraries differ in whether its canonical form is the current
     // folder.
-    if (error || resolved.empty()) {
-        return resolved;
+    if (file.empty()) {
+        return file;
     }
-    fs::path real = fs::weakly_canonical(resolved, error);
-    return error ? resolved : real;
+    fs::path real = fs::weakly_canonical(file, error);
+    return error ? file : real;
 }
 
 CString TextFromPath(const fs::path& path)

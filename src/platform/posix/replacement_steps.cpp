@@ -1,18 +1,16 @@
 #include "platform/replacement_steps.h"
 
+#include "platform/posix/status.h"
+
 #include <cerrno>
 #include <cstdio>
 
-#include <fcntl.h>
 #include <sys/mman.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
 namespace {
 
-constexpr mode_t kAnyWriteBit = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr mode_t kPermissionBits = 07777;
 
 /// Permission bits of a new file under the process's mask.
@@ -56,9 +54,7 @@ int CheckTarget(const fs::path& target)
     if (!S_ISREG(status.st_mode)) {
         return S_ISDIR(status.st_mode) ? EISDIR : EACCES;
     }
-    const bool writable = (status.st_mode & kAnyWriteBit) != 0 &&
-                          faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) == 0;
-    return writable ? 0 : EACCES;
+    return MayWrite(target, status) ? 0 : EACCES;
 }
 
 bool TakeAfter(int descriptor, const fs::path& /*file*/, const fs::path& target)
@@ -84,7 +80,7 @@ bool PutInPlace(int descriptor, const fs::path& file, const fs::path& target)
     return true;
 }
 
-void RemoveFile(const fs::path& file) noexcept
+bool RemoveFile(const fs::path& file) noexcept
 {
-    unlink(file.c_str());
+    return unlink(file.c_str()) == 0;
 }

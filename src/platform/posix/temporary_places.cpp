@@ -1,13 +1,12 @@
 #include "platform/temporary_places.h"
 
+#include "platform/posix/status.h"
+
 #include <cerrno>
 #include <cstdlib>
 #include <string>
 
-#include <fcntl.h>
 #include <sys/file.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -19,8 +18,8 @@ bool IsOurs(int descriptor, const fs::path& place)
     struct stat opened = {};
     struct stat named = {};
     return fstat(descriptor, &opened) == 0 && lstat(place.c_str(), &named) == 0 &&
-           opened.st_ino == named.st_ino && opened.st_dev == named.st_dev &&
-           S_ISREG(opened.st_mode) && opened.st_nlink == 1 && opened.st_uid == geteuid();
+           AreTheSame(opened, named) && S_ISREG(opened.st_mode) && opened.st_nlink == 1 &&
+           opened.st_uid == geteuid();
 }
 
 int OpenLeftover(const fs::path& place)

@@ -34,9 +34,9 @@ bool IsFile(const std::filesystem::path& path)
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
-unsigned AtMost(std::size_t count)
+DWORD AtMost(std::size_t count)
 {
-    return static_cast<unsigned>(std::min(count, kMostBytes));
+    return static_cast<DWORD>(std::min(count, kMostBytes));
 }
 
 } // namespace
@@ -72,14 +72,29 @@ int OpenDescriptor(const std::filesystem::path& file, FileAccess access)
     return DescriptorOf(std::move(handle), isWritten ? _O_RDWR : _O_RDONLY);
 }
 
+// The C library would do the same, but tells most failures of the system as one.
 std::ptrdiff_t ReadDescriptor(int descriptor, void* buffer, std::size_t count)
 {
-    return _read(descriptor, buffer, AtMost(count));
+    DWORD done = 0;
+    if (ReadFile(HandleOf(descriptor), buffer, AtMost(count), &done, nullptr) == 0) {
+        SetErrno();
+        return -1;
+    }
+    return static_cast<std::ptrdiff_t>(done);
 }
 
 std::ptrdiff_t WriteDescriptor(int descriptor, const void* buffer, std::size_t count)
 {
-    return _write(descriptor, buffer, AtMost(count));
+    DWORD done = 0;
+    if (WriteFile(HandleOf(descriptor), buffer, AtMost(count), &done, nullptr) == 0) {
+        SetErrno();
+        return -1;
+    }
+    if (done == 0 && count != 0) {
+        errno = ENOSPC;
+        return -1;
+    }
+    return static_cast<std::ptrdiff_t>(done);
 }
 
 std::int64_t SeekDescriptor(int descriptor, std::int64_t position)
@@ -121,7 +136,13 @@ bool SetLengthOfDescriptor(int descriptor, std::int64_t length)
 
 bool SyncDescriptor(int descriptor)
 {
-    return _commit(descriptor) == 0;
+    if (FlushFileBuffers(HandleOf(descriptor)) != 0) {
+        return true;
+    }
+    const DWORD error = GetLastError();
+    SetErrno(error);
+    // Nothing was written through a descriptor that may not write.
+    return error == ERROR_ACCESS_DENIED;
 }
 
 bool CloseDescriptor(int descriptor)

@@ -25,7 +25,7 @@ std::optional<CFolderKey> FolderOf(const CString& path)
 /// A name that every user of the machine may hold, whoever made it first.
 HANDLE MakeMutex(const std::wstring& name)
 {
-    SECURITY_DESCRIPTOR everybody;
+    SECURITY_DESCRIPTOR everybody = {};
     SECURITY_ATTRIBUTES attributes = {sizeof attributes, &everybody, FALSE};
     if (InitializeSecurityDescriptor(&everybody, SECURITY_DESCRIPTOR_REVISION) == 0 ||
         SetSecurityDescriptorDacl(&everybody, TRUE, nullptr, FALSE) == 0) {

@@ -26,6 +26,18 @@ CHandle OpenFileShared(const std::filesystem::path& path, DWORD access, DWORD di
         CreateFileW(path.c_str(), access, kShared, nullptr, disposition, flags, nullptr));
 }
 
+bool IsHandleAt(HANDLE handle, const std::filesystem::path& path)
+{
+    const CHandle named = OpenFileShared(path, FILE_READ_ATTRIBUTES, OPEN_EXISTING,
+                                         kNoLinkFollowed | FILE_FLAG_BACKUP_SEMANTICS);
+    BY_HANDLE_FILE_INFORMATION a = {};
+    BY_HANDLE_FILE_INFORMATION b = {};
+    return named.IsValid() && GetFileInformationByHandle(handle, &a) != 0 &&
+           GetFileInformationByHandle(named.Get(), &b) != 0 &&
+           a.dwVolumeSerialNumber == b.dwVolumeSerialNumber &&
+           a.nFileIndexHigh == b.nFileIndexHigh && a.nFileIndexLow == b.nFileIndexLow;
+}
+
 HANDLE HandleOf(int descriptor)
 {
     return reinterpret_cast<HANDLE>(_get_osfhandle(descriptor));

@@ -47,6 +47,12 @@ void SetErrno();
 CHandle OpenFileShared(const std::filesystem::path& path, DWORD access, DWORD disposition,
                        DWORD flags = FILE_ATTRIBUTE_NORMAL);
 
+/// Opens a link itself instead of what it leads to.
+constexpr DWORD kNoLinkFollowed = FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT;
+
+/// Whether an open file or folder is the one that stands at the path.
+bool IsHandleAt(HANDLE handle, const std::filesystem::path& path);
+
 /// The handle behind a descriptor.
 HANDLE HandleOf(int descriptor);
 

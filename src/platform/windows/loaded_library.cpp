@@ -5,6 +5,9 @@
 #include <psapi.h>
 
 #include <bit>
+#include <cstdint>
+#include <cstring>
+#include <string>
 #include <vector>
 
 namespace {
@@ -37,8 +40,9 @@ CLoadedLibrary::CLoadedLibrary(const void* address)
     }
     m_base = library;
     constexpr DWORD kLongestPath = 32768;
-    m_file.resize(kLongestPath);
-    m_file.resize(GetModuleFileNameW(library, m_file.data(), kLongestPath));
+    std::wstring file(kLongestPath, L'\0');
+    file.resize(GetModuleFileNameW(library, file.data(), kLongestPath));
+    m_file = file;
 }
 
 void* CLoadedLibrary::Find(const char* symbol) const
@@ -59,4 +63,20 @@ void* CLoadedLibrary::FindAnywhere(const char* symbol)
         }
     }
     return nullptr;
+}
+
+/// A library that takes a function from another one knows it by a jump of its own, over a place
+/// where the system has put the address: `jmp [rip + distance]`.
+const void* CLoadedLibrary::CodeOf(const void* function)
+{
+    constexpr unsigned char kJump[] = {0xFF, 0x25};
+    const auto* const code = static_cast<const unsigned char*>(function);
+    if (code == nullptr || std::memcmp(code, kJump, sizeof kJump) != 0) {
+        return function;
+    }
+    std::int32_t distance = 0;
+    std::memcpy(&distance, code + sizeof kJump, sizeof distance);
+    const void* target = nullptr;
+    std::memcpy(&target, code + sizeof kJump + sizeof distance + distance, sizeof target);
+    return target;
 }

@@ -20,18 +20,56 @@ std::wstring AskForText(Ask ask)
     return text;
 }
 
-/// The name that the system gives to an open file, without what marks it as the system's.
-fs::path NameOf(HANDLE handle)
+/// What marks a name as the system's own, which may be as long as it likes; of a share, and of
+/// anything else.
+constexpr std::wstring_view kMark = L"\\\\?\\";
+constexpr std::wstring_view kShareMark = L"\\\\?\\UNC\\";
+constexpr std::wstring_view kShare = L"\\\\";
+constexpr std::wstring_view kDevice = L"\\\\.\\";
+
+/// Longer names open with the mark only. Files that are replaced get neighbours with names that are
+/// somewhat longer than theirs.
+constexpr std::size_t kLongestUnmarked = MAX_PATH - 1 - 12;
+
+/// The name without its mark where it opens without.
+std::wstring Unmarked(const std::wstring& name)
 {
-    constexpr std::wstring_view kMark = L"\\\\?\\";
-    constexpr std::wstring_view kShareMark = L"\\\\?\\UNC\\";
-    std::wstring name = AskForText([handle](wchar_t* text, DWORD size) {
-        return GetFinalPathNameByHandleW(handle, text, size, FILE_NAME_NORMALIZED);
-    });
+    std::wstring plain = name;
     if (name.starts_with(kShareMark)) {
-        return L"\\\\" + name.substr(kShareMark.size());
+        plain.replace(0, kShareMark.size(), kShare);
+    } else if (name.starts_with(kMark)) {
+        plain.erase(0, kMark.size());
     }
-    return name.starts_with(kMark) ? name.substr(kMark.size()) : name;
+    return plain.size() <= kLongestUnmarked ? plain : name;
+}
+
+/// The whole name with its mark where it does not open without.
+std::wstring Marked(std::wstring whole)
+{
+    const bool opens =
+        whole.size() <= kLongestUnmarked || whole.starts_with(kMark) || whole.starts_with(kDevice);
+    if (!opens && whole.starts_with(kShare)) {
+        whole.replace(0, kShare.size(), kShareMark);
+    } else if (!opens) {
+        whole.insert(0, kMark);
+    }
+    return whole;
+}
+
+/// The name that the system gives to an open file.
+std::wstring NameOf(HANDLE handle)
+{
+    return Unmarked(AskForText([handle](wchar_t* text, DWORD size) {
+        return GetFinalPathNameByHandleW(handle, text, size, FILE_NAME_NORMALIZED);
+    }));
+}
+
+/// The path from its root on; empty if it leads nowhere.
+std::wstring WholePathOf(const fs::path& path)
+{
+    return Marked(AskForText([&path](wchar_t* text, DWORD size) {
+        return GetFullPathNameW(path.c_str(), size, text, nullptr);
+    }));
 }
 
 } // namespace
@@ -43,17 +81,20 @@ fs::path ResolvePath(const CString& path)
 
 fs::path FindFile(const CString& path, std::error_code& error)
 {
+    return FollowLinks(ResolvePath(path), error);
+}
+
+fs::path FollowLinks(const fs::path& file, std::error_code& error)
+{
     error.clear();
-    const fs::path resolved = ResolvePath(path);
-    const CHandle handle =
-        OpenFileShared(resolved, FILE_READ_ATTRIBUTES, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
-    fs::path real = handle.IsValid() ? NameOf(handle.Get()) : fs::path();
-    if (real.empty()) {
-        real = AskForText([&resolved](wchar_t* text, DWORD size) {
-            return GetFullPathNameW(resolved.c_str(), size, text, nullptr);
-        });
+    const std::wstring whole = WholePathOf(file);
+    if (whole.empty()) {
+        return file;
     }
-    return real.empty() ? resolved : real;
+    const CHandle handle =
+        OpenFileShared(whole, FILE_READ_ATTRIBUTES, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+    const std::wstring real = handle.IsValid() ? NameOf(handle.Get()) : std::wstring();
+    return real.empty() ? whole : real;
 }
 
 CString TextFromPath(const fs::path& path)

@@ -1,12 +1,30 @@
 #include "platform/program_arguments.h"
 
 #include <cstdio>
+#include <cstdlib>
+#include <iostream>
 
 #include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 
 #include <shellapi.h>
+
+namespace {
+
+/// The console's, which goes on with it when the program ends; 0 without a console.
+UINT g_formerCodePage = 0;
+
+void RestoreCodePage()
+{
+    // What was written reaches the console as it was meant to.
+    std::cout.flush();
+    std::cerr.flush();
+    std::fflush(stdout);
+    SetConsoleOutputCP(g_formerCodePage);
+}
+
+} // namespace
 
 std::vector<CString> ProgramArguments(int /*count*/, const char* const* /*values*/)
 {
@@ -22,7 +40,10 @@ std::vector<CString> ProgramArguments(int /*count*/, const char* const* /*values
 
 void WriteOutputUnchanged()
 {
-    SetConsoleOutputCP(CP_UTF8);
+    g_formerCodePage = GetConsoleOutputCP();
+    if (g_formerCodePage != 0 && SetConsoleOutputCP(CP_UTF8) != 0) {
+        std::atexit(RestoreCodePage);
+    }
     _setmode(_fileno(stdout), _O_BINARY);
     _setmode(_fileno(stderr), _O_BINARY);
 }

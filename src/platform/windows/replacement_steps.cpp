@@ -143,7 +143,7 @@ bool PutInPlace(int descriptor, const fs::path& file, const fs::path& target)
     return done;
 }
 
-void RemoveFile(const fs::path& file) noexcept
+bool RemoveFile(const fs::path& file) noexcept
 {
-    DeleteFileW(file.c_str());
+    return DeleteFileW(file.c_str()) != 0;
 }

@@ -9,8 +9,9 @@ COtherProgram::COtherProgram(const char* part, const CString& path) : m_process(
 {
     SetSystemEnvironment(L"RADSEL_OTHER_PATH", path);
     static const char here = 0;
-    CString line = L"\"" + CLoadedLibrary(&here).File() + L"\" --gtest_filter=DISABLED_Other." +
-                   WideFromUtf8(part) + L" --gtest_also_run_disabled_tests";
+    CString line = L"\"" + CLoadedLibrary(&here).File().native() +
+                   L"\" --gtest_filter=DISABLED_Other." + WideFromUtf8(part) +
+                   L" --gtest_also_run_disabled_tests";
     STARTUPINFOW start = {};
     start.cb = sizeof start;
     PROCESS_INFORMATION started = {};

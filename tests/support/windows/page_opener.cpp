@@ -26,7 +26,7 @@ constexpr int kMostNaps = 1500; // for a machine that is busy with other things
 CString OwnProgram()
 {
     static const char here = 0;
-    return CLoadedLibrary(&here).File();
+    return CLoadedLibrary(&here).File().native();
 }
 
 std::optional<std::string> ReadIfThere(const CString& path)

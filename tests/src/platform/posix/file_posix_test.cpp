@@ -56,6 +56,18 @@ TEST_F(PosixFileTest, ReplacingKeepsPermissionsOwnerGroupAndLinks)
     EXPECT_EQ(after.st_gid, before.st_gid);
 }
 
+TEST_F(PosixFileTest, ABackslashInTheNameOfAFolderStaysWhereThePathIsTheSystems)
+{
+    m_folder.WriteBytes("a\\b/page.html", "");
+    const fs::path page = fs::canonical(m_folder.Root()) / "a\\b" / "page.html";
+    fs::create_directory_symlink("a\\b", m_folder.Root() / "link");
+    std::error_code error;
+    EXPECT_EQ(FollowLinks(page, error), page);
+    EXPECT_EQ(FollowLinks(m_folder.Root() / "link" / "page.html", error), page);
+    EXPECT_FALSE(error);
+    EXPECT_EQ(FollowLinks({}, error), fs::path());
+}
+
 TEST_F(PosixFileTest, AWritableFileIsWrittenInPlaceWhereNoNeighbourCanBeItsHeir)
 {
     m_folder.WriteBytes("closed/list.txt", "a long old content");
