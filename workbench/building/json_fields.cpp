@@ -174,7 +174,8 @@ std::vector<CJsonFields> CJsonFields::Objects(const char* name, const CString& w
 
 void CJsonFields::RefuseUnknown() const
 {
-    for (const auto& [name, value] : *m_object) {
+    for (const CJsonObject::Field& field : *m_object) {
+        const CString& name = field.first;
         if (std::ranges::none_of(m_known, [&name](std::string_view known) {
                 return std::ranges::equal(name, known);
             })) {

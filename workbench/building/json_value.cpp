@@ -82,9 +82,10 @@ CJsonObject::CJsonObject(std::vector<Field> fields) : m_fields(std::move(fields)
 {
     std::ranges::stable_sort(m_fields, {}, &Field::first);
     // The last of equal names stands first from behind.
-    const auto [first, last] =
-        std::ranges::unique(m_fields.rbegin(), m_fields.rend(), {}, &Field::first);
-    m_fields.erase(last.base(), first.base());
+    const auto kept =
+        std::unique(m_fields.rbegin(), m_fields.rend(),
+                    [](const Field& one, const Field& other) { return one.first == other.first; });
+    m_fields.erase(m_fields.begin(), kept.base());
 }
 
 void CJsonObject::Insert(std::string_view name, CJsonValue value)
