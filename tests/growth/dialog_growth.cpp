@@ -11,14 +11,13 @@
 #include "platform/encoding.h"
 #include "platform/format.h"
 #include "tests/dialog_support/dialog_driver.h"
-#include "tests/dialog_support/empty_drawer.h"
+#include "tests/dialog_support/dialog_run.h"
+#include "tests/dialog_support/full_drawer.h"
 #include "tests/support/memory_catalogue.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
 #include "tools/make_catalogues_writer.h"
 #include "tools/make_valves_writer.h"
-#include "uikit/application.h"
-#include "uikit/dialog.h"
 
 #include <QApplication>
 #include <QHeaderView>
@@ -44,11 +43,7 @@ constexpr wchar_t kDef[] = L"Prova";
 class COffice
 {
 public:
-    COffice()
-    {
-        EnsureApplication();
-        SetDialogFontSize(8);
-    }
+    COffice() { PrepareDialogs(); }
 
     const CTempFolder folder;
 
@@ -64,29 +59,6 @@ private:
     CSettingOverride m_valveBlocks{kSettingValveBlockFolder, L"valvole"};
 };
 
-/// A drawing of layers and blocks.
-class CFullDrawer : public CEmptyDrawer
-{
-public:
-    explicit CFullDrawer(int size) : m_nSize(size) {}
-
-    void GetLayerNames(CStringArray& names, int) override { Fill(names, L"LAYER"); }
-    void GetBlockNames(const CString&, CStringArray& names, int) override
-    {
-        Fill(names, L"BLOCCO");
-    }
-
-private:
-    void Fill(CStringArray& names, const CString& kind) const
-    {
-        for (int i = 0; i < m_nSize; ++i) {
-            names.Add(kind + FormatInt(1000 + (7919 * i) % 1000));
-        }
-    }
-
-    int m_nSize;
-};
-
 using Open = std::function<void()>;
 using Step = std::function<void(const CDialogUser&)>;
 
@@ -95,22 +67,16 @@ void Finish()
     QApplication::sendPostedEvents();
 }
 
-void RunDialog(const Open& open, const Step& step)
-{
-    const DialogObserver before = SetDialogObserver([&](CDialog& dialog) {
-        Finish();
-        step(CDialogUser(dialog));
-        dialog.EndDialog(kIdCancel);
-    });
-    open();
-    SetDialogObserver(before);
-}
-
 /// From the call to the painted dialog, what the user does there, and its end.
 void CountDialog(
     CWorkCount& count, const Open& open, const Step& step = [](const CDialogUser&) {})
 {
-    count.Of([&] { RunDialog(open, step); });
+    count.Of([&] {
+        RunDialog(open, [&](CDialog& dialog) {
+            Finish();
+            step(CDialogUser(dialog));
+        });
+    });
 }
 
 /// The selection dialog over rows in memory, each of another height, with as many layers, blocks
@@ -136,7 +102,7 @@ public:
 
     void Open()
     {
-        CString layer = L"LAYER1000";
+        CString layer = L"LAYER-0";
         int color = 1;
         HeizkoerperauswahlVDI3805(&m_drawer, &m_wish, layer, color, true, false);
     }
