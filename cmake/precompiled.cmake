@@ -5,9 +5,9 @@
 #   radsel_precompile(TARGET HEADER)   HEADER is a file of cmake/precompiled without its suffix
 #
 # The first target with a header compiles it, the others take it from there. A program's sources are
-# compiled otherwise than a library's, and those of a folder with RADSEL_PRECOMPILED_APART otherwise
-# than those of others, so that they cannot share one. Nor can what is optimised when it is linked and
-# what is not.
+# compiled as a library's are, so that both share one; those of a folder with RADSEL_PRECOMPILED_APART
+# are compiled otherwise than those of others and cannot. Nor can what is optimised when it is linked
+# and what is not.
 set(RADSEL_PRECOMPILED_DIR ${CMAKE_CURRENT_LIST_DIR}/precompiled)
 
 function(radsel_precompile target header)
@@ -15,10 +15,11 @@ function(radsel_precompile target header)
     if(type STREQUAL INTERFACE_LIBRARY)
         return()
     endif()
-    set(shared_by libraries)
     if(type STREQUAL EXECUTABLE)
-        set(shared_by programs)
+        set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE OFF)
+        target_compile_options(${target} PRIVATE ${CMAKE_CXX_COMPILE_OPTIONS_PIC})
     endif()
+    set(shared_by all)
     if(CMAKE_INTERPROCEDURAL_OPTIMIZATION OR CMAKE_CXX_FLAGS MATCHES "-flto")
         get_target_property(options ${target} COMPILE_OPTIONS)
         if("-fno-lto" IN_LIST options)

@@ -15,11 +15,11 @@
 
 namespace {
 
-constexpr int kDialog = 7001;
+constexpr int kPictureDialog = 7001;
 constexpr CRect kPlace = {10, 10, 130, 90};
 constexpr QRgb kGrey = qRgb(128, 128, 128);
 
-const DialogTemplate kTemplate = {kDialog, L"Immagine", 150, 80, frameFixed, {}};
+const DialogTemplate kPictureTemplate = {kPictureDialog, L"Immagine", 150, 80, frameFixed, {}};
 
 /// Every pixel tells its place, from 1 on so that none is black.
 CBitmap Coded(int width, int height)
@@ -74,8 +74,8 @@ void ExpectNotFound(const CBitmapCtrl& control)
 void WithControl(const std::function<void(CBitmapCtrl&, QSize)>& script)
 {
     CDialogDriver driver;
-    CDialog dialog(kTemplate);
-    driver.WhenOpens(kDialog, [&](CDialogUser& user) {
+    CDialog dialog(kPictureTemplate);
+    driver.WhenOpens(kPictureDialog, [&](CDialogUser& user) {
         CBitmapCtrl control;
         ASSERT_TRUE(control.Create(styleNone, kPlace, user.Dialog()));
         const CRect client = control.GetClientRect();
@@ -183,8 +183,8 @@ TEST(BitmapControl, NoEventOfAnAxisWithoutABarMovesThePicture)
 TEST(BitmapControl, ThereIsNoneOfASizeThatNoMemoryHolds)
 {
     CDialogDriver driver;
-    CDialog dialog(kTemplate);
-    driver.WhenOpens(kDialog, [&](CDialogUser& user) {
+    CDialog dialog(kPictureTemplate);
+    driver.WhenOpens(kPictureDialog, [&](CDialogUser& user) {
         CBitmapCtrl control;
         EXPECT_FALSE(control.Create(styleNone, {0, 0, 400000, 400000}, user.Dialog()));
         const CBitmap bitmap = Coded(190, 150);
@@ -237,8 +237,8 @@ TEST(BitmapControl, WindowAndObjectMayEndInEitherOrder)
     EXPECT_FALSE(survivor.Create(styleNone, kPlace, CWnd()));
 
     CDialogDriver driver;
-    CDialog dialog(kTemplate);
-    driver.WhenOpens(kDialog, [&](CDialogUser& user) {
+    CDialog dialog(kPictureTemplate);
+    driver.WhenOpens(kPictureDialog, [&](CDialogUser& user) {
         ASSERT_TRUE(survivor.Create(styleHidden, kPlace, user.Dialog()));
         EXPECT_FALSE(survivor.Create(styleNone, kPlace, user.Dialog()));
         EXPECT_FALSE(survivor.IsWindowVisible());

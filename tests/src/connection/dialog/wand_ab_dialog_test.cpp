@@ -9,7 +9,7 @@ using namespace reference_host;
 
 namespace {
 
-constexpr int kDialog = 18006;
+constexpr int kDistancesDialog = 18006;
 constexpr int kWand = 1529;
 constexpr int kBoden = 1530;
 constexpr int kEinheitWand = 7020;
@@ -38,7 +38,7 @@ protected:
 
     int Run(const CDialogDriver::Script& script)
     {
-        m_driver.WhenOpens(kDialog, script);
+        m_driver.WhenOpens(kDistancesDialog, script);
         return CWandAbDlg().DoModal();
     }
 

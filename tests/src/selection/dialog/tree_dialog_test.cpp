@@ -17,7 +17,7 @@ using namespace reference_host;
 
 namespace {
 
-constexpr int kDialog = 18002;
+constexpr int kTreeDialog = 18002;
 constexpr int kBaum = 18000;
 
 using Lines = std::vector<CString>;
@@ -60,7 +60,7 @@ protected:
 
     int Run(const CDialogDriver::Script& script)
     {
-        m_driver.WhenOpens(kDialog, script);
+        m_driver.WhenOpens(kTreeDialog, script);
         return HeizkoerperauswahlVDI3805Tree(&m_daten);
     }
 

@@ -14,7 +14,7 @@ using namespace reference_host;
 
 namespace {
 
-constexpr int kDialog = 18003;
+constexpr int kValveDialog = 18003;
 constexpr int kBaum = 18019;
 constexpr int kHersteller = 18039;
 constexpr int kKvListe = 18029;
@@ -107,7 +107,7 @@ protected:
                                             const CString& nummer = {},
                                             const CString& hersteller = {})
     {
-        m_driver.WhenOpens(kDialog, script);
+        m_driver.WhenOpens(kValveDialog, script);
         VDI3805_VENTIL_KV ventil;
         ventil.Bezeichnung = L"prima";
         ventil.AnzahlKv = 3;
