@@ -33,7 +33,7 @@ Block ReadIntoCache(CFile& file, CSettingsCache& cache, CLineBlockCache* blocks,
 
 CLineBlockCache* BlocksOf(CSettingsCache& cache)
 {
-    return RadselLineBlocks != nullptr ? RadselLineBlocks(&cache) : nullptr;
+    return HOST_HAS(RadselLineBlocks) ? RadselLineBlocks(&cache) : nullptr;
 }
 
 } // namespace

@@ -27,7 +27,7 @@ void ZeichnePunkte(const TGA_LIST& objekt, CDrawer& drawer)
     std::array<LM_APUNKT, kMaxAnschlussPunkte> punkte;
     LM_TRAFO trafo(objekt.Trafo);
     const int anzahl =
-        lmGet_K_APUNKT_BLOCK_Wc(objekt.Attribute, punkte.data(), &trafo, TgaGewerk(0), L"");
+        lmGet_K_APUNKT_BLOCK_Wc(objekt.Attribute, punkte.data(), &trafo, TgaGewerk(0), CString());
     // The points of the second half are the far ends of the pipes that begin at those of the first;
     // drawing a point draws its pipe as far as that.
     for (int i = 0; i < anzahl / 2; ++i) {

@@ -20,14 +20,17 @@
 /// HOST_API marks what one of the host's libraries offers to others. On Windows its own sources are
 /// compiled with RADSEL_BUILDS_HOST.
 ///
-/// HOST_OPTIONAL marks a function that a host may leave out: its address is null then. On Windows,
-/// where a library takes each function from a library that it names, there is none to leave out.
+/// HOST_OPTIONAL marks a function that a host may leave out: its address is null then, and
+/// HOST_HAS() tells so. On Windows, where a library takes each function from a library that it
+/// names, there is none to leave out.
 #ifndef _WIN32
 #define HOST_OPTIONAL __attribute__((weak))
+#define HOST_HAS(function) ((function) != nullptr)
 #define RADSEL_API __attribute__((visibility("default")))
 #define HOST_API __attribute__((visibility("default")))
 #else
 #define HOST_OPTIONAL
+#define HOST_HAS(function) true
 #ifdef RADSEL_INSIDE
 #define RADSEL_API __declspec(dllexport)
 #else

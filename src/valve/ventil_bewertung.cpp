@@ -106,7 +106,7 @@ public:
                 continue;
             }
             if (++m_ventil.AnzahlKv == VDI3805_VENTIL_KV::kMaxKv) {
-                ShowMessage({L"", L"MAXKV", MessageIcon::warning});
+                ShowMessage({CString(), L"MAXKV", MessageIcon::warning});
                 return;
             }
         }

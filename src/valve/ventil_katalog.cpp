@@ -46,7 +46,7 @@ Node* Append(Node*& head, Node*& last)
 void Melde(bool melden, const CString& text)
 {
     if (melden) {
-        ShowMessage({L"", text, MessageIcon::warning});
+        ShowMessage({CString(), text, MessageIcon::warning});
     }
 }
 

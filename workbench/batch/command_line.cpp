@@ -33,13 +33,13 @@ const CCommand* FindCommand(const CString& name)
     return found == GetCommands().end() ? nullptr : &*found;
 }
 
-/// The option of that name, whichever commands use it; null if the text is none.
-const COption* FindOption(const CString& name)
+/// The option of that name, whichever commands use it; null if the program knows none.
+const COption* FindOption(const CProgram& program, const CString& name)
 {
     for (const CCommand& command : GetCommands()) {
         for (const COption* option : command.options) {
             if (name == option->name) {
-                return option;
+                return option->isForWindows && !program.HasWindows() ? nullptr : option;
             }
         }
     }
@@ -83,8 +83,9 @@ bool Accepts(const CCommand& command, const COption& option)
 class CArgumentReader
 {
 public:
-    CArgumentReader(const std::vector<CString>& arguments, const CCommand& command)
-        : m_arguments(arguments), m_command(command)
+    CArgumentReader(const CProgram& program, const std::vector<CString>& arguments,
+                    const CCommand& command)
+        : m_program(program), m_arguments(arguments), m_command(command)
     {
     }
 
@@ -121,7 +122,7 @@ private:
     {
         const std::size_t equals = argument.find(L'=');
         const bool hasValue = equals != CString::npos;
-        const COption* option = FindOption(argument.substr(0, equals));
+        const COption* option = FindOption(m_program, argument.substr(0, equals));
         if (!option || (hasValue && !option->takesValue)) {
             throw CArgumentException(L"argomento sconosciuto per " + TextOf(m_command) + L": " +
                                      argument);
@@ -142,6 +143,7 @@ private:
         option->keep(m_result, value);
     }
 
+    const CProgram& m_program;
     const std::vector<CString>& m_arguments;
     const CCommand& m_command;
     std::size_t m_next = 0;
@@ -166,10 +168,11 @@ ExitCode Run(const CProgram& program, const CCommandLine& line, std::ostream& ou
 
 } // namespace
 
-CCommandLine ParseCommandLine(const std::vector<CString>& arguments, bool hasScreen)
+CCommandLine ParseCommandLine(const CProgram& program, const std::vector<CString>& arguments,
+                              bool hasScreen)
 {
     const CCommand& command = ChooseCommand(arguments, hasScreen);
-    return {command, CArgumentReader(arguments, command).Read()};
+    return {command, CArgumentReader(program, arguments, command).Read()};
 }
 
 ExitCode RunCommandLine(const CProgram& program, const std::vector<CString>& arguments,
@@ -177,7 +180,7 @@ ExitCode RunCommandLine(const CProgram& program, const std::vector<CString>& arg
 {
     SetProgramName(program.name);
     try {
-        return Run(program, ParseCommandLine(arguments, hasScreen), out, err);
+        return Run(program, ParseCommandLine(program, arguments, hasScreen), out, err);
     } catch (const CArgumentException& error) {
         return Report(err, error.GetErrorMessage() + L" (--help mostra le opzioni)",
                       ExitCode::wrongArguments);

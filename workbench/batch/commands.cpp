@@ -48,7 +48,7 @@ constexpr COption kBuilding{L"--building", true, KeepText<&CArguments::strBuildi
 constexpr COption kSample{L"--sample", true, KeepText<&CArguments::strSample>, nullptr, true};
 constexpr COption kOutput{L"--output", true, KeepText<&CArguments::strOutput>, nullptr, true};
 constexpr COption kWorkplace{L"--workplace", true, KeepText<&CArguments::strWorkplace>,
-                             UseWorkplace, true};
+                             UseWorkplace,   true, true};
 constexpr COption kCatalogues{L"--catalogues", true, KeepText<&CArguments::strCatalogues>,
                               UseCatalogueFolder};
 constexpr COption kValveCatalogues{L"--valve-catalogues", true,

@@ -4,6 +4,7 @@
 #include "workbench/batch/arguments.h"
 #include "workbench/batch/exit_code.h"
 
+#include <algorithm>
 #include <iosfwd>
 #include <span>
 #include <vector>
@@ -25,6 +26,8 @@ struct COption
     /// Every command accepts the option, since a starter puts its defaults in front of whatever the
     /// user types. Only the commands that list it check and use it.
     bool isAcceptedByAll = false;
+    /// A program without windows does not know it.
+    bool isForWindows = false;
 };
 
 enum class CommandId
@@ -75,6 +78,11 @@ struct CProgram
     /// The commands that it can run. The others need windows that it does not have, and are
     /// refused.
     std::span<const CCommandRun> runs;
+
+    bool HasWindows() const
+    {
+        return std::ranges::find(runs, CommandId::window, &CCommandRun::id) != runs.end();
+    }
 };
 
 } // namespace workbench

@@ -56,7 +56,7 @@ Opzioni:
                      si apre sul produttore (nome della sua cartella) e sulla valvola con questo
                      NumeroTGA, se indicati
 )"},
-    {Teller::both,
+    {Teller::windows,
      LR"(  --workplace DIR    cartella del posto di lavoro: posizione delle finestre e aiuti attivi
 )"},
     {Teller::windows, LR"(  --connection-dialog [--superuser]

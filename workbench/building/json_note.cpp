@@ -17,7 +17,7 @@ constexpr const wchar_t* kNoteName = L"note";
 
 /// Within a file a note stands some levels down, more of them in a file of kept work, and what was
 /// written has to be read again.
-constexpr int kMostLevels = 1000;
+constexpr int kMostNoteLevels = 1000;
 
 using Notes = std::vector<const CJsonValue*>;
 
@@ -125,14 +125,14 @@ CString NoteOf(const CJsonFields& fields)
         Notes all = OwnNotes(own);
         all.insert(all.end(), others.begin(), others.end());
         for (const CJsonValue* const note : all) {
-            RefuseTooDeep(fields, *note, kMostLevels - 1);
+            RefuseTooDeep(fields, *note, kMostNoteLevels - 1);
         }
         return FormatList(all);
     }
     if (!own) {
         return {};
     }
-    RefuseTooDeep(fields, *own, kMostLevels);
+    RefuseTooDeep(fields, *own, kMostNoteLevels);
     return FormatValue(*own);
 }
 

@@ -44,5 +44,7 @@ for command in --radiator-dialog --tree-dialog --connection-dialog --valve-dialo
     refused "$command apre una finestra" "$command"
     ! "$batch" --help | grep -e "$command"
 done
+refused "argomento sconosciuto per --batch: --workplace" --workplace "$scratch"
+! "$batch" --help | grep -e --workplace
 refused "--batch non ammette l'opzione --superuser" --superuser
 "$batch" --version | grep -q '^radsel_batch '

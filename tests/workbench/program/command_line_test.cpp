@@ -16,12 +16,12 @@ namespace {
 
 CArguments Parse(const std::vector<CString>& arguments)
 {
-    return ParseCommandLine(arguments, false).arguments;
+    return ParseCommandLine(GetWorkbench(), arguments, false).arguments;
 }
 
 CommandId CommandOf(const std::vector<CString>& arguments, bool hasScreen)
 {
-    return ParseCommandLine(arguments, hasScreen).command.id;
+    return ParseCommandLine(GetWorkbench(), arguments, hasScreen).command.id;
 }
 
 /// The names in the column of the help text in which commands and options are told.
@@ -121,7 +121,7 @@ TEST(CommandLine, ErrorsNameTheArgumentAndTheCommand)
         EXPECT_NE(error.find(command), CString::npos) << testing::PrintToString(error);
     }
     EXPECT_NE(MessageOf<CArgumentException>([] {
-                  ParseCommandLine({L"--valves"}, true);
+                  ParseCommandLine(GetWorkbench(), {L"--valves"}, true);
               }).find(L"la finestra (senza --batch) non ammette l'opzione --valves"),
               CString::npos);
 }
