@@ -2,7 +2,7 @@
 
 #include "tests/dialog_support/empty_drawer.h"
 
-/// A drawing with so many layers, and as many blocks in every folder.
+/// A drawing with so many layers, up to 10,007, and as many blocks in every folder; in no order.
 class CFullDrawer : public CEmptyDrawer
 {
 public:
@@ -18,7 +18,7 @@ private:
     void AddNames(CStringArray& names, const CString& beginning) const
     {
         for (int i = 0; i < m_nSize; ++i) {
-            names.Add(beginning + std::to_wstring(i));
+            names.Add(beginning + std::to_wstring(7919 * i % 10007));
         }
     }
 

@@ -84,15 +84,15 @@ void CountDialog(
 class CSelection : public COffice
 {
 public:
-    CSelection(int rows, int named) : m_drawer(named)
+    explicit CSelection(int size) : m_drawer(size)
     {
-        for (int i = 0; i < rows; ++i) {
+        for (int i = 0; i < size; ++i) {
             const double height = 300.0 + 10.0 * i;
             m_catalogue.Produkt().Hoehen.Add(height);
             m_catalogue.Add(L'M', height, 102.0, 400.0 + i, 1000.0 + (7919 * i) % 700, 0.0, 5.0,
                             L"Tipo");
         }
-        folder.WriteBytes("HEIZUNG/CmbData.txt", "[VDI6030_HS]\r\n" + Repeated(named, [](int i) {
+        folder.WriteBytes("HEIZUNG/CmbData.txt", "[VDI6030_HS]\r\n" + Repeated(size, [](int i) {
                                                      return "Sistema " + std::to_string(1000 + i) +
                                                             " (75/65)|";
                                                  }) + "\r\n");
@@ -135,9 +135,9 @@ void WorkInSelection(const CDialogUser& user)
     Finish();
 }
 
-void CountSelection(int rows, int named, CWorkCount& count)
+void CountSelection(int size, CWorkCount& count)
 {
-    CSelection selection(rows, named);
+    CSelection selection(size);
     CountDialog(
         count, [&] { selection.Open(); }, WorkInSelection);
 }
@@ -268,9 +268,7 @@ void CountDistances(int size, CWorkCount& count)
 std::vector<CGrowthCase> DialogCases()
 {
     return {
-        {"SelectionDialog", "rows", 50, [](int n, CWorkCount& c) { CountSelection(n, 1, c); }},
-        {"SelectionDialogOfADrawing", "layers, blocks and systems", 25,
-         [](int n, CWorkCount& c) { CountSelection(1, n, c); }},
+        {"SelectionDialog", "rows, layers, blocks and systems", 160, CountSelection},
         {"TreeOfCatalogues", "kinds and makers", 8, CountTree},
         {"ValveDialog", "valves and makers", 24,
          [](int n, CWorkCount& c) {

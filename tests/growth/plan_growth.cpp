@@ -397,7 +397,7 @@ std::vector<CGrowthCase> PlanCases()
              Format(n, c, [](const CSchedule& s) { return FormatValveBill(MakeValveBill(s)); });
          }},
         {"PlanAsDxf", "rooms", 8, ExportDxf},
-        {"PlanAsPdf", "rooms", 10, ExportPdf},
+        {"PlanAsPdf", "rooms", 6, ExportPdf},
         {"RadiatorsForTheModule", "radiators", 50, ListRadiators},
     };
 }

@@ -14,8 +14,6 @@ target_link_libraries(radsel_growth_tests PRIVATE radsel_dialog_support workbenc
     reference_host_check radsel_sample_buildings radsel_sample_catalogues radsel_sample_valves
     radsel_warnings)
 radsel_precompile(radsel_growth_tests toolkit_tests)
-# Each part has its own data under names that others use as well.
-set_target_properties(radsel_growth_tests PROPERTIES UNITY_BUILD OFF)
 
 # Each part by itself, so that they run side by side.
 foreach(part Readers Lists Dialogs Plan Window)
@@ -24,6 +22,7 @@ foreach(part Readers Lists Dialogs Plan Window)
     add_test(NAME ${name} COMMAND ${RADSEL_VALGRIND} -q --tool=callgrind --collect-atstart=no
         --callgrind-out-file=${counts} $<TARGET_FILE:radsel_growth_tests>
         --gtest_filter=${part}/*)
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+    # They take longest, so that they begin first.
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300 COST 50 ENVIRONMENT
         "QT_QPA_PLATFORM=offscreen;RADSEL_GROWTH_COUNTS=${counts}")
 endforeach()
