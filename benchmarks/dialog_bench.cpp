@@ -9,11 +9,11 @@
 #include "frame/entry_points.h"
 #include "frame/handover.h"
 #include "platform/encoding.h"
-#include "uikit/application.h"
 #include "uikit/dialog.h"
 #include "uikit/native/access.h"
 
-#include "tests/dialog_support/empty_drawer.h"
+#include "tests/dialog_support/dialog_run.h"
+#include "tests/dialog_support/full_drawer.h"
 #include "tests/dialog_support/paint_counter.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
@@ -42,43 +42,16 @@ constexpr int kScreenHeight = 1080;
 /// Longer than the dialog takes to settle after it has opened.
 constexpr qint64 kSettling = 250;
 
-/// A drawing with many layers and blocks.
-class CLargeDrawer : public CEmptyDrawer
-{
-public:
-    void GetLayerNames(CStringArray& namen, int /*art*/) override { AddNames(namen, L"LAYER-"); }
-    void GetBlockNames(const CString& /*ordner*/, CStringArray& namen, int /*art*/) override
-    {
-        AddNames(namen, L"BLOCCO-");
-    }
-
-private:
-    static void AddNames(CStringArray& namen, const CString& beginning)
-    {
-        for (int i = 0; i < kNames; ++i) {
-            namen.Add(beginning + std::to_wstring(i));
-        }
-    }
-};
-
 /// Opens the dialog on the product and runs `work` with it, then cancels it.
 class CDialogRun
 {
 public:
-    CDialogRun()
-    {
-        EnsureApplication();
-        SetDialogFontSize(8);
-    }
+    CDialogRun() { PrepareDialogs(); }
 
     HK_DATEN_VDI3805_UEBERGABE uebergabe;
 
     void Open(const std::function<void(CDialog&)>& work, CDrawer* drawer = nullptr)
     {
-        const DialogObserver before = SetDialogObserver([&](CDialog& dialog) {
-            work(dialog);
-            dialog.EndDialog(kIdCancel);
-        });
         uebergabe.Hersteller = L"Lindenbrück";
         uebergabe.Art = L"Unterflurkonvektoren";
         uebergabe.Produkt = L"Bodenkanal";
@@ -86,8 +59,8 @@ public:
         uebergabe.LaengeMax = uebergabe.HoeheMax = uebergabe.TiefeMax = 100000.0;
         CString layer;
         int color = 0;
-        HeizkoerperauswahlVDI3805(drawer, &uebergabe, layer, color, true, false);
-        SetDialogObserver(before);
+        RunDialog([&] { HeizkoerperauswahlVDI3805(drawer, &uebergabe, layer, color, true, false); },
+                  work);
     }
 
 private:
@@ -186,7 +159,7 @@ void OpeningMeasured(benchmark::State& state)
 
 void ListsMeasured(benchmark::State& state)
 {
-    CLargeDrawer drawer;
+    CFullDrawer drawer(kNames);
     Open(state, &drawer);
 }
 

@@ -7,6 +7,7 @@
 #include "frame/entry_points.h"
 #include "frame/handover.h"
 #include "platform/encoding.h"
+#include "tests/dialog_support/dialog_run.h"
 #include "tests/support/setting_override.h"
 #include "tools/dialog_gallery.h"
 #include "uikit/application.h"
@@ -65,16 +66,13 @@ void Measure(const std::string& name, int count, const std::function<void()>& wo
 
 void MeasureDialogs(const std::string& dataFolder, int openings, const std::string& only)
 {
-    const DialogObserver before = SetDialogObserver([](CDialog& dialog) {
-        QCoreApplication::processEvents();
-        dialog.EndDialog(kIdCancel);
-    });
     for (const GalleryEntry& entry : DialogGallery(dataFolder)) {
         if (only.empty() || entry.name == only) {
-            Measure(entry.name, openings, entry.open);
+            Measure(entry.name, openings, [&] {
+                RunDialog(entry.open, [](CDialog&) { QCoreApplication::processEvents(); });
+            });
         }
     }
-    SetDialogObserver(before);
 }
 
 void MeasureSilentCalls(const std::string& dataFolder, int calls)
