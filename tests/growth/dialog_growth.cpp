@@ -80,7 +80,7 @@ void CountDialog(
 }
 
 /// The selection dialog over rows in memory, each of another height, with as many layers, blocks
-/// and systems as `named`.
+/// and systems as rows.
 class CSelection : public COffice
 {
 public:

@@ -16,6 +16,7 @@
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
+#include <QTextBlock>
 #include <QToolBar>
 
 namespace workbench {
@@ -137,6 +138,43 @@ TEST_F(Commands, AMessageLeadsToItsRoomAndGoesWithItsStep)
     Do("size");
     Do("undo");
     EXPECT_EQ(Messages(), "<b>resta</b>");
+}
+
+TEST_F(Commands, OfTooManyMessagesTheOldestGoAndTheOthersLeadToTheirRooms)
+{
+    constexpr int kMost = 5000;
+    constexpr int kKept = 4500;
+    CMessagePane pane;
+    int told = 0;
+    const auto tell = [&](int count) {
+        std::vector<CNotice> notices;
+        for (int i = 0; i < count; ++i) {
+            notices.push_back({"scarso", "Locale " + QString::number(told++)});
+        }
+        pane.Add(notices, std::nullopt);
+    };
+    QString asked;
+    QObject::connect(&pane, &CMessagePane::RoomAsked, [&](const QString& room) { asked = room; });
+    const auto expect = [&](int count) {
+        EXPECT_EQ(pane.document()->blockCount(), count);
+        const auto lead = [&](const QTextBlock& line, int number) {
+            const QString room = "Locale " + QString::number(number);
+            EXPECT_EQ(line.text(), room + ": scarso");
+            emit pane.anchorClicked(line.begin().fragment().charFormat().anchorHref());
+            EXPECT_EQ(asked, room);
+        };
+        lead(pane.document()->firstBlock(), told - count);
+        lead(pane.document()->lastBlock(), told - 1);
+    };
+    tell(kMost - 1);
+    tell(1);
+    expect(kMost);
+    tell(1);
+    expect(kKept);
+    tell(1);
+    expect(kKept + 1);
+    tell(2 * kMost);
+    expect(kKept);
 }
 
 TEST_F(Commands, ANewBuildingTakesRoomsAndGoesToAFileOfItsOwn)
