@@ -13,6 +13,7 @@
 #   PARTS sub...    subfolders that belong to the room
 #   TOOLKIT how     `inside`: only sources and parts know the toolkit, the room's headers do not;
 #                   `open`: the room's headers may show it. Without it the room is free of it.
+#   MOC             some of its classes are the toolkit's objects, for which the toolkit writes code
 #   ONLY_WITH option  without that option the room has no target either
 #   OFFERS room...  rooms whose functions a shared library passes on as its own
 #   LINKS lib...    libraries that are bound in without being included as a room
@@ -61,7 +62,7 @@ function(radsel_is_left_out variable toolkit only_with)
 endfunction()
 
 function(radsel_layer folder)
-    cmake_parse_arguments(room "SHARED;PROGRAM;ARCHIVE" "TARGET;TOOLKIT;ONLY_WITH" "PARTS;USES;OFFERS;LINKS" ${ARGN})
+    cmake_parse_arguments(room "SHARED;PROGRAM;ARCHIVE;MOC" "TARGET;TOOLKIT;ONLY_WITH" "PARTS;USES;OFFERS;LINKS" ${ARGN})
     set(kind STATIC)
     if(room_SHARED)
         set(kind SHARED)
@@ -128,7 +129,7 @@ function(radsel_layer folder)
     elseif(room_TOOLKIT STREQUAL open)
         target_link_libraries(${target} ${reach} Qt6::Widgets)
     endif()
-    if(NOT room_TOOLKIT STREQUAL none)
+    if(room_MOC)
         set_target_properties(${target} PROPERTIES AUTOMOC ON)
     endif()
     if(room_ARCHIVE)
