@@ -72,6 +72,8 @@ build() { # NAME
     CC=$(c_compiler "$1") CXX=$(cpp_compiler "$1")
     local options=("-DCMAKE_BUILD_TYPE=$(build_type "$1")")
     [[ $1 != *-lto ]] || options+=(-DCMAKE_INTERPROCEDURAL_OPTIMIZATION=ON)
+    # That each source reads by itself is held without the optimiser, where it takes less time.
+    [[ $1 == *-debug ]] || options+=(-DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=6)
     if [[ $1 == *-libcxx ]]; then
         build_framework "${options[@]}" || return
         options+=(-DCMAKE_CXX_FLAGS=-stdlib=libc++ -DRADSEL_TOOLKIT=OFF
