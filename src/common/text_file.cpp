@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <functional>
@@ -230,7 +231,10 @@ CLineBlock CutNarrowLines(std::vector<std::uint8_t> bytes)
     for (std::size_t start = 0; start < bytes.size(); start += kNarrowChunk) {
         const std::span<const std::uint8_t> rest = std::span(bytes).subspan(start);
         CutChunk(rest.first(std::min(rest.size(), kNarrowChunk)), [&](auto piece, bool isEnd) {
-            std::memmove(bytes.data() + place, piece.data(), piece.size());
+            if (piece.data() != bytes.data() + place) {
+                std::copy(piece.begin(), piece.end(),
+                          bytes.begin() + static_cast<std::ptrdiff_t>(place));
+            }
             place += piece.size();
             if (isEnd) {
                 ends.push_back(static_cast<std::uint32_t>(place));

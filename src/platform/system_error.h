@@ -13,6 +13,14 @@ int ErrnoOf(const std::error_code& error);
 CString ReasonOf(const std::error_code& error);
 CString ReasonOf(int osError);
 
+/// The errno that stands for a failure for which the C library has no number. Where failures of the
+/// system are errnos anyway it is the number itself.
+int ErrnoOfSystem(int systemError);
+
+/// What ErrnoOfSystem() adds where it adds something: errnos of this and more are told by the
+/// system.
+inline constexpr int kFirstErrnoOfSystem = 1 << 24;
+
 /// Why a call of the system failed, in its own words, by its own number.
 CString SystemReasonOf(int systemError);
 

@@ -99,8 +99,8 @@ CFloor ReadFloor(CJsonFields fields, const CRoomsOfFile& common)
 {
     CFloor floor;
     floor.strName = fields.Text("name");
-    fields.SetPlace(L"piano \"" + floor.strName + L"\"");
     floor.strNotiz = NoteOf(fields);
+    fields.SetPlace(L"piano \"" + floor.strName + L"\"");
     floor.rooms = ReadRooms(fields, common);
     fields.RefuseUnknown();
     RefuseOverlaps(floor.rooms, fields);

@@ -5,7 +5,7 @@
 #include "workbench/building/json_reader.h"
 #include "workbench/building/json_writer.h"
 
-#include <algorithm>
+#include <string_view>
 #include <vector>
 
 namespace workbench {
@@ -14,10 +14,6 @@ namespace {
 
 constexpr const char* kNote = "note";
 constexpr const wchar_t* kNoteName = L"note";
-
-/// Within a file a note stands some levels down, more of them in a file of kept work, and what was
-/// written has to be read again.
-constexpr int kMostNoteLevels = 1000;
 
 using Notes = std::vector<const CJsonValue*>;
 
@@ -65,30 +61,6 @@ Notes OwnNotes(const CJsonValue* own)
     return notes;
 }
 
-int LevelsOf(const CJsonValue& value)
-{
-    int levels = 0;
-    if (const CJsonObject* const object = value.GetObject()) {
-        for (const auto& [name, field] : *object) {
-            levels = std::max(levels, LevelsOf(field));
-        }
-    } else if (const CJsonList* const list = value.GetList()) {
-        for (const CJsonValue& item : *list) {
-            levels = std::max(levels, LevelsOf(item));
-        }
-    } else {
-        return 0;
-    }
-    return levels + 1;
-}
-
-void RefuseTooDeep(const CJsonFields& fields, const CJsonValue& note, int mostLevels)
-{
-    if (LevelsOf(note) > mostLevels) {
-        fields.Fail(kNoteName, L"troppi livelli annidati");
-    }
-}
-
 CString TakeLine(CJsonWriter& writer)
 {
     std::string text = writer.Take();
@@ -124,16 +96,9 @@ CString NoteOf(const CJsonFields& fields)
     if (!others.empty()) {
         Notes all = OwnNotes(own);
         all.insert(all.end(), others.begin(), others.end());
-        for (const CJsonValue* const note : all) {
-            RefuseTooDeep(fields, *note, kMostNoteLevels - 1);
-        }
         return FormatList(all);
     }
-    if (!own) {
-        return {};
-    }
-    RefuseTooDeep(fields, *own, kMostNoteLevels);
-    return FormatValue(*own);
+    return own ? FormatValue(*own) : CString();
 }
 
 void WriteNote(CJsonWriter& writer, const CString& note)

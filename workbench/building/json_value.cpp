@@ -78,14 +78,23 @@ double CJsonValue::AsDouble() const
 
 CJsonObject::CJsonObject() = default;
 
-CJsonObject::CJsonObject(std::vector<Field> fields) : m_fields(std::move(fields))
+CJsonObject::CJsonObject(std::vector<Field> fields)
 {
-    std::ranges::stable_sort(m_fields, {}, &Field::first);
-    // The last of equal names stands first from behind.
-    const auto kept =
-        std::unique(m_fields.rbegin(), m_fields.rend(),
-                    [](const Field& one, const Field& other) { return one.first == other.first; });
-    m_fields.erase(m_fields.begin(), kept.base());
+    std::vector<Field*> order;
+    order.reserve(fields.size());
+    for (Field& field : fields) {
+        order.push_back(&field);
+    }
+    // Of equal names the last one counts, which stands first then.
+    std::ranges::sort(order, [](const Field* one, const Field* other) {
+        return one->first != other->first ? one->first < other->first : other < one;
+    });
+    m_fields.reserve(fields.size());
+    for (Field* const field : order) {
+        if (m_fields.empty() || m_fields.back().first != field->first) {
+            m_fields.push_back(std::move(*field));
+        }
+    }
 }
 
 void CJsonObject::Insert(std::string_view name, CJsonValue value)

@@ -206,8 +206,8 @@ CRoom ReadRoom(CJsonFields fields, const CRoomsOfFile& common)
 {
     CRoom room;
     room.strName = fields.Text("name");
-    fields.SetPlace(L"locale \"" + room.strName + L"\"");
     room.strNotiz = NoteOf(fields);
+    fields.SetPlace(L"locale \"" + room.strName + L"\"");
     ReadDemand(fields, common.system, room);
     ReadPlaces(fields, common, room);
     ReadLimits(fields, common.clearance, room);

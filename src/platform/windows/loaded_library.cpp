@@ -69,6 +69,7 @@ void* CLoadedLibrary::FindAnywhere(const char* symbol)
 /// where the system has put the address: `jmp [rip + distance]`.
 const void* CLoadedLibrary::CodeOf(const void* function)
 {
+    static_assert(sizeof(void*) == 8, "processors of 32 bits name the place itself");
     constexpr unsigned char kJump[] = {0xFF, 0x25};
     const auto* const code = static_cast<const unsigned char*>(function);
     if (code == nullptr || std::memcmp(code, kJump, sizeof kJump) != 0) {

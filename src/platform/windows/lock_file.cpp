@@ -27,13 +27,12 @@ Ticks TicksOf(const FILETIME& time)
 
 int Opened(CHandle handle, int flags)
 {
-    FILE_ATTRIBUTE_TAG_INFO info = {};
-    if (!handle.IsValid() ||
-        GetFileInformationByHandleEx(handle.Get(), FileAttributeTagInfo, &info, sizeof info) == 0) {
+    BY_HANDLE_FILE_INFORMATION info = {};
+    if (!handle.IsValid() || GetFileInformationByHandle(handle.Get(), &info) == 0) {
         SetErrno();
         return -1;
     }
-    if ((info.FileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
+    if ((info.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0) {
         errno = ELOOP;
         return -1;
     }

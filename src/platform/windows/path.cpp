@@ -27,9 +27,10 @@ constexpr std::wstring_view kShareMark = L"\\\\?\\UNC\\";
 constexpr std::wstring_view kShare = L"\\\\";
 constexpr std::wstring_view kDevice = L"\\\\.\\";
 
-/// Longer names open with the mark only. Files that are replaced get neighbours with names that are
-/// somewhat longer than theirs.
-constexpr std::size_t kLongestUnmarked = MAX_PATH - 1 - 12;
+/// Longer names open with the mark only. A file that is locked or replaced gets neighbours, with
+/// names that are longer than its own by at most so much.
+constexpr std::size_t kLongestAddition = 32;
+constexpr std::size_t kLongestUnmarked = MAX_PATH - 1 - kLongestAddition;
 
 /// The name without its mark where it opens without.
 std::wstring Unmarked(const std::wstring& name)

@@ -4,6 +4,11 @@
 
 #include <array>
 
+int ErrnoOfSystem(int systemError)
+{
+    return kFirstErrnoOfSystem + systemError;
+}
+
 CString SystemReasonOf(int systemError)
 {
     constexpr DWORD kHow =

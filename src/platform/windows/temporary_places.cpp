@@ -29,12 +29,12 @@ bool IsOurs(HANDLE handle, const fs::path& place)
 {
     constexpr DWORD kNoFile = FILE_ATTRIBUTE_REPARSE_POINT | FILE_ATTRIBUTE_DIRECTORY;
     FILE_STANDARD_INFO standard = {};
-    FILE_ATTRIBUTE_TAG_INFO tag = {};
+    BY_HANDLE_FILE_INFORMATION info = {};
     return GetFileInformationByHandleEx(handle, FileStandardInfo, &standard, sizeof standard) !=
                0 &&
-           GetFileInformationByHandleEx(handle, FileAttributeTagInfo, &tag, sizeof tag) != 0 &&
-           standard.DeletePending == FALSE && standard.NumberOfLinks == 1 &&
-           (tag.FileAttributes & kNoFile) == 0 && IsHandleAt(handle, place);
+           GetFileInformationByHandle(handle, &info) != 0 && standard.DeletePending == FALSE &&
+           standard.NumberOfLinks == 1 && (info.dwFileAttributes & kNoFile) == 0 &&
+           IsHandleAt(handle, place);
 }
 
 /// A descriptor for a file that was just made, which goes again where there is none to be had.

@@ -15,5 +15,6 @@ bool IsWriteProtected(const std::filesystem::path& path)
     }
     const CHandle handle =
         OpenFileShared(path, GENERIC_WRITE, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
-    return !handle.IsValid() && GetLastError() == ERROR_ACCESS_DENIED;
+    const DWORD error = handle.IsValid() ? ERROR_SUCCESS : GetLastError();
+    return error == ERROR_ACCESS_DENIED || error == ERROR_WRITE_PROTECT;
 }

@@ -83,25 +83,6 @@ TEST_F(BuildingFileTest, NotesWithinARoomJoinItsOwn)
     EXPECT_EQ(building.strNotiz, L"");
 }
 
-TEST_F(BuildingFileTest, NotesAsDeepAsTheyMayBeAreReadAgain)
-{
-    const auto noted = [](int levels) {
-        std::string note;
-        for (int i = 0; i < levels; ++i) {
-            note += "{\"a\":";
-        }
-        note += "1" + std::string(static_cast<std::size_t>(levels), '}');
-        return Replaced(
-            Replaced(kPlan, "\"name\": \"Uno\",", "\"name\": \"Uno\", \"note\": " + note + ","),
-            "\"name\": \"L\",", "\"name\": \"L\", \"note\": \"b\",");
-    };
-    // They come to stand in a list, and in a file of kept work one level further down.
-    const std::string written = FormatBuilding(Read(noted(999)));
-    EXPECT_EQ(FormatBuilding(Read(written)), written);
-    EXPECT_NO_THROW(ParseJson("{\"building\":" + written + "}", {}));
-    EXPECT_EQ(ErrorOf(noted(1000)), "locale \"Uno\": campo \"note\": troppi livelli annidati");
-}
-
 TEST_F(BuildingFileTest, WrongFieldsAreNamedWithTheirRoom)
 {
     ASSERT_EQ(ErrorOf(kPlan), "");

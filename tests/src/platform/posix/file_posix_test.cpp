@@ -2,6 +2,7 @@
 #include "platform/exception.h"
 #include "platform/file.h"
 #include "platform/path.h"
+#include "platform/system_error.h"
 #include "platform/whole_file.h"
 #include "tests/support/colleague.h"
 #include "tests/support/file_size_limit.h"
@@ -144,6 +145,17 @@ TEST_F(PosixFileTest, OfNamesThatDifferInCaseTheExactOneGoesFirst)
 TEST(PosixEncoding, WhatIsNoCodePointHasAReplacement)
 {
     EXPECT_EQ(Utf16FromWide(CString(1, wchar_t{0x110000})), u"\uFFFD");
+}
+
+/// Some libraries know few of them as conditions of POSIX's, and call the others the system's own.
+TEST(PosixErrors, AreErrnosToTheLast)
+{
+    for (const int error : {ENOENT, ENOSPC, EDQUOT, ESTALE}) {
+        const std::error_code code(error, std::system_category());
+        EXPECT_EQ(ErrnoOf(code), error);
+        EXPECT_EQ(ReasonOf(code), ReasonOf(error));
+        EXPECT_EQ(IsDiskFull(ErrnoOf(code)), error == ENOSPC || error == EDQUOT);
+    }
 }
 
 } // namespace
