@@ -268,7 +268,7 @@ void CountDistances(int size, CWorkCount& count)
 std::vector<CGrowthCase> DialogCases()
 {
     return {
-        {"SelectionDialog", "rows, layers, blocks and systems", 160, CountSelection},
+        {"SelectionDialog", "rows, layers, blocks and systems", 80, CountSelection},
         {"TreeOfCatalogues", "kinds and makers", 8, CountTree},
         {"ValveDialog", "valves and makers", 24,
          [](int n, CWorkCount& c) {

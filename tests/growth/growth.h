@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -12,13 +13,14 @@
 class CWorkCount
 {
 public:
-    /// Runs the work and adds its instructions.
-    void Of(const std::function<void()>& work);
+    /// Runs the work and adds its instructions. What is done one after the other in the same window
+    /// counts under names of its own.
+    void Of(const std::function<void()>& work, const std::string& step = "");
 
-    std::uint64_t GetInstructions() const { return m_instructions; }
+    const std::map<std::string, std::uint64_t>& GetInstructions() const { return m_instructions; }
 
 private:
-    std::uint64_t m_instructions = 0;
+    std::map<std::string, std::uint64_t> m_instructions;
 };
 
 /// An operation on an input of any size from 1 on.

@@ -7,10 +7,10 @@
 
 #include <gtest/gtest.h>
 
-#include <valgrind/callgrind.h>
+#include <valgrind/valgrind.h>
 
+#include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -24,43 +24,45 @@ constexpr double kLeastShare = 0.02;
 constexpr int kDoublings = 3;
 constexpr int kTries = 3;
 
-/// The sum of the instructions in what callgrind has written last, and away with that.
-std::uint64_t TakeTotals()
+/// Lets callgrind write to its log what it has counted so far. That takes it no time; a file of its
+/// own would, and more the longer the program runs.
+void TellCount()
 {
-    static int number = 0;
-    const char* const prefix = std::getenv("RADSEL_GROWTH_COUNTS");
-    const std::string path =
-        std::string(prefix != nullptr ? prefix : "") + "." + std::to_string(++number);
-    const std::string key = "totals: ";
-    std::ifstream file(path);
-    for (std::string line; std::getline(file, line);) {
-        if (line.starts_with(key)) {
-            std::filesystem::remove(path);
-            return std::stoull(line.substr(key.size()));
-        }
-    }
-    throw std::runtime_error("no counts in " + path);
+    VALGRIND_MONITOR_COMMAND("status internal");
 }
 
-class CCollecting
+/// What it has told since this was asked last: the instructions of all threads, time by time.
+std::vector<std::uint64_t> TakeCounts()
 {
-public:
-    CCollecting() { CALLGRIND_TOGGLE_COLLECT; }
-    ~CCollecting() { CALLGRIND_TOGGLE_COLLECT; }
-    CCollecting(const CCollecting&) = delete;
-    CCollecting& operator=(const CCollecting&) = delete;
-};
+    const char* const path = std::getenv("RADSEL_GROWTH_LOG");
+    static std::ifstream log(path != nullptr ? path : "");
+    log.clear();
+    std::vector<std::uint64_t> counts;
+    for (std::string line; std::getline(log, line);) {
+        if (line.starts_with("instrumentation:")) {
+            counts.push_back(0);
+        }
+        unsigned thread = 0;
+        unsigned long long events = 0;
+        if (std::sscanf(line.c_str(), "events-%u: %llu", &thread, &events) == 2) {
+            counts.at(counts.size() - 1) += events;
+        }
+    }
+    return counts;
+}
 
 } // namespace
 
-void CWorkCount::Of(const std::function<void()>& work)
+void CWorkCount::Of(const std::function<void()>& work, const std::string& step)
 {
-    {
-        const CCollecting collecting;
-        work();
+    TellCount();
+    work();
+    TellCount();
+    const std::vector<std::uint64_t> counts = TakeCounts();
+    if (counts.size() != 2 || counts[0] == 0) {
+        throw std::runtime_error("callgrind has not told what it counts");
     }
-    CALLGRIND_DUMP_STATS;
-    m_instructions += TakeTotals();
+    m_instructions[step] += counts[1] - counts[0];
 }
 
 void Require(bool done)
@@ -80,11 +82,13 @@ namespace {
 class Growth : public testing::TestWithParam<CGrowthCase>
 {
 protected:
-    static double Count(int size)
+    using Counts = std::map<std::string, std::uint64_t>;
+
+    static Counts Count(int size)
     {
         CWorkCount count;
         GetParam().run(size, count);
-        return static_cast<double>(count.GetInstructions());
+        return count.GetInstructions();
     }
 
     /// How much more the parts of the input behind the first take, for twice the input. What the
@@ -94,33 +98,50 @@ protected:
         return 2.0 * (after / (2 * size - 1)) / (before / (size - 1));
     }
 
-    /// Counts once at each size; the first doubling that takes too much, in words, or nothing.
+    /// Counts once at each size; what takes too much, in words, or nothing.
     static std::string FindFault()
     {
-        const CGrowthCase& growth = GetParam();
         // What has to be done however little there is would hide how the rest grows.
-        const double fixed = Count(1);
-        int size = growth.nSize;
-        double before = Count(size) - fixed;
-        std::printf("%-32s", growth.name);
-        for (int i = 0; i < kDoublings; ++i, size *= 2) {
-            const double after = Count(2 * size) - fixed;
-            const double grown = GrowthOf(size, before, after);
-            std::printf("%7.2f", grown);
-            if (!(before > 0.0 && grown <= kMostADoubling)) {
-                std::printf("\n");
-                std::ostringstream fault;
-                fault << growth.name << " of " << size << " " << growth.unit << " takes "
-                      << long(before) << " instructions more than of one, of twice as many "
-                      << long(after);
-                return fault.str();
-            }
-            before = after;
+        const Counts fixed = Count(1);
+        std::vector<Counts> counted;
+        for (int i = 0; i <= kDoublings; ++i) {
+            counted.push_back(Count(GetParam().nSize << i));
         }
-        std::printf("%13.0f and %9.0f for %d %s\n", fixed, before, size, growth.unit);
-        return before >= kLeastShare * fixed
-                   ? ""
-                   : std::string("its input does not matter to ") + growth.name;
+        std::string faults;
+        for (const auto& [step, instructions] : fixed) {
+            std::vector<double> more;
+            for (const Counts& counts : counted) {
+                more.push_back(static_cast<double>(counts.at(step)) -
+                               static_cast<double>(instructions));
+            }
+            const std::string name =
+                step.empty() ? GetParam().name : GetParam().name + (" " + step);
+            faults += FindFault(name, static_cast<double>(instructions), more);
+        }
+        return faults;
+    }
+
+    /// The first doubling that takes too much, of what each size takes more than the fixed work.
+    static std::string FindFault(const std::string& name, double fixed,
+                                 const std::vector<double>& more)
+    {
+        std::printf("%-32s", name.c_str());
+        int size = GetParam().nSize;
+        std::ostringstream fault;
+        for (std::size_t i = 1; i < more.size() && fault.view().empty(); ++i, size *= 2) {
+            const double grown = GrowthOf(size, more[i - 1], more[i]);
+            std::printf("%7.2f", grown);
+            if (!(more[i - 1] > 0.0 && grown <= kMostADoubling)) {
+                fault << name << " of " << size << " " << GetParam().unit << " takes "
+                      << long(more[i - 1]) << " instructions more than of one, of twice as many "
+                      << long(more[i]) << "\n";
+            }
+        }
+        std::printf("%13.0f and %9.0f for %d %s\n", fixed, more.back(), size, GetParam().unit);
+        if (fault.view().empty() && more.back() < kLeastShare * fixed) {
+            fault << "its input does not matter to " << name << "\n";
+        }
+        return fault.str();
     }
 };
 

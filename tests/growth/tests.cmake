@@ -6,7 +6,7 @@ if(RADSEL_SANITIZE OR WIN32 OR CMAKE_BUILD_TYPE STREQUAL "Debug")
 endif()
 
 find_program(RADSEL_VALGRIND valgrind REQUIRED)
-find_path(RADSEL_VALGRIND_INCLUDE valgrind/callgrind.h REQUIRED)
+find_path(RADSEL_VALGRIND_INCLUDE valgrind/valgrind.h REQUIRED)
 
 radsel_test_sources(growth_sources growth/*.cpp)
 add_executable(radsel_growth_tests ${growth_sources})
@@ -16,14 +16,16 @@ target_link_libraries(radsel_growth_tests PRIVATE radsel_dialog_support workbenc
     radsel_warnings)
 radsel_precompile(radsel_growth_tests toolkit_tests)
 
-# Each part by itself, so that they run side by side.
-foreach(part Readers Lists Dialogs Plan Window)
-    string(TOLOWER growth_${part} name)
-    set(counts ${CMAKE_CURRENT_BINARY_DIR}/${name}.counts)
-    add_test(NAME ${name} COMMAND ${RADSEL_VALGRIND} -q --tool=callgrind --collect-atstart=no
-        --callgrind-out-file=${counts} $<TARGET_FILE:radsel_growth_tests>
-        --gtest_filter=${part}/*)
+# In two processes, which run side by side; what a part of the toolkit takes to be read for counting
+# is paid once in each.
+foreach(parts Window-Dialogs-Lists Plan-Readers)
+    string(REPLACE - "/*:" filter ${parts})
+    string(TOLOWER growth_${parts} name)
+    set(log ${CMAKE_CURRENT_BINARY_DIR}/${name}.log)
+    add_test(NAME ${name} COMMAND ${RADSEL_VALGRIND} -q --tool=callgrind
+        --callgrind-out-file=/dev/null --log-file=${log} $<TARGET_FILE:radsel_growth_tests>
+        --gtest_filter=${filter}/*)
     # They take longest, so that they begin first.
     set_tests_properties(${name} PROPERTIES TIMEOUT 300 COST 50 ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;RADSEL_GROWTH_COUNTS=${counts}")
+        "QT_QPA_PLATFORM=offscreen;RADSEL_GROWTH_LOG=${log}")
 endforeach()

@@ -20,6 +20,8 @@
 #include <QTableView>
 #include <QTest>
 
+#include <optional>
+
 using namespace reference_host;
 
 namespace workbench {
@@ -51,7 +53,7 @@ public:
         prompts.ask = [](auto&&...) { return CPrompts::Answer::yes; };
         prompts.tell = [](auto&&...) {};
         window = std::make_unique<CWorkbenchWindow>(document, CDrawingBlocks(), prompts);
-        window->resize(1200, 800);
+        window->resize(1000, 500);
         window->show();
         Finish();
     }
@@ -74,14 +76,6 @@ private:
     CSettingOverride m_local{kSettingLocalPath, folder.Path()};
 };
 
-/// What the user does, and what is painted for that.
-template <class STEP>
-void InWindow(int rooms, CWorkCount& count, STEP step)
-{
-    CWindow window(rooms);
-    count.Of([&] { step(window); });
-}
-
 void ChangeAndUndo(CWindow& window)
 {
     window.document.Do(L"Modifica", Changed(window.document.Building()));
@@ -103,6 +97,16 @@ void WorkInList(CWindow& window)
     Finish();
     window.The<QCheckBox>("openOnly").click();
     Finish();
+}
+
+/// The window opens, and what the user does there, with what is painted for that.
+void WorkInWindow(int size, CWorkCount& count)
+{
+    std::optional<CWindow> window;
+    count.Of([&] { window.emplace(size); }, "opened");
+    count.Of([&] { ChangeAndUndo(*window); }, "after a change");
+    count.Of([&] { MarkAll(*window); }, "with all rooms marked");
+    count.Of([&] { WorkInList(*window); }, "with another list");
 }
 
 void TellRooms(int size, CWorkCount& count)
@@ -164,15 +168,8 @@ std::vector<CGrowthCase> WindowCases()
 {
     using namespace workbench;
     return {
-        {"Workbench", "rooms", 5,
-         [](int n, CWorkCount& c) { c.Of([n] { const CWindow window(n); }); }},
-        {"ChangeInTheWorkbench", "rooms", 10,
-         [](int n, CWorkCount& c) { InWindow(n, c, ChangeAndUndo); }},
-        {"MarkingAllRooms", "rooms", 40, [](int n, CWorkCount& c) { InWindow(n, c, MarkAll); }},
-        {"ListOfRooms", "rooms", 40, [](int n, CWorkCount& c) { InWindow(n, c, WorkInList); }},
-        {"DrawnFloor", "rooms", 10, ShowFloor},
-        {"WarningsOfRooms", "notices", 20, TellRooms},
-        {"Messages", "messages", 20, TellOneByOne},
+        {"Workbench", "rooms", 20, WorkInWindow},      {"DrawnFloor", "rooms", 10, ShowFloor},
+        {"WarningsOfRooms", "notices", 20, TellRooms}, {"Messages", "messages", 20, TellOneByOne},
         {"NewWarnings", "rooms", 100, NoticeStates},
     };
 }
