@@ -8,9 +8,9 @@ add_test(NAME host_guide COMMAND ${consumer_dir}/guide_test.sh
     ${PROJECT_SOURCE_DIR})
 
 # Another tree's program needs what this one is instrumented with. How folders are named in what is
-# built, how numbers are rounded and what debuggers are told concerns this one alone.
+# built, how numbers are rounded and what debuggers and compilers are told concerns this one alone.
 get_directory_property(tree_options DIRECTORY ${PROJECT_SOURCE_DIR} COMPILE_OPTIONS)
-list(FILTER tree_options EXCLUDE REGEX "prefix-map|fp-contract|debug-default")
+list(FILTER tree_options EXCLUDE REGEX "prefix-map|fp-contract|debug-default|ggc")
 list(JOIN tree_options " " tree_options)
 
 # Instrumented code names its sources, and so do asserts: then texts alone are scanned for them.

@@ -4,6 +4,7 @@ add_executable(radsel_store_faults ${CMAKE_CURRENT_LIST_DIR}/store_faults.cpp
     ${CMAKE_CURRENT_LIST_DIR}/stores.cpp)
 target_link_libraries(radsel_store_faults PRIVATE radsel_test_support radsel_sample_buildings
     reference_host_logic radsel_warnings ${CMAKE_DL_LIBS})
+radsel_precompile(radsel_store_faults tests)
 add_library(radsel_failing_calls MODULE ${CMAKE_CURRENT_LIST_DIR}/failing_calls.cpp)
 target_link_libraries(radsel_failing_calls PRIVATE radsel_warnings ${CMAKE_DL_LIBS})
 set_target_properties(radsel_failing_calls PROPERTIES PREFIX "" CXX_VISIBILITY_PRESET default)
