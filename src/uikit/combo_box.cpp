@@ -4,6 +4,9 @@
 #include "uikit/native/combo_widget.h"
 
 #include <QSignalBlocker>
+#include <QStringList>
+
+#include <algorithm>
 
 namespace {
 
@@ -12,8 +15,17 @@ CComboWidget* Widget(const CWnd& wnd)
     return CNativeAccess::As<CComboWidget>(wnd);
 }
 
-/// Changes the items without an event. The toolkit chooses an item by itself where none is; a list
-/// here shows nothing until an item is chosen, and an edit keeps its text.
+/// The toolkit chooses an item by itself where none is; a list here shows nothing until an item is
+/// chosen, and an edit keeps its text.
+void ChooseNone(CComboWidget& combo, const QString& edited)
+{
+    combo.setCurrentIndex(-1);
+    if (combo.isEditable()) {
+        combo.setEditText(edited);
+    }
+}
+
+/// Changes the items without an event.
 template <class Change>
 void ChangeQuietly(CComboWidget& combo, Change change)
 {
@@ -21,13 +33,15 @@ void ChangeQuietly(CComboWidget& combo, Change change)
     const bool nothingChosen = combo.currentIndex() < 0;
     const QString edited = combo.currentText();
     change();
-    if (nothingChosen) {
-        combo.setCurrentIndex(-1);
-        if (combo.isEditable()) {
-            combo.setEditText(edited);
-        }
+    if (nothingChosen && combo.currentIndex() >= 0) {
+        ChooseNone(combo, edited);
     }
     combo.update();
+}
+
+bool ComesBefore(const QString& a, const QString& b)
+{
+    return a.compare(b, Qt::CaseInsensitive) < 0;
 }
 
 /// Where a new text goes: in a sorted list behind all that are not greater.
@@ -40,10 +54,10 @@ int PlaceOf(const CComboWidget& combo, const QString& text)
     int behind = combo.count();
     while (first < behind) {
         const int middle = (first + behind) / 2;
-        if (combo.itemText(middle).compare(text, Qt::CaseInsensitive) <= 0) {
-            first = middle + 1;
-        } else {
+        if (ComesBefore(text, combo.itemText(middle))) {
             behind = middle;
+        } else {
+            first = middle + 1;
         }
     }
     return first;
@@ -60,6 +74,27 @@ int CComboBox::AddString(const CString& text)
     const int place = PlaceOf(*combo, ToNative(text));
     ChangeQuietly(*combo, [&] { combo->insertItem(place, ToNative(text)); });
     return place;
+}
+
+void CComboBox::FillWith(const CStringArray& texts)
+{
+    CComboWidget* combo = Widget(*this);
+    if (combo == nullptr) {
+        return;
+    }
+    QStringList items;
+    for (const CString& text : texts) {
+        items.append(ToNative(text));
+    }
+    if (combo->IsSorted()) {
+        std::ranges::stable_sort(items, ComesBefore);
+    }
+    const QSignalBlocker quiet(combo);
+    const QString edited = combo->currentText();
+    combo->clear();
+    combo->addItems(items);
+    ChooseNone(*combo, edited);
+    combo->update();
 }
 
 int CComboBox::AddItem(const CString& text, int image, int selectedImage)

@@ -226,15 +226,11 @@ void CHKAuswahlVdi3805Dlg::FuelleZeichnungsListen()
     }
     CStringArray namen;
     m_pDrawer->GetLayerNames(namen, kZeichenLayer);
-    for (const CString& name : namen) {
-        m_listen.at(idLayer).AddString(name);
-    }
+    m_listen.at(idLayer).FillWith(namen);
     namen.RemoveAll();
     m_pDrawer->GetBlockNames(BlockOrdner(), namen, kAlleBloecke);
     CComboListe& bloecke = m_listen.at(idBloecke);
-    for (const CString& name : namen) {
-        bloecke.AddString(name);
-    }
+    bloecke.FillWith(namen);
     CString letzter;
     bloecke.SetCurSel(lmGetHKBlock(letzter) ? SucheAnfang(bloecke, letzter) : 0);
 }

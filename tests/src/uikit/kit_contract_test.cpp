@@ -145,12 +145,18 @@ TEST_F(KitContract, ListsSortFindAndDelete)
     Run([&](CDialogUser& user) {
         CComboBox sorted;
         CNativeAccess::CopyTo(sorted, Item(idSorted));
+        CStringArray texts;
         for (const wchar_t* text : {L"beta", L"Alfa", L"gamma", L"Beta", L"alfa2"}) {
+            texts.Add(text);
             EXPECT_EQ(sorted.GetItemText(sorted.AddString(text)), text);
             EXPECT_EQ(sorted.GetCurSel(), -1) << "adding chooses nothing";
         }
         EXPECT_EQ(user.Items(idSorted),
                   (std::vector<CString>{L"Alfa", L"alfa2", L"beta", L"Beta", L"gamma"}));
+        const std::vector<CString> inOrder = user.Items(idSorted);
+        sorted.FillWith(texts);
+        EXPECT_EQ(user.Items(idSorted), inOrder);
+        EXPECT_EQ(sorted.GetCurSel(), -1);
         EXPECT_EQ(sorted.FindString(0, L"ALFA"), 0);
         EXPECT_EQ(sorted.FindString(1, L"alfa"), 1);
         EXPECT_EQ(sorted.FindString(2, L"alfa"), 0) << "around the end";
@@ -181,6 +187,10 @@ TEST_F(KitContract, EditableListsTellWhatIsTypedAndWhatIsChosen)
         CNativeAccess::CopyTo(combo, Item(idEditable));
         combo.SetWindowText(L"frei");
         combo.AddString(L"uno");
+        EXPECT_EQ(combo.GetWindowText(), L"frei");
+        CStringArray texts;
+        texts.Add(L"uno");
+        combo.FillWith(texts);
         EXPECT_EQ(combo.GetWindowText(), L"frei");
         EXPECT_EQ(combo.GetCurSel(), -1);
         user.Focus(idEditable);
