@@ -4,6 +4,7 @@
 #include "platform/encoding.h"
 #include "platform/exception.h"
 #include "platform/path.h"
+#include "platform/system_error.h"
 #include "platform/temporary_places.h"
 #include "platform/whole_file.h"
 #include "workbench/building/printable.h"
@@ -96,7 +97,7 @@ public:
         std::error_code error;
         const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
         if (error) {
-            throw CFileException::FromErrno(error.value(), L"TMPDIR");
+            throw CFileException::FromErrno(ErrnoOf(error), L"TMPDIR");
         }
         std::filesystem::path place;
         const int file = MakeUnusedPlace(folder, place);

@@ -1,6 +1,8 @@
+#include "platform/descriptor.h"
 #include "platform/encoding.h"
 #include "platform/exception.h"
 #include "platform/file.h"
+#include "platform/lock_file.h"
 #include "platform/path.h"
 #include "platform/system_error.h"
 #include "platform/whole_file.h"
@@ -55,6 +57,20 @@ TEST_F(PosixFileTest, ReplacingKeepsPermissionsOwnerGroupAndLinks)
     EXPECT_EQ(after.st_mode, before.st_mode);
     EXPECT_EQ(after.st_uid, before.st_uid);
     EXPECT_EQ(after.st_gid, before.st_gid);
+}
+
+TEST_F(PosixFileTest, LocksLeadNowhereElseAndOnesOwnNobodyElseOpens)
+{
+    const fs::path file = m_folder.Root() / "a.lock";
+    CloseDescriptor(OpenOwnLockFile(file));
+    EXPECT_EQ(StatusOf(file).st_mode & ALLPERMS, mode_t(S_IRUSR | S_IWUSR));
+
+    const fs::path link = m_folder.Root() / "b.lock";
+    fs::create_symlink("c.lock", link);
+    bool writable = true;
+    EXPECT_LT(OpenLockFile(link, writable), 0);
+    EXPECT_EQ(errno, ELOOP);
+    EXPECT_FALSE(writable || fs::exists(m_folder.Root() / "c.lock"));
 }
 
 TEST_F(PosixFileTest, ABackslashInTheNameOfAFolderStaysWhereThePathIsTheSystems)
