@@ -57,10 +57,10 @@ Reading ReadFile(const CString& name, Read read)
         const int reason = file.GetOpenError();
         return reason == ENOENT || reason == ENOTDIR ? Reading::nothing : Reading::failed;
     }
-    if (file.GetLength() > kLargestSettingsFile) {
-        return Reading::nothing;
-    }
     try {
+        if (file.GetLength() > kLargestSettingsFile) {
+            return Reading::nothing;
+        }
         CArchive archive(file, CArchive::Mode::load);
         read(archive);
         return Reading::done;

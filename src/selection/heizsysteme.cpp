@@ -34,10 +34,10 @@ std::optional<CStringArray> LeseZeilen(const CString& pfad, CString* rest = null
     if (!datei.Open(pfad, CFile::modeRead)) {
         return datei.GetOpenError() == ENOENT ? std::optional(zeilen) : std::nullopt;
     }
-    if (datei.GetLength() > kLargestList) {
-        return std::nullopt;
-    }
     try {
+        if (datei.GetLength() > kLargestList) {
+            return std::nullopt;
+        }
         ReadTextLines(datei, zeilen, -1, rest);
     } catch (const CFileException&) {
         // A list of heating systems that is lost for now must not end the opening of the dialog.

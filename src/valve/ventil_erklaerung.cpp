@@ -25,12 +25,13 @@ CString UnreadReason(const CVentVdiKatalog& katalog, const CString& hersteller)
     if (katalog.HatNeuenKopf()) {
         return name + L"la testata 000 è di un altro tipo di file.";
     }
-    CFile file;
-    if (!file.Open(katalog.DateiPfad, CFile::modeRead | CFile::shareDenyWrite)) {
-        return CFileException::FromErrno(file.GetOpenError(), katalog.DateiPfad).GetErrorMessage();
-    }
-    if (file.GetLength() > kLargestValveFile) {
-        return name + DescribeTooLarge(kLargestValveFile);
+    try {
+        const CFile file(katalog.DateiPfad, CFile::modeRead | CFile::shareDenyWrite);
+        if (file.GetLength() > kLargestValveFile) {
+            return name + DescribeTooLarge(kLargestValveFile);
+        }
+    } catch (const CFileException& fault) {
+        return fault.GetErrorMessage();
     }
     return name + L"un record sta prima di quello a cui appartiene.";
 }

@@ -3,6 +3,7 @@
 
 #include "tests/faults/stores.h"
 #include "tests/support/temp_folder.h"
+#include "workbench/building/json_fields.h"
 
 #include <atomic>
 #include <cerrno>
@@ -232,7 +233,7 @@ constexpr CFault kFaults[] = {
 constexpr int kOld = 1;
 constexpr int kNew = 2;
 
-/// Lets every call of every kind fail that storing a number needs.
+/// Lets every call of every kind fail that storing or reading a number needs.
 class CFaultRun
 {
 public:
@@ -247,6 +248,9 @@ public:
     {
         for (const CFault& fault : kFaults) {
             for (int nth = 1; Try(fault, nth); ++nth) {
+                ++m_tried;
+            }
+            for (int nth = 1; TryReading(fault, nth); ++nth) {
                 ++m_tried;
             }
         }
@@ -273,11 +277,7 @@ private:
         }
         m_stored += answer == stored ? 1 : 0;
         const auto expect = [&](const char* what, const std::function<bool()>& isSo) {
-            if (!IsSo(isSo)) {
-                ++m_wrong;
-                std::cout << m_store.strName << ": " << fault.call << " number " << nth
-                          << " with error " << fault.error << ": " << what << std::endl;
-            }
+            Expect(fault, nth, what, IsSo(isSo));
         };
         expect("crashed", [&] { return answer == stored || answer == refused; });
         expect("the old number is gone and the new one not there", [&] {
@@ -291,6 +291,34 @@ private:
         expect("a file is left over",
                [&] { return NamesOf(ReadFiles(m_folder)) == NamesOf(m_before); });
         return true;
+    }
+
+    /// What cannot be read may be told as nothing, or as what is there without it. False if there
+    /// are fewer such calls.
+    bool TryReading(const CFault& fault, int nth)
+    {
+        RestoreFiles(m_folder, m_before);
+        const int answer = Await(Start([&] {
+            m_failCall(m_folder.c_str(), fault.call, nth, fault.error);
+            try {
+                m_store.get(L"a");
+            } catch (const workbench::CContentException&) {
+                // A building that cannot be read is refused in words.
+            }
+            return m_failCall("", "", 0, 0) < nth ? fewerCalls : refused;
+        }));
+        Expect(fault, nth, "crashed in reading", answer == refused || answer == fewerCalls);
+        Expect(fault, nth, "reading has changed the files", ReadFiles(m_folder) == m_before);
+        return answer != fewerCalls;
+    }
+
+    void Expect(const CFault& fault, int nth, const char* what, bool isSo)
+    {
+        if (!isSo) {
+            ++m_wrong;
+            std::cout << m_store.strName << ": " << fault.call << " number " << nth
+                      << " with error " << fault.error << ": " << what << std::endl;
+        }
     }
 
     int Store(const CFault& fault, int nth) const
