@@ -55,11 +55,13 @@ std::vector<std::uint64_t> TakeCounts()
 
 void CWorkCount::Of(const std::function<void()>& work, const std::string& step)
 {
+    // What was told before work that threw is of no use any more.
+    TakeCounts();
     TellCount();
     work();
     TellCount();
     const std::vector<std::uint64_t> counts = TakeCounts();
-    if (counts.size() != 2 || counts[0] == 0) {
+    if (counts.size() != 2 || counts[0] == 0 || counts[1] < counts[0]) {
         throw std::runtime_error("callgrind has not told what it counts");
     }
     m_instructions[step] += counts[1] - counts[0];
@@ -103,6 +105,7 @@ protected:
     {
         // What has to be done however little there is would hide how the rest grows.
         const Counts fixed = Count(1);
+        Require(!fixed.empty());
         std::vector<Counts> counted;
         for (int i = 0; i <= kDoublings; ++i) {
             counted.push_back(Count(GetParam().nSize << i));
@@ -137,7 +140,8 @@ protected:
                       << long(more[i]) << "\n";
             }
         }
-        std::printf("%13.0f and %9.0f for %d %s\n", fixed, more.back(), size, GetParam().unit);
+        std::printf("%13.0f and %9.0f for %d %s\n", fixed, more.back(),
+                    GetParam().nSize << kDoublings, GetParam().unit);
         if (fault.view().empty() && more.back() < kLeastShare * fixed) {
             fault << "its input does not matter to " << name << "\n";
         }

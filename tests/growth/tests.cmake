@@ -16,8 +16,8 @@ target_link_libraries(radsel_growth_tests PRIVATE radsel_dialog_support workbenc
     radsel_warnings)
 radsel_precompile(radsel_growth_tests toolkit_tests)
 
-# In two processes, which run side by side; what a part of the toolkit takes to be read for counting
-# is paid once in each.
+# In two processes, which run side by side: more would each spend a second or two on making the
+# toolkit countable.
 foreach(parts Window-Dialogs-Lists Plan-Readers)
     string(REPLACE - "/*:" filter ${parts})
     string(TOLOWER growth_${parts} name)

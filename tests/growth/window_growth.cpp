@@ -107,6 +107,7 @@ void WorkInWindow(int size, CWorkCount& count)
     count.Of([&] { ChangeAndUndo(*window); }, "after a change");
     count.Of([&] { MarkAll(*window); }, "with all rooms marked");
     count.Of([&] { WorkInList(*window); }, "with another list");
+    count.Of([&] { window.reset(); }, "closed");
 }
 
 void TellRooms(int size, CWorkCount& count)

@@ -154,6 +154,7 @@ TEST_F(KitContract, ListsSortFindAndDelete)
         EXPECT_EQ(user.Items(idSorted),
                   (std::vector<CString>{L"Alfa", L"alfa2", L"beta", L"Beta", L"gamma"}));
         const std::vector<CString> inOrder = user.Items(idSorted);
+        sorted.SetCurSel(0);
         sorted.FillWith(texts);
         EXPECT_EQ(user.Items(idSorted), inOrder);
         EXPECT_EQ(sorted.GetCurSel(), -1);
