@@ -28,13 +28,18 @@ set_target_properties(radsel_platform PROPERTIES EXPORT_NAME platform)
 target_compile_features(radsel_platform INTERFACE cxx_std_17)
 target_link_libraries(radsel INTERFACE radsel_platform)
 
+# On Windows a library lies with the programs, and what others link with is an archive.
 install(TARGETS radsel EXPORT radselTargets
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
         COMPONENT runtime NAMELINK_COMPONENT development
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
     INCLUDES DESTINATION ${radsel_header_folder})
 install(TARGETS ${radsel_host_libraries} EXPORT radselTargets
     LIBRARY DESTINATION ${radsel_host_folder}
         COMPONENT reference_host NAMELINK_COMPONENT development
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT reference_host
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
     INCLUDES DESTINATION ${radsel_header_folder})
 # Who asks for this host gets all of it, also from a linker that keeps what the program itself calls.
 target_link_options(reference_host INTERFACE LINKER:--no-as-needed)
