@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/text.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -39,6 +41,10 @@ constexpr char32_t LowSurrogateOf(char32_t c)
 {
     return 0xDC00 + ((c - kFirstBeyondUnits) & 0x3FF);
 }
+
+/// Takes the character at a position of a text, which moves behind it: by two places behind a pair
+/// of surrogates, where wchar_t has no more than 16 bits.
+char32_t TakeCharacter(const CString& text, std::size_t& position);
 
 /// Appends the bytes of a code point; what is none becomes U+FFFD, and what stands for a bad byte
 /// that byte.

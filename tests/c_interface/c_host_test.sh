@@ -10,7 +10,8 @@ trap 'rm -rf "$work"' EXIT
 libraries=$(dirname "$(find "$prefix" -name libradsel_c.so)")
 export PKG_CONFIG_PATH=$libraries/pkgconfig LD_LIBRARY_PATH=$libraries
 # shellcheck disable=SC2046,SC2086
-"$compiler" $flags -std=c99 -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -o "$work/c_host" \
+"$compiler" $flags -std=c99 -Wall -Wextra -Wpedantic -Wconversion -Wshadow ${RADSEL_WERROR-} \
+    -o "$work/c_host" \
     "$prefix/share/doc/radsel/examples/c_host/c_host.c" $(pkg-config --cflags --libs radsel_c)
 
 # 1700 W a metre at 0.495 are 1009.8 W at 1200 mm and 841.5 W at 1000 mm.

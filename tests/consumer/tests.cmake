@@ -24,4 +24,5 @@ add_test(NAME consumer COMMAND ${consumer_dir}/consumer_test.sh ${CMAKE_COMMAND}
     "${CMAKE_CXX_FLAGS} ${tree_options}" $<IF:$<CONFIG:Debug>,text,${scan}>
     ${CMAKE_C_COMPILER} "${tree_options}")
 # It takes as long as a third of the others, so that it begins first.
-set_tests_properties(consumer PROPERTIES TIMEOUT 400 COST 100)
+set_tests_properties(consumer PROPERTIES TIMEOUT 400 COST 100
+    ENVIRONMENT RADSEL_WERROR=$<$<BOOL:${RADSEL_WERROR}>:-Werror>)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/text.h"
+#include "platform/utf8.h"
 
 #include <cstddef>
 
@@ -18,17 +19,9 @@ struct CCharacter
 /// The character that begins at a place of the text.
 inline CCharacter CharacterAt(const CString& text, std::size_t place)
 {
-    const auto isWithin = [](char32_t c, char32_t first) {
-        return c >= first && c < first + 0x400;
-    };
-    const auto first = static_cast<char32_t>(text[place]);
-    if (sizeof(wchar_t) == sizeof(char16_t) && isWithin(first, 0xd800) && place + 1 < text.size()) {
-        const auto second = static_cast<char32_t>(text[place + 1]);
-        if (isWithin(second, 0xdc00)) {
-            return {0x10000 + ((first - 0xd800) << 10) + (second - 0xdc00), 2};
-        }
-    }
-    return {first, 1};
+    std::size_t behind = place;
+    const char32_t code = TakeCharacter(text, behind);
+    return {code, behind - place};
 }
 
 /// Characters of a text, on every system the same number.

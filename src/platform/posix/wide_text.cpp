@@ -6,6 +6,11 @@
 // Wide text where wchar_t has 32 bits: one code point each.
 static_assert(sizeof(wchar_t) == sizeof(char32_t));
 
+char32_t TakeCharacter(const CString& text, std::size_t& position)
+{
+    return static_cast<char32_t>(text[position++]);
+}
+
 std::string Cp1252FromWide(const CString& text)
 {
     std::string bytes(text.size(), '\0');

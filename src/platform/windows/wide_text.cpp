@@ -4,9 +4,6 @@
 // Wide text where wchar_t has 16 bits: UTF-16 as it stands.
 static_assert(sizeof(wchar_t) == sizeof(char16_t));
 
-namespace {
-
-/// Takes the character at a position, which moves behind it.
 char32_t TakeCharacter(const CString& text, std::size_t& position)
 {
     const char32_t c = text[position++];
@@ -15,8 +12,6 @@ char32_t TakeCharacter(const CString& text, std::size_t& position)
     }
     return c;
 }
-
-} // namespace
 
 std::string Cp1252FromWide(const CString& text)
 {
