@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Configures as a preset of CMakePresets.json says, and builds a target in its folder. On standard error it says how far it is: on a terminal one line that
-# moves, elsewhere a line for every quarter. What the tools say is shown only if they fail.
+# Configures as a preset of CMakePresets.json says, and builds a target in its folder. On standard
+# error it says how far it is: on a terminal one line that moves, elsewhere a line for every quarter.
+# What the tools say is shown only if they fail, from the first failure on.
 #   tools/build_quietly.sh SOURCES PRESET TARGET
 set -euo pipefail
 sources=$1 preset=$2 target=$3
@@ -32,6 +33,6 @@ show_progress() {
 cd "$sources"
 if ! { cmake --preset "$preset" && cmake --build --preset "$preset" --target "$target"; } 2>&1 |
     show_progress; then
-    cat "$log" >&2
+    sed -n '/^FAILED\|^CMake Error\|error:/,$p' "$log" | grep . >&2 || cat "$log" >&2
     exit 1
 fi

@@ -1,13 +1,17 @@
 #!/usr/bin/env bash
 # Installs what packages.txt lists and the machine lacks. Says nothing if nothing is missing.
 #   tools/setup.sh [LIST...]   also what these lists name, of the form of packages.txt
+#   tools/setup.sh --run       without what that list marks as for tests, measurements and packages
 set -euo pipefail
 
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
 say() { printf '%s\n' "$*" >&2; }
 
-mapfile -t wanted < <(sed -e 's/#.*//' -e 's/[[:space:]]*$//' -e '/^$/d' "$here/packages.txt" "$@")
+marked='# (tests|./test|measurements|packages)'
+[[ ${1-} == --run ]] && shift || marked='^$'
+mapfile -t wanted < <(sed -E -e "\\@$marked@d" -e 's/#.*//' -e 's/[[:space:]]*$//' -e '/^$/d' \
+    "$here/packages.txt" "$@")
 
 if ! command -v dpkg-query >/dev/null; then
     say "No Debian packages here; the build needs the counterparts of: ${wanted[*]}"
