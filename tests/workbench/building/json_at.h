@@ -2,6 +2,7 @@
 
 #include "workbench/building/json_reader.h"
 
+#include <algorithm>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -13,14 +14,14 @@ class CJsonAt
 {
 public:
     explicit CJsonAt(std::string_view bytes)
-        : m_root(std::make_shared<const CJsonValue>(ReadJson(bytes))), m_value(m_root.get())
+        : m_value(std::make_shared<const CJsonValue>(ReadJson(bytes)))
     {
     }
 
     CJsonAt operator[](const char* field) const
     {
         const CJsonObject* const object = m_value->GetObject();
-        return {m_root, object ? object->Find(field) : nullptr};
+        return Part(object ? object->Find(field) : nullptr);
     }
     CJsonAt operator[](int index) const { return All().at(static_cast<std::size_t>(index)); }
 
@@ -28,32 +29,28 @@ public:
     std::vector<CJsonAt> All() const
     {
         std::vector<CJsonAt> all;
+        const auto take = [&](const CJsonValue& value) { all.push_back(Part(&value)); };
         if (const CJsonList* const list = m_value->GetList()) {
-            for (const CJsonValue& value : *list) {
-                all.push_back({m_root, &value});
-            }
+            std::ranges::for_each(*list, take);
         } else if (const CJsonObject* const object = m_value->GetObject()) {
-            for (const auto& [name, value] : *object) {
-                all.push_back({m_root, &value});
-            }
+            std::ranges::for_each(*object, take, &CJsonObject::Field::second);
         }
         return all;
     }
 
     double Number() const { return m_value->AsDouble(); }
     CString Text() const { return m_value->GetText() ? *m_value->GetText() : CString(); }
-    bool IsObject() const { return m_value->GetObject() != nullptr; }
 
 private:
-    CJsonAt(std::shared_ptr<const CJsonValue> root, const CJsonValue* value)
-        : m_root(std::move(root)), m_value(value ? value : &kNothing)
+    CJsonAt Part(const CJsonValue* part) const
     {
+        static const CJsonValue nothing;
+        CJsonAt at = *this;
+        at.m_value = {m_value, part ? part : &nothing}; // owned by the whole
+        return at;
     }
 
-    static inline const CJsonValue kNothing;
-
-    std::shared_ptr<const CJsonValue> m_root;
-    const CJsonValue* m_value;
+    std::shared_ptr<const CJsonValue> m_value;
 };
 
 } // namespace workbench

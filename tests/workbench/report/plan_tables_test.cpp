@@ -130,7 +130,7 @@ TEST_F(PlanScheduleTest, EveryOutputTellsSizesThatOughtToBeOthers)
             << Utf8FromWide(text);
         EXPECT_EQ(json[i]["status"].Text(), code);
         EXPECT_EQ(json[i]["note"].Text(), note);
-        EXPECT_TRUE(json[i]["radiator"].IsObject());
+        EXPECT_FALSE(json[i]["radiator"].All().empty());
         EXPECT_EQ(RowOf(sizes, i), Utf8FromWide(L"Terra|" + name + L"|" + status + L"|" + note));
     }
 }
