@@ -32,15 +32,7 @@ export WINEPATH=$folders
 
 ctest --test-dir "$build" --output-on-failure
 
-left_out=$(sed -e '/^#/d' -e '/^$/d' "$here/tests/left_out_on_windows.txt" | paste -sd:)
-report=$build/windows_tests.txt
-(cd "$build" && wine bin/radsel_logic_tests.exe --gtest_filter="-$left_out") 2>&1 |
-    tr -d '\r' | tee "$report" | grep -E '^\[  FAILED|: error: |: Failure' || true
-# Tests start this program again for parts of theirs; its own numbers come last.
-passed=$(sed -nE 's/^\[  PASSED  \] ([0-9]+) test.*/\1/p' "$report" | tail -1)
-failed=$(sed -nE 's/^\[  FAILED  \] ([0-9]+) test.*, listed below:/\1/p' "$report" | tail -1)
-echo "Windows: ${passed:-0} tests passed, ${failed:-0} failed, $(tr ':' '\n' <<<"$left_out" | wc -l) left out."
-[[ -n $passed && -z $failed ]]
+"$here/tools/windows_tests.sh" "$build"
 
 # The program that looks through catalogues finds what it finds elsewhere.
 wine "$build/bin/radsel_check.exe" "$here/data" >"$build/windows_check.txt" || [[ $? -eq 1 ]]

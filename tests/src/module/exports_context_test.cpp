@@ -8,10 +8,12 @@
 #include "host/host_identity.h"
 #include "host/host_prefs.h"
 #include "module/radsel_app.h"
+#include "module/silent/host_check.h"
 #include "module/silent/resource_context.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <future>
 #include <stdexcept>
@@ -140,6 +142,23 @@ TEST(ExportsContext, TheModulesApplicationIsCurrentDuringACallAndTheHostsAfterAn
         EXPECT_EQ(appDuringFailure, &theApp);
         EXPECT_EQ(CWinApp::Current(), nullptr);
     }
+}
+
+TEST(HostCheck, TheFunctionsOfThisProcessAreFoundWhereTheyAre)
+{
+    const std::vector<CHostFunction> functions = LoadedHostFunctions();
+    const auto fileOf = [&functions](std::string_view name) {
+        return std::find_if(functions.begin(), functions.end(),
+                            [name](const CHostFunction& f) { return name == f.name; })
+            ->file;
+    };
+    // One is defined by this program, the other by the reference host.
+    EXPECT_NE(fileOf("GetVEDir").find(L"radsel_context_tests"), CString::npos);
+    EXPECT_NE(fileOf("lmGetHKLayer").find(L"libHostPrefs"), CString::npos);
+    EXPECT_TRUE(std::all_of(functions.begin(), functions.end(), [](const CHostFunction& f) {
+        return f.identity != nullptr &&
+               std::string_view(f.identity->host) == "radsel reference host";
+    }));
 }
 
 } // namespace

@@ -1,11 +1,10 @@
 #include "platform/encoding.h"
 #include "platform/exception.h"
+#include "platform/whole_file.h"
 #include "tests/src/platform/thrown.h"
 #include "tests/support/file_size_limit.h"
 #include "tests/workbench/building/building_fixture.h"
 
-#include <fstream>
-#include <iterator>
 #include <tuple>
 
 namespace workbench {
@@ -16,8 +15,8 @@ namespace {
 /// must not lose a digit.
 std::string EveryField()
 {
-    std::ifstream file(RADSEL_TESTS_DIR "/workbench/building/every_field.json");
-    return {std::istreambuf_iterator<char>(file), {}};
+    const CString file = WideFromUtf8(RADSEL_TESTS_DIR "/workbench/building/every_field.json");
+    return ReadWholeFile(file).value_or("");
 }
 
 using BuildingFileTest = CBuildingFixture;
@@ -56,8 +55,8 @@ TEST_F(BuildingFileTest, EveryFieldComesBackExactly)
 
 TEST_F(BuildingFileTest, TheSampleIsWrittenAsItStands)
 {
-    std::ifstream file(RADSEL_DATA_DIR "/buildings/villa-dei-tigli.json");
-    const std::string bytes(std::istreambuf_iterator<char>(file), {});
+    const CString file = WideFromUtf8(RADSEL_DATA_DIR "/buildings/villa-dei-tigli.json");
+    const std::string bytes = ReadWholeFile(file).value_or("");
     EXPECT_EQ(FormatBuilding(Read(bytes)), bytes);
     EXPECT_EQ(Read(bytes).ueberschussMax, 15.0) << "files of before have no limit";
 }

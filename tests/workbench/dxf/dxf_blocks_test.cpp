@@ -1,4 +1,5 @@
 #include "platform/encoding.h"
+#include "platform/file_limits.h"
 #include "tests/support/temp_folder.h"
 #include "tests/workbench/dxf/dxf_text.h"
 #include "workbench/dxf/dxf_writer.h"
@@ -216,12 +217,20 @@ TEST(DxfBlocks, AFaultInAFileNamesTheFile)
 {
     const CTempFolder folder;
     folder.WriteBytes("rotto.dxf", "0\nSECTION\n");
-    for (const auto& [name, line] : {std::pair("rotto.dxf", 3), std::pair("manca.dxf", 0)}) {
+    folder.WriteBytes("grande.dxf", "");
+    std::filesystem::resize_file(folder.Root() / "grande.dxf", kLargestDrawing + 1);
+    const std::tuple<const char*, int, const wchar_t*> cases[] = {
+        {"rotto.dxf", 3, L""},
+        {"manca.dxf", 0, L""},
+        {"grande.dxf", 0, L"Il file è troppo grande: il limite è di 32 MB."},
+    };
+    for (const auto& [name, line, told] : cases) {
         const auto read = ReadDxfFile(folder.Path(name));
         const auto* const error = std::get_if<CFileFault>(&read);
         ASSERT_NE(error, nullptr) << name;
         EXPECT_TRUE(error->strFile.ends_with(WideFromUtf8(name)));
         EXPECT_EQ(error->nLine, line);
+        EXPECT_TRUE(error->strMessage.ends_with(told)) << Utf8FromWide(error->strMessage);
     }
 }
 

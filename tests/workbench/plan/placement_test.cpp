@@ -1,12 +1,6 @@
 #include "workbench/plan/placement.h"
 
-#include "host/host_catalog.h"
-#include "platform/encoding.h"
 #include "tests/workbench/plan/plan_fixture.h"
-#include "workbench/drawing/block_library.h"
-#include "workbench/plan/radiator_block.h"
-
-using namespace reference_host;
 
 namespace workbench {
 
@@ -89,35 +83,6 @@ TEST_F(PlacementTest, NewRadiatorsTakeTheNarrowestPlaceThatTheyFit)
         daten.Hoehe = test.hoehe;
         EXPECT_EQ(FindFreePlace(furnished, {100.0, 80.0}, daten), test.expected)
             << test.hoehe << " x " << test.laenge;
-    }
-}
-
-TEST(RadiatorBlock, EveryProductOfTheSampleCataloguesHasItsBlock)
-{
-    const CSettingOverride catalogues(kSettingHKDir, WideFromUtf8(RADSEL_DATA_DIR "/catalogues"));
-    const CBlockLibrary library(WideFromUtf8(RADSEL_DATA_DIR "/drawing/heizkoerper.dxf"));
-    int products = 0;
-    for (auto* maker = ReadHKDaten(); maker != nullptr; maker = maker->pNext) {
-        ReadVdiFile(maker->Name, &maker->pArt, 1000.0);
-        for (const auto* art = maker->pArt; art != nullptr; art = art->pNext) {
-            for (const auto* produkt = art->pProdukt; produkt; produkt = produkt->pNext) {
-                ++products;
-                EXPECT_NE(library.Find(BlockOf(art->Name, produkt->Name)).pBlock, nullptr)
-                    << Utf8FromWide(art->Name + L" / " + produkt->Name);
-            }
-        }
-    }
-    EXPECT_GT(products, 40);
-
-    const std::tuple<const wchar_t*, const wchar_t*, const wchar_t*> cases[] = {
-        {L"Radiatori a piastra compatti", L"Tipo 11", L"RAD_PIASTRA_11_PIANTA"},
-        {L"Flachheizkörper mit Einbauventil", L"Typ V 22", L"RAD_PIASTRA_22_PIANTA"},
-        {L"Radiatori tubolari in acciaio", L"3 colonne", L"RAD_TUBOLARE_PIANTA"},
-        {L"Badheizkörper", L"Badwärmer gerade", L"RAD_SCALDASALVIETTE_PIANTA"},
-        {L"Altro", L"Tipo 22", L""},
-    };
-    for (const auto& [art, produkt, block] : cases) {
-        EXPECT_EQ(BlockOf(art, produkt), block);
     }
 }
 

@@ -1,14 +1,13 @@
 #include "platform/encoding.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
+#include "tests/workbench/building/json_at.h"
 #include "workbench/building/json_writer.h"
 #include "workbench/schedule/json_values.h"
 #include "workbench/schedule/schedule_columns.h"
 #include "workbench/schedule/schedule_csv.h"
 #include "workbench/schedule/valve_json.h"
 #include "workbench/schedule/valve_text.h"
-
-#include <QJsonDocument>
 
 #include <gtest/gtest.h>
 
@@ -37,12 +36,11 @@ const std::string kBypass = "010000000000000000000000000000000200";
 const std::string kArticles = "800;" + kPlain + ";PT-15;;;Termostatica;\n" // line 10
                               + "800;" + kBypass + ";PB-15;;;Monotubo;\n";
 
-/// The value as a reader of others finds it in a file.
-QJsonDocument Written(const CJsonValue& value)
+CJsonAt Written(const CJsonValue& value)
 {
     CJsonWriter writer;
     writer.Value(nullptr, value);
-    return QJsonDocument::fromJson(QByteArray::fromStdString(writer.Take()));
+    return CJsonAt(writer.Take());
 }
 
 /// The module remembers the last valve by maker and number, so every maker here has a name of his
@@ -218,17 +216,17 @@ TEST_F(ValveTest, ScheduleShowsNamesTablesAndTheBill)
     EXPECT_EQ(std::count(total.begin(), total.end(), L';'),
               std::count(heading.begin(), heading.end(), L';'));
 
-    const QJsonDocument json = Written(MakeValvesJson(both));
-    EXPECT_EQ(json["supply"]["number"].toString().toStdString(), kPlain);
-    EXPECT_EQ(json["supply"]["kvs"].toDouble(), 0.88);
-    EXPECT_EQ(json["supply"]["rows"][0]["presetting"].toDouble(), 3.5);
-    EXPECT_EQ(json["return"]["rows"][1]["radiatorPercent"].toDouble(), 25.0);
-    EXPECT_EQ(json["return"]["text"].toString(), "note");
-    const QJsonDocument jsonOfLost = Written(MakeValvesJson(lost));
-    EXPECT_EQ(jsonOfLost["supply"]["status"].toString(), "notFound");
+    const CJsonAt json = Written(MakeValvesJson(both));
+    EXPECT_EQ(json["supply"]["number"].Text(), plain.strVentilNr);
+    EXPECT_EQ(json["supply"]["kvs"].Number(), 0.88);
+    EXPECT_EQ(json["supply"]["rows"][0]["presetting"].Number(), 3.5);
+    EXPECT_EQ(json["return"]["rows"][1]["radiatorPercent"].Number(), 25.0);
+    EXPECT_EQ(json["return"]["text"].Text(), L"note");
+    const CJsonAt jsonOfLost = Written(MakeValvesJson(lost));
+    EXPECT_EQ(jsonOfLost["supply"]["status"].Text(), L"notFound");
     EXPECT_TRUE(MakeValvesJson({}).IsEmpty());
-    const QJsonDocument bill = Written(MakeItemsJson(MakeValveBill(schedule).items, BillColumns()));
-    EXPECT_EQ(bill[1]["count"].toInt(), 2);
+    const CJsonAt bill = Written(MakeItemsJson(MakeValveBill(schedule).items, BillColumns()));
+    EXPECT_EQ(bill[1]["count"].Number(), 2);
 }
 
 } // namespace workbench

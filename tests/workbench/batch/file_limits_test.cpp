@@ -11,7 +11,6 @@
 #include "tests/support/test_liste.h"
 #include "workbench/batch/connection_list.h"
 #include "workbench/building/json_fields.h"
-#include "workbench/dxf/dxf_blocks.h"
 #include "workbench/schedule/valve_selection.h"
 
 #include <gtest/gtest.h>
@@ -67,11 +66,6 @@ TEST_F(FileLimits, ALargerFileIsRefusedByNameAndLimit)
     const auto catalogue = GetCatalogueError(L"Limite");
     ASSERT_TRUE(catalogue);
     EXPECT_EQ(catalogue->strMessage, L"Il file è troppo grande: il limite è di 16 MB.");
-
-    const auto drawing = ReadDxfFile(Make("pianta.dxf", "", kLargestDrawing));
-    const auto* const fault = std::get_if<CFileFault>(&drawing);
-    ASSERT_NE(fault, nullptr);
-    EXPECT_EQ(fault->strMessage, L"Il file è troppo grande: il limite è di 32 MB.");
 
     try {
         ReadJsonFile(Make("casa.json", "{}", kLargestBuilding));

@@ -1,8 +1,8 @@
 #include "workbench/batch/command_line.h"
 
 #include "tests/src/platform/thrown.h"
+#include "workbench/batch/batch_program.h"
 #include "workbench/batch/help_run.h"
-#include "workbench/program/workbench_program.h"
 
 #include <gtest/gtest.h>
 
@@ -14,14 +14,18 @@ namespace workbench {
 
 namespace {
 
+/// Knows every option, since it has a window; none of its commands is run.
+constexpr CCommandRun kWindow[] = {{CommandId::window, nullptr}};
+constexpr CProgram kWithWindows{L"prova", kWindow};
+
 CArguments Parse(const std::vector<CString>& arguments)
 {
-    return ParseCommandLine(GetWorkbench(), arguments, false).arguments;
+    return ParseCommandLine(kWithWindows, arguments, false).arguments;
 }
 
 CommandId CommandOf(const std::vector<CString>& arguments, bool hasScreen)
 {
-    return ParseCommandLine(GetWorkbench(), arguments, hasScreen).command.id;
+    return ParseCommandLine(kWithWindows, arguments, hasScreen).command.id;
 }
 
 /// The names in the column of the help text in which commands and options are told.
@@ -121,7 +125,7 @@ TEST(CommandLine, ErrorsNameTheArgumentAndTheCommand)
         EXPECT_NE(error.find(command), CString::npos) << testing::PrintToString(error);
     }
     EXPECT_NE(MessageOf<CArgumentException>([] {
-                  ParseCommandLine(GetWorkbench(), {L"--valves"}, true);
+                  ParseCommandLine(kWithWindows, {L"--valves"}, true);
               }).find(L"la finestra (senza --batch) non ammette l'opzione --valves"),
               CString::npos);
 }
@@ -130,7 +134,7 @@ TEST(CommandLine, ARunWithoutItsBuildingIsRefused)
 {
     std::ostringstream out;
     std::ostringstream err;
-    EXPECT_EQ(RunCommandLine(GetWorkbench(), {L"--valves"}, false, out, err),
+    EXPECT_EQ(RunCommandLine(GetBatchProgram(), {L"--valves"}, false, out, err),
               ExitCode::wrongArguments);
     EXPECT_NE(err.str().find("--building FILE"), std::string::npos) << err.str();
 }

@@ -1,6 +1,7 @@
 #include "workbench/batch/connection_list.h"
 
 #include "common/text_file.h"
+#include "platform/encoding.h"
 #include "tests/src/common/lines.h"
 #include "tests/support/temp_folder.h"
 
@@ -52,7 +53,7 @@ TEST(ConnectionList, FaultsAreToldWithTheirLineAndTheRestIsListed)
     const Listing listing =
         List(folder, {L"[senza punti]", L"[aperto", L"V" + point, L"R" + point, L"V" + point,
                       L"R1;2", L"[buono]", L"V" + point, L"R" + point, L"[monco]", L"x" + point});
-    const std::string file = folder.Root() / "Vent.txt";
+    const std::string file = Utf8FromWide(folder.Path("Vent.txt"));
     EXPECT_EQ(listing.err,
               file + ": riga 1: il tipo \"senza punti\" non ha punti di attacco\n" + file +
                   ": riga 2: manca la parentesi quadra chiusa dopo il nome\n" + file +
