@@ -39,3 +39,5 @@ wine "$build/bin/radsel_check.exe" "$here/data" >"$build/windows_check.txt" || [
 grep 'valvole; 22 tipi di attacco: 2 difetti$' "$build/windows_check.txt"
 
 "$here/tools/windows_batch.sh" "$build/bin/radsel_batch.exe" "$build/batch"
+
+"$here/tools/windows_configure.sh" "$build/with_qt"

@@ -64,7 +64,7 @@ int Nothing(const std::string& reason)
 
 std::string Quoted(const CString& name)
 {
-    return "\"" + Utf8FromWide(name) + "\"";
+    return '"' + Utf8FromWide(name) + '"';
 }
 
 /// Makes a list, which the caller gets if the work fills it to the end.
