@@ -19,6 +19,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <map>
 
 namespace host_defaults {
 
@@ -120,9 +121,15 @@ QLayout* CLayerDialog::MakeNewLayer(const QString& name)
 void CLayerDialog::FillList()
 {
     const CLayerEntry* const chosen = FindLayer(m_layers, m_name->text());
+    // A colour's icon takes longer to paint than all the rest of a row.
+    std::map<int, QIcon> icons;
     for (const CLayerEntry& layer : m_layers) {
         auto* const item = new QTreeWidgetItem(m_list, {layer.name, QString::number(layer.color)});
-        item->setIcon(0, ColorIcon(layer.color, kSwatchSide));
+        const auto [icon, isNew] = icons.try_emplace(layer.color);
+        if (isNew) {
+            icon->second = ColorIcon(layer.color, kSwatchSide);
+        }
+        item->setIcon(0, icon->second);
         item->setTextAlignment(1, Qt::AlignCenter);
         item->setSizeHint(0, {0, kRowHeight});
         if (&layer == chosen) {

@@ -31,6 +31,14 @@ int Nachkommastellen(const CString& zahl)
 
 } // namespace
 
+void CAuswahlListe::Fuellen(const CStringArray& texte)
+{
+    for (const CString& text : texte) {
+        Hinzufuegen(text);
+    }
+    Waehlen(-1);
+}
+
 void ListeLeeren(CAuswahlListe& liste)
 {
     // From the end, so that no entry moves up.

@@ -19,9 +19,9 @@ CStringArray LeseGrafiken(CDrawer& drawer)
 /// Selects by the last place of the graphic among the names.
 void Fuelle(CAuswahlListe& liste, const CStringArray& namen, const CString& grafik)
 {
+    liste.Fuellen(namen);
     int stelle = -1;
     for (int i = 0; i < namen.GetSize(); ++i) {
-        liste.Hinzufuegen(namen[i]);
         stelle = namen[i] == grafik ? i : stelle;
     }
     liste.Waehlen(stelle);

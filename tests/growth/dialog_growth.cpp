@@ -8,18 +8,22 @@
 #include "frame/ventil_kv.h"
 #include "host/drawing_records.h"
 #include "host/host_catalog.h"
+#include "host/host_prompts.h"
 #include "platform/encoding.h"
 #include "platform/format.h"
 #include "tests/dialog_support/dialog_driver.h"
 #include "tests/dialog_support/dialog_run.h"
 #include "tests/dialog_support/full_drawer.h"
+#include "tests/host_defaults/host_dialog_driver.h"
 #include "tests/support/memory_catalogue.h"
 #include "tests/support/setting_override.h"
 #include "tests/support/temp_folder.h"
 #include "tools/make_catalogues_writer.h"
 #include "tools/make_valves_writer.h"
+#include "workbench/drawing/scene_drawer.h"
 
 #include <QApplication>
+#include <QGraphicsScene>
 #include <QHeaderView>
 #include <QTableView>
 #include <QTest>
@@ -263,6 +267,27 @@ void CountDistances(int size, CWorkCount& count)
     CountDialog(count, [] { CWandAbDlg().DoModal(); });
 }
 
+/// The host's dialog over the layers of the workbench's drawing.
+void CountLayers(int size, CWorkCount& count)
+{
+    PrepareDialogs();
+    std::vector<workbench::CDxfLayer> layers;
+    for (int i = 0; i < size; ++i) {
+        layers.push_back({L"LAYER" + FormatInt(1000 + (7919 * i) % size), 3});
+    }
+    QGraphicsScene scene;
+    workbench::CSceneDrawer drawer(scene, layers);
+    CString layer = layers.back().strName;
+    int color = 1;
+    OnNextDialog([](QWidget& dialog) {
+        Finish();
+        TypeText(dialog, "9");
+        Finish();
+        PressKey(dialog, Qt::Key_Return);
+    });
+    count.Of([&] { Require(ShowBigLayerDlg(&drawer, layer, color) && color == 3); });
+}
+
 } // namespace
 
 std::vector<CGrowthCase> DialogCases()
@@ -293,5 +318,6 @@ std::vector<CGrowthCase> DialogCases()
                  });
          }},
         {"DialogOfDistances", "kept dialogs", 100, CountDistances},
+        {"DialogOfLayers", "layers", 25, CountLayers},
     };
 }

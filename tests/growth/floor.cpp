@@ -17,3 +17,18 @@ workbench::CBuilding Floor(int rooms)
     floor.rooms.resize(static_cast<std::size_t>(rooms));
     return building;
 }
+
+workbench::CBuilding Tower(int size)
+{
+    constexpr std::size_t kRoomsOfFloor = 5;
+    workbench::CBuilding building = Floor(size);
+    workbench::CFloor all = std::move(building.floors.front());
+    building.floors.clear();
+    for (std::size_t i = 0; i < all.rooms.size(); ++i) {
+        if (i % kRoomsOfFloor == 0) {
+            building.floors.push_back({L"Piano " + std::to_wstring(i), {}, {}});
+        }
+        building.floors.back().rooms.push_back(all.rooms[i]);
+    }
+    return building;
+}

@@ -18,6 +18,7 @@
 #include "workbench/drawing/block_path.h"
 #include "workbench/drawing/scene_drawer.h"
 #include "workbench/dxf/dxf_writer.h"
+#include "workbench/window/plan_blocks.h"
 
 #include <QGraphicsScene>
 
@@ -89,13 +90,7 @@ void ReadSizes(int size, CWorkCount& count)
         LeseMasse(wish, sizes[0], sizes[1], sizes[2], contents, kCapacity);
         Require(Inhalt(wish, 0.3, 0.05, 0.4) > 0.0);
     });
-}
-
-void CheckRows(int size, CWorkCount& count)
-{
-    CMemoryCatalogue rows;
-    Fill(rows, size);
-    count.Of([&] { Require(!PruefeProdukt(rows.Produkt()).empty()); });
+    count.Of([&] { Require(!PruefeProdukt(rows.Produkt()).empty()); }, "checked");
 }
 
 void SortNumbers(int size, CWorkCount& count)
@@ -138,9 +133,13 @@ void ListBlocks(const CBlockLibrary& library, int size)
 void ListBlocksOfFile(int size, CWorkCount& count)
 {
     const CTempFolder folder;
-    folder.WriteBytes("blocchi.dxf", WriteDxf(Blocks(size, 0)));
-    const CBlockLibrary library(folder.Path());
-    count.Of([&] { ListBlocks(library, size); });
+    const CDxfDrawing drawing = Blocks(size, 0);
+    folder.WriteBytes("blocchi.dxf", WriteDxf(drawing));
+    count.Of([&] {
+        const CBlockLibrary library(folder.Path());
+        ListBlocks(library, size);
+        Require(CPlanBlocks(drawing, &library).FindValve(L"BLOCCO1000") != nullptr);
+    });
 }
 
 void ListBlocksOfFiles(int size, CWorkCount& count)
@@ -152,21 +151,10 @@ void ListBlocksOfFiles(int size, CWorkCount& count)
     count.Of([&] { ListBlocks(CBlockLibrary(folder.Path()), size); });
 }
 
-void ListLayers(int size, CWorkCount& count)
-{
-    EnsureApplication();
-    QGraphicsScene scene;
-    CSceneDrawer drawer(scene, Blocks(size, 0).layers);
-    CStringArray names;
-    count.Of([&] {
-        drawer.GetLayerNames(names, 2);
-        Require(drawer.GetLayerColor(names[size - 1]) == 3);
-    });
-}
-
 /// What of a block's picture is not the toolkit's painting.
 void PreviewBlock(int size, CWorkCount& count)
 {
+    const CDxfDrawing drawing = Blocks(size, 0);
     CDxfBlock block{L"GRANDE", {}};
     CDxfPolyline outline;
     for (int i = 0; i < size; ++i) {
@@ -174,11 +162,13 @@ void PreviewBlock(int size, CWorkCount& count)
         outline.punkte.push_back({{double(i), i % 2 * 5.0}, 0.5});
     }
     block.entities.push_back({L"LAYER", kColorByLayer, outline});
-    count.Of([&] { Require(BoundsOf(MakeBlockPaths({{L"LAYER", 3}}, block)).height() > 0.0); });
+    count.Of([&] {
+        Require(BoundsOf(MakeBlockPaths(CLayerColors(drawing.layers), block)).height() > 0.0);
+    });
 }
 
 /// The marks of radiators that stand in each other's way move aside.
-void DrawPoints(int size, CWorkCount& count, double apart)
+void DrawPoints(int size, CWorkCount& count)
 {
     EnsureApplication();
     QGraphicsScene scene;
@@ -186,7 +176,7 @@ void DrawPoints(int size, CWorkCount& count, double apart)
     count.Of([&] {
         drawer.BeginPreview();
         for (int i = 0; i < size; ++i) {
-            const double place[3] = {apart * i, 0.0, 0.0};
+            const double place[3] = {1.0 * i, 0.0, 0.0};
             const double direction[3] = {0.0, 1.0, 0.0};
             drawer.DrawConnectionPoint(place, direction, 0.1, 3, i % 2 == 0);
         }
@@ -207,12 +197,10 @@ std::vector<CGrowthCase> ListCases()
          [](int n, CWorkCount& c) { Ask(n, c, FilterNone); }},
         {"BestRow", "rows", 200, [](int n, CWorkCount& c) { Ask(n, c, ChooseBest); }},
         {"SizesOfAProduct", "rows", 50, ReadSizes},
-        {"CheckOfAProduct", "rows", 50, CheckRows},
         {"SortedSizes", "sizes", 50, SortNumbers},
-        {"BlocksOfAFile", "blocks", 50, ListBlocksOfFile},
+        {"BlocksOfAFile", "blocks", 25, ListBlocksOfFile},
         {"BlocksOfAFolder", "files", 10, ListBlocksOfFiles},
-        {"Layers", "layers", 100, ListLayers},
-        {"BlockPreview", "lines and arcs", 50, PreviewBlock},
-        {"ConnectionPreview", "points", 20, [](int n, CWorkCount& c) { DrawPoints(n, c, 1.0); }},
+        {"BlockPreview", "lines and arcs", 25, PreviewBlock},
+        {"ConnectionPreview", "points", 20, DrawPoints},
     };
 }

@@ -9,6 +9,8 @@
 #include "tests/support/temp_folder.h"
 #include "tools/make_building_samples.h"
 #include "uikit/application.h"
+#include "workbench/batch/arguments.h"
+#include "workbench/batch/batch.h"
 #include "workbench/building/building_json.h"
 #include "workbench/building/building_layout.h"
 #include "workbench/building/floor_overlap.h"
@@ -32,6 +34,8 @@
 #include "workbench/workbook/schedule_xlsx.h"
 
 #include <QDate>
+
+#include <sstream>
 
 using namespace reference_host;
 
@@ -75,22 +79,6 @@ std::size_t Count(int size)
     return static_cast<std::size_t>(size);
 }
 
-/// The same rooms on floors of few.
-CBuilding Tower(int size)
-{
-    constexpr std::size_t kRoomsOfFloor = 5;
-    CBuilding building = Floor(size);
-    CFloor all = std::move(building.floors.front());
-    building.floors.clear();
-    for (std::size_t i = 0; i < all.rooms.size(); ++i) {
-        if (i % kRoomsOfFloor == 0) {
-            building.floors.push_back({L"Piano " + std::to_wstring(i), {}, {}});
-        }
-        building.floors.back().rooms.push_back(all.rooms[i]);
-    }
-    return building;
-}
-
 /// Rooms that are all alike and want a radiator of the small catalogue, with so many windows each.
 CBuilding Alike(int rooms, int windows, double demand)
 {
@@ -127,6 +115,7 @@ std::vector<CRadiatorRef> AllRadiators(const CBuilding& building)
 
 void SizeAll(const CBuilding& empty, CWorkCount& count)
 {
+    const CPlace place;
     const std::vector<CRoomRef> rooms = AllRooms(empty);
     count.Of([&] {
         const CBuilding building = SizeRooms(empty, rooms, {}).building;
@@ -136,6 +125,7 @@ void SizeAll(const CBuilding& empty, CWorkCount& count)
 
 void RepairAll(const CBuilding& building, CWorkCount& count)
 {
+    const CPlace place;
     count.Of([&] { Require(!RepairRooms(building, AllRooms(building), {}).rooms.empty()); });
 }
 
@@ -188,49 +178,39 @@ void ChangeOne(int size, CWorkCount& count)
     });
 }
 
-void RemoveAll(int size, CWorkCount& count)
+void ChangeAndRemoveAll(int size, CWorkCount& count)
 {
+    const CPlace place;
     CBuilding building = Tower(size);
-    const std::vector<CRadiatorRef> radiators = AllRadiators(building);
     std::vector<CRoomRef> rooms = AllRooms(building);
+    count.Of(
+        [&] {
+            ChangeSystem(building, {55.0, 45.0});
+            SetProduct(building, rooms, {L"Altovico", L"Radiatori in alluminio", L"Alpe 80"});
+        },
+        "changed");
+    count.Of([&] { CRadiatorList(building, AllRadiators(building)); }, "listed");
     rooms.pop_back();
-    count.Of([&] {
-        RemoveRadiators(building, radiators);
-        RemoveRooms(building, rooms);
-    });
+    count.Of(
+        [&] {
+            RemoveRadiators(building, AllRadiators(building));
+            RemoveRooms(building, rooms);
+        },
+        "removed");
     Require(AllRooms(building).size() == 1);
 }
 
-void ChangeAll(int size, CWorkCount& count)
+void FindAndAddRooms(int size, CWorkCount& count)
 {
-    const CPlace place;
-    CBuilding building = Floor(size);
-    const std::vector<CRoomRef> rooms = AllRooms(building);
-    count.Of([&] {
-        ChangeSystem(building, {55.0, 45.0});
-        SetProduct(building, rooms, {L"Altovico", L"Radiatori in alluminio", L"Alpe 80"});
-    });
-}
-
-void FindRooms(int size, CWorkCount& count)
-{
-    const CBuilding building = Tower(size);
-    const CString last = RoomOf(building, AllRooms(building).back()).strName;
-    count.Of([&] {
-        Require(FindRoom(building, last).has_value());
-        Require(!FindRoom(building, L"Nessuno").has_value());
-    });
-}
-
-void AddARoom(int size, CWorkCount& count)
-{
-    CBuilding building = Floor(size);
+    CBuilding building = Tower(size);
     CNewRoom room;
     room.strFloor = building.floors.front().strName;
     room.strName = L"Nuovo";
     count.Of([&] {
+        Require(!FindRoom(building, room.strName).has_value());
         Require(FindFault(building, room).empty());
         AddRoom(building, room);
+        Require(KeepRoom(building, room.strName));
     });
 }
 
@@ -255,19 +235,13 @@ void FindOverlaps(int size, CWorkCount& count)
     count.Of([&] { Require(!FindOverlap(rects, 1.0)); });
 }
 
-void Write(int size, CWorkCount& count)
+void WriteAndRead(int size, CWorkCount& count)
 {
     const CTempFolder folder;
     const CBuilding building = Tower(size);
-    count.Of([&] { WriteBuilding(folder.Path("casa.json"), building); });
-}
-
-void Read(int size, CWorkCount& count, const CBuilding& building)
-{
-    const CTempFolder folder;
-    WriteBuilding(folder.Path("casa.json"), building);
+    count.Of([&] { WriteBuilding(folder.Path("casa.json"), building); }, "written");
     std::size_t rooms = 0;
-    count.Of([&] { rooms = AllRooms(ReadBuilding(folder.Path("casa.json"))).size(); });
+    count.Of([&] { rooms = AllRooms(ReadBuilding(folder.Path("casa.json"))).size(); }, "read");
     Require(rooms == Count(size));
 }
 
@@ -280,6 +254,12 @@ void Recover(int size, CWorkCount& count)
         file.Write(L"casa.json", L"", building);
         Require(file.Read().has_value());
     });
+    for (int i = 0; i < size; ++i) {
+        for (const char* const end : {".json", ".lock"}) {
+            folder.WriteBytes("recupero-" + std::to_string(2 + i) + end, "");
+        }
+    }
+    count.Of([&] { Require(file.TakeLeft().size() == Count(size)); }, "of others");
 }
 
 void ScheduleValves(int size, CWorkCount& count)
@@ -307,40 +287,52 @@ CSchedule Scheduled(int size)
     return SchedulePlan(building);
 }
 
-template <class FORMAT>
-void Format(int size, CWorkCount& count, FORMAT format)
+void Format(int size, CWorkCount& count)
 {
     const CPlace place;
     const CSchedule schedule = Scheduled(size);
-    count.Of([&] { Require(!format(schedule).empty()); });
+    count.Of([&] { Require(!FormatScheduleText(schedule, true).empty()); }, "as text");
+    count.Of([&] { Require(!FormatScheduleCsv(schedule).empty()); }, "as csv");
+    count.Of([&] { Require(!FormatScheduleJson(schedule).empty()); }, "as json");
+    count.Of([&] { Require(!FormatScheduleXlsx(schedule).empty()); }, "as xlsx");
+    count.Of([&] { Require(!FormatValveBill(MakeValveBill(schedule)).empty()); }, "as bill");
 }
 
-void ExportDxf(int size, CWorkCount& count)
+void Batch(int size, CWorkCount& count)
 {
     const CPlace place;
-    const CDrawingBlocks blocks = ReadDrawingBlocks();
-    const CBuilding building = Floor(size);
-    count.Of(
-        [&] { Require(!FormatPlanDxf(building, blocks.heizkoerper, blocks.Valves()).empty()); });
+    CArguments arguments;
+    arguments.strBuilding = place.folder.Path("casa.json");
+    arguments.strOutput = place.folder.Path("out");
+    arguments.system = CHeatingSystem{70.0, 55.0};
+    WriteBuilding(arguments.strBuilding, Alike(size, 1, 750.0));
+    const auto files = [](const CBatchResult& result, const CArguments& asked,
+                          const UnreadTeller& /*tell*/) {
+        CResultFolder folder(asked.strOutput);
+        WriteCsv(folder, result, asked);
+        WriteJson(folder, result);
+        return folder;
+    };
+    std::ostringstream out;
+    count.Of([&] { Require(RunBatch(arguments, files, out, out) == ExitCode::ok); });
 }
 
-void ExportPdf(int size, CWorkCount& count)
+void Export(int size, CWorkCount& count)
 {
     EnsureApplication();
     const CPlace place;
-    const CDrawingBlocks blocks = ReadDrawingBlocks();
+    CDrawingBlocks blocks = ReadDrawingBlocks();
+    CDxfDrawing& drawing = blocks.heizkoerper;
+    drawing.blocks.insert(drawing.blocks.begin(), 40 * Count(size), CDxfBlock{L"ALTRO", {}});
     const CBuilding building = Floor(size);
-    count.Of([&] {
-        Require(WritePlanPdf(place.folder.Path("piano.pdf"), building, blocks.heizkoerper,
-                             blocks.Valves(), QDate(2026, 3, 1)) > 1);
-    });
-}
-
-void ListRadiators(int size, CWorkCount& count)
-{
-    const CBuilding building = Floor(size);
-    const std::vector<CRadiatorRef> radiators = AllRadiators(building);
-    count.Of([&] { Require(CRadiatorList(building, radiators).GetList() != nullptr); });
+    count.Of([&] { Require(!FormatPlanDxf(building, drawing, blocks.Valves()).empty()); },
+             "as dxf");
+    count.Of(
+        [&] {
+            Require(WritePlanPdf(place.folder.Path("piano.pdf"), building, drawing, blocks.Valves(),
+                                 QDate(2026, 3, 1)) > 1);
+        },
+        "as pdf");
 }
 
 } // namespace
@@ -351,53 +343,22 @@ std::vector<CGrowthCase> PlanCases()
 {
     using namespace workbench;
     return {
-        {"Sizing", "rooms", 10,
-         [](int n, CWorkCount& c) {
-             const CPlace place;
-             SizeAll(Alike(n, 1, 750.0), c);
-         }},
-        {"Repair", "rooms", 4,
-         [](int n, CWorkCount& c) {
-             const CPlace place;
-             RepairAll(Alike(n, 1, 3000.0), c);
-         }},
+        {"Sizing", "rooms", 10, [](int n, CWorkCount& c) { SizeAll(Alike(n, 1, 750.0), c); }},
+        {"Repair", "rooms", 4, [](int n, CWorkCount& c) { RepairAll(Alike(n, 1, 3000.0), c); }},
         {"RepairOfOneRoom", "windows", 4,
-         [](int n, CWorkCount& c) {
-             const CPlace place;
-             RepairAll(Alike(1, n, 1200.0 * n), c);
-         }},
+         [](int n, CWorkCount& c) { RepairAll(Alike(1, n, 1200.0 * n), c); }},
         {"PlaceForARadiator", "windows", 20, PlaceInRoom},
         {"UndoAndRedo", "steps", 50, Undo},
         {"ChangeOfOneRoom", "rooms", 100, ChangeOne},
-        {"Removing", "rooms", 50, RemoveAll},
-        {"OtherSystemAndProduct", "rooms", 20, ChangeAll},
-        {"RoomByItsName", "rooms", 100, FindRooms},
-        {"NewRoom", "rooms", 100, AddARoom},
+        {"AllRooms", "rooms", 50, ChangeAndRemoveAll},
+        {"NewRoom", "rooms", 100, FindAndAddRooms},
         {"LayoutOfAFloor", "rooms", 50, LayOut},
         {"OverlapOfRooms", "rooms", 100, FindOverlaps},
-        {"BuildingWritten", "rooms", 10, workbench::Write},
-        {"BuildingOfFloors", "rooms", 8, [](int n, CWorkCount& c) { Read(n, c, Tower(n)); }},
-        {"BuildingOfOneFloor", "rooms", 8, [](int n, CWorkCount& c) { Read(n, c, Floor(n)); }},
+        {"Building", "rooms", 8, WriteAndRead},
         {"RecoveryFile", "rooms", 8, Recover},
         {"Schedule", "rooms", 10, ScheduleValves},
-        {"ScheduleAsText", "rooms", 4,
-         [](int n, CWorkCount& c) {
-             Format(n, c, [](const CSchedule& s) { return FormatScheduleText(s, true); });
-         }},
-        {"ScheduleAsCsv", "rooms", 10,
-         [](int n, CWorkCount& c) {
-             Format(n, c, [](const CSchedule& s) { return FormatScheduleCsv(s); });
-         }},
-        {"ScheduleAsJson", "rooms", 4,
-         [](int n, CWorkCount& c) { Format(n, c, FormatScheduleJson); }},
-        {"ScheduleAsXlsx", "rooms", 8,
-         [](int n, CWorkCount& c) { Format(n, c, FormatScheduleXlsx); }},
-        {"BillOfValves", "rooms", 10,
-         [](int n, CWorkCount& c) {
-             Format(n, c, [](const CSchedule& s) { return FormatValveBill(MakeValveBill(s)); });
-         }},
-        {"PlanAsDxf", "rooms", 8, ExportDxf},
-        {"PlanAsPdf", "rooms", 6, ExportPdf},
-        {"RadiatorsForTheModule", "radiators", 50, ListRadiators},
+        {"BatchRun", "rooms", 3, Batch},
+        {"FormattedSchedule", "rooms", 4, Format},
+        {"Plan", "rooms", 6, Export},
     };
 }

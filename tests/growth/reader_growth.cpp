@@ -2,6 +2,7 @@
 
 #include "tests/growth/growth.h"
 
+#include "c_interface/radsel_c.h"
 #include "common/heizung_ordner.h"
 #include "common/platzierung_datei.h"
 #include "common/text_file.h"
@@ -30,6 +31,8 @@
 #include "valve/ventil_katalog.h"
 #include "workbench/dxf/dxf_blocks.h"
 #include "workbench/dxf/dxf_writer.h"
+#include "workbench/plan/catalogue_check.h"
+#include "workbench/plan/connection_name.h"
 
 #include <sstream>
 
@@ -184,14 +187,14 @@ void FindValve(int size, CWorkCount& count)
 {
     const CValves valves(ValveFile(size, ValveEncoding::cp1252));
     CVentVdiKatalog katalog;
-    Require(katalog.LadeHersteller(L"Prova"));
+    count.Of([&] { Require(katalog.LadeHersteller(L"Prova")); }, "read");
     const VENT_VDI3805_ARTIKEL* last = katalog.ErsteHauptgruppe->Gruppen->Artikel;
     while (last->Next != nullptr) {
         last = last->Next;
     }
     const CString number = last->TgaNr;
     VDI3805_VENTIL_KV ventil;
-    count.Of([&] { Require(katalog.SucheVentil(L"Prova", number, ventil)); });
+    count.Of([&] { Require(katalog.SucheVentil(L"Prova", number, ventil)); }, "by its number");
 }
 
 /// Once read, the catalogue is built for every wish anew.
@@ -231,8 +234,40 @@ void ListMakers(int size, CWorkCount& count)
     for (int i = 0; i < size; ++i) {
         catalogues.Add("Prova " + Number(i), "");
     }
-    count.Of([] { Require(ReadHKDaten() != nullptr); });
+    // What is empty is a fault each.
+    count.Of(
+        [&] { Require(workbench::CheckCatalogues().size() == static_cast<std::size_t>(size)); });
     Require(FindHersteller(WideFromUtf8("Prova " + Number(size - 1))) != nullptr);
+}
+
+/// The lists that programs of other languages read.
+void ListInC(int size, CWorkCount& count)
+{
+    const CTempFolder folder;
+    folder.WriteBytes("Prova/hk.tga", RadiatorFile(size));
+    folder.WriteBytes("Prova/ha.tga", ValveFile(size, ValveEncoding::cp1252));
+    radsel_set_text(RADSEL_CATALOGUE_FOLDER, folder.Root().c_str());
+    radsel_set_text(RADSEL_VALVE_FOLDER, folder.Root().c_str());
+    radsel_list* products = nullptr;
+    radsel_valves* valves = nullptr;
+    count.Of(
+        [&] {
+            Require(radsel_list_products("Prova", "Piastre", &products) == RADSEL_OK);
+            Require(radsel_list_valves("Prova", &valves) == RADSEL_OK);
+        },
+        "read");
+    radsel_valve valve;
+    radsel_valve_init(&valve, sizeof valve);
+    count.Of(
+        [&] {
+            for (std::size_t i = 0; i < static_cast<std::size_t>(size); ++i) {
+                Require(radsel_list_text(products, i) != nullptr);
+                Require(radsel_valves_get(valves, i, &valve) == RADSEL_OK);
+            }
+        },
+        "line by line");
+    radsel_list_free(products);
+    radsel_valves_free(valves);
 }
 
 void Check(const char* file, const std::string& bytes, CWorkCount& count)
@@ -260,71 +295,50 @@ void ReadShortListed(int size, CWorkCount& count)
         FindeAnschlussTyp(zustand, ansicht);
     });
     Require(zustand.m_Anschlussliste.GetSize() == size);
+    ConnValues last = zustand.m_Anschlussliste[size - 1];
+    count.Of([&] { Require(workbench::NameOfPoints(last) == last.Name); }, "for a name");
 }
 
-std::string Systems(int size)
-{
-    return "[VDI6030_HS]\r\n" +
-           Repeated(size, [](int i) { return "Sistema " + Number(i) + " (75/65)|"; }) + "\r\n";
-}
-
-void ReadSystems(int size, CWorkCount& count)
+void KeepSystems(int size, CWorkCount& count)
 {
     const COffice office;
-    office.Write("HEIZUNG/CmbData.txt", Systems(size));
+    office.Write("HEIZUNG/CmbData.txt", "[VDI6030_HS]\r\n" + Repeated(size, [](int i) {
+                                            return "Sistema " + Number(i) + " (75/65)|";
+                                        }) + "\r\n");
     CTestListe liste;
-    count.Of([&] { Require(ListeLesen(kListeHeizsysteme, liste, kGewerkHeizung)); });
+    count.Of([&] { Require(ListeLesen(kListeHeizsysteme, liste, kGewerkHeizung)); }, "read");
     Require(liste.Anzahl() == size);
-}
-
-void StoreSystems(int size, CWorkCount& count)
-{
-    const COffice office;
-    office.Write("HEIZUNG/CmbData.txt", Systems(size));
-    CTestListe liste;
-    Require(ListeLesen(kListeHeizsysteme, liste, kGewerkHeizung));
-    liste.Hinzufuegen(L"Nuovo (55/45)");
-    count.Of([&] { Require(ListeSchreiben(kListeHeizsysteme, liste, kGewerkHeizung)); });
-}
-
-void FindSystem(int size, CWorkCount& count)
-{
-    const COffice office;
-    office.Write("HEIZUNG/CmbData.txt", Systems(size));
     CString name;
-    count.Of([&] { Require(SystemSuchen(name, 40.0, 30.0) == -1); });
+    count.Of([&] { Require(SystemSuchen(name, 40.0, 30.0) == -1); }, "by temperatures");
+    liste.Hinzufuegen(L"Nuovo (55/45)");
+    count.Of([&] { Require(ListeSchreiben(kListeHeizsysteme, liste, kGewerkHeizung)); }, "stored");
 }
 
-std::string Places(int size)
-{
-    return Repeated(size, [](int i) { return "DIALOGO" + Number(i) + "|1|700|2|800|255|\r\n"; });
-}
-
-void KeepPlace(int size, CWorkCount& count)
+void KeepDialogs(int size, CWorkCount& count)
 {
     const COffice office;
-    office.Write("fenster.txt", Places(size));
-    CRect place;
-    count.Of([&] {
-        SchreibePlatzierung(L"NUOVO", {1, 2, 3, 4}, 200);
-        Require(LesePlatzierung(L"NUOVO", place, nullptr));
-    });
-}
-
-void AskHelpIndex(int size, CWorkCount& count)
-{
-    const COffice office;
+    office.Write("fenster.txt", Repeated(size, [](int i) {
+                     return "DIALOGO" + Number(i) + "|1|700|2|800|255|\r\n";
+                 }));
     office.Write("winsett.txt", Repeated(size, [](int i) { return Number(i) + "|1|\r\n"; }));
+    CRect place;
+    count.Of(
+        [&] {
+            SchreibePlatzierung(L"NUOVO", {1, 2, 3, 4}, 200);
+            Require(LesePlatzierung(L"NUOVO", place, nullptr));
+        },
+        "at their places");
     bool allowed = false;
-    count.Of([&] {
-        Require(HilfeErlaubt(static_cast<unsigned>(std::stoul(Number(size - 1))), allowed));
-    });
+    const auto last = static_cast<unsigned>(std::stoul(Number(size - 1)));
+    count.Of([&] { Require(HilfeErlaubt(last, allowed)); }, "with help");
 }
 
 void KeepSetting(int size, CWorkCount& count)
 {
     const CTempFolder folder;
     const CEnvironmentVariable config("XDG_CONFIG_HOME", folder.Root().c_str());
+    // The host lets go of the settings of the size before.
+    Require(GetHostSetting(kSettingHKLayer, L"").empty());
     folder.WriteBytes("radsel/settings.txt", "radsel-settings 1\n" + Repeated(size, [](int i) {
                                                  return "Chiave" + Number(i) + "=valore\n";
                                              }));
@@ -459,19 +473,17 @@ workbench::CDxfDrawing EmptyBlocks(int size)
 void ReadDxf(const workbench::CDxfDrawing& drawing, CWorkCount& count,
              workbench::DxfContent content)
 {
-    const std::string text = workbench::WriteDxf(drawing);
-    count.Of([&] {
-        const auto read = workbench::ParseDxf(BytesOf(text), content);
-        const auto& found = std::get<workbench::CDxfDrawing>(read);
-        Require(content == workbench::DxfContent::wholeDrawing ? found == drawing
-                                                               : found.blocks == drawing.blocks);
-    });
-}
-
-void WriteDxfFile(int size, CWorkCount& count)
-{
-    const workbench::CDxfDrawing drawing = Drawing(size);
-    count.Of([&] { Require(!workbench::WriteDxf(drawing).empty()); });
+    std::string text;
+    count.Of([&] { text = workbench::WriteDxf(drawing); }, "written");
+    count.Of(
+        [&] {
+            const auto read = workbench::ParseDxf(BytesOf(text), content);
+            const auto& found = std::get<workbench::CDxfDrawing>(read);
+            Require(content == workbench::DxfContent::wholeDrawing
+                        ? found == drawing
+                        : found.blocks == drawing.blocks);
+        },
+        "read");
 }
 
 } // namespace
@@ -480,13 +492,11 @@ std::vector<CGrowthCase> ReaderCases()
 {
     using workbench::DxfContent;
     return {
-        {"ValveFile", "records of each kind", 15,
-         [](int n, CWorkCount& c) { LoadValves(ValveFile(n, ValveEncoding::cp1252), c); }},
+        {"ValveFile", "records of each kind", 15, FindValve},
         {"ValveFileInUtf16", "records of each kind", 10,
          [](int n, CWorkCount& c) { LoadValves(ValveFile(n, ValveEncoding::utf16), c); }},
         {"ValvesOfOneKind", "articles", 300,
          [](int n, CWorkCount& c) { LoadValves(ArticlesFile(n), c); }},
-        {"ValveByItsNumber", "records of each kind", 15, FindValve},
         {"RadiatorCatalogue", "records of each kind", 15,
          [](int n, CWorkCount& c) { ReadRadiators(n, c, 0); }},
         {"RadiatorCatalogueForAnotherWish", "records of each kind", 15,
@@ -500,11 +510,8 @@ std::vector<CGrowthCase> ReaderCases()
         {"CheckOfShortList", "types", 20,
          [](int n, CWorkCount& c) { Check("Vent.txt", ShortList(n), c); }},
         {"ShortList", "types", 20, ReadShortListed},
-        {"HeatingSystems", "systems", 50, ReadSystems},
-        {"HeatingSystemsStored", "systems", 50, StoreSystems},
-        {"HeatingSystemByTemperatures", "systems", 50, FindSystem},
-        {"PlacementFile", "dialogs", 40, KeepPlace},
-        {"HelpIndex", "dialogs", 50, AskHelpIndex},
+        {"HeatingSystems", "systems", 50, KeepSystems},
+        {"KeptDialogs", "dialogs", 50, KeepDialogs},
         {"Settings", "settings", 50, KeepSetting},
         {"DefFile", "characters", 3000, KeepRecord},
         {"Archive", "numbers and characters", 1500, StoreAndLoad},
@@ -521,6 +528,6 @@ std::vector<CGrowthCase> ReaderCases()
          [](int n, CWorkCount& c) { ReadDxf(Drawing(n), c, DxfContent::wholeDrawing); }},
         {"DxfOfManyBlocks", "blocks", 40,
          [](int n, CWorkCount& c) { ReadDxf(EmptyBlocks(n), c, DxfContent::wholeDrawing); }},
-        {"DxfWritten", "of each kind", 10, WriteDxfFile},
+        {"ListsForOtherLanguages", "records of each kind", 8, ListInC},
     };
 }

@@ -11,7 +11,7 @@ find_path(RADSEL_VALGRIND_INCLUDE valgrind/valgrind.h REQUIRED)
 radsel_test_sources(growth_sources growth/*.cpp)
 add_executable(radsel_growth_tests ${growth_sources})
 target_include_directories(radsel_growth_tests SYSTEM PRIVATE ${RADSEL_VALGRIND_INCLUDE})
-target_link_libraries(radsel_growth_tests PRIVATE radsel_dialog_support workbench_program
+target_link_libraries(radsel_growth_tests PRIVATE radsel_dialog_support radsel_host_dialog_support workbench_program radsel_c
     reference_host_check radsel_sample_buildings radsel_sample_catalogues radsel_sample_valves
     radsel_warnings)
 radsel_precompile(radsel_growth_tests toolkit_tests)

@@ -11,11 +11,14 @@
 #include "workbench/drawing/plan_view.h"
 #include "workbench/window/floor_scene.h"
 #include "workbench/window/message_pane.h"
+#include "workbench/window/room_dialog.h"
 #include "workbench/window/state_notices.h"
+#include "workbench/window/system_dialog.h"
 #include "workbench/window/workbench_window.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QLineEdit>
 #include <QTableView>
 #include <QTest>
@@ -110,7 +113,31 @@ void WorkInWindow(int size, CWorkCount& count)
     count.Of([&] { window.reset(); }, "closed");
 }
 
-void TellRooms(int size, CWorkCount& count)
+/// Dialogs over the building, with as many systems that the user has stored.
+void WorkInDialogs(int size, CWorkCount& count)
+{
+    EnsureApplication();
+    const CTempFolder root;
+    root.WriteBytes("HEIZUNG/CmbData.txt", "[VDI6030_HS]\r\n" + Repeated(size, [](int i) {
+                                               return "Sistema " + std::to_string(1000 + i) +
+                                                      " (75/65)|";
+                                           }) + "\r\n");
+    const CSettingOverride setting(kSettingServerPath, root.Path());
+    const CBuilding building = Tower(size);
+    const auto finish = [](QDialog& dialog) {
+        dialog.show();
+        Finish();
+    };
+    count.Of([&] {
+        CSystemDialog system(building, nullptr);
+        finish(system);
+        Require(system.findChild<QComboBox*>("systems")->count() > size);
+        CRoomDialog room(building, 0, nullptr);
+        finish(room);
+    });
+}
+
+void Tell(int size, CWorkCount& count)
 {
     EnsureApplication();
     const CPlanHistory history(Floor(1));
@@ -119,31 +146,27 @@ void TellRooms(int size, CWorkCount& count)
     for (int i = 0; i < size; ++i) {
         notices.push_back({"Un radiatore non basta.", "Locale " + QString::number(1000 + i)});
     }
-    count.Of([&] {
-        pane.Add(notices, history.GetCurrentId());
-        pane.ShowFor(history);
-    });
-}
-
-void TellOneByOne(int size, CWorkCount& count)
-{
-    EnsureApplication();
-    CMessagePane pane;
-    count.Of([&] {
-        for (int i = 0; i < size; ++i) {
-            pane.Add({{"Un radiatore non basta.", "Locale " + QString::number(1000 + i)}}, {});
-        }
-    });
-}
-
-void NoticeStates(int size, CWorkCount& count)
-{
+    count.Of(
+        [&] {
+            pane.Add(notices, history.GetCurrentId());
+            pane.ShowFor(history);
+        },
+        "at once");
+    count.Of(
+        [&] {
+            for (const CNotice& notice : notices) {
+                pane.Add({notice}, {});
+            }
+        },
+        "one by one");
     const CBuilding building = Floor(size);
     CStateNotices states;
-    count.Of([&] {
-        states.TakeNew(building);
-        Require(states.TakeNew(building).empty());
-    });
+    count.Of(
+        [&] {
+            states.TakeNew(building);
+            Require(states.TakeNew(building).empty());
+        },
+        "of states");
 }
 
 void ShowFloor(int size, CWorkCount& count)
@@ -169,8 +192,9 @@ std::vector<CGrowthCase> WindowCases()
 {
     using namespace workbench;
     return {
-        {"Workbench", "rooms", 20, WorkInWindow},      {"DrawnFloor", "rooms", 10, ShowFloor},
-        {"WarningsOfRooms", "notices", 20, TellRooms}, {"Messages", "messages", 20, TellOneByOne},
-        {"NewWarnings", "rooms", 100, NoticeStates},
+        {"Workbench", "rooms", 20, WorkInWindow},
+        {"DrawnFloor", "rooms", 10, ShowFloor},
+        {"BuildingDialogs", "rooms and systems", 30, WorkInDialogs},
+        {"Messages", "messages", 20, Tell},
     };
 }

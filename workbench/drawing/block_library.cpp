@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
-#include <unordered_set>
 #include <utility>
 
 namespace workbench {
@@ -56,33 +55,26 @@ void CBlockLibrary::Read(const CString& path)
     auto read = ReadDxfFile(path);
     if (auto* const error = std::get_if<CFileFault>(&read)) {
         m_errors.push_back(std::move(*error));
-    } else {
-        m_drawings.push_back(std::move(std::get<CDxfDrawing>(read)));
+        return;
     }
-}
-
-std::vector<CString> CBlockLibrary::GetNames() const
-{
-    std::vector<CString> names;
-    std::unordered_set<CString> known;
-    for (const CDxfDrawing& drawing : m_drawings) {
-        for (const CDxfBlock& block : drawing.blocks) {
-            if (known.insert(ToLower(block.strName)).second) {
-                names.push_back(block.strName);
-            }
+    m_drawings.push_back(std::move(std::get<CDxfDrawing>(read)));
+    const std::vector<CDxfBlock>& blocks = m_drawings.back().blocks;
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+        const CPlace place{m_drawings.size() - 1, i};
+        if (m_places.try_emplace(ToLower(blocks[i].strName), place).second) {
+            m_names.push_back(blocks[i].strName);
         }
     }
-    return names;
 }
 
 CBlockLibrary::CFound CBlockLibrary::Find(std::wstring_view name) const
 {
-    for (const CDxfDrawing& drawing : m_drawings) {
-        if (const CDxfBlock* const block = FindBlock(drawing, name)) {
-            return {block, &drawing.layers};
-        }
+    const auto found = m_places.find(ToLower(CString(name)));
+    if (found == m_places.end()) {
+        return {};
     }
-    return {};
+    const CDxfDrawing& drawing = m_drawings[found->second.nDrawing];
+    return {&drawing.blocks[found->second.nBlock], &drawing.layers};
 }
 
 } // namespace workbench

@@ -2,7 +2,9 @@
 
 #include "workbench/dxf/dxf_blocks.h"
 
+#include <cstddef>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace workbench {
@@ -18,7 +20,7 @@ public:
     explicit CBlockLibrary(const CString& path);
 
     /// Names of all blocks, each once.
-    std::vector<CString> GetNames() const;
+    const std::vector<CString>& GetNames() const { return m_names; }
 
     /// A block and the layers of its file; the library owns both.
     struct CFound
@@ -36,7 +38,17 @@ public:
 private:
     void Read(const CString& path);
 
+    /// Where a block stands.
+    struct CPlace
+    {
+        std::size_t nDrawing = 0;
+        std::size_t nBlock = 0;
+    };
+
     std::vector<CDxfDrawing> m_drawings;
+    std::vector<CString> m_names;
+    /// By names in lower case.
+    std::unordered_map<CString, CPlace> m_places;
     std::vector<CFileFault> m_errors;
 };
 

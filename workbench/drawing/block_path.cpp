@@ -97,10 +97,10 @@ private:
     CDxfPoint m_basis;
 };
 
-COLORREF ColorOf(const std::vector<CDxfLayer>& layers, const CDxfEntity& entity)
+COLORREF ColorOf(const CLayerColors& layers, const CDxfEntity& entity)
 {
-    return PaperColorFromIndex(
-        entity.nColor == kColorByLayer ? FindLayerColor(layers, entity.strLayer) : entity.nColor);
+    return PaperColorFromIndex(entity.nColor == kColorByLayer ? layers.Of(entity.strLayer)
+                                                              : entity.nColor);
 }
 
 QPainterPath& PathOf(std::vector<CColorPath>& paths, COLORREF color)
@@ -115,7 +115,7 @@ QPainterPath& PathOf(std::vector<CColorPath>& paths, COLORREF color)
 
 } // namespace
 
-std::vector<CColorPath> MakeBlockPaths(const std::vector<CDxfLayer>& layers, const CDxfBlock& block)
+std::vector<CColorPath> MakeBlockPaths(const CLayerColors& layers, const CDxfBlock& block)
 {
     std::vector<CColorPath> paths;
     for (const CDxfEntity& entity : block.entities) {

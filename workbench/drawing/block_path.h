@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/color.h"
-#include "workbench/dxf/dxf_drawing.h"
+#include "workbench/dxf/layer_colors.h"
 
 #include <QPainterPath>
 #include <QTransform>
@@ -21,8 +21,7 @@ struct CColorPath
 /// origin; a path for each colour, in the order in which the colours first appear. Colours are the
 /// entities' own or those of their layers, and black for what takes its colour from the place of
 /// insertion.
-std::vector<CColorPath> MakeBlockPaths(const std::vector<CDxfLayer>& layers,
-                                       const CDxfBlock& block);
+std::vector<CColorPath> MakeBlockPaths(const CLayerColors& layers, const CDxfBlock& block);
 
 /// The smallest rectangle around the paths; a null one if they draw nothing.
 QRectF BoundsOf(const std::vector<CColorPath>& paths);

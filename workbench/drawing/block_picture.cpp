@@ -66,7 +66,7 @@ CBitmap DrawBlockPicture(const std::vector<CDxfLayer>& layers, const CDxfBlock& 
     QImage image(SideOf(width, kPictureWidth), SideOf(height, kPictureHeight),
                  QImage::Format_RGBA8888);
     image.fill(Qt::white);
-    const std::vector<CColorPath> paths = MakeBlockPaths(layers, block);
+    const std::vector<CColorPath> paths = MakeBlockPaths(CLayerColors(layers), block);
     const QTransform fit = FitInto(image, BoundsOf(paths));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -24,7 +24,7 @@ QRectF RectBetween(const CDxfPoint& from, const CDxfPoint& to)
 std::vector<CColorPath> PathsOf(const CDxfDrawing& blocks, const CString& name)
 {
     if (const CDxfBlock* const block = FindBlock(blocks, name)) {
-        return MakeBlockPaths(blocks.layers, *block);
+        return MakeBlockPaths(CLayerColors(blocks.layers), *block);
     }
     std::vector<CColorPath> paths(1);
     paths.front().path.addRect(-0.5, -0.5, 1.0, 1.0);

@@ -47,7 +47,7 @@ QColor ColorFrom(int farbe)
 } // namespace
 
 CSceneDrawer::CSceneDrawer(QGraphicsScene& scene, std::vector<CDxfLayer> layers)
-    : m_scene(&scene), m_layers(std::move(layers))
+    : m_scene(&scene), m_layers(std::move(layers)), m_colors(m_layers)
 {
 }
 
@@ -66,7 +66,7 @@ void CSceneDrawer::GetLayerNames(CStringArray& namen, int /*art*/)
 
 int CSceneDrawer::GetLayerColor(const CString& layer)
 {
-    return FindLayerColor(m_layers, layer);
+    return m_colors.Of(layer);
 }
 
 void CSceneDrawer::GetBlockNames(const CString& ordner, CStringArray& namen, int /*art*/)

@@ -3,6 +3,7 @@
 #include "host/drawer.h"
 #include "workbench/drawing/connection_symbol.h"
 #include "workbench/dxf/dxf_blocks.h"
+#include "workbench/dxf/layer_colors.h"
 
 #include <QGraphicsObject>
 #include <QGraphicsScene>
@@ -63,6 +64,7 @@ public:
 private:
     QPointer<QGraphicsScene> m_scene;
     std::vector<CDxfLayer> m_layers;
+    CLayerColors m_colors;
     std::vector<CFileFault> m_errors;
     /// Previews in the scene, which owns them.
     std::vector<QPointer<QGraphicsObject>> m_previews;

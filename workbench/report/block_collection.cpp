@@ -11,6 +11,8 @@ namespace workbench {
 namespace {
 
 constexpr wchar_t kPlainBlock[] = L"RAD_RETTANGOLO";
+/// What it was taken by; no name makes this key.
+constexpr wchar_t kPlainKey[] = L"";
 
 /// A square of one metre about its middle, to be stretched like any block.
 CDxfBlock PlainBlock()
@@ -24,11 +26,11 @@ CDxfBlock PlainBlock()
 
 /// The block so that it goes with the layer it is inserted on: shown and hidden with it, and in its
 /// colour except for details that have one of their own.
-CDxfBlock OnAnyLayer(CDxfBlock block, const std::vector<CDxfLayer>& layers)
+CDxfBlock OnAnyLayer(CDxfBlock block, const CLayerColors& layers)
 {
     for (CDxfEntity& entity : block.entities) {
-        const int color = entity.nColor == kColorByLayer ? FindLayerColor(layers, entity.strLayer)
-                                                         : entity.nColor;
+        const int color =
+            entity.nColor == kColorByLayer ? layers.Of(entity.strLayer) : entity.nColor;
         entity.nColor = color == kColorDefault ? kColorByBlock : color;
         entity.strLayer = L"0";
     }
@@ -39,17 +41,25 @@ CDxfBlock OnAnyLayer(CDxfBlock block, const std::vector<CDxfLayer>& layers)
 
 const CBlockCollection::CTaken& CBlockCollection::TakeRadiator(const CString& name)
 {
-    const CDxfBlock* const found = FindBlock(m_radiators, name);
-    const CString key = found ? L"R" + ToLower(name) : L"";
+    const CString key = L"R" + ToLower(name);
     if (const auto taken = m_taken.find(key); taken != m_taken.end()) {
         return taken->second;
     }
-    CDxfBlock block = found ? OnAnyLayer(*found, m_radiators.layers) : PlainBlock();
+    const CDxfBlock* const found = FindBlock(m_radiators, name);
+    if (const auto plain = m_taken.find(kPlainKey); !found && plain != m_taken.end()) {
+        return m_taken.emplace(key, plain->second).first->second;
+    }
+    const CLayerColors layers(m_radiators.layers);
+    CDxfBlock block = found ? OnAnyLayer(*found, layers) : PlainBlock();
     block.attribute.clear();
     for (const wchar_t* attribute : kRadiatorAttributes) {
         block.attribute.push_back({attribute, L""});
     }
-    return *Take(key, std::move(block), m_radiators.layers);
+    const CTaken& taken = *Take(key, std::move(block), layers);
+    if (!found) {
+        m_taken.emplace(kPlainKey, taken);
+    }
+    return taken;
 }
 
 const CBlockCollection::CTaken* CBlockCollection::TakeValve(const CString& name)
@@ -63,18 +73,19 @@ const CBlockCollection::CTaken* CBlockCollection::TakeValve(const CString& name)
         return nullptr;
     }
     CDxfBlock block = *found.pBlock;
+    const CLayerColors colors(*found.pLayers);
     std::vector<CDxfLayer> layers;
     for (CDxfEntity& entity : block.entities) {
-        const int color = FindLayerColor(*found.pLayers, entity.strLayer);
+        const int color = colors.Of(entity.strLayer);
         entity.strLayer = LayerName(entity.strLayer);
         layers.push_back({entity.strLayer, color});
         AddLayer(m_drawing, layers.back());
     }
-    return Take(key, std::move(block), layers);
+    return Take(key, std::move(block), CLayerColors(layers));
 }
 
 const CBlockCollection::CTaken* CBlockCollection::Take(const CString& key, CDxfBlock block,
-                                                       const std::vector<CDxfLayer>& layers)
+                                                       const CLayerColors& layers)
 {
     // Radiators and valves come from different libraries, which may use a name twice.
     const CString name = block.strName;

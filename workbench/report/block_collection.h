@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/drawing/block_library.h"
+#include "workbench/dxf/layer_colors.h"
 
 #include <QRectF>
 
@@ -37,7 +38,7 @@ public:
     const CTaken* TakeValve(const CString& name);
 
 private:
-    const CTaken* Take(const CString& key, CDxfBlock block, const std::vector<CDxfLayer>& layers);
+    const CTaken* Take(const CString& key, CDxfBlock block, const CLayerColors& layers);
 
     CDxfDrawing& m_drawing;
     const CDxfDrawing& m_radiators;

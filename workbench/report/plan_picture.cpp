@@ -82,7 +82,7 @@ public:
         std::ranges::copy_if(
             drawing.entities, std::back_inserter(windows.entities),
             [](const CDxfEntity& entity) { return entity.strLayer == kLayerWindows; });
-        for (const CColorPath& part : MakeBlockPaths(drawing.layers, windows)) {
+        for (const CColorPath& part : MakeBlockPaths(CLayerColors(drawing.layers), windows)) {
             m_painter.fillPath(m_toPaper.map(part.path), Qt::white);
             Stroke(part.path, ColorFrom(part.color), kHairline);
         }
@@ -184,7 +184,7 @@ private:
     {
         const auto [found, isNew] = m_paths.try_emplace(name);
         if (isNew) {
-            found->second = MakeBlockPaths(drawing.layers, *FindBlock(drawing, name));
+            found->second = MakeBlockPaths(CLayerColors(drawing.layers), *FindBlock(drawing, name));
         }
         return found->second;
     }

@@ -18,15 +18,19 @@ Find(const std::map<CString, std::shared_ptr<const CPlanBlock>>& blocks, const C
 
 CPlanBlocks::CPlanBlocks(const CDxfDrawing& radiators, const CBlockLibrary* valves)
 {
+    const CLayerColors layers(radiators.layers);
     for (const CDxfBlock& block : radiators.blocks) {
-        Add(m_radiators, radiators.layers, block);
+        Add(m_radiators, layers, block);
     }
     if (valves == nullptr) {
         return;
     }
+    // The files' colours, each file's once.
+    std::map<const std::vector<CDxfLayer>*, CLayerColors> colors;
     for (const CString& name : valves->GetNames()) {
         const CBlockLibrary::CFound found = valves->Find(name);
-        Add(m_valves, *found.pLayers, *found.pBlock);
+        const auto ofFile = colors.try_emplace(found.pLayers, *found.pLayers).first;
+        Add(m_valves, ofFile->second, *found.pBlock);
     }
 }
 
@@ -40,7 +44,7 @@ std::shared_ptr<const CPlanBlock> CPlanBlocks::FindValve(const CString& name) co
     return Find(m_valves, name);
 }
 
-void CPlanBlocks::Add(Blocks& blocks, const std::vector<CDxfLayer>& layers, const CDxfBlock& block)
+void CPlanBlocks::Add(Blocks& blocks, const CLayerColors& layers, const CDxfBlock& block)
 {
     const std::vector<CColorPath> paths = MakeBlockPaths(layers, block);
     CPlanBlock made;

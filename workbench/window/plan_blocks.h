@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/drawing/block_library.h"
+#include "workbench/dxf/layer_colors.h"
 
 #include <QColor>
 #include <QPainterPath>
@@ -42,7 +43,7 @@ public:
 private:
     using Blocks = std::map<CString, std::shared_ptr<const CPlanBlock>>;
 
-    static void Add(Blocks& blocks, const std::vector<CDxfLayer>& layers, const CDxfBlock& block);
+    static void Add(Blocks& blocks, const CLayerColors& layers, const CDxfBlock& block);
 
     Blocks m_radiators;
     Blocks m_valves;

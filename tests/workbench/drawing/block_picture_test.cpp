@@ -35,7 +35,7 @@ QRect InkOf(const CBitmap& bitmap)
 
 QRectF BoundsOfShape(const CDxfShape& shape)
 {
-    return BoundsOf(MakeBlockPaths(kLayers, BlockOf({{L"0", kColorByLayer, shape}})));
+    return BoundsOf(MakeBlockPaths(CLayerColors(kLayers), BlockOf({{L"0", kColorByLayer, shape}})));
 }
 
 } // namespace
@@ -131,7 +131,8 @@ TEST(BlockPath, CurvesTurnTheRightWay)
 
 TEST(BlockPath, TheBasePointIsTheOrigin)
 {
-    const auto paths = MakeBlockPaths(kLayers, BlockOf({{L"0", 1, CDxfCircle{{3, 4}, 1}}}, {3, 4}));
+    const auto paths =
+        MakeBlockPaths(CLayerColors(kLayers), BlockOf({{L"0", 1, CDxfCircle{{3, 4}, 1}}}, {3, 4}));
     EXPECT_EQ(BoundsOf(paths), QRectF(-1, -1, 2, 2));
 }
 

@@ -51,7 +51,8 @@ TEST(DrawingSamples, EveryBlockIsASymbolOfBelievableSizeOnKnownLayers)
         for (const CString& name : library.GetNames()) {
             SCOPED_TRACE(Utf8FromWide(name));
             const auto found = library.Find(name);
-            const QRectF bounds = BoundsOf(MakeBlockPaths(*found.pLayers, *found.pBlock));
+            const QRectF bounds =
+                BoundsOf(MakeBlockPaths(CLayerColors(*found.pLayers), *found.pBlock));
             EXPECT_GT(std::min(bounds.width(), bounds.height()), c.smallest);
             EXPECT_LT(std::max(bounds.width(), bounds.height()), c.largest);
             for (const CDxfEntity& entity : found.pBlock->entities) {

@@ -85,7 +85,8 @@ protected:
         place.rotate(insert.dWinkel);
         place.scale(insert.dSkalaX, insert.dSkalaY);
         const CDxfBlock* const block = FindBlock(drawing, insert.strBlock);
-        return block ? place.mapRect(BoundsOf(MakeBlockPaths(drawing.layers, *block))) : QRectF();
+        return block ? place.mapRect(BoundsOf(MakeBlockPaths(CLayerColors(drawing.layers), *block)))
+                     : QRectF();
     }
 
     CDxfDrawing m_blocks = RadiatorBlocks();
