@@ -12,8 +12,8 @@ public:
     /// Adds a text, at the end or where a sorted list has it, and returns its index.
     int AddString(const CString& text);
     /// Has these texts and no others, in the order in which AddString() would leave them, and none
-    /// chosen; an edit keeps its text. Takes thousands at once, where each takes the longer the more
-    /// there are.
+    /// chosen; an edit keeps its text. Takes thousands at once, where each takes the longer the
+    /// more there are.
     void FillWith(const CStringArray& texts);
     /// Adds a text with pictures of the image list at the end: `image` in the open list,
     /// `selectedImage` in the closed one.
