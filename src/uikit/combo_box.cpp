@@ -6,7 +6,7 @@
 #include <QSignalBlocker>
 #include <QStringList>
 
-#include <algorithm>
+#include <set>
 
 namespace {
 
@@ -87,7 +87,10 @@ void CComboBox::FillWith(const CStringArray& texts)
         items.append(ToNative(text));
     }
     if (combo->IsSorted()) {
-        std::ranges::stable_sort(items, ComesBefore);
+        // Equal texts stay in their order.
+        const std::multiset<QString, decltype(&ComesBefore)> sorted(items.begin(), items.end(),
+                                                                    ComesBefore);
+        items = QStringList(sorted.begin(), sorted.end());
     }
     const QSignalBlocker quiet(combo);
     const QString edited = combo->currentText();
